@@ -1,0 +1,22 @@
+# One interface target with the flags that every translation unit of ours is compiled with.
+add_library(quorin_flags INTERFACE)
+target_compile_features(quorin_flags INTERFACE cxx_std_20 c_std_11)
+target_compile_options(quorin_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wcast-align=strict -Wundef -Werror
+  $<$<COMPILE_LANGUAGE:CXX>:-Wold-style-cast -Wnon-virtual-dtor>
+  -fno-math-errno)
+target_include_directories(quorin_flags INTERFACE ${PROJECT_SOURCE_DIR})
+
+if(WIN32)
+  # Hosts align the stack to 4 bytes only, so every function of ours that needs more aligns it itself; floats live in SSE.
+  set(QUORIN_ABI_FLAGS -msse2 -mfpmath=sse -mstackrealign -mincoming-stack-boundary=2)
+  target_compile_options(quorin_flags INTERFACE ${QUORIN_ABI_FLAGS})
+  target_compile_definitions(quorin_flags INTERFACE _WIN32_WINNT=0x0601)
+endif()
+
+set(QUORIN_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize takes them")
+if(QUORIN_SANITIZE)
+  target_compile_options(quorin_flags INTERFACE
+    -fsanitize=${QUORIN_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(quorin_flags INTERFACE -fsanitize=${QUORIN_SANITIZE})
+endif()

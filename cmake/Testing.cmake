@@ -1,0 +1,23 @@
+# quorin_add_test(NAME SOURCES ... [ENGINE] [LINKS ...] [ARGS ...] [TIMEOUT seconds])
+#
+# A GoogleTest program, run under Wine on win32. It calls the library through its exports, as a host does; with ENGINE it
+# links the modules themselves instead.
+function(quorin_add_test name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "ENGINE" "TIMEOUT" "SOURCES;LINKS;ARGS")
+  add_executable(${name} ${arg_SOURCES})
+  target_link_libraries(${name} PRIVATE quorin_flags GTest::gtest_main ${arg_LINKS})
+  if(arg_ENGINE)
+    target_link_libraries(${name} PRIVATE quorin_engine)
+  else()
+    target_link_libraries(${name} PRIVATE quorin_lapacks)
+  endif()
+  if(WIN32)
+    target_link_options(${name} PRIVATE -static)
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
+  endif()
+  add_test(NAME ${name} COMMAND ${name} --gtest_brief=1 ${arg_ARGS})
+  if(NOT arg_TIMEOUT)
+    set(arg_TIMEOUT 300)
+  endif()
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${arg_TIMEOUT})
+endfunction()
