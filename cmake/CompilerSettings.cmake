@@ -2,7 +2,7 @@
 add_library(quorin_flags INTERFACE)
 target_compile_features(quorin_flags INTERFACE cxx_std_20 c_std_11)
 target_compile_options(quorin_flags INTERFACE
-  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wcast-align=strict -Wundef -Werror
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wundef -Werror
   $<$<COMPILE_LANGUAGE:CXX>:-Wold-style-cast -Wnon-virtual-dtor>
   -fno-math-errno)
 target_include_directories(quorin_flags INTERFACE ${PROJECT_SOURCE_DIR})

@@ -1,0 +1,26 @@
+// The one source of the library's own memory: work arrays, factor objects, handles.
+//
+// A host may put an allocator of its own under the library by shipping a library "libimalloc" that exports four
+// variables, each holding a function address: i_malloc_dll, i_calloc_dll, i_realloc_dll, i_free_dll. It is taken only
+// whole.
+#pragma once
+
+#include <cstddef>
+
+namespace quorin::base {
+
+// Chooses the allocator: libimalloc's if it can be found, has all four variables and none is null, else the C
+// runtime's. The reference to libimalloc is given back at once; a host that uses one keeps it loaded. Called once, at
+// load.
+void choose_allocator() noexcept;
+
+// As the C library's functions: null if there is no memory, and `release(nullptr)` does nothing.
+void* allocate(std::size_t bytes) noexcept;
+void* allocate_zeroed(std::size_t count, std::size_t bytes_each) noexcept;
+void* reallocate(void* memory, std::size_t bytes) noexcept;
+void release(void* memory) noexcept;
+
+// False once the host has unloaded the library behind the allocator: memory from it can then only be abandoned.
+bool allocator_is_mapped() noexcept;
+
+}  // namespace quorin::base

@@ -1,0 +1,166 @@
+#include "base/parallel.hpp"
+
+#include <algorithm>
+#include <atomic>
+#include <mutex>
+
+#include "base/thread_settings.hpp"
+#include "platform/platform.hpp"
+
+namespace quorin::base {
+namespace {
+
+// One parallel region; lives on the stack of the thread that runs it.
+struct Region {
+  Region(void (*part_function)(void*, int), void* part_context, int part_count) noexcept
+      : part(part_function), context(part_context), parts(part_count) {}
+
+  void (*part)(void*, int);
+  void* context;
+  int parts;
+  std::atomic<int> next{0};
+  // Guarded by the pool's mutex.
+  int wanted = 0;   // workers that may still join
+  int working = 0;  // workers that have joined and not left
+  Region* following = nullptr;
+  platform::ConditionVariable left;
+
+  void run_parts() noexcept {
+    for (int i = next.fetch_add(1); i < parts; i = next.fetch_add(1)) part(context, i);
+  }
+};
+
+constinit platform::ThreadSlot region_slot;
+
+class RegionMark {
+ public:
+  RegionMark() noexcept { region_slot.set(&region_slot); }
+  ~RegionMark() { region_slot.set(nullptr); }
+  RegionMark(const RegionMark&) = delete;
+  RegionMark& operator=(const RegionMark&) = delete;
+};
+
+class Pool {
+ public:
+  void run(Region& region, int helpers) noexcept {
+    open(region, helpers);
+    {
+      const RegionMark mark;
+      region.run_parts();
+    }
+    close(region);
+  }
+
+ private:
+  static void worker_main(void* pool) { static_cast<Pool*>(pool)->work(); }
+
+  void open(Region& region, int helpers) noexcept {
+    mutex_.lock();
+    region.wanted = helpers;
+    region.following = regions_;
+    regions_ = &region;
+    open_regions_.fetch_add(1, std::memory_order_relaxed);
+    // Workers still on their way count as idle, so that simultaneous regions do not start too many.
+    const int missing = std::clamp(helpers - idle_, 0, kMostThreads - 1 - workers_);
+    workers_ += missing;
+    idle_ += missing;
+    for (int i = 0; i < std::min(helpers, idle_ - missing); ++i) work_arrived_.notify_one();
+    mutex_.unlock();
+    for (int i = 0; i < missing; ++i) {
+      if (platform::start_worker(worker_main, this)) continue;
+      const std::lock_guard lock(mutex_);
+      --workers_;
+      --idle_;
+    }
+  }
+
+  // No worker joins any more; waits for those that have.
+  void close(Region& region) noexcept {
+    const std::lock_guard lock(mutex_);
+    for (Region** link = &regions_; *link != nullptr; link = &(*link)->following) {
+      if (*link == &region) {
+        *link = region.following;
+        break;
+      }
+    }
+    open_regions_.fetch_sub(1, std::memory_order_relaxed);
+    while (region.working > 0) region.left.wait(mutex_);
+  }
+
+  Region* joinable() noexcept {
+    Region* region = regions_;
+    while (region != nullptr && (region->wanted == 0 || region->next.load() >= region->parts))
+      region = region->following;
+    return region;
+  }
+
+  void work() noexcept {
+    const RegionMark mark;
+    mutex_.lock();
+    while (Region* const region = wait_for_region()) {
+      --idle_;
+      --region->wanted;
+      ++region->working;
+      mutex_.unlock();
+      region->run_parts();
+      mutex_.lock();
+      ++idle_;
+      if (--region->working == 0) region->left.notify_one();
+    }
+    --idle_;
+    --workers_;
+    mutex_.unlock();
+  }
+
+  // The next region to join, or null after the block time. Called and left with the mutex held.
+  Region* wait_for_region() noexcept {
+    Region* region = joinable();
+    const int patience = block_time();
+    if (region == nullptr && patience > 0) region = spin_for_region();
+    while (region == nullptr) {
+      // A wake-up may be for a region that others have finished; the wait then starts afresh, which only errs on the
+      // side of patience.
+      const bool notified = patience > 0 && work_arrived_.wait_for(mutex_, patience);
+      region = joinable();
+      if (!notified) break;
+    }
+    return region;
+  }
+
+  // Loops of small regions follow each other faster than a sleeping thread wakes up.
+  Region* spin_for_region() noexcept {
+    constexpr int kSpins = 2000;
+    mutex_.unlock();
+    for (int i = 0; i < kSpins && open_regions_.load(std::memory_order_relaxed) == 0; ++i) platform::spin_pause();
+    mutex_.lock();
+    return joinable();
+  }
+
+  platform::Mutex mutex_;
+  platform::ConditionVariable work_arrived_;
+  Region* regions_ = nullptr;
+  int workers_ = 0;
+  int idle_ = 0;
+  std::atomic<int> open_regions_{0};
+};
+
+constinit Pool pool;
+
+}  // namespace
+
+void start_parallel() noexcept { region_slot.create(); }
+void stop_parallel() noexcept { region_slot.destroy(); }
+
+bool in_parallel_region() noexcept { return region_slot.get() != nullptr; }
+
+void detail::run_region(int parts, int threads, void (*part)(void*, int), void* context) noexcept {
+  const int helpers = std::min(parts, threads) - 1;
+  if (helpers < 1 || in_parallel_region()) {
+    for (int i = 0; i < parts; ++i) part(context, i);
+    return;
+  }
+  Region region(part, context, parts);
+  pool.run(region, helpers);
+}
+
+}  // namespace quorin::base

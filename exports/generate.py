@@ -1,0 +1,81 @@
+#!/usr/bin/env python3
+"""Turns the export tables (exports/tables/*.table) into everything that must agree with them.
+
+  exports/generate.py                  rewrites the committed files: headers, manual pages, the list of names
+  exports/generate.py --check          fails if a committed file is not what the tables say
+  exports/generate.py --build DIR      writes what a build needs: entry points, .def files, version script
+"""
+
+from __future__ import annotations
+
+import argparse
+import sys
+from pathlib import Path
+
+from generator import headers, linking, manual, tables, thunks
+from generator.model import Family
+
+ROOT = Path(__file__).resolve().parent.parent
+
+
+def table_of(family: Family) -> str:
+    return f"exports/tables/{family.name}.table"
+
+
+def committed_files(families: list[Family]) -> dict[str, str]:
+    files = {"exports/names.txt": linking.name_list(families), "include/quorin/quorin.h": headers.umbrella(families)}
+    for family in families:
+        files[f"include/quorin/{family.name}.h"] = headers.header(family, table_of(family))
+        files[f"docs/manual/{family.name}.md"] = manual.page(family, table_of(family))
+    return files
+
+
+def build_files(families: list[Family]) -> dict[str, str]:
+    files = {
+        "Quorin.Lapacks.6.2.def": linking.public_definition(families),
+        "link.def": linking.link_definition(families),
+        "exports.map": linking.version_script(families),
+        "reference_everything.c": linking.reference_everything(families),
+    }
+    for family in families:
+        files[f"entries_{family.name}.cpp"] = thunks.source(family, table_of(family))
+    return files
+
+
+def write(directory: Path, files: dict[str, str]) -> None:
+    for name, text in files.items():
+        path = directory / name
+        path.parent.mkdir(parents=True, exist_ok=True)
+        if not path.exists() or path.read_text() != text:
+            path.write_text(text)
+
+
+def differing(files: dict[str, str]) -> list[str]:
+    return [name for name, text in files.items() if not (ROOT / name).exists() or (ROOT / name).read_text() != text]
+
+
+def main() -> int:
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--check", action="store_true")
+    parser.add_argument("--build", type=Path, metavar="DIR")
+    options = parser.parse_args()
+    try:
+        families = tables.read(ROOT / "exports/tables", ROOT)
+    except tables.TableError as error:
+        print(error, file=sys.stderr)
+        return 1
+    if options.build:
+        write(options.build, build_files(families))
+        return 0
+    if options.check:
+        stale = differing(committed_files(families))
+        for name in stale:
+            print(f"{name} is not what the tables say; run exports/generate.py", file=sys.stderr)
+        print(f"{len(linking.export_names(families))} exports in {len(families)} tables, {len(stale)} stale files")
+        return 1 if stale else 0
+    write(ROOT, committed_files(families))
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

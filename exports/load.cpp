@@ -1,0 +1,26 @@
+// What happens when a process loads the library and when it unloads it.
+#include "base/allocator.hpp"
+#include "base/parallel.hpp"
+#include "dense/dense.hpp"
+#include "platform/load_hooks.hpp"
+
+// Frees what the C++ runtime keeps for exceptions, which it holds until the process ends otherwise; a library that is
+// loaded again and again must not leave it behind.
+namespace __gnu_cxx {
+void __freeres();
+}
+
+namespace quorin::platform {
+
+void on_load() noexcept {
+  base::choose_allocator();
+  base::start_parallel();
+}
+
+void on_unload() noexcept {
+  if (base::allocator_is_mapped()) dense::release_buffers();
+  base::stop_parallel();
+  __gnu_cxx::__freeres();
+}
+
+}  // namespace quorin::platform

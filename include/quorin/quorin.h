@@ -1,0 +1,8 @@
+/* Everything that Quorin.Lapacks.6.2.dll exports. Generated from the export tables. Do not edit. */
+#ifndef QUORIN_QUORIN_H
+#define QUORIN_QUORIN_H
+
+#include "quorin/blas.h"
+#include "quorin/services.h"
+
+#endif

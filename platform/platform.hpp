@@ -1,0 +1,101 @@
+// Everything that depends on the operating system, behind one header: one implementation in win32/, one in posix/.
+//
+// The types here are constant-initialised and trivially destructible, because the library is loaded and unloaded by
+// hosts many times: a lock that allocated on first use would leak with every unload.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace quorin::platform {
+
+// --- Locks -----------------------------------------------------------------------------------------------------------
+
+class Mutex {
+ public:
+  constexpr Mutex() = default;
+  Mutex(const Mutex&) = delete;
+  Mutex& operator=(const Mutex&) = delete;
+  void lock() noexcept;
+  void unlock() noexcept;
+
+ private:
+  friend class ConditionVariable;
+  alignas(std::max_align_t) std::byte storage_[64] = {};
+};
+
+class ConditionVariable {
+ public:
+  constexpr ConditionVariable() = default;
+  ConditionVariable(const ConditionVariable&) = delete;
+  ConditionVariable& operator=(const ConditionVariable&) = delete;
+  void wait(Mutex& mutex) noexcept;
+  // False after `milliseconds` without a notification; kForever never times out.
+  bool wait_for(Mutex& mutex, std::int32_t milliseconds) noexcept;
+  void notify_one() noexcept;
+  void notify_all() noexcept;
+
+ private:
+  alignas(std::max_align_t) std::byte storage_[64] = {};
+};
+
+inline constexpr std::int32_t kForever = INT32_MAX;
+
+// Tells the processor that this thread spins.
+void spin_pause() noexcept;
+
+// --- Threads ---------------------------------------------------------------------------------------------------------
+
+// Starts a detached thread that runs `body(argument)`. The thread keeps the library mapped until it has left it, so
+// that a host may unload the library at any time. False if the system has no thread to give.
+bool start_worker(void (*body)(void*), void* argument) noexcept;
+
+// Physical cores that this process may run on, at least 1.
+int physical_core_count() noexcept;
+
+// One pointer-sized value per thread, null at first. Creating it can fail; then it reads null and ignores writes.
+class ThreadSlot {
+ public:
+  void create() noexcept;
+  void destroy() noexcept;
+  void* get() const noexcept;
+  void set(void* value) noexcept;
+
+ private:
+  std::uint32_t key_ = 0;
+  bool created_ = false;
+};
+
+// --- Modules ---------------------------------------------------------------------------------------------------------
+
+// A shared library's handle, or null. `open_module` adds a reference, `find_loaded_module` does not.
+using Module = void*;
+Module open_module(const char* name) noexcept;
+Module find_loaded_module(const char* name) noexcept;
+void close_module(Module module) noexcept;
+void* find_symbol(Module module, const char* name) noexcept;
+
+// Whether some loaded module still holds the code at this address.
+bool is_code_mapped(const void* address) noexcept;
+
+// The file name under which a library is known here: "libimalloc" is libimalloc.dll or libimalloc.so.
+#if defined(_WIN32)
+inline constexpr const char* kAllocatorLibrary = "libimalloc.dll";
+inline constexpr const char* kOpenMpLibrary = "libiomp5md.dll";
+#else
+inline constexpr const char* kAllocatorLibrary = "libimalloc.so";
+inline constexpr const char* kOpenMpLibrary = "libiomp5.so";
+#endif
+
+// --- Environment, output ---------------------------------------------------------------------------------------------
+
+// Copies the value of an environment variable, zero-terminated; false if it is unset or longer than the buffer.
+bool read_environment(const char* name, char* buffer, std::size_t size) noexcept;
+
+// The one door to the process's standard output; flushed at once.
+void write_standard_output(const char* text) noexcept;
+
+// The one door through which the library stops the process: the C runtime's assertion handler.
+[[noreturn]] void fail_assertion(const char* expression, const char* file, unsigned line) noexcept;
+
+}  // namespace quorin::platform

@@ -1,0 +1,154 @@
+#include "platform/platform.hpp"
+
+#undef NDEBUG  // for the declaration of the assertion handler
+#include <cassert>
+
+#include <dlfcn.h>
+#include <pthread.h>
+#include <sched.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <ctime>
+#include <new>
+
+namespace quorin::platform {
+namespace {
+
+static_assert(sizeof(pthread_mutex_t) <= 64 && sizeof(pthread_cond_t) <= 64);
+
+// The static initialisers of both types are all zero on this system, as the storage is.
+pthread_mutex_t* as_mutex(std::byte* storage) { return std::launder(reinterpret_cast<pthread_mutex_t*>(storage)); }
+pthread_cond_t* as_condition(std::byte* storage) { return std::launder(reinterpret_cast<pthread_cond_t*>(storage)); }
+
+struct WorkerStart {
+  void (*body)(void*);
+  void* argument;
+};
+
+// The shared object is linked with -z nodelete, so the code stays mapped without a reference of the thread's own.
+void* worker_main(void* parameter) {
+  const WorkerStart start = *static_cast<WorkerStart*>(parameter);
+  std::free(parameter);
+  start.body(start.argument);
+  return nullptr;
+}
+
+// Reads one small number from a file, or -1.
+int read_number(const char* path) {
+  std::FILE* file = std::fopen(path, "re");
+  if (file == nullptr) return -1;
+  char text[32] = {};
+  const bool read = std::fgets(text, sizeof text, file) != nullptr;
+  std::fclose(file);
+  return read ? static_cast<int>(std::strtol(text, nullptr, 10)) : -1;
+}
+
+}  // namespace
+
+void Mutex::lock() noexcept { pthread_mutex_lock(as_mutex(storage_)); }
+void Mutex::unlock() noexcept { pthread_mutex_unlock(as_mutex(storage_)); }
+
+void ConditionVariable::wait(Mutex& mutex) noexcept {
+  pthread_cond_wait(as_condition(storage_), as_mutex(mutex.storage_));
+}
+
+bool ConditionVariable::wait_for(Mutex& mutex, std::int32_t milliseconds) noexcept {
+  if (milliseconds == kForever) {
+    wait(mutex);
+    return true;
+  }
+  timespec deadline{};
+  clock_gettime(CLOCK_REALTIME, &deadline);
+  constexpr long kSecond = 1'000'000'000;
+  deadline.tv_sec += milliseconds / 1000;
+  deadline.tv_nsec += (milliseconds % 1000) * 1'000'000L;
+  if (deadline.tv_nsec >= kSecond) {
+    deadline.tv_nsec -= kSecond;
+    ++deadline.tv_sec;
+  }
+  return pthread_cond_timedwait(as_condition(storage_), as_mutex(mutex.storage_), &deadline) == 0;
+}
+
+void ConditionVariable::notify_one() noexcept { pthread_cond_signal(as_condition(storage_)); }
+void ConditionVariable::notify_all() noexcept { pthread_cond_broadcast(as_condition(storage_)); }
+
+void spin_pause() noexcept { __builtin_ia32_pause(); }
+
+bool start_worker(void (*body)(void*), void* argument) noexcept {
+  auto* start = static_cast<WorkerStart*>(std::malloc(sizeof(WorkerStart)));
+  if (start == nullptr) return false;
+  *start = {body, argument};
+  pthread_t thread{};
+  if (pthread_create(&thread, nullptr, worker_main, start) != 0) {
+    std::free(start);
+    return false;
+  }
+  pthread_detach(thread);
+  return true;
+}
+
+int physical_core_count() noexcept {
+  cpu_set_t allowed;
+  CPU_ZERO(&allowed);
+  if (sched_getaffinity(0, sizeof allowed, &allowed) != 0) return 1;
+  int cores = 0;
+  for (int cpu = 0; cpu < CPU_SETSIZE; ++cpu) {
+    if (!CPU_ISSET(cpu, &allowed)) continue;
+    // A core is counted at the first of its logical processors.
+    char path[96];
+    std::snprintf(path, sizeof path, "/sys/devices/system/cpu/cpu%d/topology/thread_siblings_list", cpu);
+    const int first = read_number(path);
+    if (first < 0 || first == cpu || !CPU_ISSET(first, &allowed)) ++cores;
+  }
+  return cores > 0 ? cores : 1;
+}
+
+void ThreadSlot::create() noexcept {
+  pthread_key_t key{};
+  created_ = pthread_key_create(&key, nullptr) == 0;
+  key_ = key;
+}
+void ThreadSlot::destroy() noexcept {
+  if (created_) pthread_key_delete(key_);
+  created_ = false;
+}
+void* ThreadSlot::get() const noexcept { return created_ ? pthread_getspecific(key_) : nullptr; }
+void ThreadSlot::set(void* value) noexcept {
+  if (created_) pthread_setspecific(key_, value);
+}
+
+Module open_module(const char* name) noexcept { return dlopen(name, RTLD_NOW | RTLD_LOCAL); }
+Module find_loaded_module(const char* name) noexcept {
+  void* const module = dlopen(name, RTLD_NOW | RTLD_NOLOAD);
+  if (module != nullptr) dlclose(module);
+  return module;
+}
+void close_module(Module module) noexcept {
+  if (module != nullptr) dlclose(module);
+}
+void* find_symbol(Module module, const char* name) noexcept { return dlsym(module, name); }
+bool is_code_mapped(const void* address) noexcept {
+  Dl_info info{};
+  return dladdr(address, &info) != 0;
+}
+
+bool read_environment(const char* name, char* buffer, std::size_t size) noexcept {
+  const char* const value = std::getenv(name);
+  if (value == nullptr || value[0] == '\0' || std::strlen(value) >= size) return false;
+  std::strcpy(buffer, value);
+  return true;
+}
+
+void write_standard_output(const char* text) noexcept {
+  std::fputs(text, stdout);
+  std::fflush(stdout);
+}
+
+void fail_assertion(const char* expression, const char* file, unsigned line) noexcept {
+  __assert_fail(expression, file, line, "");
+}
+
+}  // namespace quorin::platform

@@ -1,0 +1,13 @@
+// The DLL's entry point. It runs under the loader lock: nothing here waits for a thread.
+#include "platform/load_hooks.hpp"
+
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+
+extern "C" BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID reserved);
+
+extern "C" BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID reserved) {
+  if (reason == DLL_PROCESS_ATTACH) quorin::platform::on_load();
+  if (reason == DLL_PROCESS_DETACH && reserved == nullptr) quorin::platform::on_unload();
+  return TRUE;
+}

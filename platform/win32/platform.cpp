@@ -1,0 +1,150 @@
+#include "platform/platform.hpp"
+
+#undef NDEBUG  // for the declaration of the assertion handler
+#include <cassert>
+
+#include <cstdio>
+#include <new>
+
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+
+namespace quorin::platform {
+namespace {
+
+static_assert(sizeof(SRWLOCK) <= 64 && sizeof(CONDITION_VARIABLE) <= 64);
+
+// Both are a pointer that is zero at first, as the zeroed storage is.
+SRWLOCK* as_lock(std::byte* storage) { return std::launder(reinterpret_cast<SRWLOCK*>(storage)); }
+CONDITION_VARIABLE* as_condition(std::byte* storage) {
+  return std::launder(reinterpret_cast<CONDITION_VARIABLE*>(storage));
+}
+
+// The module that this code is part of: the DLL, or the program that it is linked into.
+bool own_module(HMODULE* module, bool add_reference) {
+  const DWORD flags = GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
+                      (add_reference ? 0 : DWORD{GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT});
+  return GetModuleHandleExA(flags, reinterpret_cast<LPCSTR>(&own_module), module) != 0;
+}
+
+struct WorkerStart {
+  void (*body)(void*);
+  void* argument;
+  HMODULE module;
+};
+
+DWORD WINAPI worker_main(void* parameter) {
+  const WorkerStart start = *static_cast<WorkerStart*>(parameter);
+  HeapFree(GetProcessHeap(), 0, parameter);
+  start.body(start.argument);
+  // Gives back the reference and ends the thread in one step outside our code, which may be unmapped by it.
+  FreeLibraryAndExitThread(start.module, 0);
+}
+
+}  // namespace
+
+void Mutex::lock() noexcept { AcquireSRWLockExclusive(as_lock(storage_)); }
+void Mutex::unlock() noexcept { ReleaseSRWLockExclusive(as_lock(storage_)); }
+
+void ConditionVariable::wait(Mutex& mutex) noexcept { wait_for(mutex, kForever); }
+
+bool ConditionVariable::wait_for(Mutex& mutex, std::int32_t milliseconds) noexcept {
+  const DWORD timeout = milliseconds == kForever ? INFINITE : static_cast<DWORD>(milliseconds);
+  return SleepConditionVariableSRW(as_condition(storage_), as_lock(mutex.storage_), timeout, 0) != 0;
+}
+
+void ConditionVariable::notify_one() noexcept { WakeConditionVariable(as_condition(storage_)); }
+void ConditionVariable::notify_all() noexcept { WakeAllConditionVariable(as_condition(storage_)); }
+
+void spin_pause() noexcept { YieldProcessor(); }
+
+bool start_worker(void (*body)(void*), void* argument) noexcept {
+  auto* start = static_cast<WorkerStart*>(HeapAlloc(GetProcessHeap(), 0, sizeof(WorkerStart)));
+  if (start == nullptr) return false;
+  *start = {body, argument, nullptr};
+  if (own_module(&start->module, true)) {
+    constexpr SIZE_T kStackReserve = 1 << 20;
+    HANDLE thread =
+        CreateThread(nullptr, kStackReserve, worker_main, start, STACK_SIZE_PARAM_IS_A_RESERVATION, nullptr);
+    if (thread != nullptr) {
+      CloseHandle(thread);
+      return true;
+    }
+    FreeLibrary(start->module);
+  }
+  HeapFree(GetProcessHeap(), 0, start);
+  return false;
+}
+
+int physical_core_count() noexcept {
+  DWORD_PTR process_mask = 0, system_mask = 0;
+  GetProcessAffinityMask(GetCurrentProcess(), &process_mask, &system_mask);
+  constexpr std::size_t kMost = 256;
+  SYSTEM_LOGICAL_PROCESSOR_INFORMATION rows[kMost];
+  DWORD bytes = sizeof rows;
+  int cores = 0;
+  if (GetLogicalProcessorInformation(rows, &bytes)) {
+    for (std::size_t i = 0; i < bytes / sizeof rows[0]; ++i) {
+      if (rows[i].Relationship == RelationProcessorCore && (rows[i].ProcessorMask & process_mask) != 0) ++cores;
+    }
+  }
+  return cores > 0 ? cores : 1;
+}
+
+void ThreadSlot::create() noexcept {
+  const DWORD key = TlsAlloc();
+  created_ = key != TLS_OUT_OF_INDEXES;
+  key_ = key;
+}
+void ThreadSlot::destroy() noexcept {
+  if (created_) TlsFree(key_);
+  created_ = false;
+}
+void* ThreadSlot::get() const noexcept {
+  if (!created_) return nullptr;
+  // TlsGetValue clears the calling thread's last error, which belongs to the host.
+  const DWORD error = GetLastError();
+  void* const value = TlsGetValue(key_);
+  SetLastError(error);
+  return value;
+}
+void ThreadSlot::set(void* value) noexcept {
+  if (created_) TlsSetValue(key_, value);
+}
+
+Module open_module(const char* name) noexcept {
+  // A missing library must not raise a message box in the host.
+  const UINT mode = SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
+  HMODULE module = LoadLibraryA(name);
+  SetErrorMode(mode);
+  return module;
+}
+Module find_loaded_module(const char* name) noexcept { return GetModuleHandleA(name); }
+void close_module(Module module) noexcept {
+  if (module != nullptr) FreeLibrary(static_cast<HMODULE>(module));
+}
+void* find_symbol(Module module, const char* name) noexcept {
+  return reinterpret_cast<void*>(GetProcAddress(static_cast<HMODULE>(module), name));
+}
+bool is_code_mapped(const void* address) noexcept {
+  HMODULE module = nullptr;
+  constexpr DWORD kFlags = GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT;
+  return GetModuleHandleExA(kFlags, static_cast<LPCSTR>(address), &module) != 0;
+}
+
+bool read_environment(const char* name, char* buffer, std::size_t size) noexcept {
+  const DWORD length = GetEnvironmentVariableA(name, buffer, static_cast<DWORD>(size));
+  return length > 0 && length < size;
+}
+
+void write_standard_output(const char* text) noexcept {
+  std::fputs(text, stdout);
+  std::fflush(stdout);
+}
+
+void fail_assertion(const char* expression, const char* file, unsigned line) noexcept {
+  _assert(expression, file, line);
+  __builtin_unreachable();
+}
+
+}  // namespace quorin::platform
