@@ -1,0 +1,59 @@
+# The libraries that third_party/build made, as imported targets quorin::<name>, and the directories of test material:
+#   QUORIN_BLAS_TESTING_DIR    the reference BLAS's test programs and their input
+#   QUORIN_LAPACK_TESTING_DIR  LAPACK's test programs and their input
+#   QUORIN_MATRICES_DIR        small sparse matrices from applications
+if(WIN32)
+  set(target win32)
+else()
+  set(target linux)
+endif()
+set(builder ${PROJECT_SOURCE_DIR}/third_party/build)
+execute_process(COMMAND ${builder} --prefixes ${target}
+  OUTPUT_VARIABLE prefixes ERROR_VARIABLE error RESULT_VARIABLE status OUTPUT_STRIP_TRAILING_WHITESPACE)
+if(NOT status EQUAL 0)
+  message(FATAL_ERROR "Dependencies are missing.\n${error}")
+endif()
+string(REPLACE "\n" ";" prefixes "${prefixes}")
+foreach(entry IN LISTS prefixes)
+  string(REGEX MATCH "^([^=]+)=(.+)$" entry "${entry}")
+  set(prefix_${CMAKE_MATCH_1} ${CMAKE_MATCH_2})
+endforeach()
+
+# A recipe that changes has another prefix: configure again then.
+file(GLOB recipes ${PROJECT_SOURCE_DIR}/third_party/*.* ${PROJECT_SOURCE_DIR}/third_party/recipes/*)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${builder} ${recipes})
+
+# quorin_import(NAME PREFIX [LINKS ...]): the static library lib<NAME>.a as quorin::<NAME>.
+function(quorin_import name prefix)
+  cmake_parse_arguments(PARSE_ARGV 2 arg "" "" "LINKS")
+  add_library(quorin::${name} STATIC IMPORTED GLOBAL)
+  set_target_properties(quorin::${name} PROPERTIES
+    IMPORTED_LOCATION ${prefix}/lib/lib${name}.a INTERFACE_LINK_LIBRARIES "${arg_LINKS}")
+  if(IS_DIRECTORY ${prefix}/include)
+    set_target_properties(quorin::${name} PROPERTIES INTERFACE_INCLUDE_DIRECTORIES ${prefix}/include)
+  endif()
+endfunction()
+
+# The product carries the Fortran runtime in itself on Windows, where no host has it.
+set(fortran_runtime gfortran)
+if(WIN32)
+  set(fortran_runtime "")
+  foreach(library gfortran quadmath)
+    execute_process(COMMAND ${CMAKE_Fortran_COMPILER} -print-file-name=lib${library}.a
+      OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+    list(APPEND fortran_runtime ${path})
+  endforeach()
+endif()
+
+quorin_import(openblas ${prefix_openblas})
+
+if(WIN32)
+  set(GTest_DIR ${prefix_googletest}/lib/cmake/GTest)
+  set(benchmark_DIR ${prefix_benchmark}/lib/cmake/benchmark)
+endif()
+if(QUORIN_BUILD_TESTS)
+  find_package(GTest REQUIRED)
+endif()
+if(QUORIN_BUILD_BENCH)
+  find_package(benchmark REQUIRED)
+endif()
