@@ -57,7 +57,7 @@ void split_triangle(bool is_upper, int n, int threads, const Body& body) {
     if (i == 0 || i == parts) return i == 0 ? 0 : n;
     const double share = static_cast<double>(i) / parts;
     const double column = n * (is_upper ? std::sqrt(share) : 1 - std::sqrt(1 - share));
-    return std::min(n, static_cast<int>(column / kTile + 0.5) * kTile);
+    return std::min(n, static_cast<int>(std::lround(column / kTile)) * kTile);
   };
   base::parallel_for(parts, threads, [&](int i) {
     const int first = boundary(i);

@@ -137,8 +137,9 @@ bool is_code_mapped(const void* address) noexcept {
 
 bool read_environment(const char* name, char* buffer, std::size_t size) noexcept {
   const char* const value = std::getenv(name);
-  if (value == nullptr || value[0] == '\0' || std::strlen(value) >= size) return false;
-  std::strcpy(buffer, value);
+  const std::size_t length = value == nullptr ? 0 : std::strlen(value);
+  if (length == 0 || length >= size) return false;
+  std::memcpy(buffer, value, length + 1);
   return true;
 }
 

@@ -42,9 +42,9 @@ TEST_F(Parallel, RunsEveryPartOnceForAnyBlockTime) {
 
 TEST_F(Parallel, ServesManyHostThreadsAtOnce) {
   set_block_time(1);
-  std::vector<std::jthread> hosts;
-  for (int host = 0; host < 8; ++host) {
-    hosts.emplace_back([] {
+  std::array<std::jthread, 8> hosts;
+  for (auto& host : hosts) {
+    host = std::jthread([] {
       for (int repeat = 0; repeat < 300; ++repeat) expect_each_part_once(16, 3);
     });
   }

@@ -1,0 +1,54 @@
+# What ./demo and ./test share: numbered steps with elapsed time, and a clear end.
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+cd "$root"
+export QUORIN_CACHE=${QUORIN_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/quorin-lapacks}
+log_directory=$root/build/logs
+mkdir -p "$log_directory"
+
+say() { printf '%s\n' "$*"; }
+
+# step TITLE COMMAND...: shows the title, then runs the command with its output on the screen.
+step() {
+  local title=$1 started=$SECONDS
+  shift
+  say "== $title"
+  "$@" || { say "FAILED: $title"; return 1; }
+  say "   done in $((SECONDS - started)) s"
+}
+
+# quiet_step TITLE COMMAND...: the same with the output in a log file, of which a failure shows the end.
+quiet_step() {
+  local title=$1 started=$SECONDS log
+  shift
+  log=$log_directory/$(tr -cs 'A-Za-z0-9\n' '-' <<<"$title").log
+  say "== $title"
+  if ! "$@" >"$log" 2>&1; then
+    tail -n 40 "$log"
+    say "FAILED: $title (whole output: ${log#"$root"/})"
+    return 1
+  fi
+  say "   done in $((SECONDS - started)) s"
+}
+
+# Installs what is missing and builds the dependencies of the given targets.
+prepare() {
+  step "Packages of this machine" tools/setup
+  local target
+  for target in "$@"; do step "Dependencies for $target" third_party/build "$target"; done
+}
+
+# The build of one preset.
+build() {
+  quiet_step "Configure $1" cmake --preset "$1"
+  step "Build $1" cmake --build --preset "$1" -- --quiet
+}
+
+# Wine takes seconds to start, unless its server stays.
+keep_wine_running() {
+  export WINEPREFIX=${QUORIN_WINEPREFIX:-$QUORIN_CACHE/wineprefix}
+  local server
+  server=$(command -v wineserver || ls /usr/lib/wine/wineserver /usr/lib/wine/wineserver64 2>/dev/null | head -n 1)
+  [[ -n $server ]] || return 0
+  mkdir -p "$WINEPREFIX"
+  "$server" -p600 || true
+}
