@@ -45,7 +45,19 @@ if(WIN32)
   endforeach()
 endif()
 
+# LAPACK calls BLAS by its Fortran names: the product defines the single-precision ones (third_party/openblas_names.txt).
 quorin_import(openblas ${prefix_openblas})
+quorin_import(lapack ${prefix_lapack} LINKS quorin::openblas ${fortran_runtime})
+quorin_import(reference_blas ${prefix_lapack} LINKS ${fortran_runtime})
+quorin_import(suitesparseconfig ${prefix_suitesparse})
+quorin_import(amd ${prefix_suitesparse} LINKS quorin::suitesparseconfig)
+quorin_import(colamd ${prefix_suitesparse} LINKS quorin::suitesparseconfig)
+quorin_import(umfpack ${prefix_suitesparse} LINKS quorin::amd quorin::openblas)
+quorin_import(metis ${prefix_metis})
+
+set(QUORIN_BLAS_TESTING_DIR ${prefix_lapack}/share/blas-testing)
+set(QUORIN_LAPACK_TESTING_DIR ${prefix_lapack}/share/lapack-testing)
+set(QUORIN_MATRICES_DIR ${prefix_suitesparse}/share/matrices)
 
 if(WIN32)
   set(GTest_DIR ${prefix_googletest}/lib/cmake/GTest)
