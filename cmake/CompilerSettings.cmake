@@ -15,8 +15,10 @@ if(WIN32)
 endif()
 
 set(QUORIN_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize takes them")
+add_library(quorin_sanitizer INTERFACE)
+target_link_libraries(quorin_flags INTERFACE quorin_sanitizer)
 if(QUORIN_SANITIZE)
-  target_compile_options(quorin_flags INTERFACE
+  target_compile_options(quorin_sanitizer INTERFACE
     -fsanitize=${QUORIN_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
-  target_link_options(quorin_flags INTERFACE -fsanitize=${QUORIN_SANITIZE})
+  target_link_options(quorin_sanitizer INTERFACE -fsanitize=${QUORIN_SANITIZE})
 endif()

@@ -39,6 +39,8 @@ def build_files(families: list[Family]) -> dict[str, str]:
     }
     for family in families:
         files[f"entries_{family.name}.cpp"] = thunks.source(family, table_of(family))
+        files[f"fortran_{family.name}_plain.c"] = linking.fortran_names(family, through_index=False)
+        files[f"fortran_{family.name}_index.c"] = linking.fortran_names(family, through_index=True)
     return files
 
 

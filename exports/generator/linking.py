@@ -2,7 +2,9 @@
 
 from __future__ import annotations
 
-from generator.model import Family
+from generator import model
+from generator.declarations import parameters, result_type, wrapped
+from generator.model import Argument, Family, Routine
 
 LIBRARY = "Quorin.Lapacks.6.2.dll"
 
@@ -64,3 +66,38 @@ def reference_everything(families: list[Family]) -> str:
         f"  return count != {len(names)} || missing != 0;\n"
         "}\n"
     )
+
+
+# Elements by which Fortran-callable names of index forms shift an array's base, to be taken back by the index.
+SHIFT = 5
+
+
+def forwarded(argument: Argument, through_index: bool) -> str:
+    if not (through_index and argument.has_index):
+        return argument.name
+    constant = "const " if argument.direction == model.IN else ""
+    base = f"({constant}{argument.type.c}*)((uintptr_t){argument.name} - {SHIFT} * sizeof *{argument.name})"
+    return f"{base}, {SHIFT}"
+
+
+def fortran_name(routine: Routine, through_index: bool) -> str:
+    items = parameters(routine, "c", False)
+    passed = [forwarded(argument, through_index) for argument in routine.arguments]
+    result, keep, give = result_type(routine, "c"), "", ""
+    if routine.result_is_argument:
+        result, keep, give = "float _Complex", "quorin_complex result;\n  ", "  return __builtin_complex(result.re, result.im);\n"
+        items, passed = items[1:], ["&result"] + passed
+    elif routine.result:
+        keep, give = f"const {result} result = ", "  return result;\n"
+    target = routine.index_name if through_index else routine.name
+    head = wrapped(f"{result} {routine.name}_", items, " {")
+    return f"{head}\n  {keep}{target}({', '.join(passed)});\n  quorin_after_call();\n{give}}}\n"
+
+
+def fortran_names(family: Family, through_index: bool) -> str:
+    """Routines under the names that Fortran test programs call, each forwarding to an export."""
+    routines = [routine for routine in family.routines if routine.has_plain and routine.index_name]
+    parts = ["/* Generated from the export tables. Do not edit. */", f'#include "quorin/{family.name}.h"\n']
+    parts.append("void quorin_after_call(void);\n")
+    parts.extend(fortran_name(routine, through_index) for routine in routines)
+    return "\n".join(parts)
