@@ -31,22 +31,44 @@ int first_extreme(int n, const T* x, int incx, Better better) {
   return position + 1;
 }
 
+// A stride of 0 uses one element over and over. The dependency has its own ideas of what that means; the published
+// loops say it, so such calls run them.
+bool repeats_an_element(int incx, int incy) { return incx == 0 || incy == 0; }
+
+// Calls body(x_i, y_i) for i = 0..n-1 in the published order; a negative stride starts at the far end.
+template <class X, class Y, class Body>
+void for_each_pair(int n, X* x, int incx, Y* y, int incy, const Body& body) {
+  std::ptrdiff_t ix = incx < 0 ? static_cast<std::ptrdiff_t>(1 - n) * incx : 0;
+  std::ptrdiff_t iy = incy < 0 ? static_cast<std::ptrdiff_t>(1 - n) * incy : 0;
+  for (int i = 0; i < n; ++i, ix += incx, iy += incy) body(x[ix], y[iy]);
+}
+
 Complex to_complex(backend::ComplexResult z) { return {__real__ z, __imag__ z}; }
 
 }  // namespace
 
 template <Scalar T>
 void axpy(int n, T a, const T* x, int incx, T* y, int incy) {
+  if (repeats_an_element(incx, incy)) {
+    if (a == T{}) return;
+    return for_each_pair(n, x, incx, y, incy, [a](const T& xi, T& yi) { yi += product(a, xi); });
+  }
   Routines<T>::axpy(&n, &a, x, &incx, y, &incy);
 }
 
 template <Scalar T>
 void copy(int n, const T* x, int incx, T* y, int incy) {
+  if (repeats_an_element(incx, incy)) {
+    return for_each_pair(n, x, incx, y, incy, [](const T& xi, T& yi) { yi = xi; });
+  }
   Routines<T>::copy(&n, x, &incx, y, &incy);
 }
 
 template <Scalar T>
 void swap(int n, T* x, int incx, T* y, int incy) {
+  if (repeats_an_element(incx, incy)) {
+    return for_each_pair(n, x, incx, y, incy, [](T& xi, T& yi) { std::swap(xi, yi); });
+  }
   Routines<T>::swap(&n, x, &incx, y, &incy);
 }
 
@@ -75,19 +97,31 @@ RealOf<T> asum(int n, const T* x, int incx) {
 
 template <Scalar T, class Factor>
 void scal(int n, Factor a, T* x, int incx) {
-  if (n <= 0 || incx <= 0) return;
-  if (a == Factor{}) {
-    // The dependency stores zeros without looking at x.
-    for (int i = 0; i < n; ++i) x[static_cast<std::ptrdiff_t>(i) * incx] *= a;
-  } else if constexpr (std::same_as<T, Factor>) {
-    Routines<T>::scal(&n, &a, x, &incx);
+  // Not the dependency's: it stores zeros for a = 0 and skips a zero part of a, whatever x holds.
+  if (n <= 0 || incx <= 0 || a == Factor{1}) return;
+  const auto scale = [a](T& value) {
+    if constexpr (std::same_as<T, Factor>) {
+      value = product(a, value);
+    } else {
+      value = T(a * value.real(), a * value.imag());
+    }
+  };
+  if (incx == 1) {
+    for (int i = 0; i < n; ++i) scale(x[i]);  // a loop of its own, which the compiler vectorises
   } else {
-    Routines<T>::real_scal(&n, &a, x, &incx);
+    for (int i = 0; i < n; ++i) scale(x[static_cast<std::ptrdiff_t>(i) * incx]);
   }
 }
 
 template <Scalar T>
 void rot(int n, T* x, int incx, T* y, int incy, RealOf<T> c, RealOf<T> s) {
+  if (repeats_an_element(incx, incy)) {
+    return for_each_pair(n, x, incx, y, incy, [c, s](T& xi, T& yi) {
+      const T rotated = c * xi + s * yi;
+      yi = c * yi - s * xi;
+      xi = rotated;
+    });
+  }
   Routines<T>::rot(&n, x, &incx, y, &incy, &c, &s);
 }
 
@@ -151,19 +185,19 @@ int iamin(int n, const T* x, int incx) {
 
 template <Scalar T>
 void axpyi(int nz, T a, const T* x, const int* indx, T* y) {
-  for (int k = 0; k < nz; ++k) y[indx[k] - 1] += a * x[k];
+  for (int k = 0; k < nz; ++k) y[indx[k] - 1] += product(a, x[k]);
 }
 
 template <Scalar T>
 T dotui(int nz, const T* x, const int* indx, const T* y) {
   T sum{};
-  for (int k = 0; k < nz; ++k) sum += x[k] * y[indx[k] - 1];
+  for (int k = 0; k < nz; ++k) sum += product(x[k], y[indx[k] - 1]);
   return sum;
 }
 
 Complex dotci(int nz, const Complex* x, const int* indx, const Complex* y) {
   Complex sum{};
-  for (int k = 0; k < nz; ++k) sum += std::conj(x[k]) * y[indx[k] - 1];
+  for (int k = 0; k < nz; ++k) sum += product(std::conj(x[k]), y[indx[k] - 1]);
   return sum;
 }
 

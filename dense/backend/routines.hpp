@@ -23,8 +23,6 @@ template <class T, class Result>
 using Dot = Result(const int* n, const T* x, const int* incx, const T* y, const int* incy);
 template <class T>
 using Norm = RealOf<T>(const int* n, const T* x, const int* incx);
-template <class T, class Factor>
-using Scale = void(const int* n, const Factor* a, T* x, const int* incx);
 template <class T>
 using Rotate = void(const int* n, T* x, const int* incx, T* y, const int* incy, const RealOf<T>* c, const RealOf<T>* s);
 template <class T>
@@ -83,9 +81,6 @@ Norm<float> openblas_snrm2_;
 Norm<Complex> openblas_scnrm2_;
 Norm<float> openblas_sasum_;
 Norm<Complex> openblas_scasum_;
-Scale<float, float> openblas_sscal_;
-Scale<Complex, Complex> openblas_cscal_;
-Scale<Complex, float> openblas_csscal_;
 Rotate<float> openblas_srot_;
 Rotate<Complex> openblas_csrot_;
 RotateModified<float> openblas_srotm_;
@@ -135,8 +130,6 @@ struct Routines<float> {
   static constexpr auto* dotu = openblas_sdot_;
   static constexpr auto* nrm2 = openblas_snrm2_;
   static constexpr auto* asum = openblas_sasum_;
-  static constexpr auto* scal = openblas_sscal_;
-  static constexpr auto* real_scal = openblas_sscal_;
   static constexpr auto* rot = openblas_srot_;
   static constexpr auto* rotm = openblas_srotm_;
   static constexpr auto* rotmg = openblas_srotmg_;
@@ -170,8 +163,6 @@ struct Routines<Complex> {
   static constexpr auto* dotu = openblas_cdotu_;
   static constexpr auto* nrm2 = openblas_scnrm2_;
   static constexpr auto* asum = openblas_scasum_;
-  static constexpr auto* scal = openblas_cscal_;
-  static constexpr auto* real_scal = openblas_csscal_;
   static constexpr auto* rot = openblas_csrot_;
 
   static constexpr auto* gemv = openblas_cgemv_;

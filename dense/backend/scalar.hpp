@@ -41,4 +41,14 @@ using RealOf = typename ScalarTraits<T>::Real;
 template <class T>
 inline constexpr bool kIsComplex = !std::same_as<T, RealOf<T>>;
 
+// a b by the plain formula, as the published routines multiply; the operator of std::complex also repairs infinities.
+template <Scalar T>
+constexpr T product(T a, T b) {
+  if constexpr (kIsComplex<T>) {
+    return {a.real() * b.real() - a.imag() * b.imag(), a.real() * b.imag() + a.imag() * b.real()};
+  } else {
+    return a * b;
+  }
+}
+
 }  // namespace quorin::dense
