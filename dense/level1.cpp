@@ -92,7 +92,21 @@ RealOf<T> nrm2(int n, const T* x, int incx) {
 
 template <Scalar T>
 RealOf<T> asum(int n, const T* x, int incx) {
-  return Routines<T>::asum(&n, x, &incx);
+  // Not the dependency's: release 0.3.21 loses the last element of a complex vector on some x86-64 processors.
+  if (n <= 0 || incx <= 0) return 0;
+  constexpr int kSums = 16;  // independent, so that additions overlap and the compiler can vectorise them
+  RealOf<T> sums[kSums] = {};
+  int i = 0;
+  if (incx == 1) {
+    for (; i + kSums <= n; i += kSums) {
+      for (int j = 0; j < kSums; ++j) sums[j] += magnitude(x[i + j]);
+    }
+  }
+  for (; i < n; ++i) sums[i % kSums] += magnitude(x[static_cast<std::ptrdiff_t>(i) * incx]);
+  for (int half = kSums / 2; half > 0; half /= 2) {
+    for (int j = 0; j < half; ++j) sums[j] += sums[j + half];
+  }
+  return sums[0];
 }
 
 template <Scalar T, class Factor>

@@ -79,8 +79,6 @@ Dot<Complex, ComplexResult> openblas_cdotc_;
 Dot<Complex, ComplexResult> openblas_cdotu_;
 Norm<float> openblas_snrm2_;
 Norm<Complex> openblas_scnrm2_;
-Norm<float> openblas_sasum_;
-Norm<Complex> openblas_scasum_;
 Rotate<float> openblas_srot_;
 Rotate<Complex> openblas_csrot_;
 RotateModified<float> openblas_srotm_;
@@ -129,7 +127,6 @@ struct Routines<float> {
   static constexpr auto* swap = openblas_sswap_;
   static constexpr auto* dotu = openblas_sdot_;
   static constexpr auto* nrm2 = openblas_snrm2_;
-  static constexpr auto* asum = openblas_sasum_;
   static constexpr auto* rot = openblas_srot_;
   static constexpr auto* rotm = openblas_srotm_;
   static constexpr auto* rotmg = openblas_srotmg_;
@@ -162,7 +159,6 @@ struct Routines<Complex> {
   static constexpr auto* dotc = openblas_cdotc_;
   static constexpr auto* dotu = openblas_cdotu_;
   static constexpr auto* nrm2 = openblas_scnrm2_;
-  static constexpr auto* asum = openblas_scasum_;
   static constexpr auto* rot = openblas_csrot_;
 
   static constexpr auto* gemv = openblas_cgemv_;
