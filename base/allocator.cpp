@@ -27,6 +27,16 @@ Function* exported_function(platform::Module module, const char* name) noexcept 
   return function;
 }
 
+template <class Function>
+bool is_function_mapped(Function* function) noexcept {
+  return platform::is_code_mapped(reinterpret_cast<const void*>(function));
+}
+
+bool is_mapped(const Allocator& allocator) noexcept {
+  return is_function_mapped(allocator.allocate) && is_function_mapped(allocator.allocate_zeroed) &&
+         is_function_mapped(allocator.reallocate) && is_function_mapped(allocator.release);
+}
+
 }  // namespace
 
 void choose_allocator() noexcept {
@@ -38,8 +48,10 @@ void choose_allocator() noexcept {
       .reallocate = exported_function<void*(void*, std::size_t)>(module, "i_realloc_dll"),
       .release = exported_function<void(void*)>(module, "i_free_dll"),
   };
-  if (found.allocate && found.allocate_zeroed && found.reallocate && found.release) current = found;
+  const bool is_complete = found.allocate && found.allocate_zeroed && found.reallocate && found.release;
   platform::close_module(module);
+  // A library that nobody else has loaded is gone now, and its functions with it.
+  if (is_complete && is_mapped(found)) current = found;
 }
 
 void* allocate(std::size_t bytes) noexcept { return current.allocate(bytes); }
@@ -51,6 +63,6 @@ void release(void* memory) noexcept {
   if (memory != nullptr) current.release(memory);
 }
 
-bool allocator_is_mapped() noexcept { return platform::is_code_mapped(reinterpret_cast<const void*>(current.release)); }
+bool allocator_is_mapped() noexcept { return is_function_mapped(current.release); }
 
 }  // namespace quorin::base

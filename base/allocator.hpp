@@ -10,8 +10,8 @@
 namespace quorin::base {
 
 // Chooses the allocator: libimalloc's if it can be found, has all four variables and none is null, else the C
-// runtime's. The reference to libimalloc is given back at once; a host that uses one keeps it loaded. Called once, at
-// load.
+// runtime's. The reference to libimalloc is given back at once; a host that uses one keeps it loaded, and one that
+// vanishes with the reference is not taken. Called once, at load.
 void choose_allocator() noexcept;
 
 // As the C library's functions: null if there is no memory, and `release(nullptr)` does nothing.

@@ -75,7 +75,7 @@ Module find_loaded_module(const char* name) noexcept;
 void close_module(Module module) noexcept;
 void* find_symbol(Module module, const char* name) noexcept;
 
-// Whether some loaded module still holds the code at this address.
+// Whether there is still code at this address: not after the module that held it was unloaded.
 bool is_code_mapped(const void* address) noexcept;
 
 // The file name under which a library is known here: "libimalloc" is libimalloc.dll or libimalloc.so.

@@ -127,9 +127,11 @@ void* find_symbol(Module module, const char* name) noexcept {
   return reinterpret_cast<void*>(GetProcAddress(static_cast<HMODULE>(module), name));
 }
 bool is_code_mapped(const void* address) noexcept {
-  HMODULE module = nullptr;
-  constexpr DWORD kFlags = GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT;
-  return GetModuleHandleExA(kFlags, static_cast<LPCSTR>(address), &module) != 0;
+  // Asked of the memory, because run-time systems make functions outside of modules.
+  MEMORY_BASIC_INFORMATION area{};
+  constexpr DWORD kExecutable = PAGE_EXECUTE | PAGE_EXECUTE_READ | PAGE_EXECUTE_READWRITE | PAGE_EXECUTE_WRITECOPY;
+  return VirtualQuery(address, &area, sizeof area) != 0 && area.State == MEM_COMMIT &&
+         (area.Protect & kExecutable) != 0;
 }
 
 bool read_environment(const char* name, char* buffer, std::size_t size) noexcept {
