@@ -51,6 +51,11 @@ class Pool {
     close(region);
   }
 
+  void wake_idle() noexcept {
+    const std::lock_guard lock(mutex_);
+    work_arrived_.notify_all();
+  }
+
  private:
   static void worker_main(void* pool) { static_cast<Pool*>(pool)->work(); }
 
@@ -115,11 +120,11 @@ class Pool {
   // The next region to join, or null after the block time. Called and left with the mutex held.
   Region* wait_for_region() noexcept {
     Region* region = joinable();
-    const int patience = block_time();
-    if (region == nullptr && patience > 0) region = spin_for_region();
+    if (region == nullptr && block_time() > 0) region = spin_for_region();
     while (region == nullptr) {
       // A wake-up may be for a region that others have finished; the wait then starts afresh, which only errs on the
-      // side of patience.
+      // side of patience. It may also be because the block time has changed.
+      const int patience = block_time();
       const bool notified = patience > 0 && work_arrived_.wait_for(mutex_, patience);
       region = joinable();
       if (!notified) break;
@@ -150,6 +155,8 @@ constinit Pool pool;
 
 void start_parallel() noexcept { region_slot.create(); }
 void stop_parallel() noexcept { region_slot.destroy(); }
+
+void apply_block_time() noexcept { pool.wake_idle(); }
 
 bool in_parallel_region() noexcept { return region_slot.get() != nullptr; }
 

@@ -14,6 +14,9 @@ namespace quorin::base {
 void start_parallel() noexcept;
 void stop_parallel() noexcept;
 
+// Makes idle workers look at the block time again.
+void apply_block_time() noexcept;
+
 // Whether the calling thread is inside a region: more parallelism would oversubscribe the cores.
 bool in_parallel_region() noexcept;
 

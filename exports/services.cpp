@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "base/argument_error.hpp"
+#include "base/parallel.hpp"
 #include "base/thread_settings.hpp"
 #include "dense/dense.hpp"
 #include "exports/entry.hpp"
@@ -37,6 +38,7 @@ int get_dynamic() noexcept { return base::dynamic() ? 1 : 0; }
 
 void set_blocktime(int milliseconds) noexcept {
   base::set_block_time(milliseconds);
+  base::apply_block_time();
   const platform::Module runtime = platform::find_loaded_module(platform::kOpenMpLibrary);
   if (runtime == nullptr) return;
   using SetBlockTime = void(int);
