@@ -1,19 +1,30 @@
-# quorin_add_test(NAME SOURCES ... [ENGINE] [LINKS ...] [ARGS ...] [TIMEOUT seconds])
-#
-# A GoogleTest program, run under Wine on win32. It calls the library through its exports, as a host does; with ENGINE it
-# links the modules themselves instead.
-function(quorin_add_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "ENGINE" "TIMEOUT" "SOURCES;LINKS;ARGS")
-  add_executable(${name} ${arg_SOURCES})
-  target_link_libraries(${name} PRIVATE quorin_flags GTest::gtest_main ${arg_LINKS})
-  if(arg_ENGINE)
-    target_link_libraries(${name} PRIVATE quorin_engine)
-  else()
-    target_link_libraries(${name} PRIVATE quorin_lapacks)
-  endif()
+# quorin_add_test_program(NAME SOURCE ...): a program beside the product, which it runs against without an installation.
+function(quorin_add_test_program name)
+  add_executable(${name} ${ARGN})
+  target_link_libraries(${name} PRIVATE quorin_flags)
+  target_compile_definitions(${name} PRIVATE QUORIN_PRODUCT_FILE="$<TARGET_FILE_NAME:quorin_lapacks>")
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
   if(WIN32)
     target_link_options(${name} PRIVATE -static)
-    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
+  endif()
+endfunction()
+
+# quorin_add_test(NAME SOURCES ... [ENGINE | HOST] [LINKS ...] [ARGS ...] [TIMEOUT seconds])
+#
+# A GoogleTest program, run under Wine on win32. It calls the library through its exports, as a host does; with ENGINE it
+# links the modules themselves instead; with HOST nothing, because it loads the product itself (see
+# tests/support/host_module.hpp).
+function(quorin_add_test name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "ENGINE;HOST" "TIMEOUT" "SOURCES;LINKS;ARGS")
+  quorin_add_test_program(${name} ${arg_SOURCES})
+  target_link_libraries(${name} PRIVATE GTest::gtest_main ${arg_LINKS})
+  if(arg_ENGINE)
+    target_link_libraries(${name} PRIVATE quorin_engine)
+  elseif(arg_HOST)
+    add_dependencies(${name} quorin_lapacks)
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/include)
+  else()
+    target_link_libraries(${name} PRIVATE quorin_lapacks)
   endif()
   add_test(NAME ${name} COMMAND ${name} --gtest_brief=1 ${arg_ARGS})
   if(NOT arg_TIMEOUT)

@@ -1,0 +1,52 @@
+// The library's allocator from inside: all four functions of a libimalloc are used, and what fails stays a null
+// pointer.
+#include "base/allocator.hpp"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "base/workspace.hpp"
+#include "tests/boundary/counting_allocator.hpp"
+#include "tests/support/host_module.hpp"
+
+namespace quorin::test {
+namespace {
+
+TEST(Allocator, GoesThroughTheFourFunctions) {
+  const HostModule module = load_test_library("complete", "libimalloc");
+  ASSERT_TRUE(module);
+  auto& state = *module.symbol<CountingAllocatorState>("imalloc_state");
+  base::choose_allocator();
+
+  auto* bytes = static_cast<unsigned char*>(base::allocate_zeroed(7, 3));
+  ASSERT_NE(bytes, nullptr);
+  EXPECT_EQ(std::count(bytes, bytes + 21, 0), 21);
+  std::fill_n(bytes, 21, static_cast<unsigned char>(9));
+  bytes = static_cast<unsigned char*>(base::reallocate(bytes, 5000));
+  ASSERT_NE(bytes, nullptr);
+  EXPECT_EQ(std::count(bytes, bytes + 21, 9), 21);
+  base::release(bytes);
+  base::release(nullptr);
+  EXPECT_EQ(state.allocate_zeroed, 1);
+  EXPECT_EQ(state.reallocate, 1);
+  EXPECT_EQ(state.release, 1);
+
+  {
+    base::Workspace<double> numbers(100);
+    ASSERT_TRUE(numbers);
+    EXPECT_EQ(reinterpret_cast<std::uintptr_t>(numbers.data()) % base::Workspace<double>::kAlignment, 0U);
+    EXPECT_EQ(state.live, 1);
+    state.fail_at = 1;
+    const base::Workspace<double> none(100);
+    EXPECT_FALSE(none);
+    EXPECT_EQ(none.data(), nullptr);
+  }
+  const int allocations = state.allocate;
+  EXPECT_FALSE(base::Workspace<double>(SIZE_MAX / 4)) << "more bytes than a size_t can count";
+  EXPECT_EQ(state.allocate, allocations) << "asked the allocator for a size that had wrapped";
+  EXPECT_EQ(state.live, 0);
+}
+
+}  // namespace
+}  // namespace quorin::test

@@ -1,0 +1,126 @@
+// Which allocator the library takes when it is loaded: that of a complete libimalloc, else the run-time library's.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "quorin/services.h"
+#include "tests/boundary/counting_allocator.hpp"
+#include "tests/support/exact_product.hpp"
+#include "tests/support/host_module.hpp"
+
+namespace quorin::test {
+namespace {
+
+constexpr const char* kVariables[] = {"i_malloc_dll", "i_calloc_dll", "i_realloc_dll", "i_free_dll"};
+
+const std::string& allocator_file() {
+  static const std::string name = library_file("libimalloc");
+  return name;
+}
+
+// A threaded product; memory is taken when it is the first after a load or after sMKL_FreeBuffers.
+void multiply(const HostModule& product) {
+  static ExactProduct problem;
+  product.symbol<decltype(sMKL_Set_Dynamic)>("sMKL_Set_Dynamic")(0);
+  product.symbol<decltype(sMKL_Set_Num_Threads)>("sMKL_Set_Num_Threads")(3);
+  EXPECT_TRUE(problem.is_solved_by(product.symbol<decltype(sgemm)>("sgemm")));
+}
+
+void expect_product_unloads([[maybe_unused]] HostModule& product) {
+#if defined(_WIN32)
+  product.symbol<decltype(sokmp_set_blocktime)>("sokmp_set_blocktime")(0);
+  multiply(product);
+  product.close();
+  for (int i = 0; i < 1000 && is_loaded(QUORIN_PRODUCT_FILE); ++i) Sleep(5);
+  EXPECT_FALSE(is_loaded(QUORIN_PRODUCT_FILE));
+#endif
+}
+
+TEST(AllocatorChoice, TakesACompleteLibraryAndReleasesIt) {
+  with_fresh_product([] {
+    HostModule allocator = load_test_library("complete", "libimalloc");
+    ASSERT_TRUE(allocator);
+    auto& state = *allocator.symbol<CountingAllocatorState>("imalloc_state");
+    HostModule product = load_product();
+    ASSERT_TRUE(product);
+    multiply(product);
+    EXPECT_GE(state.allocate, 3);
+    EXPECT_GE(state.live, 3);
+    product.symbol<decltype(sMKL_FreeBuffers)>("sMKL_FreeBuffers")();
+    EXPECT_GE(state.release, 3);
+    EXPECT_EQ(state.live, 0);
+
+    multiply(product);
+    EXPECT_GT(state.live, 0);
+    expect_product_unloads(product);
+#if defined(_WIN32)
+    EXPECT_EQ(state.live, 0) << "unloading gives the buffers back";
+#endif
+    allocator.close();
+    EXPECT_FALSE(is_loaded(allocator_file())) << "the product still holds a reference";
+  });
+}
+
+void expect_refused(const HostModule& allocator) {
+  ASSERT_TRUE(allocator);
+  const auto& state = *allocator.symbol<CountingAllocatorState>("imalloc_state");
+  HostModule product = load_product();
+  ASSERT_TRUE(product);
+  multiply(product);
+  product.symbol<decltype(sMKL_FreeBuffers)>("sMKL_FreeBuffers")();
+  EXPECT_EQ(state.allocate + state.allocate_zeroed + state.reallocate + state.release, 0);
+  expect_product_unloads(product);
+}
+
+TEST(AllocatorChoice, RefusesALibraryThatLacksAVariable) {
+  for (const std::string lacking : {"1", "2", "3", "4"}) {
+    SCOPED_TRACE(lacking);
+    with_fresh_product([&] {
+      HostModule allocator = load_test_library("lacks_" + lacking, "libimalloc");
+      expect_refused(allocator);
+      allocator.close();
+      EXPECT_FALSE(is_loaded(allocator_file()));
+    });
+  }
+}
+
+TEST(AllocatorChoice, RefusesALibraryWithANullVariable) {
+  for (const char* name : kVariables) {
+    SCOPED_TRACE(name);
+    with_fresh_product([&] {
+      HostModule allocator = load_test_library("complete", "libimalloc");
+      *allocator.symbol<void*>(name) = nullptr;
+      expect_refused(allocator);
+      allocator.close();
+      EXPECT_FALSE(is_loaded(allocator_file()));
+    });
+  }
+}
+
+TEST(AllocatorChoice, SurvivesAnAllocatorThatTheHostUnloadsFirst) {
+  with_fresh_product([] {
+    HostModule allocator = load_test_library("complete", "libimalloc");
+    HostModule product = load_product();
+    multiply(product);
+    allocator.close();
+    ASSERT_FALSE(is_loaded(allocator_file()));
+    product.close();
+  });
+}
+
+#if defined(_WIN32)
+// Here nobody but the product has a reference, so that releasing it unmaps the functions just found.
+TEST(AllocatorChoice, DoesNotKeepFunctionsThatVanishWithTheReference) {
+  for (int i = 0; i < 1000 && is_loaded(QUORIN_PRODUCT_FILE); ++i) Sleep(5);
+  ASSERT_FALSE(is_loaded(QUORIN_PRODUCT_FILE));
+  SetDllDirectoryA((program_directory() / "test_libraries" / "complete").string().c_str());
+  HostModule product = load_product();
+  SetDllDirectoryA(nullptr);
+  EXPECT_FALSE(is_loaded(allocator_file()));
+  multiply(product);
+  expect_product_unloads(product);
+}
+#endif
+
+}  // namespace
+}  // namespace quorin::test

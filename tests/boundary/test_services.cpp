@@ -1,0 +1,149 @@
+// The library's services as a host sees them. Counts are shared by the whole process, so every test puts them back.
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <string>
+
+#include "quorin/services.h"
+#include "tests/support/capture_output.hpp"
+
+namespace {
+
+using quorin::test::captured;
+
+constexpr int kDomains = 5;
+
+class Threads : public testing::Test {
+ protected:
+  void TearDown() override {
+    for (int domain = 0; domain < kDomains; ++domain) sMKL_Domain_Set_Num_Threads(0, domain);
+  }
+};
+
+TEST_F(Threads, CountForAllRefusesWhatIsNotPositive) {
+  const int seeded = sMKL_Get_Max_Threads();
+  EXPECT_GE(seeded, 1);
+  for (const int refused : {0, -3, INT_MIN}) {
+    sMKL_Set_Num_Threads(refused);
+    EXPECT_EQ(sMKL_Get_Max_Threads(), seeded);
+  }
+  sMKL_Set_Num_Threads(seeded + 6);
+  EXPECT_EQ(sMKL_Get_Max_Threads(), seeded + 6);
+  sMKL_Set_Num_Threads(0);
+  EXPECT_EQ(sMKL_Get_Max_Threads(), seeded + 6);
+}
+
+TEST_F(Threads, DomainZeroIsTheCountForAllAndTakesAZero) {
+  const int seeded = sMKL_Get_Max_Threads();
+  EXPECT_EQ(sMKL_Domain_Set_Num_Threads(seeded + 2, 0), 1);
+  EXPECT_EQ(sMKL_Get_Max_Threads(), seeded + 2);
+  EXPECT_EQ(sMKL_Domain_Get_Max_Threads(0), seeded + 2);
+  EXPECT_EQ(sMKL_Domain_Set_Num_Threads(0, 0), 1);
+  EXPECT_EQ(sMKL_Get_Max_Threads(), seeded);
+}
+
+TEST_F(Threads, DomainsHaveCountsOfTheirOwn) {
+  sMKL_Set_Num_Threads(3);
+  for (int domain = 1; domain < kDomains; ++domain) EXPECT_EQ(sMKL_Domain_Set_Num_Threads(10 + domain, domain), 1);
+  sMKL_Set_Num_Threads(4);
+  for (int domain = 1; domain < kDomains; ++domain) EXPECT_EQ(sMKL_Domain_Get_Max_Threads(domain), 10 + domain);
+  EXPECT_EQ(sMKL_Get_Max_Threads(), 4);
+  for (int domain = 1; domain < kDomains; ++domain) {
+    EXPECT_EQ(sMKL_Domain_Set_Num_Threads(-1, domain), 0);
+    EXPECT_EQ(sMKL_Domain_Get_Max_Threads(domain), 10 + domain);
+    EXPECT_EQ(sMKL_Domain_Set_Num_Threads(0, domain), 1);
+    EXPECT_EQ(sMKL_Domain_Get_Max_Threads(domain), 4);
+  }
+}
+
+TEST_F(Threads, UnknownDomainsAreRefused) {
+  sMKL_Set_Num_Threads(3);
+  for (const int domain : {kDomains, -1, INT_MAX, INT_MIN}) {
+    EXPECT_EQ(sMKL_Domain_Set_Num_Threads(2, domain), 0);
+    EXPECT_EQ(sMKL_Domain_Get_Max_Threads(domain), 3);
+  }
+  EXPECT_EQ(sMKL_Domain_Set_Num_Threads(INT_MIN, 0), 0);
+  for (int domain = 0; domain < kDomains; ++domain) EXPECT_EQ(sMKL_Domain_Get_Max_Threads(domain), 3);
+}
+
+TEST(Dynamic, IsOnAtFirstAndKeepsOneBit) {
+  EXPECT_EQ(sMKL_Get_Dynamic(), 1);
+  for (const int flag : {0, 7, 0, -1, 0, INT_MIN, 256}) {
+    sMKL_Set_Dynamic(flag);
+    EXPECT_EQ(sMKL_Get_Dynamic(), flag != 0 ? 1 : 0);
+  }
+}
+
+int texts_received = 0;
+void QUORIN_CALLBACK count_text(const char*) { ++texts_received; }
+
+TEST(Text, TaucsPrintfIsSilent) {
+  for (const quorin_text_output_callback callback : {quorin_text_output_callback{nullptr}, &count_text}) {
+    set_printf_callback_32f(callback);
+    EXPECT_EQ(captured([] { EXPECT_EQ(taucs_printf("x %d %s %f\n", 1, "y", 2.0), 0); }), "");
+  }
+  set_printf_callback_32f(nullptr);
+  EXPECT_EQ(texts_received, 0);
+}
+
+std::string xerbla_text(const char* name, std::int32_t info, std::int32_t length) {
+  return captured([&] { XERBLA(name, &info, length); });
+}
+
+TEST(Xerbla, ChoosesTheMessageByTheCode) {
+  struct Case {
+    std::int32_t info;
+    const char* message;
+  };
+  constexpr Case kCases[] = {
+      {1000, "\nIntel MKL INTERNAL ERROR: Insufficient workspace available in function SGEMM.\n"},
+      {1001, "\nIntel MKL ERROR: Incompatible optional parameters on entry to SGEMM.\n"},
+      {1, "\nIntel MKL ERROR: Parameter 1 was incorrect on entry to SGEMM.\n"},
+      {999, "\nIntel MKL ERROR: Parameter 999 was incorrect on entry to SGEMM.\n"},
+      {1002, "\nIntel MKL ERROR: Parameter 1002 was incorrect on entry to SGEMM.\n"},
+      {INT_MAX, "\nIntel MKL ERROR: Parameter 2147483647 was incorrect on entry to SGEMM.\n"},
+      {0, "\nIntel MKL INTERNAL ERROR: Condition 0 detected in function SGEMM.\n"},
+      {-8, "\nIntel MKL INTERNAL ERROR: Condition 8 detected in function SGEMM.\n"},
+      {INT_MIN, "\nIntel MKL INTERNAL ERROR: Condition 2147483648 detected in function SGEMM.\n"},
+  };
+  for (const Case& c : kCases) EXPECT_EQ(xerbla_text("SGEMM", c.info, 5), c.message);
+  for (const int vendor_code : {1102, 1225}) {
+    const std::string text = xerbla_text("SGEMM", vendor_code, 5);
+    EXPECT_NE(text.find("SGEMM"), std::string::npos);
+    EXPECT_EQ(text.find("Parameter"), std::string::npos);
+  }
+}
+
+TEST(Xerbla, TakesTheNameByItsLengthAndCutsItAtTwenty) {
+  const auto message = [](const std::string& name) {
+    return "\nIntel MKL ERROR: Parameter 3 was incorrect on entry to " + name + ".\n";
+  };
+  const std::string thirty = "ABCDEFGHIJKLMNOPQRSTUVWXYZ1234";
+  for (const int length : {20, 21, 30})
+    EXPECT_EQ(xerbla_text(thirty.c_str(), 3, length), message(thirty.substr(0, 20)));
+  for (const int length : {19, 5, 1, 0}) {
+    EXPECT_EQ(xerbla_text(thirty.c_str(), 3, length), message(thirty.substr(0, static_cast<std::size_t>(length))));
+  }
+  EXPECT_EQ(xerbla_text("100%s%n", 3, 7), message("100%s%n"));
+}
+
+TEST(Xerbla, IgnoresNullAndNegativeLength) {
+  const std::int32_t info = 3;
+  EXPECT_EQ(captured([&] {
+              XERBLA(nullptr, &info, 5);
+              XERBLA("SGEMM", nullptr, 5);
+              XERBLA("SGEMM", &info, -1);
+              XERBLA("SGEMM", &info, INT_MIN);
+            }),
+            "");
+}
+
+TEST(Xerbla, NeverReachesTheCallback) {
+  texts_received = 0;
+  set_printf_callback_32f(count_text);
+  EXPECT_NE(xerbla_text("SGEMM", 3, 5), "");
+  set_printf_callback_32f(nullptr);
+  EXPECT_EQ(texts_received, 0);
+}
+
+}  // namespace

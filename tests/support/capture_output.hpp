@@ -1,0 +1,69 @@
+// Catches what the process writes to standard output at the level of its file descriptor, so that text which the
+// library writes by itself is caught too.
+#pragma once
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <string>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#if defined(_WIN32)
+#include <io.h>
+#include <process.h>
+#else
+#include <unistd.h>
+#endif
+
+namespace quorin::test {
+
+// Redirects standard output to a temporary file while it lives, or until stop().
+class CapturedOutput {
+ public:
+  CapturedOutput() : path_(std::filesystem::temp_directory_path() / ("quorin-output-" + std::to_string(getpid()))) {
+    std::fflush(stdout);
+    const int file = open(path_.string().c_str(), O_CREAT | O_TRUNC | O_WRONLY, S_IRUSR | S_IWUSR);
+    standard_output_ = dup(kStandardOutput);
+    if (file < 0 || standard_output_ < 0 || dup2(file, kStandardOutput) < 0) {
+      throw std::runtime_error("cannot redirect standard output");
+    }
+    close(file);
+  }
+  ~CapturedOutput() {
+    if (standard_output_ >= 0) stop();
+  }
+  CapturedOutput(const CapturedOutput&) = delete;
+  CapturedOutput& operator=(const CapturedOutput&) = delete;
+
+  // Puts standard output back and returns what was caught.
+  std::string stop() {
+    std::fflush(stdout);
+    dup2(standard_output_, kStandardOutput);
+    close(standard_output_);
+    standard_output_ = -1;
+    std::string text;
+    {
+      std::ifstream file(path_);
+      text.assign(std::istreambuf_iterator<char>(file), {});
+    }
+    std::filesystem::remove(path_);
+    return text;
+  }
+
+ private:
+  static constexpr int kStandardOutput = 1;
+  std::filesystem::path path_;
+  int standard_output_ = -1;
+};
+
+template <class Action>
+std::string captured(const Action& action) {
+  CapturedOutput output;
+  action();
+  return output.stop();
+}
+
+}  // namespace quorin::test

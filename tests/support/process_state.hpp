@@ -1,0 +1,75 @@
+// What a process holds of the system's resources.
+#pragma once
+
+#include <cstddef>
+
+#if defined(_WIN32)
+#define WIN32_LEAN_AND_MEAN
+#include <tlhelp32.h>
+#include <windows.h>
+#else
+#include <filesystem>
+#include <iterator>
+#endif
+
+namespace quorin::test {
+
+#if defined(_WIN32)
+
+inline int thread_count() {
+  const HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPTHREAD, 0);
+  THREADENTRY32 entry{};
+  entry.dwSize = sizeof entry;
+  int count = 0;
+  for (BOOL more = Thread32First(snapshot, &entry); more; more = Thread32Next(snapshot, &entry)) {
+    if (entry.th32OwnerProcessID == GetCurrentProcessId()) ++count;
+  }
+  CloseHandle(snapshot);
+  return count;
+}
+
+inline int handle_count() {
+  DWORD count = 0;
+  GetProcessHandleCount(GetCurrentProcess(), &count);
+  return static_cast<int>(count);
+}
+
+// Committed memory that is not part of a file: heaps, stacks, and whatever was allocated by pages.
+inline std::size_t private_bytes() {
+  std::size_t bytes = 0;
+  MEMORY_BASIC_INFORMATION area{};
+  for (const char* address = nullptr; VirtualQuery(address, &area, sizeof area) == sizeof area;) {
+    if (area.State == MEM_COMMIT && area.Type == MEM_PRIVATE) bytes += area.RegionSize;
+    const char* const next = static_cast<const char*>(area.BaseAddress) + area.RegionSize;
+    if (next <= address) break;
+    address = next;
+  }
+  return bytes;
+}
+
+// Bytes in use on the heap that the process's runtime libraries share.
+inline std::size_t heap_bytes() {
+  std::size_t bytes = 0;
+  HANDLE heaps[64];
+  const DWORD heap_count = GetProcessHeaps(64, heaps);
+  for (DWORD i = 0; i < heap_count && i < 64; ++i) {
+    PROCESS_HEAP_ENTRY entry{};
+    HeapLock(heaps[i]);
+    while (HeapWalk(heaps[i], &entry)) {
+      if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) bytes += entry.cbData;
+    }
+    HeapUnlock(heaps[i]);
+  }
+  return bytes;
+}
+
+#else
+
+inline int thread_count() {
+  using std::filesystem::directory_iterator;
+  return static_cast<int>(std::distance(directory_iterator("/proc/self/task"), directory_iterator()));
+}
+
+#endif
+
+}  // namespace quorin::test
