@@ -1,0 +1,160 @@
+// The k-th allocation of a call fails, alone or with all after it, for k = 1, 2, ... until the call no longer notices.
+// Each time it either computes the right result or reports code 1000 and leaves the output untouched.
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "quorin/quorin.h"
+#include "tests/boundary/counting_allocator.hpp"
+#include "tests/support/capture_output.hpp"
+#include "tests/support/exact_product.hpp"
+#include "tests/support/host_module.hpp"
+
+namespace quorin::test {
+namespace {
+
+struct Operands {
+  std::int32_t n = 150, one = 1;
+  float alpha[2] = {2, 0}, beta[2] = {3, 0};
+  std::vector<float> a = whole_numbers(size(), 5), b = whole_numbers(size(), 6);
+
+  // A unit triangular matrix of whole numbers whose inverse, I - N with N^2 = 0, is one too: solutions are exact.
+  Operands() {
+    for (std::size_t i = 0; i < side(); ++i) {
+      triangle[i + i * side()] = 1;
+      if (i < side() / 2) triangle[i + (i + side() / 2) * side()] = 1;
+    }
+  }
+  std::size_t side() const { return static_cast<std::size_t>(n); }
+  std::size_t size() const { return 2 * side() * side(); }
+
+  std::vector<float> triangle = std::vector<float>(size());
+};
+
+struct Case {
+  const char* name;
+  const char* reported;
+  std::function<void(const HostModule&, Operands&, float* c)> call;
+};
+
+template <class T>
+quorin_complex* as_complex(T* numbers) {
+  return reinterpret_cast<quorin_complex*>(numbers);
+}
+
+const std::vector<Case>& cases() {
+  static const std::vector<Case> all = {
+      {"sgemm", "SGEMM",
+       [](const HostModule& m, Operands& o, float* c) {
+         m.symbol<decltype(sgemm)>("sgemm")("N", "T", &o.n, &o.n, &o.n, o.alpha, o.a.data(), &o.n, o.b.data(), &o.n,
+                                            o.beta, c, &o.n);
+       }},
+      {"cgemm", "CGEMM",
+       [](const HostModule& m, Operands& o, float* c) {
+         m.symbol<decltype(cgemm)>("cgemm")("C", "N", &o.n, &o.n, &o.n, as_complex(o.alpha), as_complex(o.a.data()),
+                                            &o.n, as_complex(o.b.data()), &o.n, as_complex(o.beta), as_complex(c),
+                                            &o.n);
+       }},
+      {"ssyrk", "SSYRK",
+       [](const HostModule& m, Operands& o, float* c) {
+         m.symbol<decltype(ssyrk)>("ssyrk")("U", "N", &o.n, &o.n, o.alpha, o.a.data(), &o.n, o.beta, c, &o.n);
+       }},
+      {"ssymm", "SSYMM",
+       [](const HostModule& m, Operands& o, float* c) {
+         m.symbol<decltype(ssymm)>("ssymm")("L", "U", &o.n, &o.n, o.alpha, o.a.data(), &o.n, o.b.data(), &o.n, o.beta,
+                                            c, &o.n);
+       }},
+      {"strsm", "STRSM",
+       [](const HostModule& m, Operands& o, float* c) {
+         m.symbol<decltype(strsm)>("strsm")("L", "U", "N", "U", &o.n, &o.n, o.alpha, o.triangle.data(), &o.n, c, &o.n);
+       }},
+      {"cher2k", "CHER2K",
+       [](const HostModule& m, Operands& o, float* c) {
+         m.symbol<decltype(cher2k)>("cher2k")("L", "N", &o.n, &o.n, as_complex(o.alpha), as_complex(o.a.data()), &o.n,
+                                              as_complex(o.b.data()), &o.n, o.beta, as_complex(c), &o.n);
+       }},
+      {"sgemv", "SGEMV",
+       [](const HostModule& m, Operands& o, float* c) {
+         m.symbol<decltype(sgemv)>("sgemv")("T", &o.n, &o.n, o.alpha, o.a.data(), &o.n, o.b.data(), &o.one, o.beta, c,
+                                            &o.one);
+       }},
+      {"cgerc", "CGERC",
+       [](const HostModule& m, Operands& o, float* c) {
+         m.symbol<decltype(cgerc)>("cgerc")(&o.n, &o.n, as_complex(o.alpha), as_complex(o.a.data()), &o.one,
+                                            as_complex(o.b.data()), &o.one, as_complex(c), &o.n);
+       }},
+      {"ssymv", "SSYMV",
+       [](const HostModule& m, Operands& o, float* c) {
+         m.symbol<decltype(ssymv)>("ssymv")("L", &o.n, o.alpha, o.a.data(), &o.n, o.b.data(), &o.one, o.beta, c,
+                                            &o.one);
+       }},
+      {"strsv", "STRSV",
+       [](const HostModule& m, Operands& o, float* c) {
+         m.symbol<decltype(strsv)>("strsv")("U", "N", "U", &o.n, o.triangle.data(), &o.n, c, &o.one);
+       }},
+  };
+  return all;
+}
+
+// One host with the counting allocator under the library. Whole numbers make every result exact, so that the result of
+// a call that lacked nothing is the result.
+class Campaign {
+ public:
+  Campaign() : allocator_(load_test_library("complete", "libimalloc")), product_(load_product()) {
+    product_.symbol<decltype(sMKL_Set_Dynamic)>("sMKL_Set_Dynamic")(0);
+    product_.symbol<decltype(sMKL_Set_Num_Threads)>("sMKL_Set_Num_Threads")(4);
+  }
+
+  void run(const Case& c, int failures) {
+    SCOPED_TRACE(std::string(c.name) + ", failing " + std::to_string(failures));
+    const std::vector<float> before = whole_numbers(operands_.size(), 7);
+    std::vector<float> expected = before;
+    c.call(product_, operands_, expected.data());
+    ASSERT_NE(expected, before);
+
+    constexpr int kMostAllocations = 100;
+    int k = 1, reports = 0;
+    for (bool failed = true; failed && k < kMostAllocations; ++k) {
+      free_buffers();
+      EXPECT_EQ(state().live, 0);
+      state().failures = failures;
+      state().fail_at = k;
+      std::vector<float> computed = before;
+      const std::string text = captured([&] { c.call(product_, operands_, computed.data()); });
+      failed = state().failures < failures;
+      state().fail_at = 0;
+      if (text.empty()) {
+        EXPECT_EQ(computed, expected) << "allocation " << k;
+      } else {
+        ++reports;
+        EXPECT_EQ(text, std::string("\nIntel MKL INTERNAL ERROR: Insufficient workspace available in function ") +
+                            c.reported + ".\n");
+        EXPECT_EQ(computed, before) << "allocation " << k;
+      }
+    }
+    EXPECT_LT(k, kMostAllocations);
+    EXPECT_GE(reports, 1) << "the first allocation is the one that no call can do without";
+    free_buffers();
+    EXPECT_EQ(state().live, 0);
+  }
+
+ private:
+  CountingAllocatorState& state() { return *allocator_.symbol<CountingAllocatorState>("imalloc_state"); }
+  void free_buffers() { product_.symbol<decltype(sMKL_FreeBuffers)>("sMKL_FreeBuffers")(); }
+
+  HostModule allocator_, product_;
+  Operands operands_;
+};
+
+TEST(AllocationFaults, GiveTheRightResultOrAReportAndNoOutput) {
+  Campaign campaign;
+  for (const Case& c : cases()) {
+    for (const int failures : {1, 1000}) campaign.run(c, failures);
+  }
+}
+
+}  // namespace
+}  // namespace quorin::test

@@ -1,0 +1,193 @@
+// Hosts load and unload the library again and again, and leave it in the middle of its work. Nothing may crash, hang or
+// grow.
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <chrono>
+#include <cstdlib>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "quorin/services.h"
+#include "tests/support/exact_product.hpp"
+#include "tests/support/host_module.hpp"
+#include "tests/support/process_state.hpp"
+
+namespace quorin::test {
+namespace {
+
+constexpr int kCycles = 1000;
+constexpr int kWarmUpCycles = 10;
+constexpr int kThreads = 3;
+
+void sleep_milliseconds(int count) { std::this_thread::sleep_for(std::chrono::milliseconds(count)); }
+
+HostModule load_threaded_product() {
+  HostModule product = load_product();
+  if (product) {
+    product.symbol<decltype(sMKL_Set_Dynamic)>("sMKL_Set_Dynamic")(0);
+    product.symbol<decltype(sMKL_Set_Num_Threads)>("sMKL_Set_Num_Threads")(kThreads);
+  }
+  return product;
+}
+
+void set_block_time(const HostModule& product, int milliseconds) {
+  product.symbol<decltype(sokmp_set_blocktime)>("sokmp_set_blocktime")(milliseconds);
+}
+
+bool multiply(const HostModule& product, ExactProduct& problem) {
+  return product && problem.is_solved_by(product.symbol<decltype(sgemm)>("sgemm"));
+}
+
+template <class Condition>
+bool comes_true(const Condition& condition) {
+  for (int i = 0; i < 4000 && !condition(); ++i) sleep_milliseconds(1);
+  return condition();
+}
+
+// The end of a cycle: on Windows that the module is gone, elsewhere that its workers are.
+bool becomes_quiet([[maybe_unused]] int threads_alone) {
+#if defined(_WIN32)
+  return comes_true([] { return !is_loaded(QUORIN_PRODUCT_FILE); });
+#else
+  return comes_true([=] { return thread_count() == threads_alone; });
+#endif
+}
+
+// What a leak would make larger.
+struct Footprint {
+#if defined(_WIN32)
+  std::size_t memory = private_bytes(), heap = heap_bytes();
+  int handles = handle_count(), slots = thread_slot_count(), threads = thread_count();
+#else
+  std::size_t memory = 0, heap = 0;
+  int handles = 0, slots = 0, threads = thread_count();
+#endif
+};
+
+// Threads that have left the library still have a moment to live.
+Footprint settled_footprint(int threads_alone) {
+  EXPECT_TRUE(comes_true([=] { return thread_count() == threads_alone; }));
+  return Footprint();
+}
+
+// A leak in every cycle is far beyond these: what the system's own loader leaves (20 bytes on Wine), pages that heaps
+// still take, a few handles of the system's own.
+void expect_flat(const Footprint& before, const Footprint& after) {
+  EXPECT_LE(after.memory, before.memory + (std::size_t{256} << 10));
+  EXPECT_LE(after.heap, before.heap + (std::size_t{32} << 10));
+  EXPECT_LE(after.handles, before.handles + 4);
+  EXPECT_EQ(after.slots, before.slots);
+  EXPECT_EQ(after.threads, before.threads);
+}
+
+TEST(Lifecycle, CyclesThatTrulyUnloadLeaveNothingBehind) {
+  ExactProduct problem;
+  const int threads_alone = thread_count();
+  Footprint warm;
+  for (int cycle = 0; cycle < kCycles; ++cycle) {
+    HostModule product = load_threaded_product();
+    set_block_time(product, 0);
+    ASSERT_TRUE(multiply(product, problem)) << cycle;
+    product.close();
+    ASSERT_TRUE(becomes_quiet(threads_alone)) << cycle;
+    if (cycle == kWarmUpCycles) warm = settled_footprint(threads_alone);
+  }
+  expect_flat(warm, settled_footprint(threads_alone));
+}
+
+#if defined(_WIN32)
+// What the run-time library keeps for a thread that has met an exception goes with the DLL, not with the thread.
+TEST(Lifecycle, ExceptionsLeaveNothingBehindInThreadsThatLiveOn) {
+  constexpr int kHosts = 3, kThrowingCycles = 300;
+  Footprint warm;
+  std::atomic<int> round{0}, done{0}, failures{0};
+  int (*throw_and_catch)(int) = nullptr;
+  std::vector<std::thread> hosts;
+  for (int host = 0; host < kHosts; ++host) {
+    hosts.emplace_back([&] {
+      for (int seen = 1; seen <= kThrowingCycles; ++seen) {
+        while (round.load() < seen) std::this_thread::yield();
+        if (throw_and_catch(5) != 6) ++failures;
+        ++done;
+      }
+      while (round.load() <= kThrowingCycles) std::this_thread::yield();
+    });
+  }
+  for (int cycle = 1; cycle <= kThrowingCycles; ++cycle) {
+    HostModule library = load_test_library("throwing", "throwing");
+    ASSERT_TRUE(library);
+    throw_and_catch = library.symbol<int(int)>("throw_and_catch");
+    round = cycle;
+    if (throw_and_catch(5) != 6) ++failures;
+    while (done.load() < cycle * kHosts) std::this_thread::yield();
+    library.close();
+    EXPECT_FALSE(is_loaded("throwing.dll"));
+    if (cycle == kWarmUpCycles) warm = Footprint();
+  }
+  expect_flat(warm, Footprint());
+  EXPECT_EQ(failures, 0);
+  ++round;
+  for (std::thread& host : hosts) host.join();
+}
+#endif
+
+TEST(Lifecycle, CyclesThatOverlapIdleWorkersLeaveNothingBehind) {
+  ExactProduct problem;
+  const int threads_alone = thread_count();
+  Footprint warm;
+  for (int cycle = 0; cycle < kCycles; ++cycle) {
+    HostModule product = load_threaded_product();
+    ASSERT_TRUE(multiply(product, problem)) << cycle;
+    product.close();
+    if (cycle == kWarmUpCycles) {
+      EXPECT_LE(thread_count(), threads_alone + kThreads - 1);
+      ASSERT_TRUE(becomes_quiet(threads_alone));
+      warm = settled_footprint(threads_alone);
+    }
+  }
+  ASSERT_TRUE(becomes_quiet(threads_alone));
+  expect_flat(warm, settled_footprint(threads_alone));
+}
+
+TEST(Lifecycle, UnloadsWhenAnotherThreadHasJustLeft) {
+  const int threads_alone = thread_count();
+  ExactProduct problem;
+  for (int cycle = 0; cycle < 200; ++cycle) {
+    HostModule product = load_threaded_product();
+    ASSERT_TRUE(product);
+    if (cycle % 2 == 0) set_block_time(product, 0);
+    std::atomic<bool> has_left{false};
+    bool solved = false;
+    std::thread other([&] {
+      solved = multiply(product, problem);
+      has_left.store(true);
+      sleep_milliseconds(cycle % 3);
+    });
+    while (!has_left.load()) std::this_thread::yield();
+    product.close();
+    other.join();
+    ASSERT_TRUE(solved) << cycle;
+  }
+  EXPECT_TRUE(becomes_quiet(threads_alone));
+}
+
+TEST(Lifecycle, ProcessesEndRightAfterThreadedWorkWithTheirOwnStatus) {
+  const std::filesystem::path program = program_directory() / "exit_after_work";
+  int status = 40;
+  for (const std::string way : {"return", "exit", "quick", "other_thread"}) {
+    for (const std::string block_time : {"0", "200", "2147483647"}) {
+      ++status;
+      const std::string command = program.string() + " " + way + " " + block_time + " " + std::to_string(status);
+      int ended = std::system(command.c_str());
+#if !defined(_WIN32)
+      ended = WIFEXITED(ended) ? WEXITSTATUS(ended) : -1;
+#endif
+      EXPECT_EQ(ended, status) << command;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace quorin::test
