@@ -1,0 +1,110 @@
+// BLAS on square matrices and contiguous vectors, beside another BLAS.
+#include <cstddef>
+#include <type_traits>
+
+#include "bench/operands.hpp"
+#include "bench/suite.hpp"
+
+namespace quorin::bench {
+namespace {
+
+constexpr int kOne = 1;
+
+// C <- A B
+template <class T, class Gemm>
+auto gemm_call(Gemm* gemm, int n) {
+  return [gemm, n, a = square_matrix<T>(n), b = square_matrix<T>(n), c = square_matrix<T>(n)] {
+    T one{}, zero{};
+    if constexpr (std::is_same_v<T, float>) {
+      one = 1;
+    } else {
+      one.re = 1;
+    }
+    gemm("N", "N", &n, &n, &n, &one, a.data(), &n, b.data(), &n, &zero, c.data(), &n);
+  };
+}
+
+// C <- A A^T, one triangle
+auto syrk_call(const Blas& blas, int n) {
+  return [syrk = blas.ssyrk, n, a = square_matrix<float>(n), c = square_matrix<float>(n)] {
+    const float one = 1, zero = 0;
+    syrk("L", "N", &n, &n, &one, a.data(), &n, &zero, c.data(), &n);
+  };
+}
+
+// A lower triangular matrix that is its own inverse, [I 0; C -I], so that solving with it again and again lets nothing
+// grow or vanish. C is small, to keep rounding errors from growing either.
+Array<float> triangular_involution(int n) {
+  auto a = square_matrix<float>(n);
+  const int half = n / 2;
+  for (int j = 0; j < n; ++j) {
+    for (int i = 0; i < n; ++i) {
+      float& element = a[static_cast<std::size_t>(j) * static_cast<std::size_t>(n) + static_cast<std::size_t>(i)];
+      if (i == j) {
+        element = i < half ? 1.0F : -1.0F;
+      } else {
+        element = i >= half && j < half ? element / static_cast<float>(n) : 0.0F;
+      }
+    }
+  }
+  return a;
+}
+
+// B <- A^-1 B
+auto trsm_call(const Blas& blas, int n) {
+  return [trsm = blas.strsm, n, a = triangular_involution(n), b = square_matrix<float>(n)] {
+    const float one = 1;
+    trsm("L", "L", "N", "N", &n, &n, &one, a.data(), &n, b.data(), &n);
+  };
+}
+
+// y <- A x
+auto gemv_call(const Blas& blas, int n) {
+  const auto length = static_cast<std::size_t>(n);
+  return [gemv = blas.sgemv, n, a = square_matrix<float>(n), x = Array<float>(length), y = Array<float>(length)] {
+    const float one = 1, zero = 0;
+    gemv("N", &n, &n, &one, a.data(), &n, x.data(), &kOne, &zero, y.data(), &kOne);
+  };
+}
+
+auto dot_call(const Blas& blas, int n) {
+  const auto length = static_cast<std::size_t>(n);
+  return [dot = blas.sdot, n, x = Array<float>(length), y = Array<float>(length)] {
+    benchmark::DoNotOptimize(dot(&n, x.data(), &kOne, y.data(), &kOne));
+  };
+}
+
+Row arithmetic_row(const char* operation, int n, int threads, double flops) {
+  return {"blas", operation, n, threads, flops, Unit::kFlop, Limit::kArithmetic};
+}
+
+Row reading_row(const char* operation, int n, int threads, double floats) {
+  return {"blas", operation, n, threads, floats * sizeof(float), Unit::kByte, Limit::kReading};
+}
+
+}  // namespace
+
+void add_blas_rows(Suite& suite) {
+  const std::vector<int> orders =
+      suite.sizes({16, 32, 50, 64, 100, 128, 256, 333, 512, 1000, 1024, 2048}, {16, 64, 256, 1000});
+  std::vector<int> lengths = orders;
+  lengths.push_back(1'000'000);
+  for (const int threads : {1, 2}) {
+    for (const int n : orders) {
+      const double cube = static_cast<double>(n) * n * n;
+      suite.compare(arithmetic_row("sgemm", n, threads, 2 * cube),
+                    [n](const Blas& blas) { return gemm_call<float>(blas.sgemm, n); });
+      suite.compare(arithmetic_row("cgemm", n, threads, 8 * cube),
+                    [n](const Blas& blas) { return gemm_call<quorin_complex>(blas.cgemm, n); });
+      suite.compare(arithmetic_row("strsm", n, threads, cube), [n](const Blas& blas) { return trsm_call(blas, n); });
+      suite.compare(arithmetic_row("ssyrk", n, threads, cube), [n](const Blas& blas) { return syrk_call(blas, n); });
+      suite.compare(reading_row("sgemv", n, threads, static_cast<double>(n) * n),
+                    [n](const Blas& blas) { return gemv_call(blas, n); });
+    }
+    for (const int n : lengths) {
+      suite.compare(reading_row("sdot", n, threads, 2.0 * n), [n](const Blas& blas) { return dot_call(blas, n); });
+    }
+  }
+}
+
+}  // namespace quorin::bench

@@ -1,0 +1,42 @@
+// The libraries that are compared. Both are loaded at run time, so that neither sees the other's symbols and each call
+// takes the way that a host's call takes.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "quorin/blas.h"
+
+namespace quorin::bench {
+
+// The routines that rows measure, with the types that the public header gives them. Other BLAS have the same types.
+struct Blas {
+  std::string name;  // as the results name it
+  void (*set_threads)(int count);
+
+  decltype(&::saxpy) saxpy;
+  decltype(&::sdot) sdot;
+  decltype(&::sgemv) sgemv;
+  decltype(&::sgemm) sgemm;
+  decltype(&::cgemm) cgemm;
+  decltype(&::ssyrk) ssyrk;
+  decltype(&::strsm) strsm;
+};
+
+struct IndexForms {
+  decltype(&::saxpy_Idx) saxpy;
+  decltype(&::sdot_Idx) sdot;
+  decltype(&::sgemm_Idx) sgemm;
+};
+
+struct Libraries {
+  Blas product;
+  IndexForms index_forms;
+  std::optional<Blas> peer;
+  std::string peer_description;
+};
+
+// Loads the product, which must be there, and a threaded OpenBLAS, which need not. Throws std::runtime_error.
+Libraries load_libraries(const std::string& product_file, const std::string& peer_file);
+
+}  // namespace quorin::bench

@@ -1,0 +1,201 @@
+#!/usr/bin/env python3
+"""Turns the results of lapacks_bench into tables of ratios, in Markdown on standard output.
+
+    bench/report.py RESULTS.json
+
+Every figure is a median over repetitions. A ratio is the ratio of two medians of one group; the range behind it holds
+the middle half of all ratios between a repetition of one side and a repetition of the other.
+"""
+
+import json
+import statistics
+import sys
+from collections import defaultdict
+from dataclasses import dataclass, field
+
+PRODUCT, INDEX, LIMIT = "quorin", "index", "limit"
+TITLES = {"openblas": "OpenBLAS"}
+
+# What a section of the results answers. A section without an entry here is shown under its own name.
+SECTIONS = {
+    "calls": ("The cost of a call", "One thread. \"Index adds\" is the time of the index form less that of the plain form."),
+    "blas": ("BLAS on square matrices of order n, and on vectors of length n", ""),
+}
+
+
+@dataclass
+class Side:
+    """One side of a group: the time of one call in each repetition, and the work of one call."""
+
+    work: float = 0
+    unit: str = ""
+    times: list = field(default_factory=list)
+
+    def median(self):
+        return statistics.median(self.times)
+
+    def rate(self):
+        """GFLOP/s or GB/s: times are in nanoseconds."""
+        return self.work / self.median()
+
+
+@dataclass(frozen=True, order=True)
+class Key:
+    section: str
+    operation: str
+    size: int
+    threads: int
+
+
+def read_groups(results):
+    groups = defaultdict(dict)
+    for run in results["benchmarks"]:
+        if run["run_type"] != "iteration":
+            continue
+        section, operation, size, threads, side = run["run_name"].split("/")[:5]
+        entry = groups[Key(section, operation, int(size), int(threads))].setdefault(side, Side())
+        entry.unit = "flop" if "flop" in run else "byte"
+        entry.work = run[entry.unit]
+        entry.times.append(run["real_time"] / run["calls"])
+    return groups
+
+
+def quartiles(values):
+    low, _, high = statistics.quantiles(values, n=4, method="inclusive")
+    return low, high
+
+
+def speed_ratio(side, other):
+    """How many times as fast `side` is as `other`, with its range."""
+    scale = (side.work or 1) / (other.work or 1)
+    ratio = scale * other.median() / side.median()
+    low, high = quartiles([scale * b / a for a in side.times for b in other.times])
+    return f"{ratio:.2f} ({low:.2f}-{high:.2f})"
+
+
+def added_time(side, other):
+    low, high = quartiles([a - b for a in side.times for b in other.times])
+    return f"{side.median() - other.median():+.1f} ({low:+.1f} to {high:+.1f})"
+
+
+def digits(value):
+    return f"{value:.0f}" if value >= 100 else f"{value:.3g}"
+
+
+def table(heads, rows):
+    lines = ["| " + " | ".join(heads) + " |", "|" + "---:|" * len(heads)]
+    lines += ["| " + " | ".join(row) + " |" for row in rows]
+    return "\n".join(lines)
+
+
+def title(side):
+    return TITLES.get(side, side)
+
+
+def peers_of(groups):
+    return sorted({side for sides in groups.values() for side in sides} - {PRODUCT, INDEX, LIMIT})
+
+
+def limits_table(groups):
+    kinds = list(dict.fromkeys(key.operation for key in groups))
+    threads = sorted({key.threads for key in groups})
+    rows = []
+    for kind in kinds:
+        sides = {key.threads: sides[LIMIT] for key, sides in groups.items() if key.operation == kind}
+        unit = "GFLOP/s" if next(iter(sides.values())).unit == "flop" else "GB/s"
+        rows.append([f"{kind.replace('-', ' ')}, {unit}"] + [digits(sides[t].rate()) if t in sides else "" for t in threads])
+    return table(["limit"] + [f"threads: {t}" for t in threads], rows)
+
+
+def calls_table(groups):
+    peers = peers_of(groups)
+    heads = ["operation", "n", "plain, ns", "index, ns", "index adds, ns", "index speed / plain"]
+    heads += [f"{title(peer)}, ns" for peer in peers] + [f"plain speed / {title(peer)}" for peer in peers]
+    rows = []
+    for key, sides in sorted(groups.items()):
+        plain, index = sides[PRODUCT], sides[INDEX]
+        row = [key.operation, str(key.size), digits(plain.median()), digits(index.median())]
+        row += [added_time(index, plain), speed_ratio(index, plain)]
+        row += [digits(sides[peer].median()) if peer in sides else "" for peer in peers]
+        row += [speed_ratio(plain, sides[peer]) if peer in sides else "" for peer in peers]
+        rows.append(row)
+    return table(heads, rows)
+
+
+def speed_columns(sides, peers):
+    product = sides[PRODUCT]
+    cells = [digits(product.rate())]
+    cells.append(f"{100 * product.rate() / sides[LIMIT].rate():.0f}" if LIMIT in sides else "")
+    return cells + [speed_ratio(product, sides[peer]) if peer in sides else "" for peer in peers]
+
+
+def speed_table(groups):
+    """One operation: a line for each size, columns for each number of threads."""
+    peers = peers_of(groups)
+    threads = sorted({key.threads for key in groups})
+    unit = "GFLOP/s" if next(iter(groups.values()))[PRODUCT].unit == "flop" else "GB/s"
+    heads = ["n"]
+    for count in threads:
+        of = f"{count} thread" + ("s" if count > 1 else "")
+        heads += [f"{of}: {unit}", "% of limit"] + [f"/ {title(peer)}" for peer in peers]
+    lines = defaultdict(dict)
+    for key, sides in groups.items():
+        lines[key.size][key.threads] = speed_columns(sides, peers)
+    empty = [""] * (2 + len(peers))
+    rows = [[str(size)] + sum((lines[size].get(t, empty) for t in threads), []) for size in sorted(lines)]
+    return table(heads, rows)
+
+
+def select(groups, **wanted):
+    return {key: sides for key, sides in groups.items() if all(getattr(key, name) == v for name, v in wanted.items())}
+
+
+def section_text(name, groups):
+    head, note = SECTIONS.get(name, (name, ""))
+    parts = [f"## {head}"] + ([note] if note else [])
+    if any(INDEX in sides for sides in groups.values()):
+        return "\n\n".join(parts + [calls_table(groups)])
+    for operation in dict.fromkeys(key.operation for key in groups):
+        parts += [f"### {operation}", speed_table(select(groups, operation=operation))]
+    return "\n\n".join(parts)
+
+
+def introduction(context):
+    peer = context.get("peer")
+    return "\n".join([
+        "# Benchmarks",
+        "",
+        "Written by `bench/run`; how to read, repeat and extend it: [bench/README.md](../bench/README.md).",
+        "",
+        f"- Target: {context['target']}",
+        f"- Processor: {context['processor']}, {context['num_cpus']} logical",
+        f"- Peer (OpenBLAS): {peer}" if peer else "- Peer: none was there. bench/README.md says how to build it.",
+        f"- Limits: measured beside each row with {context['limit']}",
+        f"- Other work on the machine: {context.get('load', 'unknown')}",
+        "",
+        "Ratios are speeds: above 1.00 ours is the faster one. In brackets is the range of the middle half of all ratios",
+        "between single repetitions. All sides of a row ran in one process, their repetitions in random order.",
+    ])
+
+
+def report(results):
+    groups = read_groups(results)
+    parts = [introduction(results["context"])]
+    for section in dict.fromkeys(key.section for key in groups):
+        of_section = select(groups, section=section)
+        if section == "limits":
+            parts.append("## What the cores can do\n\n" + limits_table(of_section))
+        else:
+            parts.append(section_text(section, of_section))
+    return "\n\n".join(parts) + "\n"
+
+
+def main():
+    if len(sys.argv) != 2:
+        sys.exit(__doc__)
+    with open(sys.argv[1], encoding="utf-8") as file:
+        sys.stdout.write(report(json.load(file)))
+
+
+if __name__ == "__main__":
+    main()
