@@ -7,6 +7,10 @@
 
 namespace quorin::dense {
 
+// Called at load, and at unload after all else.
+void start() noexcept;
+void stop() noexcept;
+
 // Frees the packing buffers that no running call uses. Safe at any time.
 void release_buffers() noexcept;
 

@@ -51,9 +51,8 @@ void run_parts(const char* operation, int total, int threads, const Part& part) 
 }
 
 int threads_for_matrix(int m, int n) {
-  if (base::in_parallel_region()) return 1;
   const double elements = static_cast<double>(m) * n;
-  if (elements < 2 * kElementsPerThread) return 1;
+  if (elements < 2 * kElementsPerThread || base::in_parallel_region()) return 1;
   return threads_for(elements, kElementsPerThread, base::region_threads(base::Domain::kBlas));
 }
 

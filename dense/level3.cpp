@@ -28,9 +28,8 @@ Pointer at(Pointer a, int lda, int row, int column) {
 
 template <Scalar T>
 int threads_for_work(double multiplications) {
-  if (base::in_parallel_region()) return 1;
   const double work = multiplications * (kIsComplex<T> ? 4 : 1);
-  if (work < 2 * kMultiplicationsPerThread) return 1;
+  if (work < 2 * kMultiplicationsPerThread || base::in_parallel_region()) return 1;
   return threads_for(work, kMultiplicationsPerThread, base::region_threads(base::Domain::kBlas));
 }
 

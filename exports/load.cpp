@@ -15,10 +15,12 @@ namespace quorin::platform {
 void on_load() noexcept {
   base::choose_allocator();
   base::start_parallel();
+  dense::start();
 }
 
 void on_unload() noexcept {
   if (base::allocator_is_mapped()) dense::release_buffers();
+  dense::stop();
   base::stop_parallel();
   __gnu_cxx::__freeres();
 }

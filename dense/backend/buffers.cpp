@@ -1,5 +1,6 @@
 #include "dense/backend/buffers.hpp"
 
+#include <atomic>
 #include <cstdint>
 #include <mutex>
 
@@ -8,12 +9,13 @@
 #include "platform/platform.hpp"
 
 namespace quorin::dense::backend {
-namespace {
 
 // Free buffers form a list through their own first bytes.
 struct FreeBuffer {
   FreeBuffer* following;
 };
+
+namespace {
 
 // The kernels want whole pages; right in front of them stands the address of the allocator's block.
 constexpr std::size_t kAlignment = 4096;
@@ -31,13 +33,32 @@ FreeBuffer* create_buffer() noexcept {
 
 class BufferPool {
  public:
+  // Takes a buffer for a caller that keeps it until `release`; null if there is no memory. Neither of the two locks
+  // while one host thread is at work.
+  FreeBuffer* acquire() noexcept {
+    if (FreeBuffer* const spare = spare_.exchange(nullptr)) return spare;
+    const std::lock_guard lock(mutex_);
+    if ((first_ == nullptr || free_count_ <= promised_) && !grow()) return nullptr;
+    return pop();
+  }
+
+  void release(FreeBuffer* buffer) noexcept {
+    FreeBuffer* none = nullptr;
+    if (spare_.compare_exchange_strong(none, buffer)) {
+      if (waiting_.load() == 0) return;
+      buffer = nullptr;  // somebody waits, and may not have seen the spare buffer
+    }
+    const std::lock_guard lock(mutex_);
+    recall_spare();
+    if (buffer != nullptr) push(buffer);
+    returned_.notify_one();
+  }
+
   // Makes sure that `wanted` more buffers are free than others have been promised; returns how many it could get.
   int reserve(int wanted) noexcept {
     const std::lock_guard lock(mutex_);
-    while (free_count_ - promised_ < wanted) {
-      FreeBuffer* const buffer = create_buffer();
-      if (buffer == nullptr) break;
-      push(buffer);
+    recall_spare();
+    while (free_count_ - promised_ < wanted && grow()) {
     }
     const int granted = free_count_ - promised_ < wanted ? free_count_ - promised_ : wanted;
     promised_ += granted;
@@ -52,39 +73,24 @@ class BufferPool {
   // For the dependency. A promise is consumed by taking and renewed by returning the buffer.
   void* take() noexcept {
     const std::lock_guard lock(mutex_);
-    while (first_ == nullptr) {
-      FreeBuffer* const buffer = create_buffer();
-      if (buffer != nullptr) {
-        push(buffer);
-      } else if (taken_ > 0) {
-        returned_.wait(mutex_);
-      } else {
-        platform::fail_assertion("memory for a BLAS buffer", __FILE__, __LINE__);
-      }
-    }
-    FreeBuffer* const buffer = first_;
-    first_ = buffer->following;
-    --free_count_;
-    ++taken_;
+    while (first_ == nullptr && !grow()) wait_for_buffer();
     --promised_;
-    return buffer;
+    return pop();
   }
 
   void put_back(void* memory) noexcept {
     const std::lock_guard lock(mutex_);
     push(static_cast<FreeBuffer*>(memory));
-    --taken_;
     ++promised_;
     returned_.notify_one();
   }
 
   void trim() noexcept {
     const std::lock_guard lock(mutex_);
+    recall_spare();
     while (first_ != nullptr && free_count_ > promised_) {
-      FreeBuffer* const buffer = first_;
-      first_ = buffer->following;
-      --free_count_;
-      base::release(block_of(buffer));
+      base::release(block_of(pop()));
+      --existing_;
     }
   }
 
@@ -95,28 +101,94 @@ class BufferPool {
     ++free_count_;
   }
 
+  FreeBuffer* pop() noexcept {
+    FreeBuffer* const buffer = first_;
+    first_ = buffer->following;
+    --free_count_;
+    return buffer;
+  }
+
+  bool grow() noexcept {
+    FreeBuffer* const buffer = create_buffer();
+    if (buffer == nullptr) return false;
+    push(buffer);
+    ++existing_;
+    return true;
+  }
+
+  void recall_spare() noexcept {
+    if (FreeBuffer* const spare = spare_.exchange(nullptr)) push(spare);
+  }
+
+  // Until some buffer may be free. `release` sees the announcement, or this sees what it left.
+  void wait_for_buffer() noexcept {
+    waiting_.fetch_add(1);
+    recall_spare();
+    if (first_ == nullptr) {
+      if (existing_ == 0) platform::fail_assertion("memory for a BLAS buffer", __FILE__, __LINE__);
+      returned_.wait(mutex_);
+    }
+    waiting_.fetch_sub(1);
+  }
+
+  // A buffer for the next caller, without the lock.
+  std::atomic<FreeBuffer*> spare_{nullptr};
+  std::atomic<int> waiting_{0};
+
+  // What follows is guarded by the lock.
   platform::Mutex mutex_;
   platform::ConditionVariable returned_;
   FreeBuffer* first_ = nullptr;
   int free_count_ = 0;
-  int taken_ = 0;
   int promised_ = 0;
+  int existing_ = 0;
 };
 
 constinit BufferPool pool;
+
+// The reservation of the calling thread that holds a buffer itself.
+constinit platform::ThreadSlot holder_slot;
+
+BufferReservation* holder() noexcept { return static_cast<BufferReservation*>(holder_slot.get()); }
 
 }  // namespace
 
 BufferReservation::BufferReservation(int wanted) noexcept {
   if (base::in_parallel_region()) {
     granted_ = 1;
-    return;
+  } else if (wanted > 1) {
+    promised_ = pool.reserve(wanted);
+    granted_ = promised_;
+  } else {
+    own_ = pool.acquire();
+    if (own_ == nullptr) return;
+    granted_ = 1;
+    outer_ = holder();
+    holder_slot.set(this);
   }
-  reserved_ = pool.reserve(wanted);
-  granted_ = reserved_;
 }
 
-BufferReservation::~BufferReservation() { pool.unreserve(reserved_); }
+BufferReservation::~BufferReservation() {
+  if (promised_ > 0) pool.unreserve(promised_);
+  if (own_ == nullptr) return;
+  holder_slot.set(outer_);
+  pool.release(own_);
+}
+
+void* BufferReservation::lend() noexcept {
+  if (own_is_lent_) return nullptr;
+  own_is_lent_ = true;
+  return own_;
+}
+
+bool BufferReservation::take_back(const void* buffer) noexcept {
+  if (buffer != own_) return false;
+  own_is_lent_ = false;
+  return true;
+}
+
+void start_buffers() noexcept { holder_slot.create(); }
+void stop_buffers() noexcept { holder_slot.destroy(); }
 
 void trim_buffers() noexcept { pool.trim(); }
 
@@ -125,8 +197,17 @@ extern "C" {
 void* blas_memory_alloc(int position);
 void blas_memory_free(void* buffer);
 
-void* blas_memory_alloc(int) { return pool.take(); }
-void blas_memory_free(void* buffer) { pool.put_back(buffer); }
+void* blas_memory_alloc(int) {
+  if (BufferReservation* const reservation = holder()) {
+    if (void* const buffer = reservation->lend()) return buffer;
+  }
+  return pool.take();
+}
+
+void blas_memory_free(void* buffer) {
+  BufferReservation* const reservation = holder();
+  if (reservation == nullptr || !reservation->take_back(buffer)) pool.put_back(buffer);
+}
 }
 
 }  // namespace quorin::dense::backend

@@ -17,8 +17,16 @@ inline constexpr std::size_t kBufferBytes = std::size_t{16} << 20;
 inline constexpr std::size_t kBufferBytes = std::size_t{128} << 20;
 #endif
 
+struct FreeBuffer;
+
+// Prepares and gives back the thread slot in which a call keeps its buffer; called at load and unload. Without the slot
+// all works, with more locking.
+void start_buffers() noexcept;
+void stop_buffers() noexcept;
+
 // Keeps up to `wanted` buffers ready for the dependency while it lives. Inside a parallel region it keeps none more:
-// the region's own reservation covers its threads.
+// the region's own reservation covers its threads. A single buffer is held at hand for the calling thread, so that
+// small operations need no lock.
 class BufferReservation {
  public:
   explicit BufferReservation(int wanted) noexcept;
@@ -29,9 +37,17 @@ class BufferReservation {
   // How many threads may call the dependency; 0 if there is no memory for a single one.
   int granted() const noexcept { return granted_; }
 
+  // The buffer held for this thread, unless it has been lent already.
+  void* lend() noexcept;
+  // Whether `buffer` is the one held, and thereby back.
+  bool take_back(const void* buffer) noexcept;
+
  private:
   int granted_ = 0;
-  int reserved_ = 0;
+  int promised_ = 0;
+  FreeBuffer* own_ = nullptr;
+  bool own_is_lent_ = false;
+  BufferReservation* outer_ = nullptr;
 };
 
 // Frees the buffers that no call has reserved. Safe at any time.
