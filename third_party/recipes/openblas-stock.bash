@@ -3,7 +3,7 @@
 # precision, CBLAS and LAPACK are left out to save time, all else is as it comes.
 version=0.3.21
 packages=openblas
-objects=1450
+objects=1814
 
 # The Windows thread server names block sizes of the precisions that are left out, in branches that then never run.
 prepare() {
