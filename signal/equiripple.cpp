@@ -1,0 +1,317 @@
+#include "signal/equiripple.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <cstring>
+#include <limits>
+#include <numbers>
+#include <numeric>
+
+#include "signal/exchange.hpp"
+#include "signal/linear_phase.hpp"
+#include "signal/precise_polynomial.hpp"
+
+namespace quorin::signal {
+namespace {
+
+using std::numbers::pi;
+
+constexpr int kFewestTaps = 3;
+
+// The hosts' doubles may lie on any multiple of 4 bytes.
+double load(const double* array, int i) {
+  double value;
+  std::memcpy(&value, array + i, sizeof value);
+  return value;
+}
+
+void store(double* array, int i, double value) { std::memcpy(array + i, &value, sizeof value); }
+
+bool is_valid(const DesignRequest& r) {
+  const bool type_known =
+      r.type >= static_cast<int>(ResponseType::kMultiband) && r.type <= static_cast<int>(ResponseType::kHilbert);
+  if (!type_known || r.taps < kFewestTaps || r.band_count < 1 || r.grid_density < 0 || r.most_iterations < 0)
+    return false;
+  if (r.taps > std::numeric_limits<int>::max() / 4 || r.band_count > std::numeric_limits<int>::max() / 4) return false;
+  double last = -1.0;
+  for (int i = 0; i < 2 * r.band_count; ++i) {
+    const double edge = load(r.edges, i);
+    if (!(edge > last && edge >= 0.0 && edge <= 0.5)) return false;
+    last = edge;
+  }
+  for (int b = 0; b < r.band_count; ++b) {
+    const double weight = load(r.weight, b);
+    if (!std::isfinite(load(r.desired, b)) || !(weight > 0.0) || !std::isfinite(weight)) return false;
+  }
+  return true;
+}
+
+// The bands in radians, cut where the form has a zero (see the header). A band keeps at least half its width.
+void set_bands(const DesignRequest& r, int grid_density, Problem& problem) {
+  const LinearPhase& form = problem.form;
+  const double step = pi / (static_cast<double>(grid_density) * (form.degree() + 1));
+  for (int b = 0; b < r.band_count; ++b) {
+    Band band{2 * pi * load(r.edges, 2 * b), 2 * pi * load(r.edges, 2 * b + 1), load(r.desired, b), load(r.weight, b),
+              false};
+    band.relative = r.type == static_cast<int>(ResponseType::kDifferentiator) && band.desired != 0.0;
+    const double cut = std::min(step, (band.upper - band.lower) / 4);
+    if (form.vanishes_at_zero() && !band.relative) band.lower = std::max(band.lower, cut);
+    if (form.vanishes_at_pi()) band.upper = std::min(band.upper, pi - cut);
+    problem.bands[b] = band;
+  }
+}
+
+// Errors below this are not told apart from the rounding of the response: some units in the last place of its size,
+// more the longer the sums are.
+double error_floor(const Problem& problem) {
+  double desired = 0.0, weight = 0.0;
+  for (int b = 0; b < problem.band_count(); ++b) {
+    desired = std::max(desired, std::abs(problem.bands[b].desired));
+    weight = std::max(weight, problem.bands[b].weight);
+  }
+  const double units = 32 + std::sqrt(static_cast<double>(problem.form.taps()));
+  return units * std::numeric_limits<double>::epsilon() * desired * weight;
+}
+
+class Designer {
+ public:
+  Designer(const Problem& problem, int pieces)
+      : problem_(problem),
+        degree_(problem.form.degree()),
+        floor_(error_floor(problem)),
+        exchange_(problem, degree_ + 2, pieces),
+        best_(static_cast<std::size_t>(degree_) + 2),
+        old_(static_cast<std::size_t>(degree_) + 2),
+        old_in_(problem.bands.size()),
+        width_(problem.bands.size()),
+        points_in_(problem.bands.size()) {}
+  explicit operator bool() const { return exchange_ && best_ && old_ && old_in_ && width_ && points_in_; }
+
+  Outcome run(int most_iterations);
+  bool write(double* h);
+
+ private:
+  // How a series of exchanges ended: at the tolerance, below the rounding of the response, or neither.
+  enum class Progress { kReached, kAtFloor, kStuck };
+
+  Progress iterate(int most_iterations, double tolerance);
+  Outcome settle_at_floor(int low, int high);
+  void remember_reference();
+  void apportion(int points, const base::Workspace<double>& share);
+  void start(int points);
+  void spread_evenly(int points);
+  void spread_like_remembered(int points);
+  void evaluate_best(double* response, int samples, const PrecisePolynomial& precise);
+  bool is_in_band(double t) const;
+
+  const Problem& problem_;
+  int degree_;
+  double floor_;
+  Exchange exchange_;
+  base::Workspace<Extremum> best_;
+  int best_count_ = 0;
+  double best_error_ = std::numeric_limits<double>::infinity();
+  // The reference of the last stage that came to its end: its points, and how many of them are in each band.
+  int remembered_ = 0;
+  base::Workspace<double> old_, old_in_;
+  base::Workspace<double> width_;
+  base::Workspace<int> points_in_;
+};
+
+// Divides `points` among the bands in proportion to their shares, every band getting one if there are enough.
+void Designer::apportion(int points, const base::Workspace<double>& share) {
+  const int bands = problem_.band_count();
+  const double total = std::accumulate(share.data(), share.data() + bands, 0.0);
+  double sum = 0.0;
+  int given = 0;
+  for (int b = 0; b < bands; ++b) {
+    sum += share[b];
+    const int up_to = b + 1 < bands ? static_cast<int>(std::lround(points * (sum / total))) : points;
+    points_in_[b] = up_to - given;
+    given = up_to;
+  }
+  for (int& here : points_in_) {
+    int& most = *std::max_element(points_in_.begin(), points_in_.end());
+    if (here > 0 || most < 2) continue;
+    here = 1;
+    --most;
+  }
+}
+
+void Designer::start(int points) {
+  if (remembered_ > 0) {
+    spread_like_remembered(points);
+  } else {
+    spread_evenly(points);
+  }
+}
+
+void Designer::spread_evenly(int points) {
+  const int bands = problem_.band_count();
+  for (int b = 0; b < bands; ++b) width_[b] = problem_.bands[b].upper - problem_.bands[b].lower;
+  apportion(points, width_);
+  exchange_.set_count(points);
+  int next = 0;
+  for (int b = 0; b < bands; ++b) {
+    const int count = points_in_[b];
+    for (int i = 0; i < count; ++i) {
+      const double u = count > 1 ? static_cast<double>(i) / (count - 1) : 0.5;
+      exchange_.set_point(next++, std::lerp(problem_.bands[b].lower, problem_.bands[b].upper, u), b);
+    }
+  }
+}
+
+void Designer::remember_reference() {
+  std::fill(old_in_.begin(), old_in_.end(), 0.0);
+  remembered_ = exchange_.count();
+  for (int i = 0; i < remembered_; ++i) {
+    old_[i] = exchange_.point(i).t;
+    old_in_[exchange_.point(i).band] += 1.0;
+  }
+}
+
+// As many points in each band in proportion as were remembered, and dense where those are dense.
+void Designer::spread_like_remembered(int points) {
+  apportion(points, old_in_);
+  exchange_.set_count(points);
+  int next = 0;
+  const double* old = old_.data();
+  for (int b = 0; b < problem_.band_count(); ++b) {
+    const Band& band = problem_.bands[b];
+    const int count = points_in_[b];
+    const int old_count = static_cast<int>(old_in_[b]);
+    for (int i = 0; i < count; ++i) {
+      const double u = count > 1 ? static_cast<double>(i) / (count - 1) : 0.5;
+      if (old_count < 2) {
+        exchange_.set_point(next++, std::lerp(band.lower, band.upper, u), b);
+        continue;
+      }
+      const double place = u * (old_count - 1);
+      const int left = std::min(static_cast<int>(place), old_count - 2);
+      exchange_.set_point(next++, std::lerp(old[left], old[left + 1], place - left), b);
+    }
+    old += old_count;
+  }
+}
+
+// The best polynomial of all stages is kept; one of lower degree is as good as any.
+Designer::Progress Designer::iterate(int most_iterations, double tolerance) {
+  constexpr int kMostAtFloor = 5;
+  int at_floor = 0;
+  for (int i = 0; i < most_iterations; ++i) {
+    if (!exchange_.level() || !exchange_.find_extrema()) break;
+    const double leveled = std::abs(exchange_.leveled_error());
+    const double largest = exchange_.largest_error();
+    if (largest < best_error_) {
+      best_error_ = largest;
+      best_count_ = exchange_.count();
+      for (int j = 0; j < best_count_; ++j) best_[j] = exchange_.point(j);
+    }
+    if (largest - leveled <= std::max(tolerance * largest, floor_)) return Progress::kReached;
+    at_floor = leveled > floor_ ? 0 : at_floor + 1;
+    if (at_floor == kMostAtFloor) return Progress::kAtFloor;
+    exchange_.exchange();
+  }
+  return at_floor > 0 ? Progress::kAtFloor : Progress::kStuck;
+}
+
+constexpr int kStageIterations = 20;
+constexpr double kStageTolerance = 1e-2;
+
+// Each stage starts from the reference of a design of half the degree, whose extrema lie where its own will, only half
+// as dense; the first from an even spread.
+Outcome Designer::run(int most_iterations) {
+  constexpr int kSmallDegree = 16;
+  constexpr double kTolerance = 1e-9;
+  int halvings = 0;
+  while ((degree_ >> halvings) > kSmallDegree) ++halvings;
+  for (int before = 0; halvings >= 0; --halvings) {
+    const int degree = degree_ >> halvings;
+    start(degree + 2);
+    const bool last = halvings == 0;
+    const Progress progress = last ? iterate(most_iterations, kTolerance) : iterate(kStageIterations, kStageTolerance);
+    if (best_error_ <= floor_ || (last && progress == Progress::kReached)) return Outcome::kConverged;
+    if (progress == Progress::kAtFloor) return settle_at_floor(before, degree);
+    if (progress == Progress::kReached) remember_reference();
+    before = degree;
+  }
+  return Outcome::kNotConverged;
+}
+
+// The least error of degree `high` cannot be told from rounding, and exchanges lead nowhere. A polynomial of lower
+// degree will do: looks for the highest one whose error is not lost in rounding.
+Outcome Designer::settle_at_floor(int low, int high) {
+  constexpr double kNearFloor = 100;
+  while (high - low > 1 && best_error_ > floor_) {
+    const int degree = low + (high - low) / 2;
+    start(degree + 2);
+    if (iterate(kStageIterations, kStageTolerance) == Progress::kReached) {
+      remember_reference();
+      low = degree;
+    } else {
+      high = degree;
+    }
+  }
+  return best_error_ <= kNearFloor * floor_ ? Outcome::kConverged : Outcome::kNotConverged;
+}
+
+bool Designer::is_in_band(double t) const {
+  for (int b = 0; b < problem_.band_count(); ++b) {
+    if (problem_.bands[b].lower <= t && t <= problem_.bands[b].upper) return true;
+  }
+  return false;
+}
+
+// The response A of the best polynomial at the frequencies k / taps.
+void Designer::evaluate_best(double* response, int samples, const PrecisePolynomial& precise) {
+  const LinearPhase& form = problem_.form;
+  exchange_.set_count(best_count_);
+  for (int i = 0; i < best_count_; ++i) exchange_.set_point(i, best_[i].t, best_[i].band);
+  exchange_.level();
+  for (int begin = 0; begin < samples; begin += kLanes) {
+    double x[kLanes], value[kLanes];
+    for (int l = 0; l < kLanes; ++l) x[l] = std::cos(2 * pi * (begin + l) / form.taps());
+    exchange_.polynomial().evaluate(x, value);
+    for (int l = 0; l < kLanes && begin + l < samples; ++l) {
+      const double t = 2 * pi * (begin + l) / form.taps();
+      response[begin + l] = form.factor(t) * (is_in_band(t) ? value[l] : precise.evaluate(x[l]));
+    }
+  }
+}
+
+// False, with nothing written, if there is no memory.
+bool Designer::write(double* h) {
+  const auto taps = static_cast<std::size_t>(problem_.form.taps());
+  const std::size_t samples = taps / 2 + 1;
+  base::Workspace<double> response(samples), table(2 * taps), filter(taps);
+  PrecisePolynomial precise(static_cast<std::size_t>(best_count_));
+  if (!response || !table || !filter || !precise) return false;
+  precise.level(problem_, best_.data(), best_count_);
+  evaluate_best(response.data(), static_cast<int>(samples), precise);
+  problem_.form.taps_from_response(response.data(), table.data(), filter.data());
+  for (std::size_t i = 0; i < taps; ++i) store(h, static_cast<int>(i), filter[i]);
+  return true;
+}
+
+}  // namespace
+
+Outcome design_equiripple(const DesignRequest& request, double* h) noexcept {
+  if (!is_valid(request)) return Outcome::kBadInput;
+  const int grid_density = request.grid_density == 0 ? kDefaultGridDensity : request.grid_density;
+  const int most_iterations = request.most_iterations == 0 ? kDefaultIterations : request.most_iterations;
+  const bool antisymmetric = request.type != static_cast<int>(ResponseType::kMultiband);
+
+  Problem problem{LinearPhase(request.taps, antisymmetric),
+                  base::Workspace<Band>(static_cast<std::size_t>(request.band_count))};
+  if (!problem.bands) return Outcome::kNoMemory;
+  set_bands(request, grid_density, problem);
+
+  constexpr int kMostPieces = 64;
+  Designer designer(problem, std::clamp(grid_density / kDefaultGridDensity, 1, kMostPieces));
+  if (!designer) return Outcome::kNoMemory;
+  const Outcome outcome = designer.run(most_iterations);
+  return designer.write(h) ? outcome : Outcome::kNoMemory;
+}
+
+}  // namespace quorin::signal

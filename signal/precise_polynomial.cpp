@@ -1,0 +1,71 @@
+#include "signal/precise_polynomial.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+namespace quorin::signal {
+namespace {
+
+constexpr DoubleDouble kOne{1.0, 0.0};
+
+DoubleDouble scale(DoubleDouble a, int power) { return {std::ldexp(a.high, power), std::ldexp(a.low, power)}; }
+
+}  // namespace
+
+// As Barycentric::set_nodes. The differences of the nodes are exact.
+void PrecisePolynomial::set_weights() {
+  constexpr int kBetweenScalings = 8;
+  int least = 0;
+  for (int i = 0; i < count_; ++i) {
+    DoubleDouble product = kOne;
+    int total = 0;
+    for (int begin = 0; begin < count_; begin += kBetweenScalings) {
+      const int end = std::min(begin + kBetweenScalings, count_);
+      for (int j = begin; j < end; ++j) {
+        if (j != i) product = product * exact_sum(2 * x_[i], -2 * x_[j]);
+      }
+      int power = 0;
+      std::frexp(product.high, &power);
+      product = scale(product, -power);
+      total += power;
+    }
+    weight_[i] = kOne / product;
+    exponent_[i] = total;
+    if (i == 0 || total < least) least = total;
+  }
+  for (int i = 0; i < count_; ++i) weight_[i] = scale(weight_[i], least - exponent_[i]);
+}
+
+void PrecisePolynomial::level(const Problem& problem, const Extremum* points, int count) {
+  count_ = count;
+  for (int i = 0; i < count; ++i) x_[i] = std::cos(points[i].t);
+  set_weights();
+
+  const auto shape = [&](int i) { return problem.shape(points[i].t, problem.bands[points[i].band]); };
+  const auto band = [&](int i) -> const Band& { return problem.bands[points[i].band]; };
+  const auto target = [&](int i) { return DoubleDouble{band(i).desired, 0.0} / DoubleDouble{shape(i), 0.0}; };
+  const auto scatter = [&](int i) {  // s(i) / (W(i) S(i))
+    return DoubleDouble{i % 2 == 0 ? 1.0 : -1.0, 0.0} / exact_product(band(i).weight, shape(i));
+  };
+  DoubleDouble numerator{}, denominator{};
+  for (int i = 0; i < count; ++i) {
+    numerator = numerator + weight_[i] * target(i);
+    denominator = denominator + weight_[i] * scatter(i);
+  }
+  const DoubleDouble leveled = numerator / denominator;
+  for (int i = 0; i < count; ++i) value_[i] = target(i) - leveled * scatter(i);
+}
+
+double PrecisePolynomial::evaluate(double x) const {
+  DoubleDouble numerator{}, denominator{};
+  for (int i = 0; i < count_; ++i) {
+    const DoubleDouble difference = exact_sum(x, -x_[i]);
+    if (difference.high == 0.0) return value_[i].high;
+    const DoubleDouble term = weight_[i] / difference;
+    numerator = numerator + term * value_[i];
+    denominator = denominator + term;
+  }
+  return (numerator / denominator).high;
+}
+
+}  // namespace quorin::signal
