@@ -31,8 +31,7 @@ void store(double* array, int i, double value) { std::memcpy(array + i, &value, 
 bool is_valid(const DesignRequest& r) {
   const bool type_known =
       r.type >= static_cast<int>(ResponseType::kMultiband) && r.type <= static_cast<int>(ResponseType::kHilbert);
-  if (!type_known || r.taps < kFewestTaps || r.band_count < 1 || r.grid_density < 0 || r.most_iterations < 0)
-    return false;
+  if (!type_known || r.taps < kFewestTaps || r.band_count < 1 || r.most_iterations < 0) return false;
   if (r.taps > std::numeric_limits<int>::max() / 4 || r.band_count > std::numeric_limits<int>::max() / 4) return false;
   double last = -1.0;
   for (int i = 0; i < 2 * r.band_count; ++i) {
@@ -48,70 +47,109 @@ bool is_valid(const DesignRequest& r) {
 }
 
 // The bands in radians, cut where the form has a zero (see the header). A band keeps at least half its width.
-void set_bands(const DesignRequest& r, int grid_density, Problem& problem) {
+void set_bands(const DesignRequest& r, Problem& problem) {
   const LinearPhase& form = problem.form;
-  const double step = pi / (static_cast<double>(grid_density) * (form.degree() + 1));
+  const int density = r.grid_density == 0 ? kDefaultGridDensity : std::abs(r.grid_density);
+  const bool on_grid = r.grid_density < 0;
+  const double step = pi / (static_cast<double>(density) * (form.degree() + 1));
+  if (on_grid) problem.grid_step = step;
   for (int b = 0; b < r.band_count; ++b) {
     Band band{2 * pi * load(r.edges, 2 * b), 2 * pi * load(r.edges, 2 * b + 1), load(r.desired, b), load(r.weight, b),
               false};
     band.relative = r.type == static_cast<int>(ResponseType::kDifferentiator) && band.desired != 0.0;
     const double cut = std::min(step, (band.upper - band.lower) / 4);
-    if (form.vanishes_at_zero() && !band.relative) band.lower = std::max(band.lower, cut);
-    if (form.vanishes_at_pi()) band.upper = std::min(band.upper, pi - cut);
+    if (form.vanishes_at_zero() && (on_grid || !band.relative)) band.lower = std::max(band.lower, cut);
+    if (form.vanishes_at_pi() && band.upper > pi - cut) {
+      band.upper = on_grid ? problem.grid_point(band, problem.grid_points(band) - 2) : pi - cut;
+    }
     problem.bands[b] = band;
   }
 }
 
-// Errors below this are not told apart from the rounding of the response: some units in the last place of its size,
-// more the longer the sums are.
-double error_floor(const Problem& problem) {
-  double desired = 0.0, weight = 0.0;
-  for (int b = 0; b < problem.band_count(); ++b) {
-    desired = std::max(desired, std::abs(problem.bands[b].desired));
-    weight = std::max(weight, problem.bands[b].weight);
-  }
-  const double units = 32 + std::sqrt(static_cast<double>(problem.form.taps()));
-  return units * std::numeric_limits<double>::epsilon() * desired * weight;
+// Into how many parts the search divides the space between reference points. On a grid there are no parts, but as many
+// candidates as grid points.
+int search_pieces(int grid_density) {
+  constexpr int kMostPieces = 1 << 12;
+  const int per_piece = grid_density < 0 ? -kSamples : kDefaultGridDensity;
+  return std::clamp(grid_density / per_piece + (grid_density < 0 ? 1 : 0), 1, kMostPieces);
 }
+
+// Rounding in the response, relative to its size and times the largest weight: of what is computed inside the bands,
+// where the sums are long, and of what is left when the coefficients are rounded.
+struct Rounding {
+  explicit Rounding(const Problem& problem) {
+    for (int b = 0; b < problem.band_count(); ++b) {
+      desired = std::max(desired, std::abs(problem.bands[b].desired));
+      weight = std::max(weight, problem.bands[b].weight);
+    }
+    const double units = 32 + std::sqrt(static_cast<double>(problem.form.taps()));
+    computation = units * kEpsilon * desired * weight;
+  }
+  // `peak` is the largest response between the bands.
+  double of_coefficients(double peak) const { return 4 * kEpsilon * weight * std::max(desired, peak); }
+
+  static constexpr double kEpsilon = std::numeric_limits<double>::epsilon();
+  double desired = 0.0, weight = 0.0;
+  double computation;
+};
+
+// A reference and the largest error of its polynomial.
+struct Candidate {
+  explicit Candidate(std::size_t capacity) : points(capacity) {}
+  void take(const Exchange& exchange, double largest_error) {
+    error = largest_error;
+    count = exchange.count();
+    for (int i = 0; i < count; ++i) points[i] = exchange.point(i);
+  }
+  double error = std::numeric_limits<double>::infinity();
+  int count = 0;
+  base::Workspace<Extremum> points;
+};
 
 class Designer {
  public:
   Designer(const Problem& problem, int pieces)
       : problem_(problem),
         degree_(problem.form.degree()),
-        floor_(error_floor(problem)),
+        rounding_(problem),
         exchange_(problem, degree_ + 2, pieces),
-        best_(static_cast<std::size_t>(degree_) + 2),
-        old_(static_cast<std::size_t>(degree_) + 2),
+        precise_(points_at_most()),
+        stage_(points_at_most()),
+        best_(points_at_most()),
+        old_(points_at_most()),
         old_in_(problem.bands.size()),
         width_(problem.bands.size()),
         points_in_(problem.bands.size()) {}
-  explicit operator bool() const { return exchange_ && best_ && old_ && old_in_ && width_ && points_in_; }
+  explicit operator bool() const {
+    return exchange_ && precise_ && stage_.points && best_.points && old_ && old_in_ && width_ && points_in_;
+  }
 
   Outcome run(int most_iterations);
   bool write(double* h);
 
  private:
-  // How a series of exchanges ended: at the tolerance, below the rounding of the response, or neither.
+  // How a stage ended: at the tolerance, with errors that are lost in rounding, or neither.
   enum class Progress { kReached, kAtFloor, kStuck };
 
+  std::size_t points_at_most() const { return static_cast<std::size_t>(degree_) + 2; }
+  Progress run_stage(int degree, int most_iterations, double tolerance);
   Progress iterate(int most_iterations, double tolerance);
   Outcome settle_at_floor(int low, int high);
+  double peak_between_bands() const;
   void remember_reference();
   void apportion(int points, const base::Workspace<double>& share);
   void start(int points);
   void spread_evenly(int points);
   void spread_like_remembered(int points);
-  void evaluate_best(double* response, int samples, const PrecisePolynomial& precise);
+  void evaluate_best(double* response, int samples);
   bool is_in_band(double t) const;
 
   const Problem& problem_;
   int degree_;
-  double floor_;
+  Rounding rounding_;
   Exchange exchange_;
-  base::Workspace<Extremum> best_;
-  int best_count_ = 0;
-  double best_error_ = std::numeric_limits<double>::infinity();
+  PrecisePolynomial precise_;
+  Candidate stage_, best_;
   // The reference of the last stage that came to its end: its points, and how many of them are in each band.
   int remembered_ = 0;
   base::Workspace<double> old_, old_in_;
@@ -145,6 +183,7 @@ void Designer::start(int points) {
   } else {
     spread_evenly(points);
   }
+  if (problem_.grid_step > 0) exchange_.move_to_grid();
 }
 
 void Designer::spread_evenly(int points) {
@@ -195,7 +234,22 @@ void Designer::spread_like_remembered(int points) {
   }
 }
 
-// The best polynomial of all stages is kept; one of lower degree is as good as any.
+// The largest response between the bands, where nothing holds it, from a few samples.
+double Designer::peak_between_bands() const {
+  constexpr int kPoints = 8;
+  double peak = 0.0, from = 0.0;
+  for (int b = 0; b <= problem_.band_count(); ++b) {
+    const double to = b < problem_.band_count() ? problem_.bands[b].lower : pi;
+    for (int i = 0; i < kPoints && from < to; ++i) {
+      const double t = std::lerp(from, to, (i + 0.5) / kPoints);
+      peak = std::max(peak, std::abs(problem_.form.factor(t) * precise_.evaluate(std::cos(t))));
+    }
+    if (b < problem_.band_count()) from = problem_.bands[b].upper;
+  }
+  return peak;
+}
+
+// Exchanges until the largest and the leveled error agree to the tolerance. The best reference of the stage is kept.
 Designer::Progress Designer::iterate(int most_iterations, double tolerance) {
   constexpr int kMostAtFloor = 5;
   int at_floor = 0;
@@ -203,17 +257,37 @@ Designer::Progress Designer::iterate(int most_iterations, double tolerance) {
     if (!exchange_.level() || !exchange_.find_extrema()) break;
     const double leveled = std::abs(exchange_.leveled_error());
     const double largest = exchange_.largest_error();
-    if (largest < best_error_) {
-      best_error_ = largest;
-      best_count_ = exchange_.count();
-      for (int j = 0; j < best_count_; ++j) best_[j] = exchange_.point(j);
-    }
-    if (largest - leveled <= std::max(tolerance * largest, floor_)) return Progress::kReached;
-    at_floor = leveled > floor_ ? 0 : at_floor + 1;
+    if (largest < stage_.error) stage_.take(exchange_, largest);
+    if (largest - leveled <= std::max(tolerance * largest, rounding_.computation)) return Progress::kReached;
+    at_floor = leveled > rounding_.computation ? 0 : at_floor + 1;
     if (at_floor == kMostAtFloor) return Progress::kAtFloor;
     exchange_.exchange();
   }
   return at_floor > 0 ? Progress::kAtFloor : Progress::kStuck;
+}
+
+// One stage from start to end, at the given degree. The best reference of all stages is kept: a polynomial of lower
+// degree is as good as any. Where errors are small the coefficients' rounding counts, too.
+Designer::Progress Designer::run_stage(int degree, int most_iterations, double tolerance) {
+  constexpr double kSmall = 1e4;
+  start(degree + 2);
+  stage_.error = std::numeric_limits<double>::infinity();
+  const Progress progress = iterate(most_iterations, tolerance);
+  if (!std::isfinite(stage_.error)) return progress;
+
+  double rounding = rounding_.computation;
+  if (stage_.error < kSmall * rounding_.computation) {
+    precise_.level(problem_, stage_.points.data(), stage_.count);
+    rounding = std::max(rounding, rounding_.of_coefficients(peak_between_bands()));
+  }
+  if (stage_.error + rounding < best_.error) {
+    stage_.points.swap(best_.points);
+    best_.count = stage_.count;
+    best_.error = stage_.error + rounding;
+  }
+  if (progress != Progress::kReached) return progress;
+  remember_reference();
+  return stage_.error <= rounding ? Progress::kAtFloor : Progress::kReached;
 }
 
 constexpr int kStageIterations = 20;
@@ -226,34 +300,36 @@ Outcome Designer::run(int most_iterations) {
   constexpr double kTolerance = 1e-9;
   int halvings = 0;
   while ((degree_ >> halvings) > kSmallDegree) ++halvings;
-  for (int before = 0; halvings >= 0; --halvings) {
+  for (int before = -1; halvings > 0; --halvings) {
     const int degree = degree_ >> halvings;
-    start(degree + 2);
-    const bool last = halvings == 0;
-    const Progress progress = last ? iterate(most_iterations, kTolerance) : iterate(kStageIterations, kStageTolerance);
-    if (best_error_ <= floor_ || (last && progress == Progress::kReached)) return Outcome::kConverged;
-    if (progress == Progress::kAtFloor) return settle_at_floor(before, degree);
-    if (progress == Progress::kReached) remember_reference();
+    if (run_stage(degree, kStageIterations, kStageTolerance) == Progress::kAtFloor)
+      return settle_at_floor(before, degree);
     before = degree;
+  }
+  switch (run_stage(degree_, most_iterations, kTolerance)) {
+    case Progress::kReached:
+      return Outcome::kConverged;
+    case Progress::kAtFloor:
+      return settle_at_floor(degree_ / 2, degree_);
+    case Progress::kStuck:
+      break;
   }
   return Outcome::kNotConverged;
 }
 
-// The least error of degree `high` cannot be told from rounding, and exchanges lead nowhere. A polynomial of lower
-// degree will do: looks for the highest one whose error is not lost in rounding.
+// The least error of degree `high` is lost in rounding, and exchanges lead nowhere. A polynomial of lower degree will
+// do, and better if it is smaller between the bands: looks for the highest degree whose error is not lost.
 Outcome Designer::settle_at_floor(int low, int high) {
-  constexpr double kNearFloor = 100;
-  while (high - low > 1 && best_error_ > floor_) {
+  constexpr double kNearRounding = 100;
+  while (high - low > 1 && best_.error > 2 * rounding_.computation) {
     const int degree = low + (high - low) / 2;
-    start(degree + 2);
-    if (iterate(kStageIterations, kStageTolerance) == Progress::kReached) {
-      remember_reference();
+    if (run_stage(degree, kStageIterations, kStageTolerance) == Progress::kReached) {
       low = degree;
     } else {
       high = degree;
     }
   }
-  return best_error_ <= kNearFloor * floor_ ? Outcome::kConverged : Outcome::kNotConverged;
+  return best_.error <= kNearRounding * rounding_.computation ? Outcome::kConverged : Outcome::kNotConverged;
 }
 
 bool Designer::is_in_band(double t) const {
@@ -264,10 +340,11 @@ bool Designer::is_in_band(double t) const {
 }
 
 // The response A of the best polynomial at the frequencies k / taps.
-void Designer::evaluate_best(double* response, int samples, const PrecisePolynomial& precise) {
+void Designer::evaluate_best(double* response, int samples) {
   const LinearPhase& form = problem_.form;
-  exchange_.set_count(best_count_);
-  for (int i = 0; i < best_count_; ++i) exchange_.set_point(i, best_[i].t, best_[i].band);
+  precise_.level(problem_, best_.points.data(), best_.count);
+  exchange_.set_count(best_.count);
+  for (int i = 0; i < best_.count; ++i) exchange_.set_point(i, best_.points[i].t, best_.points[i].band);
   exchange_.level();
   for (int begin = 0; begin < samples; begin += kLanes) {
     double x[kLanes], value[kLanes];
@@ -275,7 +352,7 @@ void Designer::evaluate_best(double* response, int samples, const PrecisePolynom
     exchange_.polynomial().evaluate(x, value);
     for (int l = 0; l < kLanes && begin + l < samples; ++l) {
       const double t = 2 * pi * (begin + l) / form.taps();
-      response[begin + l] = form.factor(t) * (is_in_band(t) ? value[l] : precise.evaluate(x[l]));
+      response[begin + l] = form.factor(t) * (is_in_band(t) ? value[l] : precise_.evaluate(x[l]));
     }
   }
 }
@@ -285,10 +362,8 @@ bool Designer::write(double* h) {
   const auto taps = static_cast<std::size_t>(problem_.form.taps());
   const std::size_t samples = taps / 2 + 1;
   base::Workspace<double> response(samples), table(2 * taps), filter(taps);
-  PrecisePolynomial precise(static_cast<std::size_t>(best_count_));
-  if (!response || !table || !filter || !precise) return false;
-  precise.level(problem_, best_.data(), best_count_);
-  evaluate_best(response.data(), static_cast<int>(samples), precise);
+  if (!response || !table || !filter) return false;
+  evaluate_best(response.data(), static_cast<int>(samples));
   problem_.form.taps_from_response(response.data(), table.data(), filter.data());
   for (std::size_t i = 0; i < taps; ++i) store(h, static_cast<int>(i), filter[i]);
   return true;
@@ -298,17 +373,15 @@ bool Designer::write(double* h) {
 
 Outcome design_equiripple(const DesignRequest& request, double* h) noexcept {
   if (!is_valid(request)) return Outcome::kBadInput;
-  const int grid_density = request.grid_density == 0 ? kDefaultGridDensity : request.grid_density;
   const int most_iterations = request.most_iterations == 0 ? kDefaultIterations : request.most_iterations;
   const bool antisymmetric = request.type != static_cast<int>(ResponseType::kMultiband);
 
   Problem problem{LinearPhase(request.taps, antisymmetric),
                   base::Workspace<Band>(static_cast<std::size_t>(request.band_count))};
   if (!problem.bands) return Outcome::kNoMemory;
-  set_bands(request, grid_density, problem);
+  set_bands(request, problem);
 
-  constexpr int kMostPieces = 64;
-  Designer designer(problem, std::clamp(grid_density / kDefaultGridDensity, 1, kMostPieces));
+  Designer designer(problem, search_pieces(request.grid_density));
   if (!designer) return Outcome::kNoMemory;
   const Outcome outcome = designer.run(most_iterations);
   return designer.write(h) ? outcome : Outcome::kNoMemory;

@@ -30,6 +30,20 @@ Exchange::Exchange(const Problem& problem, int most, int pieces)
       reference_(static_cast<std::size_t>(most)),
       candidates_(most_candidates(most, problem.band_count(), pieces)) {}
 
+void Exchange::move_to_grid() {
+  for (int first = 0, last = 0; first < count_; first = last) {
+    while (last < count_ && reference_[last].band == reference_[first].band) ++last;
+    const Band& in = band(reference_[first].band);
+    const int points = problem_.grid_points(in);
+    int before = -1;
+    for (int i = first; i < last; ++i) {
+      const int nearest = static_cast<int>(std::lround((reference_[i].t - in.lower) / problem_.grid_step));
+      before = std::min(std::max(nearest, before + 1), std::max(0, points - (last - i)));
+      reference_[i].t = problem_.grid_point(in, before);
+    }
+  }
+}
+
 // With the values y(i) = D(i)/S(i) - s(i) d / (W(i) S(i)), s(i) = 1, -1, 1, ..., at n + 2 nodes there is a polynomial
 // of degree n if the divided difference sum w(i) y(i) vanishes:
 //
@@ -64,7 +78,13 @@ bool Exchange::level() {
 bool Exchange::find_extrema() {
   candidate_count_ = 0;
   int next = 0;
-  for (int b = 0; b < problem_.band_count(); ++b) search_band(b, next);
+  for (int b = 0; b < problem_.band_count(); ++b) {
+    if (problem_.grid_step > 0) {
+      search_grid(b, next);
+    } else {
+      search_band(b, next);
+    }
+  }
   return evaluate_candidates();
 }
 
@@ -102,6 +122,15 @@ void Exchange::search_piece(int b, double from, double to) {
   }
   const int found = critical_points_.find(errors, zeros);
   for (int i = 0; i < found; ++i) add({middle + half * zeros[i], 0.0, b, false});
+}
+
+void Exchange::search_grid(int b, int& next) {
+  const int points = problem_.grid_points(band(b));
+  for (int i = 0; i < points; ++i) {
+    const double t = problem_.grid_point(band(b), i);
+    const bool in_reference = next < count_ && reference_[next].band == b && reference_[next].t == t;
+    add(in_reference ? reference_[next++] : Extremum{t, 0.0, b, false});
+  }
 }
 
 bool Exchange::evaluate_candidates() {

@@ -41,6 +41,7 @@ class Exchange {
   // The reference, in ascending order; errors are not read.
   void set_count(int count) { count_ = count; }
   void set_point(int i, double t, int band) { reference_[i] = {t, 0.0, band, false}; }
+  void move_to_grid();  // different points stay different, if their band's grid has as many
 
   // Finds P that has the same error with alternating signs at all reference points. False if two of the points cannot
   // be told apart or the error is not a number.
@@ -61,6 +62,7 @@ class Exchange {
   void search_band(int b, int& next);
   void search_interval(int b, double from, double to);
   void search_piece(int b, double from, double to);
+  void search_grid(int b, int& next);
   void add(const Extremum& candidate) { candidates_[candidate_count_++] = candidate; }
   bool evaluate_candidates();
   int alternating_candidates();

@@ -1,5 +1,6 @@
 #include "signal/linear_phase.hpp"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -55,6 +56,14 @@ void LinearPhase::taps_from_response(const double* response, double* table, doub
 double Problem::shape(double t, const Band& band) const {
   if (!band.relative) return form.factor(t);
   return 2 * pi * (t == 0.0 ? form.slope_at_zero() : form.factor(t) / t);
+}
+
+int Problem::grid_points(const Band& band) const {
+  return std::max(2, 1 + static_cast<int>((band.upper - band.lower) / grid_step * (1 + 1e-12)));
+}
+
+double Problem::grid_point(const Band& band, int i) const {
+  return i + 1 < grid_points(band) ? band.lower + i * grid_step : band.upper;
 }
 
 }  // namespace quorin::signal

@@ -49,8 +49,13 @@ struct Band {
 struct Problem {
   LinearPhase form;
   base::Workspace<Band> bands;
+  double grid_step = 0.0;  // if positive, only lower + k grid_step and upper of each band count
   int band_count() const { return static_cast<int>(bands.size()); }
   double shape(double t, const Band& band) const;  // S(t)
+
+  // The grid of a band: its first point is lower, and its last upper, in place of the last step that fits.
+  int grid_points(const Band& band) const;
+  double grid_point(const Band& band, int i) const;
 };
 
 }  // namespace quorin::signal
