@@ -31,7 +31,8 @@ void store(double* array, int i, double value) { std::memcpy(array + i, &value, 
 bool is_valid(const DesignRequest& r) {
   const bool type_known =
       r.type >= static_cast<int>(ResponseType::kMultiband) && r.type <= static_cast<int>(ResponseType::kHilbert);
-  if (!type_known || r.taps < kFewestTaps || r.band_count < 1 || r.most_iterations < 0) return false;
+  if (!type_known || r.taps < kFewestTaps || r.band_count < 1 || r.most_iterations < 0 || r.grid_density < -kFinestGrid)
+    return false;
   if (r.taps > std::numeric_limits<int>::max() / 4 || r.band_count > std::numeric_limits<int>::max() / 4) return false;
   double last = -1.0;
   for (int i = 0; i < 2 * r.band_count; ++i) {
@@ -46,6 +47,9 @@ bool is_valid(const DesignRequest& r) {
   return true;
 }
 
+// So near to it a band reaches a zero of the form.
+constexpr double kAtZero = 1e-6;
+
 // The bands in radians, cut where the form has a zero (see the header). A band keeps at least half its width.
 void set_bands(const DesignRequest& r, Problem& problem) {
   const LinearPhase& form = problem.form;
@@ -58,8 +62,9 @@ void set_bands(const DesignRequest& r, Problem& problem) {
               false};
     band.relative = r.type == static_cast<int>(ResponseType::kDifferentiator) && band.desired != 0.0;
     const double cut = std::min(step, (band.upper - band.lower) / 4);
-    if (form.vanishes_at_zero() && (on_grid || !band.relative)) band.lower = std::max(band.lower, cut);
-    if (form.vanishes_at_pi() && band.upper > pi - cut) {
+    const double margin = on_grid ? cut : kAtZero;
+    if (form.vanishes_at_zero() && (on_grid || !band.relative) && band.lower < margin) band.lower = cut;
+    if (form.vanishes_at_pi() && band.upper > pi - margin) {
       band.upper = on_grid ? problem.grid_point(band, problem.grid_points(band) - 2) : pi - cut;
     }
     problem.bands[b] = band;
@@ -69,9 +74,9 @@ void set_bands(const DesignRequest& r, Problem& problem) {
 // Into how many parts the search divides the space between reference points. On a grid there are no parts, but as many
 // candidates as grid points.
 int search_pieces(int grid_density) {
-  constexpr int kMostPieces = 1 << 12;
-  const int per_piece = grid_density < 0 ? -kSamples : kDefaultGridDensity;
-  return std::clamp(grid_density / per_piece + (grid_density < 0 ? 1 : 0), 1, kMostPieces);
+  constexpr int kMostPieces = 64;
+  if (grid_density < 0) return 1 - grid_density / kSamples;
+  return std::clamp(grid_density / kDefaultGridDensity, 1, kMostPieces);
 }
 
 // Rounding in the response, relative to its size and times the largest weight: of what is computed inside the bands,

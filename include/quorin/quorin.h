@@ -4,5 +4,6 @@
 
 #include "quorin/blas.h"
 #include "quorin/services.h"
+#include "quorin/signal.h"
 
 #endif

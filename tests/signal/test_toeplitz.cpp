@@ -1,0 +1,145 @@
+// TSLS1 and TSLC1 against dense elimination in double precision.
+#include <gtest/gtest.h>
+
+#include <cfenv>
+#include <cstring>
+#include <limits>
+#include <numbers>
+
+#include "quorin/signal.h"
+#include "tests/signal/toeplitz_systems.hpp"
+
+namespace {
+
+using namespace quorin::signal_tests;
+using Complex = std::complex<float>;
+
+// Half a unit in the last place of the largest element, and a little for the oracle.
+constexpr double kOneRounding = 1.01 / (1 << 24);
+constexpr float kGuard = 12345.0F;
+constexpr int kMargin = 3;
+
+const quorin_complex* c(const Complex* p) { return reinterpret_cast<const quorin_complex*>(p); }
+quorin_complex* c(Complex* p) { return reinterpret_cast<quorin_complex*>(p); }
+
+void call(const float* a1, const float* a2, const float* b, float* x, float* c1, float* c2, int m) {
+  TSLS1(a1, a2, b, x, c1, c2, &m);
+}
+void call(const Complex* a1, const Complex* a2, const Complex* b, Complex* x, Complex* c1, Complex* c2, int m) {
+  TSLC1(c(a1), c(a2), c(b), c(x), c(c1), c(c2), &m);
+}
+void call_indexed(const float* a1, const float* a2, const float* b, float* x, float* c1, float* c2, int m) {
+  TSLS1_Idx(a1 - 1, 1, a2 - 2, 2, b + 3, -3, x - 4, 4, c1 - 5, 5, c2 - 6, 6, &m);
+}
+void call_indexed(const Complex* a1, const Complex* a2, const Complex* b, Complex* x, Complex* c1, Complex* c2, int m) {
+  TSLC1_Idx(c(a1) - 1, 1, c(a2) - 2, 2, c(b) + 3, -3, c(x) - 4, 4, c(c1) - 5, 5, c(c2) - 6, 6, &m);
+}
+
+// An output array between guard words.
+template <class T>
+class Guarded {
+ public:
+  explicit Guarded(int n) : data_(static_cast<std::size_t>(n) + 2 * kMargin, T(kGuard)) {}
+  T* get() { return data_.data() + kMargin; }
+  bool intact() const {
+    const auto is_guard = [](T v) { return v == T(kGuard); };
+    return std::all_of(data_.begin(), data_.begin() + kMargin, is_guard) &&
+           std::all_of(data_.end() - kMargin, data_.end(), is_guard);
+  }
+
+ private:
+  std::vector<T> data_;
+};
+
+// Plain, in place and through the index form: the same numbers, and nothing beside them is touched.
+template <class T>
+std::vector<T> solve(const System<T>& s) {
+  const int m = s.order();
+  std::vector<T> column = s.column;
+  column.reserve(static_cast<std::size_t>(m));  // an address, even of no elements
+  Guarded<T> x(m), in_place(m), indexed(m), c1(m - 1), c2(m - 1);
+  call(s.row.data(), column.data(), s.b.data(), x.get(), c1.get(), c2.get(), m);
+  std::copy(s.b.begin(), s.b.end(), in_place.get());
+  call(s.row.data(), column.data(), in_place.get(), in_place.get(), c1.get(), c2.get(), m);
+  call_indexed(s.row.data(), column.data(), s.b.data(), indexed.get(), c1.get(), c2.get(), m);
+  EXPECT_TRUE(x.intact() && in_place.intact() && indexed.intact() && c1.intact() && c2.intact()) << "order " << m;
+  const std::vector<T> result(x.get(), x.get() + m);
+  const std::size_t bytes = result.size() * sizeof(T);
+  EXPECT_EQ(std::memcmp(result.data(), in_place.get(), bytes), 0) << "order " << m;
+  EXPECT_EQ(std::memcmp(result.data(), indexed.get(), bytes), 0) << "order " << m;
+  return result;
+}
+
+template <class T>
+void expect_one_rounding(const System<T>& s) {
+  EXPECT_LE(relative_error(solve(s).data(), solve_densely(s)), kOneRounding) << "order " << s.order();
+}
+
+template <class T>
+class Toeplitz : public testing::Test {};
+using Elements = testing::Types<float, Complex>;
+TYPED_TEST_SUITE(Toeplitz, Elements);
+
+TYPED_TEST(Toeplitz, UnsymmetricSystemsOfEveryOrder) {
+  using T = TypeParam;
+  for (int m = 1; m <= 20; ++m) expect_one_rounding(random_system<T>(m, T(3), static_cast<unsigned>(m)));
+  for (const int m : {64, 101, 200}) expect_one_rounding(random_system<T>(m, T(30), static_cast<unsigned>(m)));
+  // Indefinite, as they come: the error is what the recursion makes of 2^-53.
+  for (unsigned seed = 1; seed <= 20; ++seed) expect_one_rounding(random_system<T>(30, T(0.7F), seed));
+}
+
+// Condition numbers from 1e4 to 1e8: in single precision nothing of the last ones would be left.
+TYPED_TEST(Toeplitz, IllConditionedSystemsLoseNothing) {
+  using T = TypeParam;
+  for (const double r : {0.99, 0.999, 0.9999}) {
+    expect_one_rounding(hermitian_system<T>(
+        100, [&](int k) { return std::pow(r, k); }, 1));
+  }
+  for (const double width : {1.0, 1.4, 1.8}) {
+    expect_one_rounding(hermitian_system<T>(
+        40, [&](int k) { return std::exp(-k * k / (2 * width * width)); }, 2));
+  }
+  // Two sinusoids in a little noise.
+  const auto tones = [](int k) { return (k == 0 ? 1e-4 : 0.0) + std::cos(0.3 * k) + 0.5 * std::cos(1.1 * k); };
+  expect_one_rounding(hermitian_system<T>(60, tones, 3));
+}
+
+TEST(ToeplitzComplex, HermitianSystem) {
+  const auto f = [](int k) { return std::polar(std::pow(0.999, k), 0.7 * k); };
+  expect_one_rounding(hermitian_system<Complex>(80, f, 4));
+}
+
+TYPED_TEST(Toeplitz, SingularLeadingMinorGivesNaNWithoutDividingByZero) {
+  using T = TypeParam;
+  const auto minor = [](std::vector<T> row, std::vector<T> column) {
+    System<T> s{std::move(row), std::move(column), {}};
+    s.b.assign(s.row.size(), T(1));
+    return s;
+  };
+  const System<T> systems[] = {
+      minor({T(0)}, {}),
+      minor({T(0), T(1)}, {T(1)}),
+      minor({T(1), T(1), T(2)}, {T(1), T(3)}),
+      minor({T(2), T(4), T(1), T(7)}, {T(1), T(5), T(3)}),
+      // Rank 2 in tenths, which are not exact: order 3 is singular to working precision.
+      minor({T(0.5F), T(-0.5F), T(-0.5F), T(0.1F)}, {T(-0.5F), T(-0.5F), T(0.3F)}),
+  };
+  for (const System<T>& s : systems) {
+    std::feclearexcept(FE_ALL_EXCEPT);
+    const std::vector<T> x = solve(System<T>{s.row, s.column, s.b});
+    EXPECT_EQ(std::fetestexcept(FE_DIVBYZERO | FE_INVALID), 0);
+    for (const T v : x) EXPECT_TRUE(std::isnan(std::abs(v)));
+  }
+}
+
+TYPED_TEST(Toeplitz, OrderZeroTouchesNothing) {
+  using T = TypeParam;
+  Guarded<T> x(0);
+  for (const int m : {0, -1}) {
+    call(static_cast<T*>(nullptr), static_cast<T*>(nullptr), static_cast<T*>(nullptr), x.get(),
+         static_cast<T*>(nullptr), static_cast<T*>(nullptr), m);
+  }
+  EXPECT_TRUE(x.intact());
+}
+
+}  // namespace
