@@ -54,7 +54,8 @@ void Barycentric::evaluate(const double* x, double* result) const {
       denominator[l] += term;
     }
   }
-  for (int l = 0; l < kLanes; ++l) result[l] = numerator[l] / denominator[l];
+  // Far from all nodes the divisor can cancel to nothing.
+  for (int l = 0; l < kLanes; ++l) result[l] = numerator[l] / (denominator[l] == 0.0 ? kTiny : denominator[l]);
 }
 
 }  // namespace quorin::signal

@@ -98,7 +98,7 @@ struct Rounding {
   double computation;
 };
 
-// A reference and the largest error of its polynomial.
+// A reference, the largest error of its polynomial, and what rounding may add to that.
 struct Candidate {
   explicit Candidate(std::size_t capacity) : points(capacity) {}
   void take(const Exchange& exchange, double largest_error) {
@@ -106,7 +106,9 @@ struct Candidate {
     count = exchange.count();
     for (int i = 0; i < count; ++i) points[i] = exchange.point(i);
   }
+  double total() const { return error + rounding; }
   double error = std::numeric_limits<double>::infinity();
+  double rounding = 0.0;
   int count = 0;
   base::Workspace<Extremum> points;
 };
@@ -124,7 +126,13 @@ class Designer {
         old_(points_at_most()),
         old_in_(problem.bands.size()),
         width_(problem.bands.size()),
-        points_in_(problem.bands.size()) {}
+        points_in_(problem.bands.size()) {
+    const int bands = problem.band_count();
+    widest_gap_ = 2 * std::max(problem.bands[0].lower, pi - problem.bands[bands - 1].upper);
+    for (int b = 1; b < bands; ++b) {
+      widest_gap_ = std::max(widest_gap_, problem.bands[b].lower - problem.bands[b - 1].upper);
+    }
+  }
   explicit operator bool() const {
     return exchange_ && precise_ && stage_.points && best_.points && old_ && old_in_ && width_ && points_in_;
   }
@@ -136,10 +144,14 @@ class Designer {
   // How a stage ended: at the tolerance, with errors that are lost in rounding, or neither.
   enum class Progress { kReached, kAtFloor, kStuck };
 
+  // A polynomial that is bounded on both sides of a gap can grow in it by about exp(degree width / 2).
+  static constexpr double kLargeExponent = 20;
+
   std::size_t points_at_most() const { return static_cast<std::size_t>(degree_) + 2; }
   Progress run_stage(int degree, int most_iterations, double tolerance);
   Progress iterate(int most_iterations, double tolerance);
   Outcome settle_at_floor(int low, int high);
+  bool may_be_large(int degree) const { return degree * widest_gap_ > 2 * kLargeExponent; }
   double peak_between_bands() const;
   void remember_reference();
   void apportion(int points, const base::Workspace<double>& share);
@@ -152,6 +164,7 @@ class Designer {
   const Problem& problem_;
   int degree_;
   Rounding rounding_;
+  double widest_gap_;  // between bands, counting both sides of 0 and pi
   Exchange exchange_;
   PrecisePolynomial precise_;
   Candidate stage_, best_;
@@ -239,7 +252,8 @@ void Designer::spread_like_remembered(int points) {
   }
 }
 
-// The largest response between the bands, where nothing holds it, from a few samples.
+// The largest response between the bands, where nothing holds it, from a few samples. What is uncertain about it counts
+// as if it came from the rounding of a larger one.
 double Designer::peak_between_bands() const {
   constexpr int kPoints = 8;
   double peak = 0.0, from = 0.0;
@@ -247,7 +261,8 @@ double Designer::peak_between_bands() const {
     const double to = b < problem_.band_count() ? problem_.bands[b].lower : pi;
     for (int i = 0; i < kPoints && from < to; ++i) {
       const double t = std::lerp(from, to, (i + 0.5) / kPoints);
-      peak = std::max(peak, std::abs(problem_.form.factor(t) * precise_.evaluate(std::cos(t))));
+      const auto [value, uncertainty] = precise_.evaluate(std::cos(t));
+      peak = std::max(peak, problem_.form.factor(t) * (std::abs(value) + uncertainty / Rounding::kEpsilon));
     }
     if (b < problem_.band_count()) from = problem_.bands[b].upper;
   }
@@ -272,7 +287,8 @@ Designer::Progress Designer::iterate(int most_iterations, double tolerance) {
 }
 
 // One stage from start to end, at the given degree. The best reference of all stages is kept: a polynomial of lower
-// degree is as good as any. Where errors are small the coefficients' rounding counts, too.
+// degree is as good as any. Where errors are small or the response between the bands is large, the coefficients'
+// rounding counts, too.
 Designer::Progress Designer::run_stage(int degree, int most_iterations, double tolerance) {
   constexpr double kSmall = 1e4;
   start(degree + 2);
@@ -280,19 +296,16 @@ Designer::Progress Designer::run_stage(int degree, int most_iterations, double t
   const Progress progress = iterate(most_iterations, tolerance);
   if (!std::isfinite(stage_.error)) return progress;
 
-  double rounding = rounding_.computation;
-  if (stage_.error < kSmall * rounding_.computation) {
+  stage_.rounding = rounding_.computation;
+  if (stage_.error < kSmall * rounding_.computation || may_be_large(degree)) {
     precise_.level(problem_, stage_.points.data(), stage_.count);
-    rounding = std::max(rounding, rounding_.of_coefficients(peak_between_bands()));
+    stage_.rounding = std::max(stage_.rounding, rounding_.of_coefficients(peak_between_bands()));
   }
-  if (stage_.error + rounding < best_.error) {
-    stage_.points.swap(best_.points);
-    best_.count = stage_.count;
-    best_.error = stage_.error + rounding;
-  }
+  const bool lost = stage_.error <= stage_.rounding;
+  if (best_.count == 0 || stage_.total() < best_.total()) std::swap(stage_, best_);
   if (progress != Progress::kReached) return progress;
   remember_reference();
-  return stage_.error <= rounding ? Progress::kAtFloor : Progress::kReached;
+  return lost ? Progress::kAtFloor : Progress::kReached;
 }
 
 constexpr int kStageIterations = 20;
@@ -302,7 +315,7 @@ constexpr double kStageTolerance = 1e-2;
 // as dense; the first from an even spread.
 Outcome Designer::run(int most_iterations) {
   constexpr int kSmallDegree = 16;
-  constexpr double kTolerance = 1e-9;
+  constexpr double kTolerance = 1e-9, kToleratedRounding = 1e-3;
   int halvings = 0;
   while ((degree_ >> halvings) > kSmallDegree) ++halvings;
   for (int before = -1; halvings > 0; --halvings) {
@@ -311,22 +324,17 @@ Outcome Designer::run(int most_iterations) {
       return settle_at_floor(before, degree);
     before = degree;
   }
-  switch (run_stage(degree_, most_iterations, kTolerance)) {
-    case Progress::kReached:
-      return Outcome::kConverged;
-    case Progress::kAtFloor:
-      return settle_at_floor(degree_ / 2, degree_);
-    case Progress::kStuck:
-      break;
-  }
-  return Outcome::kNotConverged;
+  const Progress progress = run_stage(degree_, most_iterations, kTolerance);
+  if (progress == Progress::kAtFloor) return settle_at_floor(degree_ / 2, degree_);
+  const bool is_best = best_.count == degree_ + 2 && best_.rounding <= kToleratedRounding * best_.error;
+  return progress == Progress::kReached && is_best ? Outcome::kConverged : Outcome::kNotConverged;
 }
 
 // The least error of degree `high` is lost in rounding, and exchanges lead nowhere. A polynomial of lower degree will
 // do, and better if it is smaller between the bands: looks for the highest degree whose error is not lost.
 Outcome Designer::settle_at_floor(int low, int high) {
-  constexpr double kNearRounding = 100;
-  while (high - low > 1 && best_.error > 2 * rounding_.computation) {
+  constexpr double kNearRounding = 1000;
+  while (high - low > 1 && best_.total() > 2 * rounding_.computation) {
     const int degree = low + (high - low) / 2;
     if (run_stage(degree, kStageIterations, kStageTolerance) == Progress::kReached) {
       low = degree;
@@ -334,7 +342,7 @@ Outcome Designer::settle_at_floor(int low, int high) {
       high = degree;
     }
   }
-  return best_.error <= kNearRounding * rounding_.computation ? Outcome::kConverged : Outcome::kNotConverged;
+  return best_.total() <= kNearRounding * rounding_.computation ? Outcome::kConverged : Outcome::kNotConverged;
 }
 
 bool Designer::is_in_band(double t) const {
@@ -357,7 +365,8 @@ void Designer::evaluate_best(double* response, int samples) {
     exchange_.polynomial().evaluate(x, value);
     for (int l = 0; l < kLanes && begin + l < samples; ++l) {
       const double t = 2 * pi * (begin + l) / form.taps();
-      response[begin + l] = form.factor(t) * (is_in_band(t) ? value[l] : precise_.evaluate(x[l]));
+      if (!is_in_band(t)) value[l] = precise_.evaluate(x[l]).value;
+      response[begin + l] = form.factor(t) * value[l];
     }
   }
 }

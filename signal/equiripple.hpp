@@ -25,9 +25,10 @@ inline constexpr int kFinestGrid = 4096;
 // Writes the filter h[taps] whose largest weighted error over the bands is least. The arrays need no alignment.
 //
 // kBadInput and kNoMemory leave h alone; kNotConverged writes the best filter that was met within the iterations.
-// Converged means that the largest error exceeds the least possible one by at most a part in 1e9, or by what the
-// rounding of the response costs: usually some 1e-14 of the largest desired value times the largest weight, 100 times
-// that where the best filter of the length is so much better that its coefficients cannot be told from a shorter one's.
+// Converged means that the largest error exceeds the least possible one by at most a part in 1e9, or by what rounding
+// costs. That is usually some 1e-14 of the largest desired value times the largest weight, and at most 1e-11 of it; if
+// the response is large between the bands, at most a part in 1e3. Where the best filter of the length has an error
+// below that of rounding, a shorter one padded with (nearly) zeros is as good and is what is written.
 //
 // With grid_density -g only the frequencies of a grid count, g for each coefficient of P, as in the program of
 // McClellan, Parks & Rabiner (IEEE Trans. Audio Electroacoust. 21 (1973) 506-526; g = 16 there). Between them the error

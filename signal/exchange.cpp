@@ -146,6 +146,7 @@ bool Exchange::evaluate_candidates() {
       group[found++] = &candidates_[begin];
     }
     if (found == 0) break;
+    std::fill(x + found, x + kLanes, x[0]);
     polynomial_.evaluate(x, value);
     for (int l = 0; l < found; ++l) {
       Extremum& e = *group[l];

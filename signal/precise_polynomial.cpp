@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace quorin::signal {
 namespace {
@@ -56,16 +57,22 @@ void PrecisePolynomial::level(const Problem& problem, const Extremum* points, in
   for (int i = 0; i < count; ++i) value_[i] = target(i) - leveled * scatter(i);
 }
 
-double PrecisePolynomial::evaluate(double x) const {
+PrecisePolynomial::Value PrecisePolynomial::evaluate(double x) const {
+  constexpr double kRoundoff = 0x1p-103;
   DoubleDouble numerator{}, denominator{};
+  double size = 0.0;
   for (int i = 0; i < count_; ++i) {
     const DoubleDouble difference = exact_sum(x, -x_[i]);
-    if (difference.high == 0.0) return value_[i].high;
+    if (difference.high == 0.0) return {value_[i].high, 0.0};
     const DoubleDouble term = weight_[i] / difference;
     numerator = numerator + term * value_[i];
     denominator = denominator + term;
+    size += std::abs(term.high) * (1 + std::abs(value_[i].high));
   }
-  return (numerator / denominator).high;
+  const double divisor = std::abs(denominator.high);
+  if (divisor <= kRoundoff * size) return {0.0, std::numeric_limits<double>::infinity()};
+  const double value = (numerator / denominator).high;
+  return {value, kRoundoff * (size / divisor) * (1 + std::abs(value))};
 }
 
 }  // namespace quorin::signal

@@ -20,8 +20,11 @@ class PrecisePolynomial {
   // The polynomial with leveled error at `points`, as Exchange::level. Cost: count^2 products of 32 digits.
   void level(const Problem& problem, const Extremum* points, int count);
 
-  // Cost: count quotients of 32 digits.
-  double evaluate(double x) const;
+  // The value at x, and about how far cancellation may have moved it. Cost: count quotients of 32 digits.
+  struct Value {
+    double value, uncertainty;
+  };
+  Value evaluate(double x) const;
 
  private:
   void set_weights();
