@@ -52,5 +52,6 @@ class Report {
 // Each family has one file <family>_rows.cpp with one of these; main.cpp calls them all.
 void services_rows(const Library& library, Report& report);
 void blas_rows(const Library& library, Report& report);
+void signal_rows(const Library& library, Report& report);
 
 }  // namespace demo

@@ -4,6 +4,26 @@
  * single-complex (TSLC1) precision. Every argument is passed by reference. Calls from several host threads on separate
  * data are independent.
  *
+ * REMEZ, types of design. TYPE 1, multiband: H is symmetric, its response is to be DES in each band, and its error
+ * counts times WEIGHT > 0. TYPE 2, differentiator: H is antisymmetric, its response at frequency f is to be DES f (2 pi
+ * f for the derivative), and its error counts times WEIGHT / f, so that it is relative; a band with DES = 0 is as in
+ * type 1. TYPE 3, Hilbert transformer: H is antisymmetric, otherwise as type 1. The response is meant without the delay
+ * of (NUMTAPS - 1) / 2 samples, and without the factor i of antisymmetric filters.
+ *
+ * REMEZ, IERR. 0: converged, to the best possible filter within a part in 1e9 of its error or within what rounding
+ * costs. 1: bad input, nothing is written. 2: not converged within MAXITER exchanges, or the best filter is too large
+ * between the bands for double precision; H is the best filter met. 3: no memory, nothing is written.
+ *
+ * REMEZ, MAXITER and GRIDDENSITY. MAXITER bounds the exchanges at full length; 0 stands for 40. The result is optimal
+ * over all frequencies of the bands, not on a grid: a positive GRIDDENSITY only says how finely the search for extrema
+ * divides the bands (0 stands for 16). A negative one designs for a grid of -GRIDDENSITY frequencies per coefficient
+ * alone, as older programs did; -16 repeats published filters to their printed digits. Negative MAXITER and GRIDDENSITY
+ * below -4096 are bad input.
+ *
+ * REMEZ, forced zeros. Antisymmetric filters vanish at frequency 0, symmetric ones with an even NUMTAPS and
+ * antisymmetric ones with an odd NUMTAPS at 0.5. A band that reaches such a zero is cut short of it by one step of the
+ * grid.
+ *
  * Generated from exports/tables/signal.table. Do not edit. */
 #ifndef QUORIN_SIGNAL_H
 #define QUORIN_SIGNAL_H
@@ -17,19 +37,8 @@ extern "C" {
 /* ---- Equiripple filter design ---- */
 
 /* The linear-phase filter of NUMTAPS >= 3 coefficients whose largest weighted error over NUMBANDS bands is least (Parks
-   and McClellan). BANDS holds the lower and upper edge of each band in cycles per sample, all different and ascending
-   within 0 to 0.5. TYPE 1: multiband, H symmetric; the response is to be DES in each band, its error counts times WEIGHT >
-   0. TYPE 2: differentiator, H antisymmetric; the response at frequency f is to be DES f (2 pi for the true derivative)
-   and its error counts times WEIGHT / f, so that it is relative; a band with DES = 0 is as in type 1. TYPE 3: Hilbert
-   transformer, H antisymmetric; as type 1, with a quarter cycle of phase. IERR: 0 converged, to the best possible filter
-   within a part in 1e9 of its error or within the rounding of the response; 1 bad input, nothing is written; 2 not
-   converged, H is the best filter met; 3 no memory, nothing is written. MAXITER bounds the exchanges at full length; 0
-   stands for 40. Positive values of GRIDDENSITY bound how finely the search for extrema divides the bands, 0 stands for
-   16; the result is optimal for all frequencies whatever the value. A negative value designs for a grid of -GRIDDENSITY
-   frequencies per coefficient alone, as programs of old did: -16 repeats published filters to their printed digits.
-   Antisymmetric filters are zero at frequency 0, symmetric ones with an even NUMTAPS and antisymmetric ones with an odd
-   NUMTAPS at 0.5. A band that reaches such a zero is cut short of it by one step of the grid. -- H: NUMTAPS, out; BANDS: 2
-   x NUMBANDS; DES: NUMBANDS; WEIGHT: NUMBANDS; IERR: out */
+   and McClellan). BANDS holds the lower and upper edge of each band in cycles per sample, strictly ascending within 0 to
+   0.5. -- H: NUMTAPS, out; BANDS: 2 x NUMBANDS; DES: NUMBANDS; WEIGHT: NUMBANDS; IERR: out */
 QUORIN_API void QUORIN_CDECL REMEZ(double* H, const int32_t* NUMTAPS, const int32_t* NUMBANDS, const double* BANDS,
                                    const double* DES, const double* WEIGHT, const int32_t* TYPE,
                                    const int32_t* GRIDDENSITY, const int32_t* MAXITER, int32_t* IERR);

@@ -1,4 +1,4 @@
-// TSLS1 and TSLC1 against dense elimination in double precision.
+// TSLS1 and TSLC1 against dense elimination in double precision, and against LAPACK.
 #include <gtest/gtest.h>
 
 #include <cfenv>
@@ -8,6 +8,19 @@
 
 #include "quorin/signal.h"
 #include "tests/signal/toeplitz_systems.hpp"
+
+extern "C" {
+void sgesv_(const int* n, const int* nrhs, float* a, const int* lda, int* ipiv, float* b, const int* ldb, int* info);
+void cgesv_(const int* n, const int* nrhs, std::complex<float>* a, const int* lda, int* ipiv, std::complex<float>* b,
+            const int* ldb, int* info);
+void sgerfs_(const char* trans, const int* n, const int* nrhs, const float* a, const int* lda, const float* af,
+             const int* ldaf, const int* ipiv, const float* b, const int* ldb, float* x, const int* ldx, float* ferr,
+             float* berr, float* work, int* iwork, int* info, std::size_t trans_length);
+void cgerfs_(const char* trans, const int* n, const int* nrhs, const std::complex<float>* a, const int* lda,
+             const std::complex<float>* af, const int* ldaf, const int* ipiv, const std::complex<float>* b,
+             const int* ldb, std::complex<float>* x, const int* ldx, float* ferr, float* berr,
+             std::complex<float>* work, float* rwork, int* info, std::size_t trans_length);
+}
 
 namespace {
 
@@ -107,6 +120,51 @@ TYPED_TEST(Toeplitz, IllConditionedSystemsLoseNothing) {
 TEST(ToeplitzComplex, HermitianSystem) {
   const auto f = [](int k) { return std::polar(std::pow(0.999, k), 0.7 * k); };
   expect_one_rounding(hermitian_system<Complex>(80, f, 4));
+}
+
+// Solves with LAPACK and returns its own bound of the solution's relative error.
+template <class T>
+double solve_with_lapack(const System<T>& s, std::vector<T>& x) {
+  const int m = s.order(), one = 1;
+  const std::size_t order = s.row.size();
+  std::vector<T> a(order * order), factors, work(3 * order);
+  for (int j = 0; j < m; ++j) {
+    for (int i = 0; i < m; ++i) a[i + j * order] = static_cast<T>(s.entry(i, j));
+  }
+  factors = a;
+  x = s.b;
+  std::vector<int> pivots(order), integers(order);
+  std::vector<float> reals(order);
+  int info = -1;
+  float forward = 0, backward = 0;
+  if constexpr (std::is_same_v<T, float>) {
+    sgesv_(&m, &one, factors.data(), &m, pivots.data(), x.data(), &m, &info);
+    sgerfs_("N", &m, &one, a.data(), &m, factors.data(), &m, pivots.data(), s.b.data(), &m, x.data(), &m, &forward,
+            &backward, work.data(), integers.data(), &info, 1);
+  } else {
+    cgesv_(&m, &one, factors.data(), &m, pivots.data(), x.data(), &m, &info);
+    cgerfs_("N", &m, &one, a.data(), &m, factors.data(), &m, pivots.data(), s.b.data(), &m, x.data(), &m, &forward,
+            &backward, work.data(), reals.data(), &info, 1);
+  }
+  EXPECT_EQ(info, 0);
+  return static_cast<double>(forward);
+}
+
+TYPED_TEST(Toeplitz, AgreesWithLapackWithinItsErrorBound) {
+  using T = TypeParam;
+  std::vector<System<T>> systems;
+  for (const int m : {1, 2, 7, 50, 150}) systems.push_back(random_system<T>(m, T(4), static_cast<unsigned>(m)));
+  for (const double r : {0.9, 0.999}) {
+    systems.push_back(hermitian_system<T>(
+        100, [&](int k) { return std::pow(r, k); }, 5));
+  }
+  for (const System<T>& s : systems) {
+    std::vector<T> lapack;
+    const double bound = solve_with_lapack(s, lapack);
+    const std::vector<T> x = solve(s);
+    EXPECT_LE(relative_error(lapack.data(), std::vector<Wide<T>>(x.begin(), x.end())), bound + kOneRounding);
+    EXPECT_LT(bound, 0.1) << "the bound says nothing, order " << s.order();
+  }
 }
 
 TYPED_TEST(Toeplitz, SingularLeadingMinorGivesNaNWithoutDividingByZero) {
