@@ -7,8 +7,10 @@
 
 #include "quorin/signal.h"
 
-extern "C" void sgesv_(const int* n, const int* nrhs, float* a, const int* lda, int* ipiv, float* b, const int* ldb,
-                       int* info);
+extern "C" {
+void sgesv_(const int* n, const int* nrhs, float* a, const int* lda, int* ipiv, float* b, const int* ldb, int* info);
+void xerbla_(const char*, const int*, std::size_t) {}
+}
 
 namespace {
 

@@ -5,11 +5,16 @@
 #include <cstring>
 #include <limits>
 #include <numbers>
+#include <string>
 
 #include "quorin/signal.h"
 #include "tests/signal/toeplitz_systems.hpp"
 
 extern "C" {
+// LAPACK's report of a wrong argument.
+void xerbla_(const char* routine, const int* position, std::size_t length) {
+  ADD_FAILURE() << std::string(routine, length) << ", argument " << *position;
+}
 void sgesv_(const int* n, const int* nrhs, float* a, const int* lda, int* ipiv, float* b, const int* ldb, int* info);
 void cgesv_(const int* n, const int* nrhs, std::complex<float>* a, const int* lda, int* ipiv, std::complex<float>* b,
             const int* ldb, int* info);
@@ -154,7 +159,7 @@ TYPED_TEST(Toeplitz, AgreesWithLapackWithinItsErrorBound) {
   using T = TypeParam;
   std::vector<System<T>> systems;
   for (const int m : {1, 2, 7, 50, 150}) systems.push_back(random_system<T>(m, T(4), static_cast<unsigned>(m)));
-  for (const double r : {0.9, 0.999}) {
+  for (const double r : {0.9, 0.99}) {
     systems.push_back(hermitian_system<T>(
         100, [&](int k) { return std::pow(r, k); }, 5));
   }
