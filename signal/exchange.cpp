@@ -159,8 +159,9 @@ bool Exchange::evaluate_candidates() {
 }
 
 void Exchange::exchange() {
-  int have = alternating_candidates();
-  have = drop_surplus(have);
+  const int have = alternating_candidates();
+  if (have < count_) return;
+  drop_surplus(have);
   std::copy_n(candidates_.begin(), count_, reference_.begin());
 }
 
@@ -183,7 +184,7 @@ int Exchange::alternating_candidates() {
 
 // A single point can go only from an end, two only as neighbours or as both ends; each time those go whose larger error
 // is the smallest.
-int Exchange::drop_surplus(int have) {
+void Exchange::drop_surplus(int have) {
   Extremum* const c = candidates_.data();
   while (have > count_ + 1) {
     int drop = -1;
@@ -202,11 +203,7 @@ int Exchange::drop_surplus(int have) {
     }
     have -= 2;
   }
-  if (have > count_) {
-    if (size(c[0]) < size(c[have - 1])) std::move(c + 1, c + have, c);
-    --have;
-  }
-  return have;
+  if (have > count_ && size(c[0]) < size(c[have - 1])) std::move(c + 1, c + have, c);
 }
 
 }  // namespace quorin::signal

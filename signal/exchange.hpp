@@ -66,7 +66,7 @@ class Exchange {
   void add(const Extremum& candidate) { candidates_[candidate_count_++] = candidate; }
   bool evaluate_candidates();
   int alternating_candidates();
-  int drop_surplus(int have);
+  void drop_surplus(int have);
 
   const Problem& problem_;
   CriticalPoints critical_points_;

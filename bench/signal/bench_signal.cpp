@@ -9,7 +9,11 @@
 
 extern "C" {
 void sgesv_(const int* n, const int* nrhs, float* a, const int* lda, int* ipiv, float* b, const int* ldb, int* info);
+// What LAPACK and the Fortran names of the exports want to call.
+void xerbla_(const char*, const int*, std::size_t);
+void quorin_after_call();
 void xerbla_(const char*, const int*, std::size_t) {}
+void quorin_after_call() {}
 }
 
 namespace {
@@ -23,7 +27,7 @@ double milliseconds(const Work& work) {
   return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
 }
 
-double median(std::vector<double>& times) {
+double median(std::vector<double> times) {
   std::nth_element(times.begin(), times.begin() + kRuns / 2, times.end());
   return times[kRuns / 2];
 }
