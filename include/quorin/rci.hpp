@@ -1,0 +1,318 @@
+// The iterative solvers for C++ hosts: give a matrix-vector product and a preconditioner as callables, get the solution.
+//
+//   auto multiply = [&](std::span<const double> in, std::span<double> out) { /* out <- A in */ };
+//   const auto result = quorin::rci::solve_cg(b, x, multiply);
+//   if (!result.converged()) ...
+//
+// Callables are called as f(std::span<const double> in, std::span<double> out) with distinct vectors of n entries. They may
+// throw: no frame of the library is on the stack then. Solves share nothing, so they may run on several threads at once.
+// Work arrays are std::vectors that live as long as the call; a host that wants its own memory, its own stopping test or a step
+// at a time uses the functions of quorin/rci.h.
+#pragma once
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <span>
+#include <stdexcept>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+#include "quorin/rci.h"
+
+namespace quorin::rci {
+
+/// When to stop: a residual r passes when ||r|| <= relative ||r0|| + absolute, r0 belonging to the start vector (CG: when this
+/// holds for the squares).
+struct Options {
+  double relative_tolerance = 1.0e-8;
+  double absolute_tolerance = 0.0;
+  int max_iterations = 1000;  ///< for each right-hand side, over all restarts
+  int restart = 50;           ///< FGMRES: steps between restarts; work memory is about (2 restart + 1) n
+};
+
+struct Result {
+  int status = 0;         ///< 0, or the negative request that ended the run
+  int iterations = 0;     ///< of all right-hand sides together
+  double residual = 0.0;  ///< ||r|| of the last right-hand side as the solver knows it
+  bool converged() const { return status == 0; }
+  bool reached_limit() const { return status == -1; }
+};
+
+/// Stands for M = I; solves with it never ask for a preconditioner.
+struct NoPreconditioner {
+  void operator()(std::span<const double> in, std::span<double> out) const { std::copy(in.begin(), in.end(), out.begin()); }
+};
+
+namespace detail {
+
+inline constexpr std::size_t kParameters = 128;
+
+/// Entries of ipar and dpar (zero-based) that the loops below use.
+struct Entry {
+  static constexpr std::size_t kRightHandSide = 2;
+  static constexpr std::size_t kIterationLimit = 4;
+  static constexpr std::size_t kErrorMessages = 5;
+  static constexpr std::size_t kWarningMessages = 6;
+  static constexpr std::size_t kResidualTest = 8;
+  static constexpr std::size_t kHostTest = 9;
+  static constexpr std::size_t kPreconditioned = 10;
+  static constexpr std::size_t kZeroNormTest = 11;
+  static constexpr std::size_t kRestart = 14;
+  static constexpr std::size_t kSource = 21;
+  static constexpr std::size_t kTarget = 22;
+  static constexpr std::size_t kRelative = 0;
+  static constexpr std::size_t kAbsolute = 1;
+  static constexpr std::size_t kResidual = 4;
+};
+
+enum Request { kFinished = 0, kMultiply = 1, kPrecondition = 3 };
+
+template <class M>
+inline constexpr bool is_preconditioner = !std::is_same_v<std::remove_cvref_t<M>, NoPreconditioner>;
+
+/// The parameter arrays of one solve.
+struct Parameters {
+  explicit Parameters(std::size_t extra = 0) : ipar(kParameters + extra), dpar(kParameters + extra) {}
+
+  void set(const Options& options, bool preconditioned, bool squares) {
+    const auto power = [squares](double t) { return squares ? t * t : t; };
+    ipar[Entry::kIterationLimit] = options.max_iterations;
+    ipar[Entry::kErrorMessages] = 0;
+    ipar[Entry::kWarningMessages] = 0;
+    ipar[Entry::kResidualTest] = 1;
+    ipar[Entry::kHostTest] = 0;
+    ipar[Entry::kPreconditioned] = preconditioned ? 1 : 0;
+    dpar[Entry::kRelative] = power(options.relative_tolerance);
+    dpar[Entry::kAbsolute] = power(options.absolute_tolerance);
+  }
+
+  std::vector<int> ipar;
+  std::vector<double> dpar;
+};
+
+/// Answers requests until there are none. `step` calls the solver and returns its request; `source` and `target` give the
+/// vectors of a request.
+template <class Step, class Source, class Target, class Product, class Preconditioner>
+int serve(Step step, Source source, Target target, Product& multiply, Preconditioner& precondition) {
+  for (;;) {
+    const int request = step();
+    if (request == kMultiply) {
+      multiply(std::span<const double>(source(request)), target(request));
+    } else if (request == kPrecondition) {
+      precondition(std::span<const double>(source(request)), target(request));
+    } else {
+      return request;
+    }
+  }
+}
+
+inline int checked_size(std::size_t n, std::size_t other) {
+  if (n == 0 || n != other) throw std::invalid_argument("quorin::rci: the vectors must have one length, at least 1");
+  return static_cast<int>(n);
+}
+
+inline void require(int status) {
+  if (status != kFinished) throw std::invalid_argument("quorin::rci: the solver refused the sizes");
+}
+
+}  // namespace detail
+
+/// Conjugate gradients for a symmetric positive definite A and, when given, M. x holds the start vector on entry and the
+/// last iterate on return, whatever the status.
+template <class Product, class Preconditioner = NoPreconditioner>
+Result solve_cg(std::span<const double> b, std::span<double> x, Product&& multiply, Preconditioner&& precondition = {},
+                const Options& options = {}) {
+  using detail::Entry;
+  constexpr bool kPreconditioned = detail::is_preconditioner<Preconditioner>;
+  const int n = detail::checked_size(b.size(), x.size());
+  const std::size_t length = b.size();
+  detail::Parameters p;
+  std::vector<double> tmp((kPreconditioned ? 4 : 3) * length);
+  int request = 0;
+  DCG_INIT(&n, x.data(), b.data(), &request, p.ipar.data(), p.dpar.data(), tmp.data());
+  detail::require(request);
+  p.set(options, kPreconditioned, true);
+
+  const auto column = [&](std::size_t index) { return std::span<double>(tmp).subspan(index * length, length); };
+  const auto step = [&] {
+    DCG(&n, x.data(), b.data(), &request, p.ipar.data(), p.dpar.data(), tmp.data());
+    return request;
+  };
+  Result result;
+  result.status = detail::serve(
+      step, [&](int asked) { return column(asked == detail::kMultiply ? 0 : 2); },
+      [&](int asked) { return column(asked == detail::kMultiply ? 1 : 3); }, multiply, precondition);
+  DCG_GET(&n, x.data(), b.data(), &request, p.ipar.data(), p.dpar.data(), tmp.data(), &result.iterations);
+  result.residual = std::sqrt(p.dpar[Entry::kResidual]);
+  return result;
+}
+
+/// The same for several right-hand sides: b and x hold nrhs vectors one after another. On failure the columns after the one that
+/// failed keep their start vectors.
+template <class Product, class Preconditioner = NoPreconditioner>
+Result solve_cg_many(int nrhs, std::span<const double> b, std::span<double> x, Product&& multiply,
+                     Preconditioner&& precondition = {}, const Options& options = {}) {
+  using detail::Entry;
+  constexpr bool kPreconditioned = detail::is_preconditioner<Preconditioner>;
+  const std::size_t count = nrhs > 0 ? static_cast<std::size_t>(nrhs) : 0;
+  if (count == 0 || b.size() % count != 0) throw std::invalid_argument("quorin::rci: b does not hold nrhs vectors");
+  detail::checked_size(b.size(), x.size());
+  const std::size_t length = b.size() / count;
+  const int n = static_cast<int>(length);
+  detail::Parameters p(2 * count);
+  std::vector<double> tmp((3 + count) * length);
+  std::vector<int> iterations(count);
+  const int method = 1;
+  int request = 0;
+  DCGMRHS_INIT(&n, x.data(), &nrhs, b.data(), &method, &request, p.ipar.data(), p.dpar.data(), tmp.data());
+  detail::require(request);
+  p.set(options, kPreconditioned, true);
+
+  const auto column = [&](std::size_t index) { return std::span<double>(tmp).subspan(index * length, length); };
+  const auto step = [&] {
+    sDCGMRHS_Idx(&n, x.data(), 0, &nrhs, b.data(), 0, &request, p.ipar.data(), 0, p.dpar.data(), 0, tmp.data(), 0);
+    return request;
+  };
+  const auto residual_column = [&] { return 2 + static_cast<std::size_t>(p.ipar[Entry::kRightHandSide]); };
+  Result result;
+  result.status = detail::serve(
+      step, [&](int asked) { return column(asked == detail::kMultiply ? 0 : residual_column()); },
+      [&](int asked) { return column(asked == detail::kMultiply ? 1 : 2); }, multiply, precondition);
+  DCGMRHS_GET(&n, x.data(), &nrhs, b.data(), &request, p.ipar.data(), p.dpar.data(), tmp.data(), iterations.data());
+  for (const int k : iterations) result.iterations += k;
+  result.residual = std::sqrt(p.dpar[Entry::kResidual]);
+  return result;
+}
+
+/// Flexible GMRES for a general nonsingular A; the preconditioner may change from step to step. x holds the start vector on
+/// entry and the last iterate on return, whatever the status.
+template <class Product, class Preconditioner = NoPreconditioner>
+Result solve_fgmres(std::span<const double> b, std::span<double> x, Product&& multiply, Preconditioner&& precondition = {},
+                    const Options& options = {}) {
+  using detail::Entry;
+  constexpr bool kPreconditioned = detail::is_preconditioner<Preconditioner>;
+  const int n = detail::checked_size(b.size(), x.size());
+  const std::size_t length = b.size();
+  const int restart = std::clamp(options.restart, 1, n);
+  const auto m = static_cast<std::size_t>(restart);
+  detail::Parameters p;
+  std::vector<double> tmp(((kPreconditioned ? 2 * m : m) + 1) * length + m * (m + 9) / 2 + 1);
+  std::vector<double> right_hand_side(b.begin(), b.end());  // the interface takes b as writable
+  double* rhs = right_hand_side.data();
+  int request = 0;
+  DFGMRES_INIT(&n, x.data(), rhs, &request, p.ipar.data(), p.dpar.data(), tmp.data());
+  detail::require(request);
+  p.set(options, kPreconditioned, false);
+  p.ipar[Entry::kRestart] = restart;
+  p.ipar[Entry::kZeroNormTest] = 1;
+
+  const auto vector_at = [&](std::size_t entry) {
+    return std::span<double>(tmp).subspan(static_cast<std::size_t>(p.ipar[entry]) - 1, length);
+  };
+  const auto step = [&] {
+    DFGMRES(&n, x.data(), rhs, &request, p.ipar.data(), p.dpar.data(), tmp.data());
+    return request;
+  };
+  Result result;
+  result.status = detail::serve(
+      step, [&](int) { return vector_at(Entry::kSource); }, [&](int) { return vector_at(Entry::kTarget); }, multiply,
+      precondition);
+  DFGMRES_GET(&n, x.data(), rhs, &request, p.ipar.data(), p.dpar.data(), tmp.data(), &result.iterations);
+  result.residual = p.dpar[Entry::kResidual];
+  return result;
+}
+
+/// An incomplete LU factorization of a matrix in compressed rows (one-based, columns ascending), to be given to
+/// solve_fgmres as the preconditioner. Throws std::runtime_error when the factorization fails.
+class IncompleteLu {
+ public:
+  /// On the pattern of A.
+  static IncompleteLu on_pattern(int n, const double* a, const int* ia, const int* ja) {
+    IncompleteLu f(n);
+    f.starts_.assign(ia, ia + n + 1);
+    f.columns_.assign(ja, ja + ia[n] - 1);
+    f.values_.resize(f.columns_.size());
+    const Settings s;
+    int error = 0;
+    DCSRILU0(&n, a, ia, ja, f.values_.data(), s.ipar.data(), s.dpar.data(), &error);
+    f.finish(error);
+    return f;
+  }
+
+  /// With at most `fill` entries beside the diagonal in each row of L and of U, those above `tolerance` times the norm of the row.
+  static IncompleteLu with_threshold(int n, const double* a, const int* ia, const int* ja, double tolerance, int fill) {
+    IncompleteLu f(n);
+    fill = std::clamp(fill, 0, n - 1);
+    const auto width = static_cast<std::size_t>(fill);
+    const std::size_t length = (2 * width + 1) * static_cast<std::size_t>(n) - width * (width + 1) + 1;
+    f.starts_.resize(static_cast<std::size_t>(n) + 1);
+    f.columns_.resize(length);
+    f.values_.resize(length);
+    Settings s;
+    s.dpar[kPivotMultiplier] = std::max(std::abs(tolerance), 1.0e-5);
+    int error = 0;
+    DCSRILUT(&n, a, ia, ja, f.values_.data(), f.starts_.data(), f.columns_.data(), &tolerance, &fill, s.ipar.data(),
+             s.dpar.data(), &error);
+    f.finish(error);
+    f.columns_.resize(f.entries());
+    f.values_.resize(f.entries());
+    return f;
+  }
+
+  /// out <- U^-1 L^-1 in
+  void operator()(std::span<const double> in, std::span<double> out) const {
+    const std::size_t n = diagonal_.size();
+    for (std::size_t i = 0; i < n; ++i) {
+      double sum = in[i];
+      for (std::size_t k = row_begin(i); k < diagonal_[i]; ++k) sum -= values_[k] * out[column(k)];
+      out[i] = sum;
+    }
+    for (std::size_t i = n; i-- > 0;) {
+      double sum = out[i];
+      for (std::size_t k = diagonal_[i] + 1; k < row_begin(i + 1); ++k) sum -= values_[k] * out[column(k)];
+      out[i] = sum / values_[diagonal_[i]];
+    }
+  }
+
+  /// Stored entries of L (without its diagonal) and U.
+  std::size_t entries() const { return row_begin(diagonal_.size()); }
+
+ private:
+  static constexpr std::size_t kReplacePivots = 30;
+  static constexpr std::size_t kPivotMultiplier = 30;
+  static constexpr std::size_t kReplacement = 31;
+
+  // Small pivots are replaced: a poor preconditioner serves better than none. No messages; failures throw.
+  struct Settings {
+    Settings() : ipar(detail::kParameters), dpar(detail::kParameters) {
+      ipar[kReplacePivots] = 1;
+      dpar[kPivotMultiplier] = 1.0e-16;
+      dpar[kReplacement] = 1.0e-10;
+    }
+    std::vector<int> ipar;
+    std::vector<double> dpar;
+  };
+
+  explicit IncompleteLu(int n) : diagonal_(static_cast<std::size_t>(n)) {}
+
+  std::size_t row_begin(std::size_t i) const { return static_cast<std::size_t>(starts_[i]) - 1; }
+  std::size_t column(std::size_t k) const { return static_cast<std::size_t>(columns_[k]) - 1; }
+
+  void finish(int error) {
+    if (error < 0) throw std::runtime_error("quorin::rci: the incomplete factorization failed");
+    for (std::size_t i = 0; i < diagonal_.size(); ++i) {
+      std::size_t k = row_begin(i);
+      while (column(k) < i) ++k;
+      diagonal_[i] = k;
+    }
+  }
+
+  std::vector<double> values_;
+  std::vector<int> starts_;
+  std::vector<int> columns_;
+  std::vector<std::size_t> diagonal_;
+};
+
+}  // namespace quorin::rci

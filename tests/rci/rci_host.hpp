@@ -1,0 +1,297 @@
+// Hosts as the documents describe them, for the tests of the iterative solvers: matrices in compressed rows, arrays between
+// guard words, and loops that answer requests and keep a record.
+#pragma once
+
+#include <cmath>
+#include <cstddef>
+#include <cstring>
+#include <functional>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "quorin/rci.h"
+
+namespace rci_test {
+
+using Vector = std::vector<double>;
+
+// Compressed rows, one-based, columns ascending.
+struct Csr {
+  int n = 0;
+  std::vector<int> ia, ja;
+  Vector a;
+
+  void multiply(const double* x, double* y) const {
+    for (int i = 0; i < n; ++i) {
+      double sum = 0.0;
+      for (int k = ia[i] - 1; k < ia[i + 1] - 1; ++k) sum += a[k] * x[ja[k] - 1];
+      y[i] = sum;
+    }
+  }
+  Vector operator*(const Vector& x) const {
+    Vector y(x.size());
+    multiply(x.data(), y.data());
+    return y;
+  }
+};
+
+using Dense = std::vector<Vector>;
+
+inline Csr sparse(const Dense& m) {
+  Csr s;
+  s.n = static_cast<int>(m.size());
+  s.ia.push_back(1);
+  for (const Vector& row : m) {
+    for (std::size_t j = 0; j < row.size(); ++j) {
+      if (row[j] == 0.0) continue;
+      s.a.push_back(row[j]);
+      s.ja.push_back(static_cast<int>(j) + 1);
+    }
+    s.ia.push_back(static_cast<int>(s.a.size()) + 1);
+  }
+  return s;
+}
+
+inline Dense dense(const Csr& s) {
+  Dense m(s.n, Vector(s.n, 0.0));
+  for (int i = 0; i < s.n; ++i) {
+    for (int k = s.ia[i] - 1; k < s.ia[i + 1] - 1; ++k) m[i][s.ja[k] - 1] += s.a[k];
+  }
+  return m;
+}
+
+inline double norm(const Vector& x) {
+  double sum = 0.0;
+  for (const double e : x) sum = std::hypot(sum, e);
+  return sum;
+}
+
+inline double residual_norm(const Csr& A, const double* b, const double* x) {
+  Vector r(A.n);
+  A.multiply(x, r.data());
+  for (int i = 0; i < A.n; ++i) r[i] = b[i] - r[i];
+  return norm(r);
+}
+
+inline Vector random_vector(int n, std::mt19937& random) {
+  std::uniform_real_distribution<double> entry(-1.0, 1.0);
+  Vector x(n);
+  for (double& e : x) e = entry(random);
+  return x;
+}
+
+// About `density` n^2 entries, diagonal dominant by `dominance`; symmetric (then positive definite) or not.
+inline Csr random_matrix(int n, double density, double dominance, bool symmetric, std::mt19937& random) {
+  std::uniform_real_distribution<double> entry(-1.0, 1.0), chance(0.0, 1.0);
+  Dense m(n, Vector(n, 0.0));
+  for (int i = 0; i < n; ++i) {
+    for (int j = 0; j < n; ++j) {
+      if (i == j || chance(random) >= density) continue;
+      m[i][j] = entry(random);
+      if (symmetric) m[j][i] = m[i][j];
+    }
+  }
+  for (int i = 0; i < n; ++i) {
+    double sum = 0.0;
+    for (int j = 0; j < n; ++j) sum += std::fabs(m[i][j]);
+    m[i][i] = dominance * sum + 0.1 + chance(random);
+  }
+  return sparse(m);
+}
+
+// An array between guard words. On targets with 4-byte pointers it is aligned to 4 bytes only, as hosts may have it.
+template <class T>
+class Guarded {
+ public:
+  Guarded(std::size_t size, T fill) : size_(size), bytes_(size * sizeof(T) + 2 * kGuard + kShift, kMark) {
+    for (std::size_t i = 0; i < size; ++i) std::memcpy(data() + i, &fill, sizeof fill);
+  }
+  T* data() { return reinterpret_cast<T*>(bytes_.data() + kGuard + kShift); }
+  T& operator[](std::size_t i) { return data()[i]; }
+  std::size_t size() const { return size_; }
+  bool intact() const {
+    const std::size_t begin = kGuard + kShift, end = begin + size_ * sizeof(T);
+    for (std::size_t i = 0; i < bytes_.size(); ++i) {
+      if ((i < begin || i >= end) && bytes_[i] != kMark) return false;
+    }
+    return true;
+  }
+
+ private:
+  static constexpr unsigned char kMark = 0xa5;
+  static constexpr std::size_t kGuard = 64;
+  static constexpr std::size_t kShift = sizeof(void*) == 4 && alignof(T) > 4 ? 4 : 0;
+  std::size_t size_;
+  std::vector<unsigned char> bytes_;
+};
+
+// Applies M^-1; `iteration` is ipar(4).
+using Preconditioner = std::function<void(int iteration, const double* in, double* out)>;
+
+// What a run did: its requests as a word of digits, the residual entry after each step, the status at the end.
+struct Record {
+  std::string requests;
+  Vector residuals;
+  int status = 0;
+};
+
+// One solve with CG. Arrays are as short as a plain run allows; options are set through ipar and dpar.
+class CgHost {
+ public:
+  CgHost(const Csr& A, const Vector& b, const Vector& x0, bool preconditioned = false)
+      : A(A),
+        ipar(preconditioned ? 128 : 11, -77),
+        dpar(preconditioned ? 128 : 8, -7.7),
+        tmp(static_cast<std::size_t>(A.n) * (preconditioned ? 4 : 3), std::nan("")),
+        x(x0),
+        b(b) {
+    DCG_INIT(&A.n, x.data(), b.data(), &request, ipar.data(), dpar.data(), tmp.data());
+    if (preconditioned) ipar[10] = 1;
+  }
+
+  int check() {
+    DCG_CHECK(&A.n, x.data(), b.data(), &request, ipar.data(), dpar.data(), tmp.data());
+    return request;
+  }
+  int step() {
+    DCG(&A.n, x.data(), b.data(), &request, ipar.data(), dpar.data(), tmp.data());
+    return request;
+  }
+  // Does what the last request asks. False when nothing is left to do.
+  bool serve() {
+    double* column = tmp.data();
+    if (request == 1) A.multiply(column, column + A.n);
+    if (request == 3) precondition(ipar[3], column + 2 * A.n, column + 3 * A.n);
+    if (request == 2) return !(satisfied && satisfied());
+    return request > 0;
+  }
+  Record run(int most = 100000) {
+    Record record;
+    int seen = -1;
+    while (most-- > 0) {
+      record.status = step();
+      if (record.status > 0) record.requests += static_cast<char>('0' + record.status);
+      if (record.status != 1 || ipar[3] != 0 || seen >= 0 || record.requests.size() > 1) note(record, seen);
+      if (!serve()) break;
+    }
+    return record;
+  }
+  int itercount() {
+    int count = -1;
+    DCG_GET(&A.n, x.data(), b.data(), &request, ipar.data(), dpar.data(), tmp.data(), &count);
+    return count;
+  }
+  bool intact() const { return ipar.intact() && dpar.intact() && tmp.intact(); }
+
+  const Csr& A;
+  Guarded<int> ipar;
+  Guarded<double> dpar;
+  Guarded<double> tmp;
+  Vector x, b;
+  Preconditioner precondition;
+  std::function<bool()> satisfied;
+  int request = -1;
+
+ private:
+  // A new iteration number, or the start residual, means a new residual.
+  void note(Record& record, int& seen) {
+    if (ipar[3] == seen) return;
+    seen = ipar[3];
+    record.residuals.push_back(dpar[4]);
+  }
+};
+
+// One solve with FGMRES.
+class FgmresHost {
+ public:
+  // `m`: cycle length (0: the default); without a preconditioner tmp ends before the preconditioned vectors.
+  FgmresHost(const Csr& A, const Vector& b, const Vector& x0, int m = 0, bool preconditioned = false)
+      : A(A), ipar(128, -77), dpar(128, -7.7), tmp(tmp_size(A.n, m, preconditioned), std::nan("")), x(x0), b(b), scratch(b) {
+    DFGMRES_INIT(&A.n, x.data(), this->b.data(), &request, ipar.data(), dpar.data(), tmp.data());
+    if (m > 0) ipar[14] = m;
+    if (preconditioned) ipar[10] = 1;
+  }
+
+  static std::size_t tmp_size(int n, int m, bool preconditioned) {
+    const int length = m > 0 ? m : std::min(150, n);
+    return static_cast<std::size_t>((preconditioned ? 2 * length + 1 : length + 1) * n + length * (length + 9) / 2 + 1);
+  }
+
+  int check() {
+    DFGMRES_CHECK(&A.n, x.data(), b.data(), &request, ipar.data(), dpar.data(), tmp.data());
+    return request;
+  }
+  int step() {
+    DFGMRES(&A.n, x.data(), b.data(), &request, ipar.data(), dpar.data(), tmp.data());
+    return request;
+  }
+  bool serve() {
+    const double* source = tmp.data() + ipar[21] - 1;
+    double* target = tmp.data() + ipar[22] - 1;
+    if (request == 1) A.multiply(source, target);
+    if (request == 3) precondition(ipar[3], source, target);
+    if (request == 2) return !(satisfied && satisfied());
+    if (request == 4) return dpar[6] >= 1e-12;
+    return request > 0;
+  }
+  Record run(int most = 100000) {
+    Record record;
+    int noted = -1;
+    while (most-- > 0) {
+      const int pending = request;
+      record.status = step();
+      if (record.status > 0) record.requests += static_cast<char>('0' + record.status);
+      // The product of a step, or of the start residual, was just taken in.
+      const bool start = noted < 0 && record.requests.size() != 1;
+      if (start || (pending == 1 && ipar[13] > 0 && ipar[3] != noted)) {
+        noted = start && ipar[13] == 0 ? 0 : ipar[3];
+        record.residuals.push_back(dpar[4]);
+      }
+      if (!serve()) break;
+    }
+    return record;
+  }
+  // The iterate, by GET into a scratch vector.
+  const Vector& trial() {
+    const int target = ipar[12];
+    ipar[12] = 1;
+    get(scratch);
+    ipar[12] = target;
+    return scratch;
+  }
+  int get(Vector& into_b) {
+    int status = -1;
+    itercount = -1;
+    DFGMRES_GET(&A.n, x.data(), into_b.data(), &status, ipar.data(), dpar.data(), tmp.data(), &itercount);
+    return status;
+  }
+  int get() { return get(b); }
+  double true_residual() { return residual_norm(A, b.data(), trial().data()); }
+  bool intact() const { return ipar.intact() && dpar.intact() && tmp.intact(); }
+
+  const Csr& A;
+  Guarded<int> ipar;
+  Guarded<double> dpar;
+  Guarded<double> tmp;
+  Vector x, b, scratch;
+  Preconditioner precondition;
+  std::function<bool()> satisfied;
+  int request = -1;
+  int itercount = -1;
+};
+
+// out <- U^-1 L^-1 in, with L (unit diagonal) and U stored in one pattern.
+inline void solve_lu(const Csr& lu, const double* in, double* out) {
+  for (int i = 0; i < lu.n; ++i) {
+    out[i] = in[i];
+    for (int k = lu.ia[i] - 1; lu.ja[k] - 1 < i; ++k) out[i] -= lu.a[k] * out[lu.ja[k] - 1];
+  }
+  for (int i = lu.n - 1; i >= 0; --i) {
+    int k = lu.ia[i + 1] - 2;
+    for (; lu.ja[k] - 1 > i; --k) out[i] -= lu.a[k] * out[lu.ja[k] - 1];
+    out[i] /= lu.a[k];
+  }
+}
+
+}  // namespace rci_test
