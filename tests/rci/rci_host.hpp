@@ -107,7 +107,7 @@ class Guarded {
   Guarded(std::size_t size, T fill) : size_(size), bytes_(size * sizeof(T) + 2 * kGuard + kShift, kMark) {
     for (std::size_t i = 0; i < size; ++i) std::memcpy(data() + i, &fill, sizeof fill);
   }
-  T* data() { return reinterpret_cast<T*>(bytes_.data() + kGuard + kShift); }
+  T* data() { return static_cast<T*>(static_cast<void*>(bytes_.data() + kGuard + kShift)); }
   T& operator[](std::size_t i) { return data()[i]; }
   std::size_t size() const { return size_; }
   bool intact() const {
@@ -139,13 +139,13 @@ struct Record {
 // One solve with CG. Arrays are as short as a plain run allows; options are set through ipar and dpar.
 class CgHost {
  public:
-  CgHost(const Csr& A, const Vector& b, const Vector& x0, bool preconditioned = false)
-      : A(A),
+  CgHost(const Csr& matrix, const Vector& rhs, const Vector& start, bool preconditioned = false)
+      : A(matrix),
         ipar(preconditioned ? 128 : 11, -77),
         dpar(preconditioned ? 128 : 8, -7.7),
         tmp(static_cast<std::size_t>(A.n) * (preconditioned ? 4 : 3), std::nan("")),
-        x(x0),
-        b(b) {
+        x(start),
+        b(rhs) {
     DCG_INIT(&A.n, x.data(), b.data(), &request, ipar.data(), dpar.data(), tmp.data());
     if (preconditioned) ipar[10] = 1;
   }
@@ -168,11 +168,11 @@ class CgHost {
   }
   Record run(int most = 100000) {
     Record record;
-    int seen = -1;
     while (most-- > 0) {
+      const bool product_taken = request == 1;
       record.status = step();
       if (record.status > 0) record.requests += static_cast<char>('0' + record.status);
-      if (record.status != 1 || ipar[3] != 0 || seen >= 0 || record.requests.size() > 1) note(record, seen);
+      if (product_taken && record.status >= -1) record.residuals.push_back(dpar[4]);
       if (!serve()) break;
     }
     return record;
@@ -192,23 +192,15 @@ class CgHost {
   Preconditioner precondition;
   std::function<bool()> satisfied;
   int request = -1;
-
- private:
-  // A new iteration number, or the start residual, means a new residual.
-  void note(Record& record, int& seen) {
-    if (ipar[3] == seen) return;
-    seen = ipar[3];
-    record.residuals.push_back(dpar[4]);
-  }
 };
 
 // One solve with FGMRES.
 class FgmresHost {
  public:
   // `m`: cycle length (0: the default); without a preconditioner tmp ends before the preconditioned vectors.
-  FgmresHost(const Csr& A, const Vector& b, const Vector& x0, int m = 0, bool preconditioned = false)
-      : A(A), ipar(128, -77), dpar(128, -7.7), tmp(tmp_size(A.n, m, preconditioned), std::nan("")), x(x0), b(b), scratch(b) {
-    DFGMRES_INIT(&A.n, x.data(), this->b.data(), &request, ipar.data(), dpar.data(), tmp.data());
+  FgmresHost(const Csr& matrix, const Vector& rhs, const Vector& start, int m = 0, bool preconditioned = false)
+      : A(matrix), ipar(128, -77), dpar(128, -7.7), tmp(tmp_size(A.n, m, preconditioned), std::nan("")), x(start), b(rhs), scratch(rhs) {
+    DFGMRES_INIT(&A.n, x.data(), b.data(), &request, ipar.data(), dpar.data(), tmp.data());
     if (m > 0) ipar[14] = m;
     if (preconditioned) ipar[10] = 1;
   }
@@ -239,15 +231,13 @@ class FgmresHost {
     Record record;
     int noted = -1;
     while (most-- > 0) {
-      const int pending = request;
+      // The product of a restart comes with the number of a step that is noted already.
+      const int iteration = ipar[3];
+      const bool product_taken = request == 1 && iteration != noted;
+      if (product_taken) noted = iteration;
       record.status = step();
       if (record.status > 0) record.requests += static_cast<char>('0' + record.status);
-      // The product of a step, or of the start residual, was just taken in.
-      const bool start = noted < 0 && record.requests.size() != 1;
-      if (start || (pending == 1 && ipar[13] > 0 && ipar[3] != noted)) {
-        noted = start && ipar[13] == 0 ? 0 : ipar[3];
-        record.residuals.push_back(dpar[4]);
-      }
+      if (product_taken && record.status >= -1) record.residuals.push_back(dpar[4]);
       if (!serve()) break;
     }
     return record;
