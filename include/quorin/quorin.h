@@ -3,6 +3,7 @@
 #define QUORIN_QUORIN_H
 
 #include "quorin/blas.h"
+#include "quorin/rci.h"
 #include "quorin/services.h"
 #include "quorin/signal.h"
 

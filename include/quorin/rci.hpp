@@ -1,13 +1,14 @@
-// The iterative solvers for C++ hosts: give a matrix-vector product and a preconditioner as callables, get the solution.
+// The iterative solvers for C++ hosts: give a matrix-vector product and a preconditioner as callables, get the
+// solution.
 //
 //   auto multiply = [&](std::span<const double> in, std::span<double> out) { /* out <- A in */ };
 //   const auto result = quorin::rci::solve_cg(b, x, multiply);
 //   if (!result.converged()) ...
 //
-// Callables are called as f(std::span<const double> in, std::span<double> out) with distinct vectors of n entries. They may
-// throw: no frame of the library is on the stack then. Solves share nothing, so they may run on several threads at once.
-// Work arrays are std::vectors that live as long as the call; a host that wants its own memory, its own stopping test or a step
-// at a time uses the functions of quorin/rci.h.
+// Callables are called as f(std::span<const double> in, std::span<double> out) with distinct vectors of n entries. They
+// may throw: no frame of the library is on the stack then. Solves share nothing, so they may run on several threads at
+// once. Work arrays are std::vectors that live as long as the call; a host that wants its own memory, its own stopping
+// test or a step at a time uses the functions of quorin/rci.h.
 #pragma once
 
 #include <algorithm>
@@ -23,8 +24,8 @@
 
 namespace quorin::rci {
 
-/// When to stop: a residual r passes when ||r|| <= relative ||r0|| + absolute, r0 belonging to the start vector (CG: when this
-/// holds for the squares).
+/// When to stop: a residual r passes when ||r|| <= relative ||r0|| + absolute, r0 belonging to the start vector (CG:
+/// when this holds for the squares).
 struct Options {
   double relative_tolerance = 1.0e-8;
   double absolute_tolerance = 0.0;
@@ -42,7 +43,9 @@ struct Result {
 
 /// Stands for M = I; solves with it never ask for a preconditioner.
 struct NoPreconditioner {
-  void operator()(std::span<const double> in, std::span<double> out) const { std::copy(in.begin(), in.end(), out.begin()); }
+  void operator()(std::span<const double> in, std::span<double> out) const {
+    std::copy(in.begin(), in.end(), out.begin());
+  }
 };
 
 namespace detail {
@@ -92,8 +95,8 @@ struct Parameters {
   std::vector<double> dpar;
 };
 
-/// Answers requests until there are none. `step` calls the solver and returns its request; `source` and `target` give the
-/// vectors of a request.
+/// Answers requests until there are none. `step` calls the solver and returns its request; `source` and `target` give
+/// the vectors of a request.
 template <class Step, class Source, class Target, class Product, class Preconditioner>
 int serve(Step step, Source source, Target target, Product& multiply, Preconditioner& precondition) {
   for (;;) {
@@ -119,8 +122,8 @@ inline void require(int status) {
 
 }  // namespace detail
 
-/// Conjugate gradients for a symmetric positive definite A and, when given, M. x holds the start vector on entry and the
-/// last iterate on return, whatever the status.
+/// Conjugate gradients for a symmetric positive definite A and, when given, M. x holds the start vector on entry and
+/// the last iterate on return, whatever the status.
 template <class Product, class Preconditioner = NoPreconditioner>
 Result solve_cg(std::span<const double> b, std::span<double> x, Product&& multiply, Preconditioner&& precondition = {},
                 const Options& options = {}) {
@@ -149,8 +152,8 @@ Result solve_cg(std::span<const double> b, std::span<double> x, Product&& multip
   return result;
 }
 
-/// The same for several right-hand sides: b and x hold nrhs vectors one after another. On failure the columns after the one that
-/// failed keep their start vectors.
+/// The same for several right-hand sides: b and x hold nrhs vectors one after another. On failure the columns after the
+/// one that failed keep their start vectors.
 template <class Product, class Preconditioner = NoPreconditioner>
 Result solve_cg_many(int nrhs, std::span<const double> b, std::span<double> x, Product&& multiply,
                      Preconditioner&& precondition = {}, const Options& options = {}) {
@@ -186,11 +189,11 @@ Result solve_cg_many(int nrhs, std::span<const double> b, std::span<double> x, P
   return result;
 }
 
-/// Flexible GMRES for a general nonsingular A; the preconditioner may change from step to step. x holds the start vector on
-/// entry and the last iterate on return, whatever the status.
+/// Flexible GMRES for a general nonsingular A; the preconditioner may change from step to step. x holds the start
+/// vector on entry and the last iterate on return, whatever the status.
 template <class Product, class Preconditioner = NoPreconditioner>
-Result solve_fgmres(std::span<const double> b, std::span<double> x, Product&& multiply, Preconditioner&& precondition = {},
-                    const Options& options = {}) {
+Result solve_fgmres(std::span<const double> b, std::span<double> x, Product&& multiply,
+                    Preconditioner&& precondition = {}, const Options& options = {}) {
   using detail::Entry;
   constexpr bool kPreconditioned = detail::is_preconditioner<Preconditioner>;
   const int n = detail::checked_size(b.size(), x.size());
@@ -241,7 +244,8 @@ class IncompleteLu {
     return f;
   }
 
-  /// With at most `fill` entries beside the diagonal in each row of L and of U, those above `tolerance` times the norm of the row.
+  /// With at most `fill` entries beside the diagonal in each row of L and of U, those above `tolerance` times the norm
+  /// of the row.
   static IncompleteLu with_threshold(int n, const double* a, const int* ia, const int* ja, double tolerance, int fill) {
     IncompleteLu f(n);
     fill = std::clamp(fill, 0, n - 1);

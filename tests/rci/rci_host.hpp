@@ -1,5 +1,5 @@
-// Hosts as the documents describe them, for the tests of the iterative solvers: matrices in compressed rows, arrays between
-// guard words, and loops that answer requests and keep a record.
+// Hosts as the documents describe them, for the tests of the iterative solvers: matrices in compressed rows, arrays
+// between guard words, and loops that answer requests and keep a record.
 #pragma once
 
 #include <cmath>
@@ -199,7 +199,13 @@ class FgmresHost {
  public:
   // `m`: cycle length (0: the default); without a preconditioner tmp ends before the preconditioned vectors.
   FgmresHost(const Csr& matrix, const Vector& rhs, const Vector& start, int m = 0, bool preconditioned = false)
-      : A(matrix), ipar(128, -77), dpar(128, -7.7), tmp(tmp_size(A.n, m, preconditioned), std::nan("")), x(start), b(rhs), scratch(rhs) {
+      : A(matrix),
+        ipar(128, -77),
+        dpar(128, -7.7),
+        tmp(tmp_size(A.n, m, preconditioned), std::nan("")),
+        x(start),
+        b(rhs),
+        scratch(rhs) {
     DFGMRES_INIT(&A.n, x.data(), b.data(), &request, ipar.data(), dpar.data(), tmp.data());
     if (m > 0) ipar[14] = m;
     if (preconditioned) ipar[10] = 1;

@@ -15,7 +15,7 @@ void cg_init(int n, const double*, const double*, int* request, int* ipar, doubl
   *request = kFinished;
 }
 
-void cg_check(int, const double*, const double*, int* request, int* ipar, double* dpar, double*) {
+void cg_check(int, const double*, const double*, int* request, int* ipar, const double* dpar, const double*) {
   *request = check_cg(true, Ipar(ipar), ConstDpar(dpar), Messages("dcg_check", kCgFiles, ConstIpar(ipar)));
 }
 

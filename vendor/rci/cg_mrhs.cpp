@@ -73,7 +73,8 @@ void cg_mrhs_init(int n, const double*, int nrhs, const double*, int method, int
   *request = kFinished;
 }
 
-void cg_mrhs_check(int, const double*, int nrhs, const double*, int* request, int* ipar, double* dpar, double*) {
+void cg_mrhs_check(int, const double*, int nrhs, const double*, int* request, int* ipar, const double* dpar,
+                   const double*) {
   *request = check_cg(nrhs > 0, Ipar(ipar), ConstDpar(dpar), Messages("dcgmrhs_check", kCgFiles, ConstIpar(ipar)));
 }
 

@@ -233,7 +233,7 @@ int advance(double* x, const double* b, Ipar ipar, Dpar dpar, double* tmp) {
 
 }  // namespace
 
-void fgmres_init(int n, const double*, const double*, int* request, int* ipar, double* dpar, double*) {
+void fgmres_init(int n, const double*, const double*, int* request, int* ipar, double* dpar, const double*) {
   *request = kNotCompleted;
   if (n <= 0) return;
   const Ipar integers(ipar);
@@ -256,7 +256,7 @@ void fgmres_init(int n, const double*, const double*, int* request, int* ipar, d
   *request = kFinished;
 }
 
-void fgmres_check(int, const double*, const double*, int* request, int* ipar, double* dpar, double*) {
+void fgmres_check(int, const double*, const double*, int* request, int* ipar, const double* dpar, const double*) {
   const Ipar parameters(ipar);
   const ConstIpar values(ipar);
   Messages messages("dfgmres_check", kFgmresFiles, values);

@@ -2,9 +2,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/workspace.hpp"
 #include "vendor/rci/messages.hpp"
 #include "vendor/rci/rci.hpp"
-#include "vendor/rci/work_array.hpp"
 
 namespace quorin::rci {
 namespace {
@@ -79,8 +79,9 @@ void eliminate_row(RowRange row, int pivot_place, const int* ia, const int* ja, 
 
 int factorize(int n, const double* a, const int* ia, const int* ja, PivotRule rule, double* b) {
   if (n <= 0) return kBadSize;
-  const WorkArray<int> diagonal(static_cast<std::size_t>(n)), place(static_cast<std::size_t>(n));
+  base::Workspace<int> diagonal(static_cast<std::size_t>(n)), place(static_cast<std::size_t>(n));
   if (!diagonal || !place) return kNoMemory;
+  std::fill_n(place.data(), n, 0);
   if (const int error = check_pattern(n, ia, ja, diagonal.data()); error != 0) return error;
   for (int i = 0; i < n; ++i) {
     const RowRange row = row_of(ia, i);

@@ -4,12 +4,13 @@
 #include <cmath>
 #include <cstddef>
 #include <functional>
+#include <limits>
 
+#include "base/workspace.hpp"
 #include "vendor/rci/column_set.hpp"
 #include "vendor/rci/messages.hpp"
 #include "vendor/rci/rci.hpp"
 #include "vendor/rci/vector_kernels.hpp"
-#include "vendor/rci/work_array.hpp"
 
 namespace quorin::rci {
 namespace {
@@ -71,20 +72,23 @@ int check_pattern(const Matrix& m) {
 
 // Memory for the factorization of n rows.
 struct Scratch {
-  explicit Scratch(std::size_t n) : dense(n), magnitudes(n), kept(n), diagonal(n), words(ColumnSet::words(n)) {}
+  explicit Scratch(std::size_t n) : dense(n), magnitudes(n), kept(n), diagonal(n), words(ColumnSet::words(n)) {
+    if (dense) std::fill_n(dense.data(), n, 0.0);
+    if (words) std::fill_n(words.data(), words.size(), ColumnSet::Word{0});
+  }
   bool complete() const { return dense && magnitudes && kept && diagonal && words; }
 
-  WorkArray<double> dense;
-  WorkArray<double> magnitudes;
-  WorkArray<int> kept;
-  WorkArray<int> diagonal;
-  WorkArray<ColumnSet::Word> words;
+  base::Workspace<double> dense;
+  base::Workspace<double> magnitudes;
+  base::Workspace<int> kept;
+  base::Workspace<int> diagonal;
+  base::Workspace<ColumnSet::Word> words;
 };
 
 // The factorization. The current row is a dense vector; `pattern_` tells which of its columns are still to be visited.
 class Factorization {
  public:
-  Factorization(const Matrix& m, const Rule& rule, const Factors& out, const Scratch& scratch)
+  Factorization(const Matrix& m, const Rule& rule, const Factors& out, Scratch& scratch)
       : m_(m),
         rule_(rule),
         out_(out),
@@ -154,23 +158,31 @@ class Factorization {
     return count;
   }
 
+  // Which entries stay: those greater than `least`, and the first `equals` of those that equal it.
+  struct Cut {
+    double least;
+    int equals;
+  };
+
+  Cut find_cut(int count) const {
+    if (count <= rule_.fill) return {0.0, 0};  // the drop tolerance has seen to zeros
+    if (rule_.fill == 0) return {std::numeric_limits<double>::infinity(), 0};
+    for (int k = 0; k < count; ++k) magnitudes_[k] = std::fabs(dense_[kept_[k]]);
+    double* last = magnitudes_ + (rule_.fill - 1);
+    std::nth_element(magnitudes_, last, magnitudes_ + count, std::greater<>());
+    return {*last, static_cast<int>(std::count(magnitudes_, last + 1, *last))};
+  }
+
   // Of the `count` columns in kept_, which ascend, stores the rule's number of largest entries. All leave the dense
   // row.
   void append_largest(int count) {
-    double least = 0.0;
-    int equals = count;  // how many entries as large as `least` may stay: the first ones do
-    if (count > rule_.fill) {
-      for (int k = 0; k < count; ++k) magnitudes_[k] = std::fabs(dense_[kept_[k]]);
-      double* last = magnitudes_ + std::max(rule_.fill - 1, 0);
-      std::nth_element(magnitudes_, last, magnitudes_ + count, std::greater<>());
-      least = *last;
-      equals = static_cast<int>(std::count(magnitudes_, magnitudes_ + rule_.fill, least));
-    }
+    Cut cut = find_cut(count);
     for (int k = 0; k < count; ++k) {
       const int column = kept_[k];
       const double value = dense_[column];
+      const double magnitude = std::fabs(value);
       dense_[column] = 0.0;
-      if (std::fabs(value) > least ? rule_.fill > 0 : equals-- > 0) append(column, value);
+      if (magnitude > cut.least || (magnitude == cut.least && cut.equals-- > 0)) append(column, value);
     }
   }
 
@@ -247,7 +259,7 @@ void report(int error, Messages& messages) {
 }
 
 int factorize(const Matrix& m, const Rule& rule, const Factors& out) {
-  const Scratch scratch(static_cast<std::size_t>(m.n));
+  Scratch scratch(static_cast<std::size_t>(m.n));
   return scratch.complete() ? Factorization(m, rule, out, scratch).run() : static_cast<int>(kNoMemory);
 }
 

@@ -3,14 +3,15 @@
 #include <cstdio>
 #include <cstring>
 
+#include "platform/platform.hpp"
+
 namespace quorin::rci {
 namespace {
 
 // The one place that puts text out. `file` is null for the screen.
 void put_line(const char* line, const char* file, bool append) {
   if (file == nullptr) {
-    std::fputs(line, stdout);
-    std::fflush(stdout);
+    platform::write_standard_output(line);
     return;
   }
   // A host that asked for a file in a folder that it may not write to gets its result without the words.
@@ -24,7 +25,11 @@ void put_line(const char* line, const char* file, bool append) {
 
 void Messages::print(const char* kind, int code, const char* text, const char* file) {
   char line[256];
-  std::snprintf(line, sizeof line, "%s: %s %d: %s\n", routine_, kind, code, text);
+  if (code != 0) {
+    std::snprintf(line, sizeof line, "%s: %s %d: %s\n", routine_, kind, code, text);
+  } else {
+    std::snprintf(line, sizeof line, "%s: %s: %s\n", routine_, kind, text);
+  }
   const bool append = begun_file_ != nullptr && std::strcmp(begun_file_, file) == 0;
   put_line(line, to_screen_ ? nullptr : file, append);
   begun_file_ = file;

@@ -22,6 +22,7 @@ class Messages {
         errors_wanted_(ipar.print_errors() != 0),
         warnings_wanted_(ipar.print_warnings() != 0) {}
 
+  /// `code` is what the routine returns; 0 is left out of the text.
   void error(int code, const char* text) {
     if (errors_wanted_) print("error", code, text, files_.errors);
   }

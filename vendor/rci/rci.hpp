@@ -18,7 +18,7 @@ void cg_init(int n, const double* x, const double* b, int* request, int* ipar, d
 
 /// Judges the parameters. *request: 0 consistent; -1100 size not positive; -1001 iteration limit not positive or a
 /// tolerance negative; -1011 no stopping test was on, so the limit and residual tests were turned on.
-void cg_check(int n, const double* x, const double* b, int* request, int* ipar, double* dpar, double* tmp);
+void cg_check(int n, const double* x, const double* b, int* request, int* ipar, const double* dpar, const double* tmp);
 
 /// One leg of conjugate gradients for a symmetric positive definite A; x holds the start vector and then the iterate.
 /// tmp(n,4): direction, A * direction, residual, preconditioned residual (column 4 is touched only when ipar(11) is not
@@ -37,8 +37,8 @@ void cg_mrhs_init(int n, const double* x, int nrhs, const double* b, int method,
                   double* tmp);
 
 /// As cg_check; also -1100 when nrhs is not positive.
-void cg_mrhs_check(int n, const double* x, int nrhs, const double* b, int* request, int* ipar, double* dpar,
-                   double* tmp);
+void cg_mrhs_check(int n, const double* x, int nrhs, const double* b, int* request, int* ipar, const double* dpar,
+                   const double* tmp);
 
 /// One leg of conjugate gradients for one right-hand side after the other, ipar(3) being the one in progress.
 /// tmp(n,3+nrhs): direction, A * direction, preconditioned residual, then the residual of each right-hand side.
@@ -51,11 +51,12 @@ void cg_mrhs_get(int n, const double* x, int nrhs, const double* b, const int* r
 
 /// Fills `ipar` (1..23, 31) and `dpar` (1..8, 31, 32) with the defaults of FGMRES and of ILU0; tmp is left alone.
 /// *request: 0, or -10000 when n <= 0 (nothing is written then).
-void fgmres_init(int n, const double* x, const double* b, int* request, int* ipar, double* dpar, double* tmp);
+void fgmres_init(int n, const double* x, const double* b, int* request, int* ipar, double* dpar, const double* tmp);
 
 /// As cg_check; also -1100 when the cycle length is not positive or tmp cannot be addressed with it. Positions
 /// ipar(16..21) that do not suit ipar(1) and ipar(15) are put right, with a printed warning, and count as consistent.
-void fgmres_check(int n, const double* x, const double* b, int* request, int* ipar, double* dpar, double* tmp);
+void fgmres_check(int n, const double* x, const double* b, int* request, int* ipar, const double* dpar,
+                  const double* tmp);
 
 /// One leg of flexible GMRES(m), m = ipar(15), for a general nonsingular A; x changes at restarts only, see fgmres_get.
 /// tmp: (2m+1) n + m(m+9)/2 + 1 entries, the last m n of them untouched when ipar(11) is 0.

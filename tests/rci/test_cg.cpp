@@ -72,7 +72,8 @@ TEST(Cg, PublishedExampleFromOnesAndFromZeros) {
 TEST(Cg, StepCoefficientsOfThePublishedExample) {
   const Csr A = indefinite8();
   CgHost host(A, A * Vector{1, 0, 1, 0, 1, 0, 1, 0}, Vector(8, 1.0));
-  const Vector alphas{0.0991071429, -0.0805444986, 0.0556496162, 0.467523851, -0.0895363279, 1.98136479, -0.0214279287, 0.205278291};
+  const Vector alphas{0.0991071429,  -0.0805444986, 0.0556496162,  0.467523851,
+                      -0.0895363279, 1.98136479,    -0.0214279287, 0.205278291};
   std::size_t k = 0;
   while (host.step() > 0 && k < alphas.size()) {
     if (host.request == 2) {
@@ -110,8 +111,11 @@ TEST(Cg, Preconditioned) {
   first.precondition = jacobi;
   const Record with_jacobi = first.run();
   EXPECT_EQ(with_jacobi.status, 0);
-  EXPECT_EQ(with_jacobi.requests, "131313131" "31313131");
-  expect_history(with_jacobi.residuals, {444, 1336.17624, 238.291727, 238.518056, 166.223082, 13.9070891, 7.24487116, 0.171965766, 0}, 1e-18);
+  EXPECT_EQ(with_jacobi.requests,
+            "131313131"
+            "31313131");
+  expect_history(with_jacobi.residuals,
+                 {444, 1336.17624, 238.291727, 238.518056, 166.223082, 13.9070891, 7.24487116, 0.171965766, 0}, 1e-18);
 
   CgHost second(A, b, Vector(8, 1.0), true);
   test_residual(second, 1e-5);
@@ -274,7 +278,13 @@ TEST(Cg, PreconditionerSwitchedOnTheWay) {
 // Several right-hand sides.
 struct ManyHost {
   ManyHost(const Csr& matrix, const Vector& rhs, const Vector& start, int count)
-      : A(matrix), nrhs(count), ipar(128 + 2 * count, -77), dpar(128 + 2 * count, -7.7), tmp(A.n * (3 + count), std::nan("")), x(start), b(rhs) {
+      : A(matrix),
+        nrhs(count),
+        ipar(128 + 2 * count, -77),
+        dpar(128 + 2 * count, -7.7),
+        tmp(A.n * (3 + count), std::nan("")),
+        x(start),
+        b(rhs) {
     const int method = 1;
     DCGMRHS_INIT(&A.n, x.data(), &nrhs, b.data(), &method, &request, ipar.data(), dpar.data(), tmp.data());
   }
@@ -365,11 +375,13 @@ TEST(CgMany, CodesAndMisuse) {
   ManyHost host(A, b, Vector(8, 0.0), 2);
   host.ipar[5] = host.ipar[6] = 0;
   const auto init = [&](int nrhs, int method) {
-    DCGMRHS_INIT(&A.n, host.x.data(), &nrhs, host.b.data(), &method, &host.request, host.ipar.data(), host.dpar.data(), host.tmp.data());
+    DCGMRHS_INIT(&A.n, host.x.data(), &nrhs, host.b.data(), &method, &host.request, host.ipar.data(), host.dpar.data(),
+                 host.tmp.data());
     return host.request;
   };
   const auto check = [&](int nrhs) {
-    DCGMRHS_CHECK(&A.n, host.x.data(), &nrhs, host.b.data(), &host.request, host.ipar.data(), host.dpar.data(), host.tmp.data());
+    DCGMRHS_CHECK(&A.n, host.x.data(), &nrhs, host.b.data(), &host.request, host.ipar.data(), host.dpar.data(),
+                  host.tmp.data());
     return host.request;
   };
   EXPECT_EQ(init(0, 1), -10000);

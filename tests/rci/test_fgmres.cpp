@@ -43,8 +43,9 @@ TEST(Fgmres, PublishedPlainExample) {
   const Csr A = nonsymmetric5();
   const Vector b = A * kSolution5;
   ASSERT_EQ(b, (Vector{-1, 1, 0, 3, 2}));
-  const std::pair<double, Vector> cases[] = {{1.0, {7.071067812, 4.372705497, 4.141871372, 2.435360652, 0.1393762442, 0}},
-                                             {0.0, {3.872983346, 3.829708431, 2.407657176, 2.402986425, 0.04577914643, 0}}};
+  const std::pair<double, Vector> cases[] = {
+      {1.0, {7.071067812, 4.372705497, 4.141871372, 2.435360652, 0.1393762442, 0}},
+      {0.0, {3.872983346, 3.829708431, 2.407657176, 2.402986425, 0.04577914643, 0}}};
   for (const auto& [start, history] : cases) {
     FgmresHost host(A, b, Vector(5, start));
     test_automatically(host, 1e-3);
@@ -70,7 +71,13 @@ TEST(Fgmres, NormsOfTheGeneratedVectors) {
     ++k;
     return false;
   };
-  EXPECT_EQ(host.run().requests, "1" "124" "124" "124" "124" "124");
+  EXPECT_EQ(host.run().requests,
+            "1"
+            "124"
+            "124"
+            "124"
+            "124"
+            "124");
   EXPECT_EQ(k, 5u);
 }
 
@@ -92,11 +99,18 @@ TEST(Fgmres, PublishedExampleOfAllFeatures) {
   Vector norms;
   host.satisfied = [&] {
     norms.push_back(host.dpar[6]);
-    if (host.ipar[3] == 2) expect_near(host.trial(), {1, 0.9148039841389, 1.1590871369607, 0.6579193968746, -0.7566005147670}, 1e-12);
+    if (host.ipar[3] == 2)
+      expect_near(host.trial(), {1, 0.9148039841389, 1.1590871369607, 0.6579193968746, -0.7566005147670}, 1e-12);
     return host.true_residual() < 1e-3;
   };
   const Record record = host.run();
-  EXPECT_EQ(record.requests, "1" "3124" "3124" "1" "3124" "312");
+  EXPECT_EQ(record.requests,
+            "1"
+            "3124"
+            "3124"
+            "1"
+            "3124"
+            "312");
   expect_history(record.residuals, {7.071068, 3.654275, 3.593855, 2.914676, 0});
   const double expected[] = {6.254, 4.811, 3.774, 0.0};
   for (std::size_t k = 0; k < 4; ++k) EXPECT_NEAR(norms[k], expected[k], 6e-4) << k;
@@ -262,7 +276,8 @@ TEST(Fgmres, CheckCodes) {
     EXPECT_EQ(host.step(), -12);
   }
   const int negative = -1;
-  DFGMRES_INIT(&negative, host.x.data(), host.b.data(), &host.request, host.ipar.data(), host.dpar.data(), host.tmp.data());
+  DFGMRES_INIT(&negative, host.x.data(), host.b.data(), &host.request, host.ipar.data(), host.dpar.data(),
+               host.tmp.data());
   EXPECT_EQ(host.request, -10000);
   EXPECT_TRUE(host.intact());
 }
@@ -280,8 +295,8 @@ TEST(Fgmres, MisuseEndsTheRun) {
     return host;
   };
   // Sizes, stage, step count and positions are those of the run, or the call refuses; GET likewise.
-  const std::pair<std::size_t, int> changes[] = {{0, 0}, {0, 6},  {2, 0},  {2, 77}, {2, -1}, {13, -1}, {13, 4},
-                                                 {14, 0}, {14, 2}, {15, 1}, {17, 9}, {20, 1000000}};
+  const std::pair<std::size_t, int> changes[] = {{0, 0},  {0, 6},  {2, 0},  {2, 77}, {2, -1}, {13, -1},
+                                                 {13, 4}, {14, 0}, {14, 2}, {15, 1}, {17, 9}, {20, 1000000}};
   for (const auto& [entry, value] : changes) {
     FgmresHost host = begun(4);
     host.ipar[entry] = value;
