@@ -11,6 +11,7 @@ int main() {
   demo::services_rows(library, report);
   demo::blas_rows(library, report);
   demo::signal_rows(library, report);
+  demo::rci_rows(library, report);
   std::printf("\n%d rows, %d failed\n", report.rows(), report.failures());
   return report.failures() == 0 ? 0 : 1;
 }

@@ -53,5 +53,6 @@ class Report {
 void services_rows(const Library& library, Report& report);
 void blas_rows(const Library& library, Report& report);
 void signal_rows(const Library& library, Report& report);
+void rci_rows(const Library& library, Report& report);
 
 }  // namespace demo

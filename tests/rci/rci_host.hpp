@@ -147,6 +147,7 @@ class CgHost {
         x(start),
         b(rhs) {
     DCG_INIT(&A.n, x.data(), b.data(), &request, ipar.data(), dpar.data(), tmp.data());
+    ipar[5] = ipar[6] = 0;  // no messages
     if (preconditioned) ipar[10] = 1;
   }
 
@@ -208,6 +209,7 @@ class FgmresHost {
         scratch(rhs) {
     DFGMRES_INIT(&A.n, x.data(), b.data(), &request, ipar.data(), dpar.data(), tmp.data());
     if (m > 0) ipar[14] = m;
+    ipar[5] = ipar[6] = 0;  // no messages
     if (preconditioned) ipar[10] = 1;
   }
 

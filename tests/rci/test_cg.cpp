@@ -155,7 +155,6 @@ TEST(Cg, EndsOfARun) {
     const Csr longer = indefinite8();
     CgHost host(longer, Vector(8, 1.0), Vector(8, 0.0));
     test_residual(host, 1e-20);
-    host.ipar[5] = 0;
     host.ipar[4] = 2;
     EXPECT_EQ(host.run().status, -1);
     EXPECT_EQ(host.itercount(), 2);
@@ -195,7 +194,6 @@ TEST(Cg, CheckAndInitCodes) {
   const Csr A = spd4();
   const Vector b(4, 2.0);
   CgHost host(A, b, Vector(4, 0.0));
-  host.ipar[5] = host.ipar[6] = 0;
   EXPECT_EQ(host.check(), 0);
   host.ipar[4] = 0;
   EXPECT_EQ(host.check(), -1001);
@@ -224,29 +222,24 @@ TEST(Cg, MisuseEndsTheRun) {
   for (const double bad : bad_norms) {
     for (const std::size_t entry : {4u, 5u}) {
       CgHost host(A, {1, 2, 3, 4}, Vector(4, 0.0));
-      host.ipar[5] = 0;
       while (host.step() != 2) host.serve();
       host.dpar[entry] = bad;
       EXPECT_EQ(host.run().status, -10) << "dpar entry " << entry << " = " << bad;
     }
   }
   CgHost zeroed(A, {1, 2, 3, 4}, Vector(4, 0.0));
-  zeroed.ipar[5] = 0;
   while (zeroed.step() != 2) zeroed.serve();
   zeroed.dpar[5] = 0.0;
   EXPECT_EQ(zeroed.step(), -10);
 
   CgHost not_numbers(A, {1, std::nan(""), 3, 4}, Vector(4, 0.0));
-  not_numbers.ipar[5] = 0;
   EXPECT_EQ(not_numbers.run().status, -10);
   for (const int stage : {0, -5, 99, std::numeric_limits<int>::max()}) {
     CgHost host(A, {1, 2, 3, 4}, Vector(4, 0.0));
-    host.ipar[5] = 0;
     host.ipar[2] = stage;
     EXPECT_EQ(host.step(), -11);
   }
   CgHost nan_preconditioner(A, {1, 2, 3, 4}, Vector(4, 0.0), true);
-  nan_preconditioner.ipar[5] = 0;
   nan_preconditioner.precondition = [](int, const double*, double* out) { std::fill_n(out, 4, std::nan("")); };
   EXPECT_EQ(nan_preconditioner.run().status, -2);
 }
@@ -287,6 +280,7 @@ struct ManyHost {
         b(rhs) {
     const int method = 1;
     DCGMRHS_INIT(&A.n, x.data(), &nrhs, b.data(), &method, &request, ipar.data(), dpar.data(), tmp.data());
+    ipar[5] = ipar[6] = 0;  // no messages
   }
   int step() {
     sDCGMRHS_Idx(&A.n, x.data(), 0, &nrhs, b.data(), 0, &request, ipar.data(), 0, dpar.data(), 0, tmp.data(), 0);
@@ -373,7 +367,6 @@ TEST(CgMany, CodesAndMisuse) {
   const Csr A = spd4();
   const Vector b{1, 2, 3, 4, 4, 3, 2, 1};
   ManyHost host(A, b, Vector(8, 0.0), 2);
-  host.ipar[5] = host.ipar[6] = 0;
   const auto init = [&](int nrhs, int method) {
     DCGMRHS_INIT(&A.n, host.x.data(), &nrhs, host.b.data(), &method, &host.request, host.ipar.data(), host.dpar.data(),
                  host.tmp.data());

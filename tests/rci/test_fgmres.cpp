@@ -133,7 +133,6 @@ TEST(Fgmres, SmallEnds) {
 
   const Csr zero{2, {1, 2, 3}, {1, 2}, {0, 0}};
   FgmresHost degenerate(zero, {1, 2}, {0, 0});
-  degenerate.ipar[5] = 0;
   EXPECT_EQ(degenerate.run().status, -10);
   EXPECT_EQ(degenerate.step(), -10);
   EXPECT_EQ(degenerate.get(), 0);
@@ -141,12 +140,10 @@ TEST(Fgmres, SmallEnds) {
 
   // The host goes on from a zero vector.
   FgmresHost stubborn(two, {1, 2, 3}, Vector(3, 0.0));
-  stubborn.ipar[5] = 0;
   while (stubborn.step() != 4) stubborn.serve();
   EXPECT_EQ(stubborn.step(), -10);
 
   FgmresHost exact(two, {2, 4, 6}, {1, 2, 3});
-  exact.ipar[5] = 0;
   EXPECT_EQ(exact.run().requests, "12");
   EXPECT_EQ(exact.request, -10);
   FgmresHost exact_tested(two, {2, 4, 6}, {1, 2, 3});
@@ -161,7 +158,6 @@ TEST(Fgmres, LimitAndGoingOn) {
   const Vector b = A * kSolution5;
   FgmresHost host(A, b, Vector(5, 1.0));
   test_automatically(host, 1e-3);
-  host.ipar[5] = 0;
   host.ipar[4] = 2;
   EXPECT_EQ(host.run().status, -1);
   EXPECT_NEAR(host.true_residual(), 4.141871372, 1e-8);
@@ -254,7 +250,6 @@ TEST(Fgmres, PreconditionerSwitchedWithinACycle) {
 TEST(Fgmres, CheckCodes) {
   const Csr A = nonsymmetric5();
   FgmresHost host(A, A * kSolution5, Vector(5, 1.0), 5);
-  host.ipar[5] = host.ipar[6] = 0;
   const int starts[] = {31, 46, 51, 56, 62, 67};
   for (std::size_t i = 0; i < 6; ++i) EXPECT_EQ(host.ipar[15 + i], starts[i]);
   EXPECT_EQ(host.ipar[4], 5);
@@ -287,7 +282,6 @@ TEST(Fgmres, MisuseEndsTheRun) {
   const Vector b = A * kSolution5;
   const auto begun = [&](int calls) {
     FgmresHost host(A, b, Vector(5, 1.0), 3);
-    host.ipar[5] = 0;
     while (calls-- > 0) {
       host.step();
       host.serve();
@@ -313,10 +307,8 @@ TEST(Fgmres, MisuseEndsTheRun) {
     EXPECT_EQ(switched.step(), -11);
   }
   FgmresHost not_numbers(A, {1, 2, std::nan(""), 0, 0}, Vector(5, 1.0));
-  not_numbers.ipar[5] = 0;
   EXPECT_EQ(not_numbers.run().status, -10);
   FgmresHost bad_preconditioner(A, b, Vector(5, 1.0), 3, true);
-  bad_preconditioner.ipar[5] = 0;
   bad_preconditioner.precondition = [](int, const double*, double* out) { std::fill_n(out, 5, std::nan("")); };
   EXPECT_EQ(bad_preconditioner.run().status, -10);
 }
@@ -384,7 +376,6 @@ TEST(Messages, Files) {
   const Csr A = nonsymmetric5();
   FgmresHost host(A, A * kSolution5, Vector(5, 1.0), 5);
   host.ipar[1] = 0;
-  host.ipar[5] = host.ipar[6] = 0;
   host.ipar[4] = 0;
   host.dpar[0] = -1.0;
   EXPECT_EQ(host.check(), -1001);
@@ -399,6 +390,7 @@ TEST(Messages, Files) {
   CgHost cg(A, A * kSolution5, Vector(5, 1.0));
   cg.ipar[1] = 1;
   cg.ipar[4] = -1;
+  cg.ipar[5] = cg.ipar[6] = 1;
   cg.check();
   cg.ipar[0] = 0;
   cg.step();

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <climits>
+#include <cmath>
 #include <memory>
 #include <thread>
 
@@ -197,6 +199,37 @@ void interleaved_equals_separate(bool symmetric) {
 TEST(Properties, InterleavedSolvesEqualSeparateOnes) {
   interleaved_equals_separate<CgHost>(true);
   interleaved_equals_separate<FgmresHost>(false);
+}
+
+// Whatever a host does to the parameters on the way, a run stays within its arrays. Sizes of CG cannot be checked,
+// those of FGMRES can. (The guard words and the sanitizers watch.)
+TEST(Properties, CorruptedParameters) {
+  std::mt19937 random(99);
+  const int integers[] = {INT_MIN, -1, 0, 1, 2, 3, 7, 100, INT_MAX};
+  const double reals[] = {std::nan(""), HUGE_VAL, -1.0, 0.0, 1e300, 1e-300};
+  const auto pick = [&](const auto& values) { return values[random() % std::size(values)]; };
+  const System s(6, true, 4);
+  const auto corrupt = [&](auto& host, std::size_t first, std::size_t entries) {
+    host.precondition = s.jacobi();
+    for (auto calls = 1 + random() % 20; calls > 0; --calls) {
+      host.step();
+      if (!host.serve()) break;
+    }
+    if (random() % 3 != 0) host.ipar[first + random() % (entries - first)] = pick(integers);
+    if (random() % 3 == 0) host.dpar[random() % 8] = pick(reals);
+    host.ipar[5] = host.ipar[6] = 0;
+    host.run(100);
+    EXPECT_TRUE(host.intact());
+  };
+  for (int trial = 0; trial < 3000; ++trial) {
+    CgHost cg(s.A, s.b, s.start, true);
+    corrupt(cg, 1, 11);
+    FgmresHost fgmres(s.A, s.b, s.start, 3, true);
+    corrupt(fgmres, 0, 23);
+    Vector out(s.b.size());
+    fgmres.get(out);
+    EXPECT_TRUE(fgmres.intact());
+  }
 }
 
 // The index forms add 4 or 8 bytes per element, each array by its own kind.

@@ -105,7 +105,7 @@ class CgRun {
     dpar_.previous_residual() = dpar_.residual();
     dpar_.residual() = advance(alpha);
     if (next == kCgPlainTest) dpar_.beta() = dpar_.residual() / dpar_.previous_residual();
-    ++ipar_.iteration();
+    ipar_.count_iteration();
     stage_ = next;
     if (!is_squared_norm(dpar_.residual())) return kCgInvalidNorm;
     return residual_stops() ? kFinished : test(next);

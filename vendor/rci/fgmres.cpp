@@ -105,7 +105,7 @@ class FgmresRun {
 
   // Step k of the cycle: z(k) <- M^-1 v(k), then v(k+1) <- A z(k).
   int begin_step() {
-    ++ipar_.iteration();
+    ipar_.count_iteration();
     const int k = step();
     if (ipar_.preconditioned() != 0) {
       keep_preconditioned_vectors();
@@ -187,15 +187,27 @@ class FgmresRun {
   FgmresMark mark_;
 };
 
+// Whether `done` completed steps can be at this stage of a cycle.
+bool fits_stage(int done, const FgmresMark& mark) {
+  switch (mark.stage) {
+    case kGmresPreconditioning:
+    case kGmresStepProduct:
+      return done >= 0 && done < mark.cycle_length;
+    case kGmresResidualTested:
+    case kGmresNormTested:
+      return done > 0 && done <= mark.cycle_length;
+    case kGmresBroken:
+      return done >= 0 && done <= mark.cycle_length;
+    default:
+      return done == 0;
+  }
+}
+
 // A run under way has the layout it began with, and steps completed within the cycle.
 bool is_intact(ConstIpar ipar, const FgmresLayout& layout) {
   const FgmresMark mark = FgmresMark::unpack(ipar.stage());
-  const int done = ipar.cycle_iteration();
-  if (!layout.valid || !layout.matches(ipar) || mark.cycle_length != ipar.cycle_length()) return false;
-  if (done < 0 || done > mark.cycle_length) return false;
-  const bool in_step = mark.stage == kGmresPreconditioning || mark.stage == kGmresStepProduct;
-  const bool step_done = mark.stage == kGmresResidualTested || mark.stage == kGmresNormTested;
-  return (in_step ? done < mark.cycle_length : true) && (step_done ? done > 0 : true);
+  return layout.valid && layout.matches(ipar) && mark.cycle_length == ipar.cycle_length() &&
+         fits_stage(ipar.cycle_iteration(), mark);
 }
 
 bool has_begun(ConstIpar ipar) { return ipar.stage() != kGmresStart; }

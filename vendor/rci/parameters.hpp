@@ -1,6 +1,9 @@
 // Names for the entries of the hosts' parameter arrays, so that no position appears anywhere else.
 #pragma once
 
+#include <algorithm>
+#include <limits>
+
 namespace quorin::rci {
 
 /// What a solver asks of its host (positive), or how it ended.
@@ -66,6 +69,9 @@ class IntegerParameters {
   Int& iterations_of(int right_hand_side) const { return at(kLength + right_hand_side); }
 
   bool has_stopping_test() const { return limit_test() != 0 || residual_test() != 0 || host_test() != 0; }
+
+  /// A host may have put any number there.
+  void count_iteration() const { iteration() = std::min(iteration(), std::numeric_limits<int>::max() - 1) + 1; }
 
   static constexpr int kLength = 128;
 
