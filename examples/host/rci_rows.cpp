@@ -204,7 +204,8 @@ Factors ilut(const Library& library, const Matrix& a, const Parameters& p, Timer
   Factors f;
   f.n = a.n;
   f.starts.resize(static_cast<std::size_t>(a.n) + 1);
-  f.columns.resize(static_cast<std::size_t>((2 * fill + 1) * a.n - fill * (fill + 1) + 1));
+  const int32_t length = (2 * fill + 1) * a.n - fill * (fill + 1) + 1;
+  f.columns.resize(static_cast<std::size_t>(length));
   f.values.resize(f.columns.size());
   int32_t error = -1;
   timer.time([&] {

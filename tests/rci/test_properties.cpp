@@ -165,6 +165,7 @@ void interleaved_equals_separate(bool symmetric) {
     systems.push_back(std::make_unique<System>(30 + 11 * static_cast<int>(k), symmetric, 100 + k));
   const auto walkers = [&] {
     std::vector<Walker<Host>> all;
+    all.reserve(systems.size());
     for (int k = 0; k < 6; ++k) all.emplace_back(*systems[k], 5 + k);
     return all;
   };
@@ -183,6 +184,7 @@ void interleaved_equals_separate(bool symmetric) {
   }
   std::vector<Walker<Host>> at_once = walkers();
   std::vector<std::thread> threads;
+  threads.reserve(at_once.size());
   for (Walker<Host>& w : at_once) {
     threads.emplace_back([&w] {
       while (w.advance()) {

@@ -34,7 +34,7 @@ struct Case {
 };
 
 Csr load(const Case& c) {
-  const Csr A = read_triplets(c.name, c.symmetric);
+  Csr A = read_triplets(c.name, c.symmetric);
   EXPECT_EQ(A.n, c.size) << c.name;
   return A;
 }
