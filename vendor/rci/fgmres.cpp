@@ -232,11 +232,10 @@ void report(int request, Messages messages) {
 
 int advance(double* x, const double* b, Ipar ipar, Dpar dpar, double* tmp) {
   const FgmresLayout layout(ipar.size(), ipar.cycle_length());
-  const ConstIpar values(&ipar.size());
-  if (!has_begun(values)) {
+  if (!has_begun(ipar.as_const())) {
     if (!layout.valid) return kCorruptParameters;
     layout.store(ipar);
-  } else if (!is_intact(values, layout)) {
+  } else if (!is_intact(ipar.as_const(), layout)) {
     return kCorruptParameters;
   }
   if (!ipar.has_stopping_test()) return kEndlessLoop;

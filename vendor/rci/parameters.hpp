@@ -37,6 +37,7 @@ template <class Int>
 class IntegerParameters {
  public:
   explicit IntegerParameters(Int* values) : values_(values) {}
+  IntegerParameters<const Int> as_const() const { return IntegerParameters<const Int>(values_); }
 
   Int& size() const { return at(1); }
   Int& message_destination() const { return at(2); }
