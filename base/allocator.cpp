@@ -32,7 +32,8 @@ bool is_function_mapped(Function* function) noexcept {
   return platform::is_code_mapped(reinterpret_cast<const void*>(function));
 }
 
-bool is_mapped(const Allocator& allocator) noexcept {
+// Whether none of the four functions is missing, null or gone.
+bool is_whole(const Allocator& allocator) noexcept {
   return is_function_mapped(allocator.allocate) && is_function_mapped(allocator.allocate_zeroed) &&
          is_function_mapped(allocator.reallocate) && is_function_mapped(allocator.release);
 }
@@ -48,10 +49,9 @@ void choose_allocator() noexcept {
       .reallocate = exported_function<void*(void*, std::size_t)>(module, "i_realloc_dll"),
       .release = exported_function<void(void*)>(module, "i_free_dll"),
   };
-  const bool is_complete = found.allocate && found.allocate_zeroed && found.reallocate && found.release;
   platform::close_module(module);
   // A library that nobody else has loaded is gone now, and its functions with it.
-  if (is_complete && is_mapped(found)) current = found;
+  if (is_whole(found)) current = found;
 }
 
 void* allocate(std::size_t bytes) noexcept { return current.allocate(bytes); }
