@@ -2,6 +2,7 @@
 #ifndef QUORIN_QUORIN_H
 #define QUORIN_QUORIN_H
 
+#include "quorin/amos.h"
 #include "quorin/blas.h"
 #include "quorin/rci.h"
 #include "quorin/services.h"
