@@ -1,0 +1,186 @@
+// Values, underflow counts and overflow against the table that make_reference.py computed with mpmath.
+//
+// Bound: |error| <= 10 u 10^S |value|, u = 2.22e-16, S = max(1, |log10 |z||, |log10 nu|), for the largest order nu of
+// the call; 99 % of the values within 2e-14. Next to a zero of a function the relative error has no bound: one value in
+// a thousand may exceed the bound, by a factor of 100.
+//
+// Arguments: the small table, the full one, which is compared instead when QUORIN_FULL_TESTS is "true", and optionally
+// a file for one line per value (function, z, order, relative error): plot_errors.py draws it.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <map>
+#include <sstream>
+#include <string>
+
+#include "calls.hpp"
+
+namespace quorin_test {
+namespace {
+
+constexpr double kUnit = 2.22e-16;
+constexpr double kElim = 700.9217936944459;
+constexpr double kLn2 = 0.6931471805599453;
+constexpr double kMargin = 1.0e-9;  // of logarithms that are compared with kElim
+
+std::string table_path;
+std::string error_path;
+
+struct Member {
+  int j = 0;
+  Complex m;
+  int e = 0;
+
+  double log_modulus() const { return e * kLn2 + std::log(std::abs(m)); }
+};
+
+struct Row {
+  Call call;
+  std::vector<Member> members;
+};
+
+bool read_row(const std::string& line, Row& row) {
+  std::istringstream in(line);
+  double x = 0.0;
+  double y = 0.0;
+  Call& c = row.call;
+  in >> c.function >> c.kind >> c.kode >> c.nu >> c.n >> x >> y;
+  c.z = {x, y};
+  row.members.clear();
+  for (const int j : {0, c.n - 1}) {
+    Member member;
+    in >> x >> y >> member.e;
+    member.j = j;
+    member.m = {x, y};
+    row.members.push_back(member);
+    if (c.n == 1) break;
+  }
+  return !in.fail();
+}
+
+double top_order(const Call& c) { return c.nu + c.n - 1; }
+
+double allowed(const Call& c) {
+  double s = std::max(1.0, std::fabs(std::log10(std::abs(c.z))));
+  if (top_order(c) > 0.0) s = std::max(s, std::fabs(std::log10(top_order(c))));
+  return 10.0 * kUnit * std::pow(10.0, std::min(s, 14.0));
+}
+
+double relative_error(Complex value, const Member& r) {
+  const int half = -r.e / 2;
+  const auto scaled = [&](double x) { return std::ldexp(std::ldexp(x, half), -r.e - half); };
+  return std::abs(Complex{scaled(value.real()), scaled(value.imag())} - r.m) / std::abs(r.m);
+}
+
+// Below exp(-kElim), or a component that has lost its phase at the underflow limit.
+bool may_underflow(const Member& r) {
+  if (r.log_modulus() < -kElim + kMargin) return true;
+  const double a = std::fabs(std::ldexp(r.m.real(), r.e));
+  const double b = std::fabs(std::ldexp(r.m.imag(), r.e));
+  return std::min(a, b) <= 2.2251e-305 && std::max(a, b) * 2.22e-16 < std::min(a, b) * 1.001;
+}
+
+// The exponential of the large-argument expansion overflows a little before the function does.
+bool may_overflow(const Row& row) {
+  const Call& c = row.call;
+  double log_modulus = -1.0e9;
+  for (const Member& r : row.members) log_modulus = std::max(log_modulus, r.log_modulus());
+  if (log_modulus > kElim - kMargin) return true;
+  if (c.kode == 2 || c.function == 'A' || c.function == 'B') return false;
+  const double growth = std::fabs(c.function == 'I' || c.function == 'K' ? c.z.real() : c.z.imag());
+  return growth > kElim && log_modulus > kElim - 10.0;
+}
+
+struct Statistics {
+  std::vector<double> errors;
+  std::string worst;
+};
+
+class Reference : public testing::Test {
+ protected:
+  void compare(const Row& row, const Answer& a) {
+    if (a.ierr == 2) {
+      EXPECT_TRUE(may_overflow(row)) << "overflow reported";
+      EXPECT_EQ(a.nz, 0);
+      ++overflows_;
+      return;
+    }
+    ASSERT_EQ(a.ierr, 0);
+    ASSERT_EQ(a.nz, std::count(a.cy.begin(), a.cy.end(), Complex{}));
+    for (const Member& r : row.members) compare(row.call, r, a.cy[static_cast<std::size_t>(r.j)]);
+  }
+
+  void compare(const Call& c, const Member& r, Complex value) {
+    if (value == 0.0) {
+      EXPECT_TRUE(may_underflow(r)) << "member " << r.j << " underflowed";
+      ++underflows_;
+      return;
+    }
+    ASSERT_LT(std::fabs(r.log_modulus()), kElim + kMargin) << "member " << r.j << " has a value";
+    const double error = relative_error(value, r);
+    Statistics& s = statistics_[c.function];
+    if (s.errors.empty() || error > *std::max_element(s.errors.begin(), s.errors.end())) s.worst = line_;
+    s.errors.push_back(error);
+    EXPECT_LT(error, 100.0 * allowed(c)) << "member " << r.j;
+    if (error > allowed(c)) {
+      ++beyond_bound_;
+      std::printf("beyond the bound: %.3g  %s\n", error, line_.c_str());
+    }
+    if (errors_.is_open()) {
+      errors_ << c.function << ' ' << c.z.real() << ' ' << c.z.imag() << ' ' << c.nu + r.j << ' ' << error << '\n';
+    }
+  }
+
+  std::map<char, Statistics> statistics_;
+  std::string line_;
+  std::ofstream errors_;
+  int overflows_ = 0;
+  int underflows_ = 0;
+  int beyond_bound_ = 0;
+};
+
+TEST_F(Reference, EveryValueOfTheTable) {
+  std::ifstream table(table_path);
+  ASSERT_TRUE(table) << table_path;
+  if (!error_path.empty()) errors_.open(error_path);
+  Row row;
+  int rows = 0;
+  for (; std::getline(table, line_); ++rows) {
+    SCOPED_TRACE(line_);
+    ASSERT_TRUE(read_row(line_, row));
+    compare(row, run(row.call));
+  }
+  EXPECT_GT(rows, 1000);
+  EXPECT_GT(overflows_, rows / 200);
+  EXPECT_GT(underflows_, rows / 200);
+  std::size_t values = 0;
+  std::printf("function  values   median     99 %%    worst\n");
+  for (auto& [function, s] : statistics_) {
+    values += s.errors.size();
+    std::sort(s.errors.begin(), s.errors.end());
+    const double high = s.errors[s.errors.size() * 99 / 100];
+    EXPECT_LT(high, 2.0e-14) << function;
+    std::printf("%c        %7zu  %.1e  %.1e  %.1e  %s\n", function, s.errors.size(), s.errors[s.errors.size() / 2],
+                high, s.errors.back(), s.worst.c_str());
+  }
+  EXPECT_EQ(statistics_.size(), 7U);
+  EXPECT_LE(static_cast<std::size_t>(beyond_bound_), values / 1000);
+  std::printf("%d calls, %zu values, %d beyond the bound, %d underflows, %d overflows\n", rows, values, beyond_bound_,
+              underflows_, overflows_);
+}
+
+}  // namespace
+}  // namespace quorin_test
+
+int main(int argc, char** argv) {
+  testing::InitGoogleTest(&argc, argv);
+  const char* full = std::getenv("QUORIN_FULL_TESTS");
+  const bool wants_full = full != nullptr && std::string(full) == "true";
+  if (argc > 2) quorin_test::table_path = argv[wants_full ? 2 : 1];
+  if (argc > 3) quorin_test::error_path = argv[3];
+  return RUN_ALL_TESTS();
+}
