@@ -12,6 +12,7 @@ int main() {
   demo::blas_rows(library, report);
   demo::signal_rows(library, report);
   demo::rci_rows(library, report);
+  demo::amos_rows(library, report);
   std::printf("\n%d rows, %d failed\n", report.rows(), report.failures());
   return report.failures() == 0 ? 0 : 1;
 }

@@ -54,5 +54,6 @@ void services_rows(const Library& library, Report& report);
 void blas_rows(const Library& library, Report& report);
 void signal_rows(const Library& library, Report& report);
 void rci_rows(const Library& library, Report& report);
+void amos_rows(const Library& library, Report& report);
 
 }  // namespace demo
