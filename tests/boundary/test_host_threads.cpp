@@ -34,6 +34,7 @@ template <class Check>
 void expect_on_all_hosts(const Check& check) {
   std::atomic<int> failures{0}, arrived{0};
   std::vector<std::thread> hosts;
+  hosts.reserve(kHosts);
   for (int host = 0; host < kHosts; ++host) {
     hosts.emplace_back([&, host] {
       ++arrived;
@@ -93,7 +94,9 @@ struct Product {
     return true;
   }
 
-  std::size_t at(int i, int j) const { return static_cast<std::size_t>(i + j * n); }
+  std::size_t at(int i, int j) const {
+    return static_cast<std::size_t>(i) + static_cast<std::size_t>(j) * static_cast<std::size_t>(n);
+  }
 
   std::int32_t n;
   std::vector<float> a, b, c;
@@ -123,6 +126,7 @@ class HostThreads : public testing::TestWithParam<int> {
 
 TEST_P(HostThreads, LevelOneGivesTheSameBits) {
   std::vector<std::vector<float>> expected;
+  expected.reserve(kHosts);
   for (int host = 0; host < kHosts; ++host)
     expected.push_back(level_one(1000 + 37 * host, static_cast<unsigned>(host)));
   expect_on_all_hosts([&](int host, int) {

@@ -105,6 +105,7 @@ TEST(Lifecycle, ExceptionsLeaveNothingBehindInThreadsThatLiveOn) {
   std::atomic<int> round{0}, done{0}, failures{0};
   int (*throw_and_catch)(int) = nullptr;
   std::vector<std::thread> hosts;
+  hosts.reserve(kHosts);
   for (int host = 0; host < kHosts; ++host) {
     hosts.emplace_back([&] {
       for (int seen = 1; seen <= kThrowingCycles; ++seen) {
@@ -179,7 +180,9 @@ TEST(Lifecycle, ProcessesEndRightAfterThreadedWorkWithTheirOwnStatus) {
   for (const std::string way : {"return", "exit", "quick", "other_thread"}) {
     for (const std::string block_time : {"0", "200", "2147483647"}) {
       ++status;
-      const std::string command = program.string() + " " + way + " " + block_time + " " + std::to_string(status);
+      std::string command = program.string();
+      for (const std::string& argument : {way, block_time, std::to_string(status)})
+        command.append(" ").append(argument);
       int ended = std::system(command.c_str());
 #if !defined(_WIN32)
       ended = WIFEXITED(ended) ? WEXITSTATUS(ended) : -1;
