@@ -16,7 +16,7 @@ namespace {
 
 class Parallel : public testing::Test {
  protected:
-  void SetUp() override { start_parallel(); }
+  static void SetUpTestSuite() { start_parallel(); }
   void TearDown() override {
     set_block_time(0);
     parallel_for(2, 2, [](int) {});  // workers look at the block time again and leave

@@ -56,7 +56,7 @@ TEST(BlockTime, DecidesHowLongIdleWorkersStay) {
     product.symbol<decltype(sMKL_Set_Num_Threads)>("sMKL_Set_Num_Threads")(4);
     ExactProduct problem;
     const auto multiply = [&] { EXPECT_TRUE(problem.is_solved_by(product.symbol<decltype(sgemm)>("sgemm"))); };
-    const int alone = thread_count();
+    const int alone = thread_count_alone();
 
     set_block_time(INT_MAX);
     set_block_time(-7);  // ignored

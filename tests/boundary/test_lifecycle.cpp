@@ -84,7 +84,7 @@ void expect_flat(const Footprint& before, const Footprint& after) {
 
 TEST(Lifecycle, CyclesThatTrulyUnloadLeaveNothingBehind) {
   ExactProduct problem;
-  const int threads_alone = thread_count();
+  const int threads_alone = thread_count_alone();
   Footprint warm;
   for (int cycle = 0; cycle < kCycles; ++cycle) {
     HostModule product = load_threaded_product();
@@ -136,7 +136,7 @@ TEST(Lifecycle, ExceptionsLeaveNothingBehindInThreadsThatLiveOn) {
 
 TEST(Lifecycle, CyclesThatOverlapIdleWorkersLeaveNothingBehind) {
   ExactProduct problem;
-  const int threads_alone = thread_count();
+  const int threads_alone = thread_count_alone();
   Footprint warm;
   for (int cycle = 0; cycle < kCycles; ++cycle) {
     HostModule product = load_threaded_product();
@@ -153,7 +153,7 @@ TEST(Lifecycle, CyclesThatOverlapIdleWorkersLeaveNothingBehind) {
 }
 
 TEST(Lifecycle, UnloadsWhenAnotherThreadHasJustLeft) {
-  const int threads_alone = thread_count();
+  const int threads_alone = thread_count_alone();
   ExactProduct problem;
   for (int cycle = 0; cycle < 200; ++cycle) {
     HostModule product = load_threaded_product();

@@ -2,11 +2,13 @@
 #pragma once
 
 #include <cstddef>
+#include <thread>
 
 #if defined(_WIN32)
 #define WIN32_LEAN_AND_MEAN
-#include <tlhelp32.h>
 #include <windows.h>
+
+#include <tlhelp32.h>
 #else
 #include <filesystem>
 #include <iterator>
@@ -81,5 +83,11 @@ inline int thread_count() {
 }
 
 #endif
+
+// The threads of a process that has no workers. Sanitizers begin a thread of their own with the program's first one.
+inline int thread_count_alone() {
+  std::thread([] {}).join();
+  return thread_count();
+}
 
 }  // namespace quorin::test
