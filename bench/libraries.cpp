@@ -52,6 +52,32 @@ IndexForms find_index_forms(const Symbols& symbols) {
   return forms;
 }
 
+VectorForms find_vector_forms(const Symbols& symbols) {
+  VectorForms forms{};
+  symbols.find(forms.sscal, "sscal");
+  symbols.find(forms.isamax, "isamax");
+  return forms;
+}
+
+Signal find_signal(const Symbols& symbols) {
+  Signal signal{};
+  symbols.find(signal.remez, "REMEZ");
+  symbols.find(signal.toeplitz, "TSLS1");
+  return signal;
+}
+
+Rci find_rci(const Symbols& symbols) {
+  Rci rci{};
+  symbols.find(rci.cg_init, "DCG_INIT");
+  symbols.find(rci.cg, "DCG");
+  symbols.find(rci.fgmres_init, "DFGMRES_INIT");
+  symbols.find(rci.fgmres_check, "DFGMRES_CHECK");
+  symbols.find(rci.fgmres, "DFGMRES");
+  symbols.find(rci.ilu0, "DCSRILU0");
+  symbols.find(rci.ilut, "DCSRILUT");
+  return rci;
+}
+
 // The peer's own words: version, build options and the kernel set that it has chosen.
 std::string describe_openblas(const Symbols& symbols) {
   const char* (*get_config)() = nullptr;
@@ -67,8 +93,13 @@ Libraries load_libraries(const std::string& product_file, const std::string& pee
   const platform::Module product = platform::open_module(product_file.c_str());
   if (product == nullptr) throw std::runtime_error("cannot load " + product_file);
   const Symbols symbols(product, product_file, "");
-  Libraries libraries{
-      find_blas(symbols, "quorin", "sMKL_Set_Num_Threads"), find_index_forms(symbols), std::nullopt, {}};
+  Libraries libraries{find_blas(symbols, "quorin", "sMKL_Set_Num_Threads"),
+                      find_index_forms(symbols),
+                      find_vector_forms(symbols),
+                      find_signal(symbols),
+                      find_rci(symbols),
+                      std::nullopt,
+                      {}};
   if (const platform::Module peer = platform::open_module(peer_file.c_str())) {
     const Symbols peer_symbols(peer, peer_file, "_");
     libraries.peer = find_blas(peer_symbols, "openblas", "openblas_set_num_threads");

@@ -6,6 +6,8 @@
 #include <string>
 
 #include "quorin/blas.h"
+#include "quorin/rci.h"
+#include "quorin/signal.h"
 
 namespace quorin::bench {
 
@@ -29,9 +31,33 @@ struct IndexForms {
   decltype(&::sgemm_Idx) sgemm;
 };
 
+// What LAPACK's dense solver calls.
+struct VectorForms {
+  decltype(&::sscal) sscal;
+  decltype(&::isamax) isamax;
+};
+
+struct Signal {
+  decltype(&::REMEZ) remez;
+  decltype(&::TSLS1) toeplitz;
+};
+
+struct Rci {
+  decltype(&::DCG_INIT) cg_init;
+  decltype(&::DCG) cg;
+  decltype(&::DFGMRES_INIT) fgmres_init;
+  decltype(&::DFGMRES_CHECK) fgmres_check;
+  decltype(&::DFGMRES) fgmres;
+  decltype(&::DCSRILU0) ilu0;
+  decltype(&::DCSRILUT) ilut;
+};
+
 struct Libraries {
   Blas product;
   IndexForms index_forms;
+  VectorForms vector_forms;
+  Signal signal;
+  Rci rci;
   std::optional<Blas> peer;
   std::string peer_description;
 };

@@ -14,12 +14,26 @@ from collections import defaultdict
 from dataclasses import dataclass, field
 
 PRODUCT, INDEX, LIMIT = "quorin", "index", "limit"
-TITLES = {"openblas": "OpenBLAS"}
+TITLES = {"openblas": "OpenBLAS", "lapack": "LAPACK", "eigen": "Eigen"}
 
 # What a section of the results answers. A section without an entry here is shown under its own name.
 SECTIONS = {
     "calls": ("The cost of a call", "One thread. \"Index adds\" is the time of the index form less that of the plain form."),
     "blas": ("BLAS on square matrices of order n, and on vectors of length n", ""),
+    "signal": (
+        "Filter design and Toeplitz systems",
+        "One thread. REMEZ: a low-pass filter of n coefficients. TSLS1: a system of order n, against the reference LAPACK's"
+        " `sgesv` over our BLAS, which first writes the matrix out.",
+    ),
+    "rci": (
+        "Iterative solvers and incomplete factorizations",
+        "One thread. DCG: an iteration, DFGMRES: a cycle of 20 with its restart, on vectors of length n. The host's product"
+        " does nothing, so all is the solver's own work: the bytes of all vectors that each of its passes reads and writes."
+        " The limit is y <- a x + y on arrays as large as all vectors together. DCSRILU0, DCSRILUT: five-point differences,"
+        " n unknowns, against Eigen's IncompleteLUT without its analysis of the pattern. DCSRILU0 has no counterpart there:"
+        " it stands against fill factor 1 and tolerance 0, which keep fewer entries. DCSRILUT (6 entries, tolerance 1e-4)"
+        " stands against factor 4 and the same tolerance. \"Fill\" is the number of entries of L and U.",
+    ),
 }
 
 
@@ -29,6 +43,7 @@ class Side:
 
     work: float = 0
     unit: str = ""
+    fill: float = 0  # entries of the factors that the call makes
     times: list = field(default_factory=list)
 
     def median(self):
@@ -54,7 +69,8 @@ def read_groups(results):
             continue
         section, operation, size, threads, side = run["run_name"].split("/")[:5]
         entry = groups[Key(section, operation, int(size), int(threads))].setdefault(side, Side())
-        entry.unit = "flop" if "flop" in run else "byte"
+        entry.unit = next(unit for unit in ("flop", "byte", "time") if unit in run)
+        entry.fill = run.get("fill", 0)
         entry.work = run[entry.unit]
         entry.times.append(run["real_time"] / run["calls"])
     return groups
@@ -146,6 +162,36 @@ def speed_table(groups):
     return table(heads, rows)
 
 
+def microseconds(side):
+    low, high = quartiles(side.times)
+    return f"{digits(side.median() / 1e3)} ({digits(low / 1e3)}-{digits(high / 1e3)})"
+
+
+def time_table(groups):
+    """One operation whose work has no common measure: a line for each size."""
+    peers = peers_of(groups)
+    has_fill = any(side.fill for sides in groups.values() for side in sides.values())
+    heads = ["n", "time, us"]
+    for peer in peers:
+        heads += [f"{title(peer)}, us", f"speed / {title(peer)}"]
+    if has_fill:
+        heads += ["fill"] + [f"{title(peer)}, fill" for peer in peers]
+    rows = []
+    for key, sides in sorted(groups.items()):
+        row = [str(key.size), microseconds(sides[PRODUCT])]
+        for peer in peers:
+            row += [microseconds(sides[peer]), speed_ratio(sides[PRODUCT], sides[peer])]
+        if has_fill:
+            row += [f"{sides[side].fill:.0f}" for side in [PRODUCT] + peers]
+        rows.append(row)
+    return table(heads, rows)
+
+
+def operation_table(groups):
+    is_time = next(iter(groups.values()))[PRODUCT].unit == "time"
+    return time_table(groups) if is_time else speed_table(groups)
+
+
 def select(groups, **wanted):
     return {key: sides for key, sides in groups.items() if all(getattr(key, name) == v for name, v in wanted.items())}
 
@@ -156,7 +202,7 @@ def section_text(name, groups):
     if any(INDEX in sides for sides in groups.values()):
         return "\n\n".join(parts + [calls_table(groups)])
     for operation in dict.fromkeys(key.operation for key in groups):
-        parts += [f"### {operation}", speed_table(select(groups, operation=operation))]
+        parts += [f"### {operation}", operation_table(select(groups, operation=operation))]
     return "\n\n".join(parts)
 
 

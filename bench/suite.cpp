@@ -18,6 +18,18 @@ constexpr double kBlockBytes = kStreamBlock * sizeof(float);
 
 std::size_t blocks_of(double bytes) { return std::max<std::size_t>(1, static_cast<std::size_t>(bytes / kBlockBytes)); }
 
+const char* unit_name(Unit unit) {
+  switch (unit) {
+    case Unit::kFlop:
+      return "flop";
+    case Unit::kByte:
+      return "byte";
+    case Unit::kTime:
+      break;
+  }
+  return "time";
+}
+
 void add_arithmetic_limit(Suite& suite, Row row, ArithmeticLoop* loop, double flops) {
   row.work = flops;
   row.unit = Unit::kFlop;
@@ -74,7 +86,7 @@ void Suite::count_work(benchmark::State& state, const Row& row, int calls) {
   const auto add = [&](const char* name, double value) {
     state.counters[name] = benchmark::Counter(value, benchmark::Counter::kAvgThreads);
   };
-  add(row.unit == Unit::kFlop ? "flop" : "byte", row.work);
+  add(unit_name(row.unit), row.work);
   add("calls", calls);
 }
 
@@ -90,6 +102,8 @@ void Suite::add_limit(const Row& row) {
       return add_arithmetic_limit(*this, row, best_arithmetic(), best_arithmetic_flops(kArithmeticRounds));
     case Limit::kReading:
       return add_reading_limit(*this, row, row.work);
+    case Limit::kTriad:
+      return add_triad_limit(*this, row, row.footprint);
   }
 }
 

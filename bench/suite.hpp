@@ -20,10 +20,15 @@ enum class Limit {
   kNone,
   kArithmetic,  // multiply-add loop in registers, on the row's threads
   kReading,     // reading as many bytes from an array of that size, on the row's threads
+  kTriad,       // y <- a x + y on arrays that together are as large as the row's, on the row's threads
 };
 
 // What a call's work is counted in.
-enum class Unit { kFlop, kByte };
+enum class Unit {
+  kFlop,
+  kByte,
+  kTime,  // nothing that sides could be compared by; `work` is a guess at the flops, to plan how often to measure
+};
 
 struct Row {
   std::string section;  // of the report: a family, or a question
@@ -33,6 +38,7 @@ struct Row {
   double work = 0;  // of one call
   Unit unit = Unit::kFlop;
   Limit limit = Limit::kNone;
+  double footprint = 0;  // kTriad: bytes of all arrays
 
   // The group's name in the results.
   std::string name() const;
@@ -48,7 +54,7 @@ class Suite {
   std::vector<int> sizes(std::vector<int> full, std::vector<int> quick) const { return is_quick_ ? quick : full; }
 
   // Adds one side of a row. `prepare()` makes the operands and returns the call that is measured; `callers` threads
-  // each do so at the same time.
+  // each do so at the same time. The fill() of a call that has one is reported: the entries of the factors it makes.
   template <class Prepare>
   void measure(const Row& row, const std::string& side, Prepare prepare, int callers = 1) {
     const Effort effort = effort_for(row);
@@ -60,6 +66,7 @@ class Suite {
                                      for (int i = 0; i < effort.calls; ++i) call();
                                    }
                                    count_work(state, row, effort.calls);
+                                   if constexpr (requires { call.fill(); }) state.counters["fill"] = call.fill();
                                  })
         ->Repetitions(effort.repetitions)
         ->Iterations(effort.iterations)
@@ -119,5 +126,7 @@ class Suite {
 void add_limit_rows(Suite& suite);
 void add_blas_rows(Suite& suite);
 void add_index_form_rows(Suite& suite);
+void add_signal_rows(Suite& suite);
+void add_rci_rows(Suite& suite);
 
 }  // namespace quorin::bench
