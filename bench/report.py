@@ -29,7 +29,8 @@ SECTIONS = {
         "Iterative solvers and incomplete factorizations",
         "One thread. DCG: an iteration, DFGMRES: a cycle of 20 with its restart, on vectors of length n. The host's product"
         " does nothing, so all is the solver's own work: the bytes of all vectors that each of its passes reads and writes."
-        " The limit is y <- a x + y on arrays as large as all vectors together. DCSRILU0, DCSRILUT: five-point differences,"
+        " The limit is y <- a x + y on arrays as large as all vectors together. More than 100 % is possible: the"
+        " solvers write a smaller share, and a pass may find in a near cache what the one before left there. DCSRILU0, DCSRILUT: five-point differences,"
         " n unknowns, against Eigen's IncompleteLUT without its analysis of the pattern. DCSRILU0 has no counterpart there:"
         " it stands against fill factor 1 and tolerance 0, which keep fewer entries. DCSRILUT (6 entries, tolerance 1e-4)"
         " stands against factor 4 and the same tolerance. \"Fill\" is the number of entries of L and U.",
