@@ -51,8 +51,7 @@ class CgIteration {
     require(request == 0, "DCG_INIT");
     p_.limit_test() = 0;
     p_.host_test() = 1;
-    while (step() != kMultiply) {
-    }
+    require(step() == kMultiply, "DCG");
     for (std::size_t i = 0; i < length(n); ++i) tmp_[length(n) + i] = b_[i] / 2;  // what the host's product leaves
     require(step() == kMultiply, "DCG");
   }
