@@ -1,77 +1,18 @@
-// Unevaluated sums of two doubles, real and complex: exponents and phases that are later multiplied by an order or an
-// argument in the thousands are carried to about 31 digits, so that the exponential keeps all of its 16.
-// T. J. Dekker, Numer. Math. 18 (1971) 224-242; D. E. Knuth, TAOCP 2, 4.2.2.
+// Complex numbers of about 31 digits: exponents and phases that are later multiplied by an order or an argument in the
+// thousands are carried in them, so that the exponential keeps all of its 16.
 #pragma once
 
-#include <cmath>
 #include <complex>
 #include <cstdint>
 
+#include "base/double_double.hpp"
+
 namespace quorin::amos {
 
-struct DoubleDouble {
-  double hi = 0.0;
-  double lo = 0.0;
-};
-
-inline DoubleDouble quick_two_sum(double a, double b) {
-  const double s = a + b;
-  return {s, b - (s - a)};
-}
-
-inline DoubleDouble two_sum(double a, double b) {
-  const double s = a + b;
-  const double t = s - a;
-  return {s, (a - (s - t)) + (b - t)};
-}
-
-inline DoubleDouble two_product(double a, double b) {
-  constexpr double kSplit = 134217729.0;  // 2^27 + 1
-  const double p = a * b;
-  const double ta = kSplit * a;
-  const double tb = kSplit * b;
-  const double ah = ta - (ta - a);
-  const double bh = tb - (tb - b);
-  const double al = a - ah;
-  const double bl = b - bh;
-  return {p, ((ah * bh - p) + ah * bl + al * bh) + al * bl};
-}
-
-inline DoubleDouble operator-(DoubleDouble a) { return {-a.hi, -a.lo}; }
-
-inline DoubleDouble operator+(DoubleDouble a, DoubleDouble b) {
-  const DoubleDouble s = two_sum(a.hi, b.hi);
-  const DoubleDouble t = two_sum(a.lo, b.lo);
-  const DoubleDouble u = quick_two_sum(s.hi, s.lo + t.hi);
-  return quick_two_sum(u.hi, u.lo + t.lo);
-}
-
-inline DoubleDouble operator-(DoubleDouble a, DoubleDouble b) { return a + (-b); }
-
-inline DoubleDouble operator*(DoubleDouble a, DoubleDouble b) {
-  const DoubleDouble p = two_product(a.hi, b.hi);
-  return quick_two_sum(p.hi, p.lo + (a.hi * b.lo + a.lo * b.hi));
-}
-
-inline DoubleDouble operator*(DoubleDouble a, double b) {
-  const DoubleDouble p = two_product(a.hi, b);
-  return quick_two_sum(p.hi, p.lo + a.lo * b);
-}
-
-inline DoubleDouble operator/(DoubleDouble a, DoubleDouble b) {
-  const double q = a.hi / b.hi;
-  const DoubleDouble r = a - b * q;
-  const double q2 = r.hi / b.hi;
-  const DoubleDouble r2 = r - b * q2;
-  return quick_two_sum(q, q2) + DoubleDouble{r2.hi / b.hi, 0.0};
-}
-
-inline DoubleDouble sqrt(DoubleDouble a) {
-  if (!(a.hi > 0.0)) return {0.0, 0.0};
-  const double s = std::sqrt(a.hi);
-  const DoubleDouble r = a - two_product(s, s);
-  return quick_two_sum(s, r.hi / (2.0 * s));
-}
+using base::DoubleDouble;
+using base::quick_two_sum;
+using base::two_product;
+using base::two_sum;
 
 inline constexpr DoubleDouble kOne{1.0, 0.0};
 inline constexpr DoubleDouble kLn2{0.6931471805599453, 2.3190468138462996e-17};

@@ -123,36 +123,60 @@ void triangular(const char* operation, backend::Triangular3<T>* routine, char si
   });
 }
 
+// The options of an update of one triangle of C with products of op(A) and op(A)' or op(B)'. Prime is the transpose or,
+// with kConjugate, the conjugate transpose. `left` and `right` are what gemm calls op and op with the prime.
+struct RankUpdate {
+  bool is_upper;
+  bool plain;
+  char left, right;
+
+  template <bool kConjugate>
+  static RankUpdate of(char uplo, char trans) {
+    const bool plain = is_one_of(trans, "N");
+    const char prime = kConjugate ? 'C' : 'T';
+    return {is_one_of(uplo, "U"), plain, plain ? 'N' : prime, plain ? prime : 'N'};
+  }
+
+  // Rows (or columns, if op transposes) of A from `first` on.
+  template <class T>
+  const T* panel(const T* a, int lda, int first) const {
+    return plain ? a + first : at(a, lda, 0, first);
+  }
+};
+
+// The checks of the arguments that all such updates begin with.
+template <bool kConjugate, Scalar T>
+ArgumentCheck<T> check_rank_update(const char* operation, char uplo, char trans, int n, int k) {
+  constexpr const char* kOptions = !kIsComplex<T> ? "NTC" : kConjugate ? "NC" : "NT";
+  return ArgumentCheck<T>(operation)
+      .require(1, is_one_of(uplo, "UL"))
+      .require(2, is_one_of(trans, kOptions))
+      .require(3, n >= 0)
+      .require(4, k >= 0);
+}
+
 // C <- alpha op(A) op(A)' + beta C on one triangle of C. The columns are cut into blocks: `diagonal` updates the
-// triangle on the diagonal, gemm the rectangle beside it. Prime is the transpose or, with kConjugate, the conjugate
-// transpose.
+// triangle on the diagonal, gemm the rectangle beside it.
 template <bool kConjugate, Scalar T, class Factor>
 void rank_k(const char* operation, backend::RankK<T, Factor>* diagonal, char uplo, char trans, int n, int k,
             Factor alpha, const T* a, int lda, Factor beta, T* c, int ldc) {
-  constexpr const char* kOptions = !kIsComplex<T> ? "NTC" : kConjugate ? "NC" : "NT";
-  const bool plain = is_one_of(trans, "N");
-  const bool arguments_hold = ArgumentCheck<T>(operation)
-                                  .require(1, is_one_of(uplo, "UL"))
-                                  .require(2, is_one_of(trans, kOptions))
-                                  .require(3, n >= 0)
-                                  .require(4, k >= 0)
-                                  .require(7, lda >= least_leading_dimension(plain ? n : k))
+  const RankUpdate update = RankUpdate::of<kConjugate>(uplo, trans);
+  const bool arguments_hold = check_rank_update<kConjugate, T>(operation, uplo, trans, n, k)
+                                  .require(7, lda >= least_leading_dimension(update.plain ? n : k))
                                   .require(10, ldc >= least_leading_dimension(n))
                                   .passed();
   if (!arguments_hold || n == 0 || ((alpha == Factor{} || k == 0) && beta == Factor{1})) return;
-  const bool is_upper = is_one_of(uplo, "U");
-  const char prime = kConjugate ? 'C' : 'T';
-  const char left = plain ? 'N' : prime, right = plain ? prime : 'N';
   const T product_alpha = alpha, product_beta = beta;
-  const auto panel = [&](int first) { return plain ? a + first : at(a, lda, 0, first); };
   with_buffers<T>(operation, static_cast<double>(n) * n * k / 2, [&](int threads) {
-    split_triangle(is_upper, n, threads, [&](Range columns) {
-      const Range rows = rows_beside(is_upper, n, columns);
-      diagonal(&uplo, &trans, &columns.count, &k, &alpha, panel(columns.first), &lda, &beta,
-               at(c, ldc, columns.first, columns.first), &ldc);
+    split_triangle(update.is_upper, n, threads, [&](Range columns) {
+      const Range rows = rows_beside(update.is_upper, n, columns);
+      const T* const panel = update.panel(a, lda, columns.first);
+      diagonal(&uplo, &trans, &columns.count, &k, &alpha, panel, &lda, &beta, at(c, ldc, columns.first, columns.first),
+               &ldc);
       if (rows.count == 0 || columns.count == 0) return;
-      Routines<T>::gemm(&left, &right, &rows.count, &columns.count, &k, &product_alpha, panel(rows.first), &lda,
-                        panel(columns.first), &lda, &product_beta, at(c, ldc, rows.first, columns.first), &ldc);
+      Routines<T>::gemm(&update.left, &update.right, &rows.count, &columns.count, &k, &product_alpha,
+                        update.panel(a, lda, rows.first), &lda, panel, &lda, &product_beta,
+                        at(c, ldc, rows.first, columns.first), &ldc);
     });
   });
 }
@@ -161,38 +185,29 @@ void rank_k(const char* operation, backend::RankK<T, Factor>* diagonal, char upl
 template <bool kConjugate, Scalar T, class BetaFactor>
 void rank_2k(const char* operation, backend::Rank2K<T, BetaFactor>* diagonal, char uplo, char trans, int n, int k,
              T alpha, const T* a, int lda, const T* b, int ldb, BetaFactor beta, T* c, int ldc) {
-  constexpr const char* kOptions = !kIsComplex<T> ? "NTC" : kConjugate ? "NC" : "NT";
-  const bool plain = is_one_of(trans, "N");
-  const bool arguments_hold = ArgumentCheck<T>(operation)
-                                  .require(1, is_one_of(uplo, "UL"))
-                                  .require(2, is_one_of(trans, kOptions))
-                                  .require(3, n >= 0)
-                                  .require(4, k >= 0)
-                                  .require(7, lda >= least_leading_dimension(plain ? n : k))
-                                  .require(9, ldb >= least_leading_dimension(plain ? n : k))
+  const RankUpdate update = RankUpdate::of<kConjugate>(uplo, trans);
+  const bool arguments_hold = check_rank_update<kConjugate, T>(operation, uplo, trans, n, k)
+                                  .require(7, lda >= least_leading_dimension(update.plain ? n : k))
+                                  .require(9, ldb >= least_leading_dimension(update.plain ? n : k))
                                   .require(12, ldc >= least_leading_dimension(n))
                                   .passed();
   if (!arguments_hold || n == 0 || ((alpha == T{} || k == 0) && beta == BetaFactor{1})) return;
-  const bool is_upper = is_one_of(uplo, "U");
-  const char prime = kConjugate ? 'C' : 'T';
-  const char left = plain ? 'N' : prime, right = plain ? prime : 'N';
   const T product_beta = beta, one{1};
   T mirrored_alpha = alpha;
   if constexpr (kConjugate && kIsComplex<T>) mirrored_alpha = std::conj(alpha);
-  const auto panel = [&](const T* matrix, int ld, int first) {
-    return plain ? matrix + first : at(matrix, ld, 0, first);
-  };
   with_buffers<T>(operation, static_cast<double>(n) * n * k, [&](int threads) {
-    split_triangle(is_upper, n, threads, [&](Range columns) {
-      const Range rows = rows_beside(is_upper, n, columns);
-      diagonal(&uplo, &trans, &columns.count, &k, &alpha, panel(a, lda, columns.first), &lda,
-               panel(b, ldb, columns.first), &ldb, &beta, at(c, ldc, columns.first, columns.first), &ldc);
+    split_triangle(update.is_upper, n, threads, [&](Range columns) {
+      const Range rows = rows_beside(update.is_upper, n, columns);
+      const T* const panel_a = update.panel(a, lda, columns.first);
+      const T* const panel_b = update.panel(b, ldb, columns.first);
+      diagonal(&uplo, &trans, &columns.count, &k, &alpha, panel_a, &lda, panel_b, &ldb, &beta,
+               at(c, ldc, columns.first, columns.first), &ldc);
       if (rows.count == 0 || columns.count == 0) return;
       T* const block = at(c, ldc, rows.first, columns.first);
-      Routines<T>::gemm(&left, &right, &rows.count, &columns.count, &k, &alpha, panel(a, lda, rows.first), &lda,
-                        panel(b, ldb, columns.first), &ldb, &product_beta, block, &ldc);
-      Routines<T>::gemm(&left, &right, &rows.count, &columns.count, &k, &mirrored_alpha, panel(b, ldb, rows.first),
-                        &ldb, panel(a, lda, columns.first), &lda, &one, block, &ldc);
+      Routines<T>::gemm(&update.left, &update.right, &rows.count, &columns.count, &k, &alpha,
+                        update.panel(a, lda, rows.first), &lda, panel_b, &ldb, &product_beta, block, &ldc);
+      Routines<T>::gemm(&update.left, &update.right, &rows.count, &columns.count, &k, &mirrored_alpha,
+                        update.panel(b, ldb, rows.first), &ldb, panel_a, &lda, &one, block, &ldc);
     });
   });
 }

@@ -7,9 +7,13 @@
 namespace quorin::signal {
 namespace {
 
+using base::DoubleDouble;
+using base::two_product;
+using base::two_sum;
+
 constexpr DoubleDouble kOne{1.0, 0.0};
 
-DoubleDouble scale(DoubleDouble a, int power) { return {std::ldexp(a.high, power), std::ldexp(a.low, power)}; }
+DoubleDouble scale(DoubleDouble a, int power) { return {std::ldexp(a.hi, power), std::ldexp(a.lo, power)}; }
 
 }  // namespace
 
@@ -23,10 +27,10 @@ void PrecisePolynomial::set_weights() {
     for (int begin = 0; begin < count_; begin += kBetweenScalings) {
       const int end = std::min(begin + kBetweenScalings, count_);
       for (int j = begin; j < end; ++j) {
-        if (j != i) product = product * exact_sum(2 * x_[i], -2 * x_[j]);
+        if (j != i) product = product * two_sum(2 * x_[i], -2 * x_[j]);
       }
       int power = 0;
-      std::frexp(product.high, &power);
+      std::frexp(product.hi, &power);
       product = scale(product, -power);
       total += power;
     }
@@ -46,7 +50,7 @@ void PrecisePolynomial::level(const Problem& problem, const Extremum* points, in
   const auto band = [&](int i) -> const Band& { return problem.bands[points[i].band]; };
   const auto target = [&](int i) { return DoubleDouble{band(i).desired, 0.0} / DoubleDouble{shape(i), 0.0}; };
   const auto scatter = [&](int i) {  // s(i) / (W(i) S(i))
-    return DoubleDouble{i % 2 == 0 ? 1.0 : -1.0, 0.0} / exact_product(band(i).weight, shape(i));
+    return DoubleDouble{i % 2 == 0 ? 1.0 : -1.0, 0.0} / two_product(band(i).weight, shape(i));
   };
   DoubleDouble numerator{}, denominator{};
   for (int i = 0; i < count; ++i) {
@@ -62,16 +66,16 @@ PrecisePolynomial::Value PrecisePolynomial::evaluate(double x) const {
   DoubleDouble numerator{}, denominator{};
   double size = 0.0;
   for (int i = 0; i < count_; ++i) {
-    const DoubleDouble difference = exact_sum(x, -x_[i]);
-    if (difference.high == 0.0) return {value_[i].high, 0.0};
+    const DoubleDouble difference = two_sum(x, -x_[i]);
+    if (difference.hi == 0.0) return {value_[i].hi, 0.0};
     const DoubleDouble term = weight_[i] / difference;
     numerator = numerator + term * value_[i];
     denominator = denominator + term;
-    size += std::abs(term.high) * (1 + std::abs(value_[i].high));
+    size += std::abs(term.hi) * (1 + std::abs(value_[i].hi));
   }
-  const double divisor = std::abs(denominator.high);
+  const double divisor = std::abs(denominator.hi);
   if (divisor <= kRoundoff * size) return {0.0, std::numeric_limits<double>::infinity()};
-  const double value = (numerator / denominator).high;
+  const double value = (numerator / denominator).hi;
   return {value, kRoundoff * (size / divisor) * (1 + std::abs(value))};
 }
 

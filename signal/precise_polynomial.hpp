@@ -5,8 +5,8 @@
 // exactly as inside the bands: what is wrong at one frequency is spread over all.
 #pragma once
 
+#include "base/double_double.hpp"
 #include "base/workspace.hpp"
-#include "signal/double_double.hpp"
 #include "signal/exchange.hpp"
 
 namespace quorin::signal {
@@ -31,7 +31,7 @@ class PrecisePolynomial {
 
   int count_ = 0;
   base::Workspace<double> x_;
-  base::Workspace<DoubleDouble> weight_, value_;
+  base::Workspace<base::DoubleDouble> weight_, value_;
   base::Workspace<int> exponent_;
 };
 
