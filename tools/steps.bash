@@ -43,12 +43,14 @@ build() {
   step "Build $1" cmake --build --preset "$1" -- --quiet
 }
 
-# Wine takes seconds to start, unless its server stays.
+# Wine takes seconds to start, unless its server and its services stay. They get no descriptor of ours, or whoever reads our
+# output would wait for them; and a server that was not running before ends with us.
 keep_wine_running() {
   export WINEPREFIX=${QUORIN_WINEPREFIX:-$QUORIN_CACHE/wineprefix}
-  local server
-  server=$(command -v wineserver || ls /usr/lib/wine/wineserver /usr/lib/wine/wineserver64 2>/dev/null | head -n 1)
-  [[ -n $server ]] || return 0
+  wine_server=$(command -v wineserver || ls /usr/lib/wine/wineserver32 /usr/lib/wine/wineserver64 2>/dev/null | head -n 1)
+  [[ -n $wine_server ]] || return 0
   mkdir -p "$WINEPREFIX"
-  "$server" -p600 || true
+  if ! pgrep wineserver >/dev/null; then trap '"$wine_server" -k </dev/null >/dev/null 2>&1 || true' EXIT; fi
+  "$wine_server" -p600 </dev/null >/dev/null 2>&1 || true
+  tools/wine-run cmd /c exit </dev/null >/dev/null 2>&1 || true
 }
