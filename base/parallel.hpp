@@ -28,6 +28,7 @@ void run_region(int parts, int threads, void (*part)(void* context, int index), 
 // caller is one, and returns when all are done. `body` must not throw.
 template <class Body>
 void parallel_for(int parts, int threads, Body&& body) noexcept {
+  if (parts == 1) return static_cast<void>(body(0));
   using Plain = std::remove_reference_t<Body>;
   detail::run_region(
       parts, threads, [](void* context, int index) { (*static_cast<Plain*>(context))(index); },

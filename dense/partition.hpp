@@ -14,6 +14,7 @@ struct Range {
 // Part `i` of `parts` nearly equal parts of 0..total-1; boundaries are multiples of `multiple`, so that kernels see
 // whole tiles.
 constexpr Range part_range(int total, int parts, int i, int multiple) {
+  if (parts == 1) return {0, total};
   const auto boundary = [&](int k) {
     const std::int64_t tiles = (std::int64_t{total} + multiple - 1) / multiple;
     return static_cast<int>(std::min<std::int64_t>(total, tiles * k / parts * multiple));
@@ -33,6 +34,7 @@ struct Grid {
 };
 
 constexpr Grid make_grid(int m, int n, int threads) {
+  if (threads == 1) return {1, 1};
   Grid best{1, threads};
   double best_perimeter = 1e300;
   for (int rows = 1; rows <= threads; ++rows) {

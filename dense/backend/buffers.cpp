@@ -5,7 +5,6 @@
 #include <mutex>
 
 #include "base/allocator.hpp"
-#include "base/parallel.hpp"
 #include "platform/platform.hpp"
 
 namespace quorin::dense::backend {
@@ -154,9 +153,7 @@ BufferReservation* holder() noexcept { return static_cast<BufferReservation*>(ho
 }  // namespace
 
 BufferReservation::BufferReservation(int wanted) noexcept {
-  if (base::in_parallel_region()) {
-    granted_ = 1;
-  } else if (wanted > 1) {
+  if (wanted > 1) {
     promised_ = pool.reserve(wanted);
     granted_ = promised_;
   } else {

@@ -24,9 +24,9 @@ struct FreeBuffer;
 void start_buffers() noexcept;
 void stop_buffers() noexcept;
 
-// Keeps up to `wanted` buffers ready for the dependency while it lives. Inside a parallel region it keeps none more:
-// the region's own reservation covers its threads. A single buffer is held at hand for the calling thread, so that
-// small operations need no lock.
+// Keeps up to `wanted` buffers ready for the dependency while it lives: one for each thread of the parallel region that
+// the caller is about to run. A single buffer is held at hand for the calling thread, so that small operations need no
+// lock.
 class BufferReservation {
  public:
   explicit BufferReservation(int wanted) noexcept;
