@@ -30,7 +30,8 @@ RealOf<T> nrm2(int n, const T* x, int incx);
 // Sum of |Re x_i| + |Im x_i|.
 template <Scalar T>
 RealOf<T> asum(int n, const T* x, int incx);
-// x <- a x for a of the vector's type or real. Unless a is 1, every element is multiplied: 0 makes a NaN of an infinity.
+// x <- a x for a of the vector's type or real. Unless a is 1, every element is multiplied: 0 makes a NaN of an
+// infinity.
 template <Scalar T, class Factor>
 void scal(int n, Factor a, T* x, int incx);
 template <Scalar T>
