@@ -31,7 +31,7 @@ struct LowPass {
 
   double response(double f) const {
     double a = h[50];
-    for (int k = 1; k <= 50; ++k) a += 2 * h[static_cast<std::size_t>(50 + k)] * std::cos(2 * pi * f * k);
+    for (int k = 1; k <= 50; ++k) a += 2 * h[static_cast<std::size_t>(k) + 50] * std::cos(2 * pi * f * k);
     return a;
   }
 

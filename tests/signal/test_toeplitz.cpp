@@ -81,7 +81,7 @@ std::vector<T> solve(const System<T>& s) {
   call(s.row.data(), column.data(), in_place.get(), in_place.get(), c1.get(), c2.get(), m);
   call_indexed(s.row.data(), column.data(), s.b.data(), indexed.get(), c1.get(), c2.get(), m);
   EXPECT_TRUE(x.intact() && in_place.intact() && indexed.intact() && c1.intact() && c2.intact()) << "order " << m;
-  const std::vector<T> result(x.get(), x.get() + m);
+  std::vector<T> result(x.get(), x.get() + m);
   const std::size_t bytes = result.size() * sizeof(T);
   EXPECT_EQ(std::memcmp(result.data(), in_place.get(), bytes), 0) << "order " << m;
   EXPECT_EQ(std::memcmp(result.data(), indexed.get(), bytes), 0) << "order " << m;
