@@ -36,6 +36,7 @@ def build_files(families: list[Family]) -> dict[str, str]:
         "link.def": linking.link_definition(families),
         "exports.map": linking.version_script(families),
         "reference_everything.c": linking.reference_everything(families),
+        "dense_fortran_names.cpp": thunks.fortran_names(families, "dense/dense.hpp"),
     }
     for family in families:
         files[f"entries_{family.name}.cpp"] = thunks.source(family, table_of(family))

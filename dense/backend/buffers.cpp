@@ -152,17 +152,15 @@ BufferReservation* holder() noexcept { return static_cast<BufferReservation*>(ho
 
 }  // namespace
 
-BufferReservation::BufferReservation(int wanted) noexcept {
-  if (wanted > 1) {
-    promised_ = pool.reserve(wanted);
-    granted_ = promised_;
-  } else {
-    own_ = pool.acquire();
-    if (own_ == nullptr) return;
-    granted_ = 1;
-    outer_ = holder();
-    holder_slot.set(this);
-  }
+BufferReservation::BufferReservation(int wanted) noexcept : outer_(holder()) {
+  const int shared = outer_ != nullptr && outer_->can_lend() ? 1 : 0;
+  if (wanted > 1) promised_ = pool.reserve(wanted - shared);
+  granted_ = promised_ + shared;
+  if (granted_ > 0) return;
+  own_ = pool.acquire();
+  if (own_ == nullptr) return;
+  granted_ = 1;
+  holder_slot.set(this);
 }
 
 BufferReservation::~BufferReservation() {

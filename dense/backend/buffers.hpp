@@ -26,7 +26,7 @@ void stop_buffers() noexcept;
 
 // Keeps up to `wanted` buffers ready for the dependency while it lives: one for each thread of the parallel region that
 // the caller is about to run. A single buffer is held at hand for the calling thread, so that small operations need no
-// lock.
+// lock; a reservation inside another one of the same thread shares its buffer.
 class BufferReservation {
  public:
   explicit BufferReservation(int wanted) noexcept;
@@ -37,6 +37,7 @@ class BufferReservation {
   // How many threads may call the dependency; 0 if there is no memory for a single one.
   int granted() const noexcept { return granted_; }
 
+  bool can_lend() const noexcept { return own_ != nullptr && !own_is_lent_; }
   // The buffer held for this thread, unless it has been lent already.
   void* lend() noexcept;
   // Whether `buffer` is the one held, and thereby back.

@@ -6,12 +6,10 @@
 
 #include <complex>
 
+#include "dense/backend/fortran.hpp"
 #include "dense/backend/scalar.hpp"
 
 namespace quorin::dense::backend {
-
-// A single-complex function result as the Fortran compilers of both targets return it.
-using ComplexResult = __complex__ float;
 
 template <class T>
 using Axpy = void(const int* n, const T* a, const T* x, const int* incx, T* y, const int* incy);

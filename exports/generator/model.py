@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import re
 from dataclasses import dataclass, field
 
 
@@ -21,12 +22,22 @@ TYPES = {
     "double": ElementType("double", "double", "double"),
     "complex": ElementType("quorin_complex", "std::complex<float>", "complex"),
     "dcomplex": ElementType("quorin_double_complex", "std::complex<double>", "double complex"),
+    "logical": ElementType("int32_t", "std::int32_t", "logical"),  # zero is false
     "pointer": ElementType("void*", "void*", "pointer"),
     # Host functions. Their C declarations stand in include/quorin/types.h.
     "text_output_callback": ElementType(
         "quorin_text_output_callback", "quorin::base::TextOutputCallback", "text-output callback"
     ),
+    "select_real": ElementType("quorin_select_real", "quorin::dense::SelectReal", "selection function"),
+    "select_complex": ElementType("quorin_select_complex", "quorin::dense::SelectComplex", "selection function"),
+    "select_real_pair": ElementType("quorin_select_real_pair", "quorin::dense::SelectRealPair", "selection function"),
+    "select_complex_pair": ElementType(
+        "quorin_select_complex_pair", "quorin::dense::SelectComplexPair", "selection function"
+    ),
 }
+
+# An implementation that is no function of ours: the dependency's Fortran routine of the same name.
+FORTRAN = "fortran"
 
 IN, OUT, INOUT = "in", "out", "inout"
 DIRECTIONS = (IN, OUT, INOUT)
@@ -64,13 +75,13 @@ class Argument:
         text = self.shape.replace("|", " or ")
         if ";" in text:
             return text.replace(";", ", stride ")
-        return text.replace(",", " x ")
+        return re.sub(r",(?![^(]*\))", " x ", text)  # not the commas of max(m,n)
 
 
 @dataclass
 class Routine:
     name: str
-    implementation: str  # C++ function below namespace quorin, or "" if it is written by hand
+    implementation: str  # C++ function below namespace quorin, FORTRAN, or "" if it is written by hand
     arguments: list[Argument]
     result: ElementType | None
     where: str  # file:line, for messages
@@ -84,6 +95,10 @@ class Routine:
     def result_is_argument(self) -> bool:
         """Complex results are stored through an extra first argument."""
         return self.result in (TYPES["complex"], TYPES["dcomplex"])
+
+    @property
+    def is_fortran(self) -> bool:
+        return self.implementation == FORTRAN
 
     @property
     def export_names(self) -> list[str]:

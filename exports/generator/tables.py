@@ -13,6 +13,7 @@ from generator.model import Argument, Family, Routine, Section
 
 NAME = re.compile(r"[A-Za-z]\w*\Z")
 ROW = re.compile(r"(?P<name>\w+)\s*(?:=\s*(?P<implementation>[\w:]+)\s*)?(?P<arguments>(?:\s.*?)?)(?:\s*->\s*(?P<result>\w+))?\Z")
+CONTINUATION = re.compile(r"\s+\w+:")
 TYPE = re.compile(r"(?P<type>\w+)(?:\[(?P<shape>[^\]]*)\])?\Z")
 
 
@@ -31,11 +32,8 @@ class Reader:
     def read_family(self, path: Path, text: str) -> Family:
         family = Family(name=path.stem, title="")
         routine: Routine | None = None
-        for number, line in enumerate(text.splitlines(), 1):
+        for number, line in self.logical_lines(text):
             self.where = f"{path}:{number}"
-            line = line.split(" #", 1)[0].rstrip() if not line.lstrip().startswith("#") else ""
-            if not line:
-                continue
             if line[0].isspace():
                 self.read_attribute(family, routine, line.strip())
             elif not self.read_directive(family, line):
@@ -48,6 +46,18 @@ class Reader:
         if not family.title:
             self.fault("the table has no 'title'")
         return family
+
+    @staticmethod
+    def logical_lines(text: str) -> list[tuple[int, str]]:
+        """Numbered lines without comments and empty ones, a row's further lines of arguments joined to its first."""
+        lines: list[tuple[int, str]] = []
+        for number, line in enumerate(text.splitlines(), 1):
+            line = line.split(" #", 1)[0].rstrip() if not line.lstrip().startswith("#") else ""
+            if lines and CONTINUATION.match(line):
+                lines[-1] = (lines[-1][0], f"{lines[-1][1]} {line.strip()}")
+            elif line:
+                lines.append((number, line))
+        return lines
 
     def read_directive(self, family: Family, line: str) -> bool:
         word, _, rest = line.partition(" ")
@@ -174,6 +184,8 @@ class Reader:
                 self.where = routine.where
                 if not routine.summary:
                     self.fault(f"'{routine.name}' has no summary")
+                if routine.is_fortran and (routine.result or not any(a.name == "info" for a in routine.arguments)):
+                    self.fault("a Fortran routine must have an argument 'info' and no result")
                 if routine.implementation and not family.facade:
                     self.fault("the table names no 'facade' for its implementations")
                 for name in routine.export_names:

@@ -42,9 +42,24 @@ def definition(name: str, routine: Routine, is_index_form: bool, body: str) -> s
     return f"{declaration}\n{wrapped(head, items, ' noexcept {')}\n  {body}\n}}\n"
 
 
+def fortran_form(routine: Routine) -> str:
+    """Fortran wants the lengths of its characters behind all other arguments, and hosts pass none."""
+    characters = [a for a in routine.arguments if a.type is model.TYPES["char"]]
+    items = parameters(routine, "cpp", False) + ["std::size_t"] * len(characters)
+    passed = ", ".join([a.name for a in routine.arguments] + ["1"] * len(characters))
+    declaration = wrapped(f"void {routine.name}_", items, ";")
+    body = (
+        f'const quorin::dense::LapackCall call("{routine.name.upper()}", info);\n'
+        f"  if (call.may_begin()) {routine.name}_({passed});"
+    )
+    return f"{declaration}\n{definition(routine.name, routine, False, body)}"
+
+
 def plain_form(routine: Routine) -> str:
     if not routine.implementation:
         return ""  # written by hand
+    if routine.is_fortran:
+        return fortran_form(routine)
     arguments = ", ".join(call_argument(argument) for argument in routine.arguments)
     call = f"quorin::{routine.implementation}({arguments})"
     return definition(routine.name, routine, False, statement(routine, call))
@@ -73,3 +88,22 @@ def source(family: Family, table: str) -> str:
             parts.append(index_form(routine))
     parts.append('}  // extern "C"\n')
     return "\n".join(part for part in parts if part)
+
+
+def fortran_name(routine: Routine) -> str:
+    """A routine of ours under its Fortran name. Lengths that callers append to the arguments are not looked at."""
+    call = f"quorin::{routine.implementation}({', '.join(call_argument(a) for a in routine.arguments)})"
+    items, result, body = parameters(routine, "cpp", False), result_type(routine, "cpp"), statement(routine, call)
+    if routine.result_is_argument:
+        items, result = items[1:], "quorin::dense::backend::ComplexResult"
+        body = f"return quorin::dense::backend::complex_result({call});"
+    head = f"{result} {routine.name}_"
+    return f"{wrapped(head, items, ' noexcept;')}\n{wrapped(head, items, ' noexcept {')}\n  {body}\n}}\n"
+
+
+def fortran_names(families: list[Family], facade: str) -> str:
+    """What the Fortran routines of the dependency call: the library's own routines behind `facade`."""
+    routines = [r for f in families if f.facade == facade for r in f.routines]
+    ours = [fortran_name(r) for r in routines if r.has_plain and r.implementation and not r.is_fortran]
+    head = f'// Generated from the export tables. Do not edit.\n#include "{facade}"\n#include "dense/backend/fortran.hpp"\n'
+    return "\n".join([head + '\nextern "C" {\n', *ours, '}  // extern "C"\n'])

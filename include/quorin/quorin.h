@@ -4,6 +4,7 @@
 
 #include "quorin/amos.h"
 #include "quorin/blas.h"
+#include "quorin/lapack.h"
 #include "quorin/rci.h"
 #include "quorin/services.h"
 #include "quorin/signal.h"

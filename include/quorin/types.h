@@ -30,4 +30,11 @@ typedef struct quorin_double_complex {
 /* A host function that receives one zero-terminated text. On Windows it is stdcall. */
 typedef void(QUORIN_CALLBACK* quorin_text_output_callback)(const char* text);
 
+/* Host functions that select eigenvalues: non-zero for one that is to lead. They get an eigenvalue as its real and its
+ * imaginary part, or as a complex number; in generalized problems (`_pair`) as alpha and beta of alpha / beta. */
+typedef int32_t(QUORIN_CDECL* quorin_select_real)(const float* re, const float* im);
+typedef int32_t(QUORIN_CDECL* quorin_select_complex)(const quorin_complex* w);
+typedef int32_t(QUORIN_CDECL* quorin_select_real_pair)(const float* alpha_re, const float* alpha_im, const float* beta);
+typedef int32_t(QUORIN_CDECL* quorin_select_complex_pair)(const quorin_complex* alpha, const quorin_complex* beta);
+
 #endif
