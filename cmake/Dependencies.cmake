@@ -1,6 +1,6 @@
 # The libraries that third_party/build made, as imported targets quorin::<name>, and the directories of test material:
 #   QUORIN_BLAS_TESTING_DIR    the reference BLAS's test programs and their input
-#   QUORIN_LAPACK_TESTING_DIR  LAPACK's test programs and their input
+#   QUORIN_LAPACK_TESTING_DIR  LAPACK's test programs, compiled, and their input
 #   QUORIN_MATRICES_DIR        small sparse matrices from applications
 if(WIN32)
   set(target win32)
@@ -56,7 +56,7 @@ quorin_import(umfpack ${prefix_suitesparse} LINKS quorin::amd quorin::openblas)
 quorin_import(metis ${prefix_metis})
 
 set(QUORIN_BLAS_TESTING_DIR ${prefix_lapack}/share/blas-testing)
-set(QUORIN_LAPACK_TESTING_DIR ${prefix_lapack}/share/lapack-testing)
+set(QUORIN_LAPACK_TESTING_DIR ${prefix_lapack-testing})
 set(QUORIN_MATRICES_DIR ${prefix_suitesparse}/share/matrices)
 
 if(WIN32)
