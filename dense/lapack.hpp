@@ -27,4 +27,23 @@ class LapackCall {
   backend::BufferReservation buffer_;
 };
 
+// Some routines store the best size of `work` in its first element before they look at their arguments. Puts that
+// element back if they then find one wrong: a refused call touches nothing.
+template <class T>
+class KeptWhenRefused {
+ public:
+  KeptWhenRefused(T* work, const std::int32_t* info) noexcept
+      : work_(work), info_(info), first_(work != nullptr ? *work : T{}) {}
+  ~KeptWhenRefused() {
+    if (*info_ < 0 && work_ != nullptr) *work_ = first_;
+  }
+  KeptWhenRefused(const KeptWhenRefused&) = delete;
+  KeptWhenRefused& operator=(const KeptWhenRefused&) = delete;
+
+ private:
+  T* work_;
+  const std::int32_t* info_;
+  T first_;
+};
+
 }  // namespace quorin::dense

@@ -48,10 +48,10 @@ def fortran_form(routine: Routine) -> str:
     items = parameters(routine, "cpp", False) + ["std::size_t"] * len(characters)
     passed = ", ".join([a.name for a in routine.arguments] + ["1"] * len(characters))
     declaration = wrapped(f"void {routine.name}_", items, ";")
-    body = (
-        f'const quorin::dense::LapackCall call("{routine.name.upper()}", info);\n'
-        f"  if (call.may_begin()) {routine.name}_({passed});"
-    )
+    body = f'const quorin::dense::LapackCall call("{routine.name.upper()}", info);\n'
+    if any(a.name == "lwork" for a in routine.arguments):
+        body += "  const quorin::dense::KeptWhenRefused kept(work, info);\n"
+    body += f"  if (call.may_begin()) {routine.name}_({passed});"
     return f"{declaration}\n{definition(routine.name, routine, False, body)}"
 
 

@@ -1309,8 +1309,9 @@ QUORIN_API void QUORIN_CDECL sstebz_Idx(const char* range, const char* order, co
                                         int32_t isplit_index, float* work, int32_t work_index, int32_t* iwork,
                                         int32_t iwork_index, int32_t* info);
 
-/* Eigenvectors of a symmetric tridiagonal matrix for given eigenvalues by inverse iteration. -- d: n; e: n-1; w: n;
-   iblock: n; isplit: n; z: ldz x m, out; work: 5*n, out; iwork: n, out; ifail: m, out; info: out */
+/* Eigenvectors of a symmetric tridiagonal matrix for given eigenvalues by inverse iteration. ifail is cleared even if
+   an argument is wrong. -- d: n; e: n-1; w: n; iblock: n; isplit: n; z: ldz x m, out; work: 5*n, out; iwork: n, out;
+   ifail: m, out; info: out */
 QUORIN_API void QUORIN_CDECL sstein(const int32_t* n, const float* d, const float* e, const int32_t* m, const float* w,
                                     const int32_t* iblock, const int32_t* isplit, float* z, const int32_t* ldz,
                                     float* work, int32_t* iwork, int32_t* ifail, int32_t* info);
@@ -1320,8 +1321,9 @@ QUORIN_API void QUORIN_CDECL sstein_Idx(const int32_t* n, const float* d, const 
                                         const int32_t* ldz, float* work, int32_t work_index, int32_t* iwork,
                                         int32_t iwork_index, int32_t* ifail, int32_t ifail_index, int32_t* info);
 
-/* Eigenvectors of a symmetric tridiagonal matrix for given eigenvalues by inverse iteration. -- d: n; e: n-1; w: n;
-   iblock: n; isplit: n; z: ldz x m, out; work: 5*n, out; iwork: n, out; ifail: m, out; info: out */
+/* Eigenvectors of a symmetric tridiagonal matrix for given eigenvalues by inverse iteration. ifail is cleared even if
+   an argument is wrong. -- d: n; e: n-1; w: n; iblock: n; isplit: n; z: ldz x m, out; work: 5*n, out; iwork: n, out;
+   ifail: m, out; info: out */
 QUORIN_API void QUORIN_CDECL cstein(const int32_t* n, const float* d, const float* e, const int32_t* m, const float* w,
                                     const int32_t* iblock, const int32_t* isplit, quorin_complex* z, const int32_t* ldz,
                                     float* work, int32_t* iwork, int32_t* ifail, int32_t* info);
