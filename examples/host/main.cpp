@@ -10,6 +10,7 @@ int main() {
   std::printf("%-52s %-22s %9s %9s %10s\n", "what", "size", "error", "bound", "time [ms]");
   demo::services_rows(library, report);
   demo::blas_rows(library, report);
+  demo::lapack_rows(library, report);
   demo::signal_rows(library, report);
   demo::rci_rows(library, report);
   demo::amos_rows(library, report);

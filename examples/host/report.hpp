@@ -52,6 +52,7 @@ class Report {
 // Each family has one file <family>_rows.cpp with one of these; main.cpp calls them all.
 void services_rows(const Library& library, Report& report);
 void blas_rows(const Library& library, Report& report);
+void lapack_rows(const Library& library, Report& report);
 void signal_rows(const Library& library, Report& report);
 void rci_rows(const Library& library, Report& report);
 void amos_rows(const Library& library, Report& report);
