@@ -32,10 +32,12 @@ class ArgumentCheck {
     return *this;
   }
 
-  bool passed() const {
+  // The position of the wrong argument, which it reports; 0 if all hold.
+  int reported() const {
     if (wrong_ != 0) report(operation_, wrong_);
-    return wrong_ == 0;
+    return wrong_;
   }
+  bool passed() const { return reported() == 0; }
 
   static void report(const char* operation, int code) {
     char name[8] = {ScalarTraits<T>::kLetter};

@@ -1,6 +1,7 @@
 // The dense family as other rooms see it.
 #pragma once
 
+#include "dense/factorizations.hpp"
 #include "dense/lapack.hpp"
 #include "dense/level1.hpp"
 #include "dense/level2.hpp"

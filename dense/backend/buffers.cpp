@@ -156,7 +156,7 @@ BufferReservation::BufferReservation(int wanted) noexcept : outer_(holder()) {
   const int shared = outer_ != nullptr && outer_->can_lend() ? 1 : 0;
   if (wanted > 1) promised_ = pool.reserve(wanted - shared);
   granted_ = promised_ + shared;
-  if (granted_ > 0) return;
+  if (wanted > 1 || granted_ > 0) return;
   own_ = pool.acquire();
   if (own_ == nullptr) return;
   granted_ = 1;
