@@ -8,10 +8,9 @@
 #include <vector>
 
 #include "quorin/quorin.h"
-#include "tests/boundary/counting_allocator.hpp"
 #include "tests/support/capture_output.hpp"
 #include "tests/support/exact_product.hpp"
-#include "tests/support/host_module.hpp"
+#include "tests/support/failing_host.hpp"
 
 namespace quorin::test {
 namespace {
@@ -103,29 +102,27 @@ const std::vector<Case>& cases() {
 // a call that lacked nothing is the result.
 class Campaign {
  public:
-  Campaign() : allocator_(load_test_library("complete", "libimalloc")), product_(load_product()) {
-    product_.symbol<decltype(sMKL_Set_Dynamic)>("sMKL_Set_Dynamic")(0);
-    product_.symbol<decltype(sMKL_Set_Num_Threads)>("sMKL_Set_Num_Threads")(4);
+  Campaign() {
+    host_.symbol<decltype(sMKL_Set_Dynamic)>("sMKL_Set_Dynamic")(0);
+    host_.symbol<decltype(sMKL_Set_Num_Threads)>("sMKL_Set_Num_Threads")(4);
   }
 
   void run(const Case& c, int failures) {
     SCOPED_TRACE(std::string(c.name) + ", failing " + std::to_string(failures));
     const std::vector<float> before = whole_numbers(operands_.size(), 7);
     std::vector<float> expected = before;
-    c.call(product_, operands_, expected.data());
+    c.call(host_.product(), operands_, expected.data());
     ASSERT_NE(expected, before);
 
     constexpr int kMostAllocations = 100;
     int k = 1, reports = 0;
     for (bool failed = true; failed && k < kMostAllocations; ++k) {
       free_buffers();
-      EXPECT_EQ(state().live, 0);
-      state().failures = failures;
-      state().fail_at = k;
+      EXPECT_EQ(host_.live_blocks(), 0);
       std::vector<float> computed = before;
-      const std::string text = captured([&] { c.call(product_, operands_, computed.data()); });
-      failed = state().failures < failures;
-      state().fail_at = 0;
+      std::string text;
+      failed = host_.run_failing(
+          k, failures, [&] { text = captured([&] { c.call(host_.product(), operands_, computed.data()); }); });
       if (text.empty()) {
         EXPECT_EQ(computed, expected) << "allocation " << k;
       } else {
@@ -138,14 +135,13 @@ class Campaign {
     EXPECT_LT(k, kMostAllocations);
     EXPECT_GE(reports, 1) << "the first allocation is the one that no call can do without";
     free_buffers();
-    EXPECT_EQ(state().live, 0);
+    EXPECT_EQ(host_.live_blocks(), 0);
   }
 
  private:
-  CountingAllocatorState& state() { return *allocator_.symbol<CountingAllocatorState>("imalloc_state"); }
-  void free_buffers() { product_.symbol<decltype(sMKL_FreeBuffers)>("sMKL_FreeBuffers")(); }
+  void free_buffers() { host_.symbol<decltype(sMKL_FreeBuffers)>("sMKL_FreeBuffers")(); }
 
-  HostModule allocator_, product_;
+  FailingHost host_;
   Operands operands_;
 };
 

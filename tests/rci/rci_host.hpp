@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+#include <gtest/gtest.h>
+
 #include "quorin/rci.h"
 
 namespace rci_test {
@@ -59,6 +61,31 @@ inline Dense dense(const Csr& s) {
     for (int k = s.ia[i] - 1; k < s.ia[i + 1] - 1; ++k) m[i][s.ja[k] - 1] += s.a[k];
   }
   return m;
+}
+
+inline void expect_near(const Vector& actual, const Vector& expected, double slack) {
+  ASSERT_EQ(actual.size(), expected.size());
+  for (std::size_t i = 0; i < actual.size(); ++i) EXPECT_NEAR(actual[i], expected[i], slack) << "entry " << i;
+}
+
+// Published values have 10 digits or fewer; a 0 stands for rounding errors of at most `zero`.
+inline void expect_history(const Vector& actual, const Vector& expected, double zero, double relative = 5e-7) {
+  ASSERT_EQ(actual.size(), expected.size());
+  for (std::size_t k = 0; k < actual.size(); ++k) {
+    EXPECT_NEAR(actual[k], expected[k], expected[k] == 0.0 ? zero : relative * std::fabs(expected[k])) << "step " << k;
+  }
+}
+
+inline Vector joined(const Vector& first, const Vector& second) {
+  Vector all = first;
+  all.insert(all.end(), second.begin(), second.end());
+  return all;
+}
+
+inline double dot(int n, const double* x, const double* y) {
+  double sum = 0.0;
+  for (int i = 0; i < n; ++i) sum += x[i] * y[i];
+  return sum;
 }
 
 inline double norm(const Vector& x) {
@@ -136,6 +163,20 @@ struct Record {
   int status = 0;
 };
 
+// Runs a solve with CG to its end.
+template <class Host>
+Record run_cg(Host& host, int most) {
+  Record record;
+  while (most-- > 0) {
+    const bool product_taken = host.request == 1;
+    record.status = host.step();
+    if (record.status > 0) record.requests += static_cast<char>('0' + record.status);
+    if (product_taken && record.status >= -1) record.residuals.push_back(host.dpar[4]);
+    if (!host.serve()) break;
+  }
+  return record;
+}
+
 // One solve with CG. Arrays are as short as a plain run allows; options are set through ipar and dpar.
 class CgHost {
  public:
@@ -167,17 +208,13 @@ class CgHost {
     if (request == 2) return !(satisfied && satisfied());
     return request > 0;
   }
-  Record run(int most = 100000) {
-    Record record;
-    while (most-- > 0) {
-      const bool product_taken = request == 1;
-      record.status = step();
-      if (record.status > 0) record.requests += static_cast<char>('0' + record.status);
-      if (product_taken && record.status >= -1) record.residuals.push_back(dpar[4]);
-      if (!serve()) break;
-    }
-    return record;
+  // The automatic residual test alone.
+  void test_residual(double relative) {
+    ipar[8] = 1;
+    ipar[9] = 0;
+    dpar[0] = relative;
   }
+  Record run(int most = 100000) { return run_cg(*this, most); }
   int itercount() {
     int count = -1;
     DCG_GET(&A.n, x.data(), b.data(), &request, ipar.data(), dpar.data(), tmp.data(), &count);
@@ -192,6 +229,64 @@ class CgHost {
   Vector x, b;
   Preconditioner precondition;
   std::function<bool()> satisfied;
+  int request = -1;
+};
+
+// One solve with CG for several right-hand sides.
+class ManyHost {
+ public:
+  ManyHost(const Csr& matrix, const Vector& rhs, const Vector& start, bool preconditioned = false)
+      : A(matrix),
+        nrhs(static_cast<int>(rhs.size()) / A.n),
+        ipar(128 + 2 * nrhs, -77),
+        dpar(128 + 2 * nrhs, -7.7),
+        tmp(static_cast<std::size_t>(A.n) * (3 + nrhs), std::nan("")),
+        x(start),
+        b(rhs) {
+    init(nrhs, 1);
+    ipar[5] = ipar[6] = 0;  // no messages
+    if (preconditioned) ipar[10] = 1;
+  }
+
+  int init(int count, int method) {
+    DCGMRHS_INIT(&A.n, x.data(), &count, b.data(), &method, &request, ipar.data(), dpar.data(), tmp.data());
+    return request;
+  }
+  int check(int count) {
+    DCGMRHS_CHECK(&A.n, x.data(), &count, b.data(), &request, ipar.data(), dpar.data(), tmp.data());
+    return request;
+  }
+  int step() {
+    sDCGMRHS_Idx(&A.n, x.data(), 0, &nrhs, b.data(), 0, &request, ipar.data(), 0, dpar.data(), 0, tmp.data(), 0);
+    return request;
+  }
+  bool serve() {
+    double* column = tmp.data();
+    // Only a misled solver asks for a right-hand side that is not there.
+    if (request == 3 && (ipar[2] < 1 || ipar[2] > nrhs)) return false;
+    if (request == 1) A.multiply(column, column + A.n);
+    if (request == 3) precondition(ipar[3], column + (2 + ipar[2]) * A.n, column + 2 * A.n);
+    return request > 0;
+  }
+  void test_residual(double relative) {
+    ipar[8] = 1;
+    ipar[9] = 0;
+    dpar[0] = relative;
+  }
+  Record run(int most = 100000) { return run_cg(*this, most); }
+  std::vector<int> counts() {
+    std::vector<int> k(nrhs);
+    DCGMRHS_GET(&A.n, x.data(), &nrhs, b.data(), &request, ipar.data(), dpar.data(), tmp.data(), k.data());
+    return k;
+  }
+  bool intact() const { return ipar.intact() && dpar.intact() && tmp.intact(); }
+
+  const Csr& A;
+  int nrhs;
+  Guarded<int> ipar;
+  Guarded<double> dpar, tmp;
+  Vector x, b;
+  Preconditioner precondition;
   int request = -1;
 };
 

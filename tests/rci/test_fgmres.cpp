@@ -19,19 +19,6 @@ Csr nonsymmetric5() {
 
 const Vector kSolution5{-1, 1, 0, 1, -1};
 
-void expect_history(const Vector& actual, const Vector& expected) {
-  ASSERT_EQ(actual.size(), expected.size());
-  for (std::size_t k = 0; k < actual.size(); ++k) {
-    // Published with 10 digits or fewer; a 0 stands for rounding errors.
-    EXPECT_NEAR(actual[k], expected[k], expected[k] == 0.0 ? 1e-12 : 5e-7 * expected[k]) << "step " << k;
-  }
-}
-
-void expect_near(const Vector& actual, const Vector& expected, double slack) {
-  ASSERT_EQ(actual.size(), expected.size());
-  for (std::size_t i = 0; i < actual.size(); ++i) EXPECT_NEAR(actual[i], expected[i], slack) << "entry " << i;
-}
-
 void test_automatically(FgmresHost& host, double relative) {
   host.ipar[8] = 1;
   host.ipar[9] = 0;
@@ -52,7 +39,7 @@ TEST(Fgmres, PublishedPlainExample) {
     ASSERT_EQ(host.check(), 0);
     const Record record = host.run();
     EXPECT_EQ(record.status, 0);
-    expect_history(record.residuals, history);
+    expect_history(record.residuals, history, 1e-12);
     EXPECT_EQ(host.get(), 0);
     EXPECT_EQ(host.itercount, 5);
     expect_near(host.x, kSolution5, 1e-13);
@@ -64,11 +51,9 @@ TEST(Fgmres, PublishedPlainExample) {
 TEST(Fgmres, NormsOfTheGeneratedVectors) {
   const Csr A = nonsymmetric5();
   FgmresHost host(A, A * kSolution5, Vector(5, 1.0));
-  const double norms[] = {1.967232, 1.470368, 1.230850, 0.1186402, 0.0};
-  std::size_t k = 0;
+  Vector norms;
   host.satisfied = [&] {
-    EXPECT_NEAR(host.dpar[6], norms[k], 5e-7 * std::max(norms[k], 1e-8)) << "step " << k + 1;
-    ++k;
+    norms.push_back(host.dpar[6]);
     return false;
   };
   EXPECT_EQ(host.run().requests,
@@ -78,7 +63,7 @@ TEST(Fgmres, NormsOfTheGeneratedVectors) {
             "124"
             "124"
             "124");
-  EXPECT_EQ(k, 5u);
+  expect_history(norms, {1.967232, 1.470368, 1.230850, 0.1186402, 0}, 1e-14);
 }
 
 // Restart after two steps, host tests, a preconditioner that depends on the iteration.
@@ -111,9 +96,8 @@ TEST(Fgmres, PublishedExampleOfAllFeatures) {
             "1"
             "3124"
             "312");
-  expect_history(record.residuals, {7.071068, 3.654275, 3.593855, 2.914676, 0});
-  const double expected[] = {6.254, 4.811, 3.774, 0.0};
-  for (std::size_t k = 0; k < 4; ++k) EXPECT_NEAR(norms[k], expected[k], 6e-4) << k;
+  expect_history(record.residuals, {7.071068, 3.654275, 3.593855, 2.914676, 0}, 1e-12);
+  expect_history(norms, {6.254, 4.811, 3.774, 0}, 1e-12, 1.5e-4);
   EXPECT_EQ(host.get(), 0);
   EXPECT_EQ(host.itercount, 4);
   expect_near(host.x, kSolution5, 1e-12);
