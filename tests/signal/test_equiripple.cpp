@@ -1,4 +1,4 @@
-// REMEZ against published filters, closed forms and the alternation theorem.
+// REMEZ against published filters, linear programs, closed forms and the alternation theorem.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "quorin/signal.h"
+#include "tests/signal/optimal_filters.hpp"
 
 namespace {
 
@@ -170,6 +171,17 @@ TEST(Equiripple, PublishedErrors) {
     ASSERT_EQ(design(d, h), 0);
     EXPECT_NEAR(largest_error(d, h), p.passband, 0.5e-4);
     EXPECT_NEAR(largest_error(d, h) / 10, p.stopband, 0.5e-5);
+  }
+}
+
+// Hilbert transformers, differentiators and a band-pass, to 11 digits.
+TEST(Equiripple, BestFiltersByLinearProgramming) {
+  for (const OptimalFilter& best : optimal_filters()) {
+    const Design d{best.name, best.taps, best.bands, best.desired, best.weight, best.type};
+    std::vector<double> h;
+    ASSERT_EQ(design(d, h), 0) << d.name;
+    for (std::size_t k = 0; k < best.half.size(); ++k) EXPECT_NEAR(h[k], best.half[k], 1e-11) << d.name << ' ' << k;
+    EXPECT_NEAR(largest_error(d, h), best.error, 1e-8 * best.error) << d.name;
   }
 }
 
