@@ -7,21 +7,31 @@
 namespace quorin::bench {
 namespace {
 
-// Finds functions of one library, whose names may have a suffix behind the routine's name.
+// A function of a library; initialises pointers of any type.
+class Found {
+ public:
+  explicit Found(void* address) : address_(address) {}
+  template <class Function>
+  operator Function*() const {
+    return reinterpret_cast<Function*>(address_);
+  }
+
+ private:
+  void* address_;
+};
+
+// The functions of one library, whose names may have a suffix behind the routine's name.
 class Symbols {
  public:
   Symbols(platform::Module module, std::string file, std::string suffix)
       : module_(module), file_(std::move(file)), suffix_(std::move(suffix)) {}
 
-  template <class Function>
-  void find(Function*& function, const std::string& name) const {
-    find_exactly(function, name + suffix_);
-  }
+  Found operator[](const std::string& routine) const { return exactly(routine + suffix_); }
 
-  template <class Function>
-  void find_exactly(Function*& function, const std::string& name) const {
-    function = reinterpret_cast<Function*>(platform::find_symbol(module_, name.c_str()));
-    if (function == nullptr) throw std::runtime_error(file_ + " has no " + name);
+  Found exactly(const std::string& name) const {
+    void* const address = platform::find_symbol(module_, name.c_str());
+    if (address == nullptr) throw std::runtime_error(file_ + " has no " + name);
+    return Found(address);
   }
 
  private:
@@ -30,60 +40,43 @@ class Symbols {
   std::string suffix_;
 };
 
-Blas find_blas(const Symbols& symbols, const std::string& name, const std::string& thread_setter) {
-  Blas blas{};
-  blas.name = name;
-  symbols.find_exactly(blas.set_threads, thread_setter);
-  symbols.find(blas.saxpy, "saxpy");
-  symbols.find(blas.sdot, "sdot");
-  symbols.find(blas.sgemv, "sgemv");
-  symbols.find(blas.sgemm, "sgemm");
-  symbols.find(blas.cgemm, "cgemm");
-  symbols.find(blas.ssyrk, "ssyrk");
-  symbols.find(blas.strsm, "strsm");
-  return blas;
+Blas find_blas(const Symbols& in, const std::string& name, const std::string& thread_setter) {
+  return {.name = name,
+          .set_threads = in.exactly(thread_setter),
+          .saxpy = in["saxpy"],
+          .sdot = in["sdot"],
+          .sgemv = in["sgemv"],
+          .sgemm = in["sgemm"],
+          .cgemm = in["cgemm"],
+          .ssyrk = in["ssyrk"],
+          .strsm = in["strsm"]};
 }
 
-IndexForms find_index_forms(const Symbols& symbols) {
-  IndexForms forms{};
-  symbols.find(forms.saxpy, "saxpy_Idx");
-  symbols.find(forms.sdot, "sdot_Idx");
-  symbols.find(forms.sgemm, "sgemm_Idx");
-  return forms;
+Rci find_rci(const Symbols& in) {
+  return {.cg_init = in["DCG_INIT"],
+          .cg = in["DCG"],
+          .fgmres_init = in["DFGMRES_INIT"],
+          .fgmres_check = in["DFGMRES_CHECK"],
+          .fgmres = in["DFGMRES"],
+          .ilu0 = in["DCSRILU0"],
+          .ilut = in["DCSRILUT"]};
 }
 
-VectorForms find_vector_forms(const Symbols& symbols) {
-  VectorForms forms{};
-  symbols.find(forms.sscal, "sscal");
-  symbols.find(forms.isamax, "isamax");
-  return forms;
-}
-
-Signal find_signal(const Symbols& symbols) {
-  Signal signal{};
-  symbols.find(signal.remez, "REMEZ");
-  symbols.find(signal.toeplitz, "TSLS1");
-  return signal;
-}
-
-Rci find_rci(const Symbols& symbols) {
-  Rci rci{};
-  symbols.find(rci.cg_init, "DCG_INIT");
-  symbols.find(rci.cg, "DCG");
-  symbols.find(rci.fgmres_init, "DFGMRES_INIT");
-  symbols.find(rci.fgmres_check, "DFGMRES_CHECK");
-  symbols.find(rci.fgmres, "DFGMRES");
-  symbols.find(rci.ilu0, "DCSRILU0");
-  symbols.find(rci.ilut, "DCSRILUT");
-  return rci;
+Libraries find_product(const Symbols& in) {
+  return {.product = find_blas(in, "quorin", "sMKL_Set_Num_Threads"),
+          .index_forms = {.saxpy = in["saxpy_Idx"], .sdot = in["sdot_Idx"], .sgemm = in["sgemm_Idx"]},
+          .vector_forms = {.sscal = in["sscal"], .isamax = in["isamax"]},
+          .signal = {.remez = in["REMEZ"], .toeplitz = in["TSLS1"]},
+          .rci = find_rci(in),
+          .amos = {.j = in["CBESJ"], .k = in["CBESK"], .y = in["CBESY"], .ai = in["CAIRY"]},
+          .peer = std::nullopt,
+          .peer_description = {}};
 }
 
 // The peer's own words: version, build options and the kernel set that it has chosen.
-std::string describe_openblas(const Symbols& symbols) {
-  const char* (*get_config)() = nullptr;
-  const char* (*get_core_name)() = nullptr;
-  symbols.find_exactly(get_config, "openblas_get_config");
-  symbols.find_exactly(get_core_name, "openblas_get_corename");
+std::string describe_openblas(const Symbols& in) {
+  const char* (*const get_config)() = in.exactly("openblas_get_config");
+  const char* (*const get_core_name)() = in.exactly("openblas_get_corename");
   return std::string(get_config()) + ", " + get_core_name() + " kernels";
 }
 
@@ -92,14 +85,7 @@ std::string describe_openblas(const Symbols& symbols) {
 Libraries load_libraries(const std::string& product_file, const std::string& peer_file) {
   const platform::Module product = platform::open_module(product_file.c_str());
   if (product == nullptr) throw std::runtime_error("cannot load " + product_file);
-  const Symbols symbols(product, product_file, "");
-  Libraries libraries{find_blas(symbols, "quorin", "sMKL_Set_Num_Threads"),
-                      find_index_forms(symbols),
-                      find_vector_forms(symbols),
-                      find_signal(symbols),
-                      find_rci(symbols),
-                      std::nullopt,
-                      {}};
+  Libraries libraries = find_product(Symbols(product, product_file, ""));
   if (const platform::Module peer = platform::open_module(peer_file.c_str())) {
     const Symbols peer_symbols(peer, peer_file, "_");
     libraries.peer = find_blas(peer_symbols, "openblas", "openblas_set_num_threads");

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "quorin/amos.h"
 #include "quorin/blas.h"
 #include "quorin/rci.h"
 #include "quorin/signal.h"
@@ -52,12 +53,20 @@ struct Rci {
   decltype(&::DCSRILUT) ilut;
 };
 
+struct Amos {
+  decltype(&::CBESJ) j;
+  decltype(&::CBESK) k;
+  decltype(&::CBESY) y;
+  decltype(&::CAIRY) ai;
+};
+
 struct Libraries {
   Blas product;
   IndexForms index_forms;
   VectorForms vector_forms;
   Signal signal;
   Rci rci;
+  Amos amos;
   std::optional<Blas> peer;
   std::string peer_description;
 };

@@ -134,6 +134,7 @@ void run(int argc, char** argv) {
   add_blas_rows(suite);
   add_signal_rows(suite);
   add_rci_rows(suite);
+  add_amos_rows(suite);
 
   std::ofstream file;
   if (!options.out.empty()) {

@@ -14,7 +14,7 @@ from collections import defaultdict
 from dataclasses import dataclass, field
 
 PRODUCT, INDEX, LIMIT = "quorin", "index", "limit"
-TITLES = {"openblas": "OpenBLAS", "lapack": "LAPACK", "eigen": "Eigen"}
+TITLES = {"openblas": "OpenBLAS", "lapack": "LAPACK", "eigen": "Eigen", "boost": "Boost.Math", "gsl": "GSL"}
 
 # What a section of the results answers. A section without an entry here is shown under its own name.
 SECTIONS = {
@@ -34,6 +34,12 @@ SECTIONS = {
         " n unknowns, against Eigen's IncompleteLUT without its analysis of the pattern. DCSRILU0 has no counterpart there:"
         " it stands against fill factor 1 and tolerance 0, which keep fewer entries. DCSRILUT (6 entries, tolerance 1e-4)"
         " stands against factor 4 and the same tolerance. \"Fill\" is the number of entries of L and U.",
+    ),
+    "amos": (
+        "Bessel and Airy functions",
+        "One value per call, n = |z|, for Ai n = x; off the axis is arg z = 1/2. The peers work in real arithmetic. Order 0.3: power series, then continued"
+        " fractions, then expansions for large argument. Order 40.3: power series to n = 10, then recurrence from large order, then large"
+        " argument. Order 300.3: expansions for large order, with the turning point at n = 300.",
     ),
 }
 

@@ -128,5 +128,6 @@ void add_blas_rows(Suite& suite);
 void add_index_form_rows(Suite& suite);
 void add_signal_rows(Suite& suite);
 void add_rci_rows(Suite& suite);
+void add_amos_rows(Suite& suite);
 
 }  // namespace quorin::bench
