@@ -2,6 +2,7 @@
 #include <numbers>
 
 #include "amos/amos.hpp"
+#include "amos/cylinder_ratio.hpp"
 #include "amos/finish.hpp"
 #include "amos/large_argument.hpp"
 #include "amos/limits.hpp"
@@ -13,13 +14,22 @@ namespace {
 constexpr double kPi = std::numbers::pi;
 constexpr double kSqrt3 = std::numbers::sqrt3;
 
-// Checks common to both functions. Returns false when there is nothing to compute.
-bool accept(Complex z, int id, int kode, int* ierr) {
+// What is asked for: Ai or Bi, or the derivative (id 1).
+struct Request {
+  Cylinder function;  // kAi or kBi
+  int id;
+  int kode;
+
+  bool is_ai() const { return function == Cylinder::kAi; }
+};
+
+// Returns false when there is nothing to compute.
+bool accept(Complex z, const Request& r, int* ierr) {
   const auto stop = [ierr](Status status) {
     *ierr = static_cast<int>(status);
     return false;
   };
-  if (id < 0 || id > 1 || kode < 1 || kode > 2) return stop(Status::kInputError);
+  if (r.id < 0 || r.id > 1 || r.kode < 1 || r.kode > 2) return stop(Status::kInputError);
   const double size = std::hypot(z.real(), z.imag());
   if (!(size <= kAiryRangeLimit)) return stop(Status::kNoPrecision);
   *ierr = static_cast<int>(size > kAiryHalfPrecisionLimit ? Status::kPrecisionLoss : Status::kOk);
@@ -100,72 +110,91 @@ Scaled bi_outside(const Argument& a, int id, int kode) {
   return combine(a, id, front * k * continuation_phase(id), id == 0 ? front : -front, exponent);
 }
 
-// exp(sign zeta) or exp(-|Re zeta|) as the factor of kode 2 inside the unit circle.
-Complex unit_circle_factor(Complex z, bool modulus_only) {
+// The factor of kode 2 inside the unit circle.
+Complex unit_circle_factor(Complex z, const Request& r) {
   const Complex zeta = 2.0 / 3.0 * (z * square_root(z));
-  const Scaled e = exponential(modulus_only ? Complex{-std::fabs(zeta.real()), 0.0} : zeta);
+  const Scaled e = exponential(r.is_ai() ? zeta : Complex{-std::fabs(zeta.real()), 0.0});
   return shift(e.m, e.e);
+}
+
+Complex inside(Complex z, const Request& r) {
+  const AiryValues series = airy_power_series(z);
+  const Complex function = r.is_ai() ? series.ai : series.bi;
+  const Complex derivative = r.is_ai() ? series.ai_prime : series.bi_prime;
+  const Complex value = r.id == 0 ? function : derivative;
+  return r.kode == 2 ? value * unit_circle_factor(z, r) : value;
+}
+
+Scaled plainly_outside(const Argument& a, const Request& r) {
+  Scaled result = r.is_ai() ? ai_outside(a, r.id, r.kode) : bi_outside(a, r.id, r.kode);
+  // On the axis all is real but e^zeta left of zero.
+  const bool is_real = a.z.imag() == 0.0 && (r.kode == 1 || a.z.real() > 0.0 || !r.is_ai());
+  if (is_real) result.m = result.m.real();
+  return result;
+}
+
+// Next to a zero on the negative real axis the derivative takes the place of the function, and the other way round.
+// That neighbour is at its largest there, so the part of the usual size that counts as next to a zero can be large.
+bool is_next_to_zero(const Argument& a, const Request& r, Scaled value) {
+  constexpr double kPart = 0.4;
+  if (!a.left || a.w.real() > kBesideAxis || a.w.imag() < a.w.real()) return false;
+  // |z|^(-1/4) / sqrt(pi) and |z|^(1/4) / sqrt(pi) around (DLMF 9.7.9 to 9.7.12)
+  const double root = std::sqrt(std::abs(a.z));
+  const double size = std::abs(shift(value.m, value.e));
+  return kPi * size * size < kPart * kPart * (r.id == 0 ? 1.0 / root : root);
+}
+
+Scaled outside(const Argument& a, const Request& r) {
+  const Scaled value = plainly_outside(a, r);
+  if (!is_next_to_zero(a, r, value)) return value;
+  constexpr DoubleDouble kMinusThird{-0.3333333333333333, -1.850371707708594e-17};
+  // f / f' = (C_{-1/3} / C_{2/3}) / sqrt(-z), at zeta = -i w
+  const ComplexDoubleDouble argument{a.wide_w.im, -a.wide_w.re};
+  const Complex quotient =
+      divide(cylinder_ratio(r.function, kMinusThird, 0, argument), Complex{a.root.imag(), -a.root.real()});
+  const Scaled other = plainly_outside(a, {r.function, 1 - r.id, r.kode});
+  return other * (r.id == 0 ? quotient : divide(1.0, quotient));
+}
+
+// The value at |z| > 1 in the upper half plane.
+Status evaluate_outside(Complex z, const Request& r, Complex& value, int& underflows) {
+  const Argument a(z);
+  const double quarter_log = 0.25 * std::log(std::abs(z));
+  const double growth = r.is_ai() ? -a.zeta.re.hi : std::fabs(a.zeta.re.hi);
+  if (r.kode == 1 && growth - quarter_log < -kElim) {
+    value = 0.0;
+    underflows = 1;
+    return Status::kOk;
+  }
+  if (r.kode == 1 && growth + quarter_log > kElim) return Status::kOverflow;
+  return finish(outside(a, r), value, underflows);
+}
+
+void evaluate(Complex z, const Request& r, Complex* result, int* nz, int* ierr) {
+  *nz = 0;
+  if (!accept(z, r, ierr)) return;
+  // All functions are conjugated with their argument.
+  const bool mirrored = z.imag() < 0.0;
+  const Complex upper = mirrored ? std::conj(z) : z;
+  Complex value;
+  if (std::hypot(z.real(), z.imag()) <= 1.0) {
+    value = inside(upper, r);
+  } else if (const Status status = evaluate_outside(upper, r, value, *nz); status != Status::kOk) {
+    *ierr = static_cast<int>(status);
+    return;
+  }
+  *result = mirrored ? std::conj(value) : value;
 }
 
 }  // namespace
 
-void airy(Complex z_in, int id, int kode, Complex* ai, int* nz, int* ierr) {
-  *nz = 0;
-  if (!accept(z_in, id, kode, ierr)) return;
-  const bool mirrored = z_in.imag() < 0.0;
-  const Complex z = mirrored ? std::conj(z_in) : z_in;
-  Complex value;
-  if (std::hypot(z.real(), z.imag()) <= 1.0) {
-    const AiryValues series = airy_power_series(z);
-    value = id == 0 ? series.ai : series.ai_prime;
-    if (kode == 2) value *= unit_circle_factor(z, false);
-  } else {
-    const Argument a(z);
-    const double quarter_log = 0.25 * std::log(std::abs(z));
-    if (kode == 1 && -a.zeta.re.hi - quarter_log < -kElim) {
-      *ai = 0.0;
-      *nz = 1;
-      return;
-    }
-    Status status = Status::kOverflow;
-    if (kode == 2 || -a.zeta.re.hi + quarter_log <= kElim) {
-      Scaled result = ai_outside(a, id, kode);
-      const bool real = z.imag() == 0.0 && (kode == 1 || z.real() > 0.0);
-      if (real) result.m = result.m.real();
-      status = finish(result, value, *nz);
-    }
-    if (status != Status::kOk) {
-      *ierr = static_cast<int>(status);
-      return;
-    }
-  }
-  *ai = mirrored ? std::conj(value) : value;
+void airy(Complex z, int id, int kode, Complex* ai, int* nz, int* ierr) {
+  evaluate(z, {Cylinder::kAi, id, kode}, ai, nz, ierr);
 }
 
-void biry(Complex z_in, int id, int kode, Complex* bi, int* ierr) {
-  if (!accept(z_in, id, kode, ierr)) return;
-  const bool mirrored = z_in.imag() < 0.0;
-  const Complex z = mirrored ? std::conj(z_in) : z_in;
-  Complex value;
-  if (std::hypot(z.real(), z.imag()) <= 1.0) {
-    const AiryValues series = airy_power_series(z);
-    value = id == 0 ? series.bi : series.bi_prime;
-    if (kode == 2) value *= unit_circle_factor(z, true);
-  } else {
-    const Argument a(z);
-    Status status = Status::kOverflow;
-    if (kode == 2 || std::fabs(a.zeta.re.hi) + 0.25 * std::log(std::abs(z)) <= kElim) {
-      Scaled result = bi_outside(a, id, kode);
-      if (z.imag() == 0.0) result.m = result.m.real();
-      int underflows = 0;
-      status = finish(result, value, underflows);
-    }
-    if (status != Status::kOk) {
-      *ierr = static_cast<int>(status);
-      return;
-    }
-  }
-  *bi = mirrored ? std::conj(value) : value;
+void biry(Complex z, int id, int kode, Complex* bi, int* ierr) {
+  int underflows = 0;
+  evaluate(z, {Cylinder::kBi, id, kode}, bi, &underflows, ierr);
 }
 
 }  // namespace quorin::amos

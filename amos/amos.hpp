@@ -8,7 +8,7 @@
 //   2  overflow: a member would exceed exp(700.92), or |z| < 2.2e-305 for H, K and Y; cy holds no result
 //   3  |z| or fnu + n - 1 above 32767.99: done, with at most half of the digits
 //   4  |z| or fnu + n - 1 above 1073741823.5 (or not a number): no digit would be left, nothing is computed
-//   5  a method did not converge; cy holds no result
+//   5  a method did not converge; cy holds no result (docs/accuracy-amos.md says why no input leads to it)
 //
 // nz counts the members set to zero by underflow. The functions keep no state and allocate nothing; they may be called
 // from several threads at once. Branch cut: the negative real axis, continuous from above.

@@ -2,6 +2,7 @@
 #include <numbers>
 
 #include "amos/amos.hpp"
+#include "amos/cylinder_ratio.hpp"
 #include "amos/finish.hpp"
 #include "amos/limits.hpp"
 #include "amos/sequences.hpp"
@@ -30,6 +31,7 @@ struct Combination {
   bool mirrored = false;  // the function was asked for at the conjugate of the argument
   bool real = false;      // the function is real there
   bool unscaled = false;  // kode 1
+  bool is_y = false;
 };
 
 struct Request {
@@ -118,11 +120,41 @@ class Evaluation {
 
   bool store(int j, Scaled value) {
     if (c_.real) value.m = value.m.real();
+    if (c_.is_y) value = refined_y(j, value);
     Complex member;
     status_ = finish(value, member, underflows_);
     if (status_ != Status::kOk) return false;
     result_.cy[j] = c_.mirrored ? std::conj(member) : member;
     return true;
+  }
+
+  // The member of index j by itself.
+  Scaled member(int j) const {
+    Scaled sum{};
+    const auto add = [&](const Term& term) {
+      return [&sum, &term, j](int, Scaled f) {
+        sum = sum + term.member(j, f);
+        return true;
+      };
+    };
+    if (c_.i.used) descend_i(request_.nu + j, 1, c_.w, add(c_.i));
+    if (c_.k.used) ascend_k(request_.nu + j, 1, c_.w, add(c_.k));
+    if (c_.real) sum.m = sum.m.real();
+    return sum;
+  }
+
+  // Y from the next higher order, if z = i w is next to a zero of it. Those lie on the positive real axis, and for half
+  // odd orders on the negative one, where Y is e^{-i pi nu} times Y(-z).
+  Scaled refined_y(int j, Scaled value) const {
+    const Complex z{-c_.w.imag(), c_.w.real()};
+    const double steps = std::nearbyint(request_.nu);
+    const double mu = request_.nu - steps;
+    const bool left = z.real() < 0.0;
+    if (left && std::fabs(mu) != 0.5) return value;
+    const double growth = c_.unscaled ? 1.0 : std::exp(std::fmin(z.imag(), 1.0));
+    if (!is_next_to_zero(request_.nu + j, z, growth * std::abs(shift(value.m, value.e)))) return value;
+    const Complex ratio = cylinder_ratio(Cylinder::kY, {mu, 0.0}, static_cast<int>(steps) + j, widen(left ? -z : z));
+    return member(j + 1) * (left ? -ratio : ratio);
   }
 
   static constexpr std::int64_t kWaitingLimit = -1000;
@@ -262,6 +294,7 @@ void besy(Complex z_in, double fnu, int kode, int n, Complex* cy, int* nz, Compl
   c.w = minus_i_times(z);
   c.unscaled = kode == 1;
   c.real = is_positive_real(z);
+  c.is_y = true;
   const Complex turn = quarter_turns(fnu);
   // Y(z) = i (J(z) - H1(z)) = i e^{i pi nu/2} I(w) - (2/pi) e^{-i pi nu/2} K(w), w = -iz
   if (!c.real) {

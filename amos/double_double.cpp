@@ -72,4 +72,24 @@ ComplexDoubleDouble log(const ComplexDoubleDouble& a) {
   return {log_norm * 0.5 + kLn2 * static_cast<double>(exponent), angle(q)};
 }
 
+ComplexDoubleDouble exp(const ComplexDoubleDouble& a) {
+  // a = (p ln 2 + i q pi/2) / 64 + rest, p and q taken apart into a whole part and what the tables have.
+  const double p = std::nearbyint(a.re.hi * (64.0 / kLn2.hi));
+  const double q = std::nearbyint(a.im.hi * (64.0 / kHalfPi.hi));
+  const ComplexDoubleDouble rest{a.re - kLn2 * (p / 64.0), a.im - kHalfPi * (q / 64.0)};
+  const double power = std::nearbyint(p / 64.0), quarters = std::nearbyint(q / 64.0);
+  const int fraction = static_cast<int>(q - 64.0 * quarters);  // -32 to 32
+  constexpr int kTerms = 14;                                   // 0.014^15 / 15! < 1e-33
+  ComplexDoubleDouble sum{kOne, {}};
+  for (int k = kTerms; k > 0; --k) {
+    sum = rest * sum / DoubleDouble{static_cast<double>(k), 0.0};
+    sum.re = sum.re + kOne;
+  }
+  const DoubleDouble sine = entry(tables::kSine.data(), std::abs(fraction));
+  ComplexDoubleDouble turn{entry(tables::kCosine.data(), std::abs(fraction)), fraction < 0 ? -sine : sine};
+  for (int k = static_cast<int>(std::fmod(quarters, 4.0)) & 3; k > 0; --k) turn = {-turn.im, turn.re};
+  const DoubleDouble size = entry(tables::kExponential.data(), 32 + static_cast<int>(p - 64.0 * power));
+  return turn * sum * size * std::scalbn(1.0, static_cast<int>(power));
+}
+
 }  // namespace quorin::amos

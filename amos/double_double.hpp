@@ -50,4 +50,7 @@ ComplexDoubleDouble sqrt(const ComplexDoubleDouble& a);
 // Principal logarithm of a != 0 with an absolute error near 1e-27, for any exponent of a.
 ComplexDoubleDouble log(const ComplexDoubleDouble& a);
 
+// e^a to about 31 digits, for |Re a| below 600; of a large Im a, the digits that multiples of pi leave.
+ComplexDoubleDouble exp(const ComplexDoubleDouble& a);
+
 }  // namespace quorin::amos

@@ -1,5 +1,6 @@
 #include "amos/sequences.hpp"
 
+#include "amos/cylinder_ratio.hpp"
 #include "amos/large_argument.hpp"
 #include "amos/limits.hpp"
 #include "amos/moderate_argument.hpp"
@@ -49,7 +50,10 @@ Pair start_k(double nu, Complex w, bool wants_above) {
   return k_by_recurrence(nu, w);
 }
 
-bool descend_i(double nu, int n, Complex w, const Member& visit) {
+namespace {
+
+// descend_i without a second look at zeros.
+bool descend_plainly(double nu, int n, Complex w, const Member& visit) {
   const bool below = w.imag() < 0.0;
   const Complex quadrant = mirrored(w, below);
   const DoubleDouble top = two_sum(nu, n - 1);
@@ -62,6 +66,29 @@ bool descend_i(double nu, int n, Complex w, const Member& visit) {
     if (j == 0) return true;
     i.step(nu + j);
   }
+}
+
+// e^-w I_{nu+j}(w) from the next higher order, if w is next to a zero, which all lie on the imaginary axis.
+Scaled refined_i(double nu, int j, Complex w, Scaled value) {
+  const bool below = w.imag() < 0.0;
+  const Complex z = below ? Complex{-w.imag(), -w.real()} : Complex{w.imag(), -w.real()};
+  // |J_nu(z)| = |e^w| |e^-w I_nu(w)|
+  if (w.real() > 1.0 || !is_next_to_zero(nu + j, z, std::abs(shift(value.m, value.e)) * std::exp(w.real())))
+    return value;
+  const double steps = std::nearbyint(nu);
+  const Complex ratio = cylinder_ratio(Cylinder::kJ, {nu - steps, 0.0}, static_cast<int>(steps) + j, widen(z));
+  // I_nu(w) = e^{i pi nu/2} J_nu(z) in the first quadrant.
+  descend_plainly(nu + j + 1, 1, w, [&](int, Scaled above) {
+    value = above * mirrored(times_i_power(ratio, -1), below);
+    return true;
+  });
+  return value;
+}
+
+}  // namespace
+
+bool descend_i(double nu, int n, Complex w, const Member& visit) {
+  return descend_plainly(nu, n, w, [&](int j, Scaled value) { return visit(j, refined_i(nu, j, w, value)); });
 }
 
 bool ascend_k(double nu, int n, Complex w, const Member& visit) {

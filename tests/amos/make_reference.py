@@ -3,6 +3,10 @@
 
     nice python3 tests/amos/make_reference.py tests/amos/reference.txt.gz 20000
     nice python3 tests/amos/make_reference.py tests/amos/reference_small.txt 1500
+    nice python3 tests/amos/make_reference.py --zeros tests/amos/zeros.txt.gz 2500
+
+With --zeros the points lie next to real zeros of Ai, Ai', Bi, Bi', J and Y (of I on the imaginary axis): the zero
+rounded to a double, some units in the last place away, or a little further, on the axis or beside it.
 
 Each line: function m kode nu n re(z) im(z), then re im e of the first and, if n > 1, of the last member, whose value is
 (re + i im) 2^e. m is the kind of H and the id of Ai and Bi. Doubles are written so that they read back exactly.
@@ -255,6 +259,80 @@ def points():
         yield p
 
 
+def real_zero(f, m, nu, x):
+    """A zero of f near x by Newton's method, or None. I is taken on the imaginary axis, Ai and Bi at -x."""
+    mp.dps = DIGITS
+    x = mpf(x)
+    for _ in range(60):
+        if f in "AB":
+            function = mpmath.airyai if f == "A" else mpmath.airybi
+            value_, slope = function(-x, derivative=m), -function(-x, derivative=m + 1)
+        else:
+            at = mpmath.re(value(("J" if f == "I" else f, 0, 1, nu, 1, x, mpf(0)), 0))
+            above = mpmath.re(value(("J" if f == "I" else f, 0, 1, nu + 1, 1, x, mpf(0)), 0))
+            value_, slope = at, nu / x * at - above
+        step = value_ / slope
+        if abs(step) > 2:
+            return None
+        x -= step
+        if abs(step) < mpf(10) ** -40 * x:
+            return x
+    return None
+
+
+def zero_line(seed):
+    """A line for a point next to a zero."""
+    r = random.Random(seed)
+    f = r.choice("ABABJJYYI")
+    m = r.choice([0, 1]) if f in "AB" else 0
+    kode, n, nu = r.choice([1, 2]), 1, 0.0
+    if f in "AB":
+        start = r.choice([r.uniform(1, 15), log_uniform(r, 1, 1000)])
+    else:
+        nu = r.choice([small_order(r), some_order(r, 1, 85), some_order(r, 80, 400), log_uniform(r, 400, 4000)])
+        nu = log_uniform(r, 4000, 32000) if r.randrange(40) == 0 else nu
+        room = (2 if f in "JI" else 1) * max(nu, 0.5) ** (1 / 3)
+        start = nu + room + r.choice([r.uniform(0, 6), r.uniform(0, 40), log_uniform(r, 1, 32000) / (1 + nu / 100)])
+    signal.alarm(20)
+    try:
+        x0 = real_zero(f, m, nu, start)
+    except (ValueError, mpmath.libmp.NoConvergence, ZeroDivisionError, OverflowError, TimeoutError):
+        return None
+    finally:
+        signal.alarm(0)
+    if x0 is None or x0 > 32000 or (f not in "AB" and x0 < nu):
+        return None
+    x = float(x0)
+    ulp = math.ulp(x)
+    shift = r.choice([0, 0, 1, -1, r.randrange(-20, 21)]) * ulp
+    if r.randrange(3) == 0:
+        shift = r.choice([-1, 1]) * log_uniform(r, ulp, 0.3 / max(1.0, math.sqrt(x) if f in "AB" else 1.0))
+    y = 0.0 if r.randrange(3) else r.choice([-1, 1]) * log_uniform(r, 1e-18 * x, 1e-1)
+    x += shift
+    if f not in "AB" and r.randrange(3) == 0:
+        j = r.randrange(1, 20)  # the zero belongs to the last member of a sequence
+        if nu - j >= 0 and (nu - j) + j == nu:
+            nu, n = nu - j, j + 1
+    if f in "AB":
+        x = -x
+    elif f == "I":
+        x, y = y, r.choice([-1, 1]) * x
+    elif r.randrange(4) == 0 and (f == "J" or nu % 1 == 0.5):
+        x = -x
+    return line((f, m, kode, nu, n, x, y))
+
+
+def write_zeros(path, count):
+    written = 0
+    with gzip.open(path, "wt") as stream, multiprocessing.Pool(2) as pool:
+        for text in filter(None, pool.imap(zero_line, range(10 * count))):
+            stream.write(text + "\n")
+            written += 1
+            if written == count:
+                pool.terminate()
+                return
+
+
 def self_check():
     """Both ways of computing agree."""
     r = random.Random(7)
@@ -272,8 +350,10 @@ def give_up(*_):
 
 def main():
     signal.signal(signal.SIGALRM, give_up)
-    path, count = sys.argv[1], int(sys.argv[2])
+    path, count = sys.argv[-2], int(sys.argv[-1])
     self_check()
+    if sys.argv[1] == "--zeros":
+        return write_zeros(path, count)
     source = points()
     written, beyond_range = 0, 0
     stream = gzip.open(path, "wt") if path.endswith(".gz") else open(path, "w")
