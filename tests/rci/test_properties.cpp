@@ -135,7 +135,7 @@ TEST(Properties, CgMany) {
       host.test_residual(1e-20);
       host.ipar[4] = 500;
       host.ipar[9] = tested ? 1 : 0;
-      const Record record = host.run();
+      Record record = host.run();
       EXPECT_EQ(record.status, 0);
       EXPECT_TRUE(host.intact());
       return record;
