@@ -52,7 +52,10 @@ quorin_import(reference_blas ${prefix_lapack} LINKS ${fortran_runtime})
 quorin_import(suitesparseconfig ${prefix_suitesparse})
 quorin_import(amd ${prefix_suitesparse} LINKS quorin::suitesparseconfig)
 quorin_import(colamd ${prefix_suitesparse} LINKS quorin::suitesparseconfig)
-quorin_import(umfpack ${prefix_suitesparse} LINKS quorin::amd quorin::openblas)
+# The product exports UMFPACK's names itself, with float arrays: the dependency's keep out of the way as double_<name>.
+include(PrivateUmfpack)
+private_umfpack(${prefix_suitesparse} ${PROJECT_BINARY_DIR}/private)
+quorin_import(umfpack ${PROJECT_BINARY_DIR}/private LINKS quorin::amd quorin::colamd quorin::openblas)
 quorin_import(metis ${prefix_metis})
 
 set(QUORIN_BLAS_TESTING_DIR ${prefix_lapack}/share/blas-testing)

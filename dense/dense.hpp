@@ -1,6 +1,7 @@
 // The dense family as other rooms see it.
 #pragma once
 
+#include "dense/backend/buffers.hpp"
 #include "dense/factorizations.hpp"
 #include "dense/lapack.hpp"
 #include "dense/level1.hpp"
@@ -15,5 +16,9 @@ void stop() noexcept;
 
 // Frees the packing buffers that no running call uses. Safe at any time.
 void release_buffers() noexcept;
+
+// For rooms that run code which calls the BLAS dependency by itself, UMFPACK's for one: the packing buffer of the
+// calling thread. There is none, and that code must not run, if granted() is 0.
+using KernelBuffer = backend::BufferReservation;
 
 }  // namespace quorin::dense

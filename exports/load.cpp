@@ -3,6 +3,7 @@
 #include "base/parallel.hpp"
 #include "dense/dense.hpp"
 #include "platform/load_hooks.hpp"
+#include "umfpack_single/umfpack_single.hpp"
 
 // Frees what the C++ runtime keeps for exceptions, which it holds until the process ends otherwise; a library that is
 // loaded again and again must not leave it behind.
@@ -16,6 +17,7 @@ void on_load() noexcept {
   base::choose_allocator();
   base::start_parallel();
   dense::start();
+  umfpack_single::start();
 }
 
 void on_unload() noexcept {

@@ -8,5 +8,6 @@
 #include "quorin/rci.h"
 #include "quorin/services.h"
 #include "quorin/signal.h"
+#include "quorin/umfpack.h"
 
 #endif
