@@ -107,9 +107,13 @@ int get_determinant(FloatOutput M, float* Ex, const void* Numeric, float* Info) 
   const double power = std::pow(10.0, exponent);
   const double value[2] = {mantissa[0] * power, mantissa[1] * power};
   const float rounded[2] = {static_cast<float>(value[0]), static_cast<float>(value[1])};
-  int status = found == UMFPACK_WARNING_singular_matrix ? found : UMFPACK_OK;
-  if (status == UMFPACK_OK && rounded[0] == 0 && rounded[1] == 0) status = UMFPACK_WARNING_determinant_underflow;
-  if (status == UMFPACK_OK && !(std::isfinite(rounded[0]) && std::isfinite(rounded[1]))) {
+  const bool is_number = !std::isnan(mantissa[0]) && !std::isnan(mantissa[1]);
+  int status = UMFPACK_OK;
+  if (!is_number || (mantissa[0] == 0 && mantissa[1] == 0)) {
+    status = UMFPACK_WARNING_singular_matrix;
+  } else if (rounded[0] == 0 && rounded[1] == 0) {
+    status = UMFPACK_WARNING_determinant_underflow;
+  } else if (!std::isfinite(rounded[0]) || !std::isfinite(rounded[1])) {
     status = UMFPACK_WARNING_determinant_overflow;
   }
   narrow<E>(Ex != nullptr ? mantissa : value, 1, M);

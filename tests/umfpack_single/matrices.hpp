@@ -1,0 +1,44 @@
+// Matrices in compressed columns, made and read from files.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace umfpack_test {
+
+using Integers = std::vector<int>;
+using Doubles = std::vector<double>;
+using Floats = std::vector<float>;
+
+template <class T>
+std::size_t size_of(T n) {
+  return static_cast<std::size_t>(n);
+}
+
+inline Floats rounded(const Doubles& values) { return {values.begin(), values.end()}; }
+inline Doubles widened(const Floats& values) { return {values.begin(), values.end()}; }
+
+// Complex if it has imaginary parts.
+struct Matrix {
+  std::string name;
+  int n_row = 0, n_col = 0;
+  Integers Ap{0}, Ai;
+  Doubles Ax, Az;
+
+  bool is_complex() const { return !Az.empty(); }
+  int nz() const { return Ap.back(); }
+  std::size_t order() const { return size_of(n_row); }
+};
+
+// Sums entries of the same place.
+Matrix from_triplets(int n_row, int n_col, const Integers& Ti, const Integers& Tj, const Doubles& Tx,
+                     const Doubles& Tz = {});
+
+// Square matrices with a few entries a column, unsymmetric and diagonally dominant.
+Matrix random_matrix(int n, bool is_complex, unsigned seed = 1);
+
+// All matrices of UMFPACK's and CXSparse's demonstrations, among them rectangular and singular ones.
+const std::vector<Matrix>& demo_matrices();
+
+}  // namespace umfpack_test

@@ -1,0 +1,244 @@
+// Wrong arguments get the documented status, and nothing is read or kept that should not be.
+#include <cmath>
+#include <limits>
+
+#include "tests/umfpack_single/umfpack_host.hpp"
+
+namespace umfpack_test {
+namespace {
+
+// Passed for a handle before each call, so that a status without an object is seen to clear it.
+void* marker() { return reinterpret_cast<void*>(std::uintptr_t{0x1235}); }
+
+TEST(Refusals, MatricesThatAreNoMatrices) {
+  struct Case {
+    const char* what;
+    int n_row, n_col;
+    Integers Ap, Ai;
+    int status;
+  };
+  // The arrays end where a call must not read further.
+  const Case cases[] = {
+      {"no columns", 3, 0, {0}, {}, -6},
+      {"negative count of rows", -1, 2, {0, 1, 2}, {0, 0}, -6},
+      {"negative count of columns", 2, -5, {0}, {}, -6},
+      {"first start", 2, 2, {1, 2, 3}, {0, 1, 0}, -8},
+      {"starts that decrease", 3, 3, {0, 2, 1, 2}, {0, 1}, -8},
+      {"starts that rise beyond and fall back", 3, 3, {0, 1000000000, 1, 2}, {0, 1}, -8},
+      {"negative number of entries", 2, 2, {0, 1, -7}, {0}, -8},
+      {"unsorted column", 2, 2, {0, 2, 3}, {1, 0, 1}, -8},
+      {"duplicate entry", 2, 2, {0, 2, 3}, {0, 0, 1}, -8},
+      {"index too large", 2, 2, {0, 1, 2}, {0, 2}, -8},
+      {"negative index", 2, 2, {0, 1, 2}, {-1, 1}, -8},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.what);
+    const Floats Ax(c.Ai.size(), 1);
+    Floats Info(90, 5);
+    void* Symbolic = marker();
+    const int *Ap = c.Ap.data(), *Ai = c.Ai.empty() ? c.Ap.data() : c.Ai.data();
+    EXPECT_EQ(umfpack_di_symbolic(c.n_row, c.n_col, Ap, Ai, Ax.data(), &Symbolic, nullptr, Info.data()), c.status);
+    EXPECT_EQ(Symbolic, nullptr);
+    EXPECT_EQ(Info[0], static_cast<float>(c.status));
+    EXPECT_EQ(Info[1], static_cast<float>(c.n_row));
+    EXPECT_EQ(Info[16], static_cast<float>(c.n_col));
+    EXPECT_EQ(Info[12], 0);
+    EXPECT_EQ(Info[67], -1) << "not computed";
+    Symbolic = marker();
+    EXPECT_EQ(umfpack_zi_symbolic(c.n_row, c.n_col, Ap, Ai, Ax.data(), Ax.data(), &Symbolic, nullptr, nullptr),
+              c.status);
+    EXPECT_EQ(Symbolic, nullptr);
+    // The same arrays as a matrix to transpose, which may be unsorted.
+    if (c.status == -6 || c.Ai.size() > 2 || c.n_row != c.n_col) continue;
+    Integers Rp(4), Ri(4);
+    Floats Rx(4);
+    if (std::string(c.what) == "duplicate entry") continue;
+    EXPECT_EQ(
+        umfpack_di_transpose(c.n_row, c.n_col, Ap, Ai, Ax.data(), nullptr, nullptr, Rp.data(), Ri.data(), Rx.data()),
+        c.status);
+  }
+}
+
+TEST(Refusals, MissingArgumentsAndBadOrders) {
+  const Matrix A = random_matrix(5, false);
+  Host host(A);
+  const int *Ap = A.Ap.data(), *Ai = A.Ai.data();
+  const float* const Ax = host.Ax.data();
+  void* S = nullptr;
+  EXPECT_EQ(umfpack_di_symbolic(5, 5, nullptr, Ai, Ax, &S, nullptr, nullptr), -5);
+  EXPECT_EQ(umfpack_di_symbolic(5, 5, Ap, nullptr, Ax, &S, nullptr, nullptr), -5);
+  EXPECT_EQ(umfpack_di_symbolic(5, 5, Ap, Ai, Ax, nullptr, nullptr, nullptr), -5);
+  for (const Integers& Qinit : {Integers{0, 1, 2, 3, 3}, Integers{0, 1, 2, 3, 5}, Integers{-1, 1, 2, 3, 4}}) {
+    EXPECT_EQ(umfpack_di_qsymbolic(5, 5, Ap, Ai, Ax, Qinit.data(), &S, nullptr, nullptr), -15);
+    EXPECT_EQ(S, nullptr);
+  }
+  ASSERT_EQ(host.symbolic(), 0);
+  void* N = marker();
+  EXPECT_EQ(umfpack_di_numeric(Ap, Ai, nullptr, host.Symbolic, &N, nullptr, nullptr), -5);
+  EXPECT_EQ(N, nullptr);
+  EXPECT_EQ(umfpack_di_numeric(Ap, Ai, Ax, host.Symbolic, nullptr, nullptr, host.Info.data()), -5);
+  EXPECT_EQ(host.Info[0], -5);
+  ASSERT_EQ(host.numeric(), 0);
+  Floats x(5), b(5, 1);
+  EXPECT_EQ(umfpack_di_solve(0, Ap, Ai, Ax, nullptr, b.data(), host.Numeric, nullptr, nullptr), -5);
+  EXPECT_EQ(umfpack_di_solve(0, Ap, Ai, Ax, x.data(), nullptr, host.Numeric, nullptr, nullptr), -5);
+  EXPECT_EQ(umfpack_di_solve(0, nullptr, nullptr, nullptr, x.data(), b.data(), host.Numeric, nullptr, nullptr), -5);
+  EXPECT_EQ(umfpack_di_wsolve(0, Ap, Ai, Ax, x.data(), b.data(), host.Numeric, nullptr, nullptr, nullptr, nullptr), -5);
+  EXPECT_EQ(umfpack_di_solve(-1, Ap, Ai, Ax, x.data(), b.data(), host.Numeric, nullptr, nullptr), -13);
+  EXPECT_EQ(umfpack_di_solve(15, Ap, Ai, Ax, x.data(), b.data(), host.Numeric, nullptr, nullptr), -13);
+  host.Control[7] = 0;
+  EXPECT_EQ(
+      umfpack_di_solve(0, nullptr, nullptr, nullptr, x.data(), b.data(), host.Numeric, host.Control.data(), nullptr), 0)
+      << "without refinement the matrix is not needed";
+  EXPECT_EQ(umfpack_di_scale(nullptr, b.data(), host.Numeric), -5);
+  EXPECT_EQ(umfpack_di_get_determinant(nullptr, nullptr, host.Numeric, nullptr), -5);
+  EXPECT_EQ(umfpack_di_get_lunz(nullptr, nullptr, nullptr, nullptr, nullptr, host.Numeric), -5);
+  EXPECT_EQ(umfpack_di_col_to_triplet(5, Ap, nullptr), -5);
+  Integers Tp(6), Ti(1, 9), Tj(1, 0), Ci(1);
+  EXPECT_EQ(umfpack_di_triplet_to_col(5, 5, 1, Ti.data(), Tj.data(), b.data(), Tp.data(), Ci.data(), x.data(), nullptr),
+            -8);
+  EXPECT_EQ(
+      umfpack_di_triplet_to_col(5, 5, -1, Ti.data(), Tj.data(), b.data(), Tp.data(), Ci.data(), x.data(), nullptr), -8);
+  EXPECT_EQ(umfpack_di_triplet_to_col(5, 0, 1, Ti.data(), Tj.data(), b.data(), Tp.data(), Ci.data(), x.data(), nullptr),
+            -6);
+}
+
+// Every call that takes an object, with handles that stand for none.
+TEST(Refusals, ObjectsOfAnotherFamilyOrFreedOrNeverMade) {
+  Host real(random_matrix(5, false)), complex(random_matrix(5, true));
+  ASSERT_EQ(real.symbolic(), 0);
+  ASSERT_EQ(real.numeric(), 0);
+  ASSERT_EQ(complex.symbolic(), 0);
+  ASSERT_EQ(complex.numeric(), 0);
+  Host freed(random_matrix(5, false));
+  ASSERT_EQ(freed.symbolic(), 0);
+  ASSERT_EQ(freed.numeric(), 0);
+  void *freed_symbolic = freed.Symbolic, *freed_numeric = freed.Numeric;
+  umfpack_di_free_symbolic(&freed.Symbolic);
+  umfpack_di_free_numeric(&freed.Numeric);
+  Host later(random_matrix(5, false));
+  ASSERT_EQ(later.symbolic(), 0);
+  ASSERT_EQ(later.numeric(), 0);
+
+  float host_memory[64] = {};
+  const int *Ap = real.A.Ap.data(), *Ai = real.A.Ai.data();
+  const float* const Ax = real.Ax.data();
+  Floats x(5), b(5, 1);
+  Integers i5(5);
+  for (void* const handle : {static_cast<void*>(nullptr), freed_symbolic, freed_numeric, complex.Symbolic,
+                             complex.Numeric, static_cast<void*>(host_memory), marker()}) {
+    void* N = marker();
+    EXPECT_EQ(umfpack_di_numeric(Ap, Ai, Ax, handle, &N, nullptr, real.Info.data()), -4);
+    EXPECT_EQ(N, nullptr);
+    EXPECT_EQ(real.Info[0], -4);
+    EXPECT_EQ(umfpack_di_solve(0, Ap, Ai, Ax, x.data(), b.data(), handle, nullptr, real.Info.data()), -3);
+    EXPECT_EQ(real.Info[0], -3);
+    EXPECT_EQ(umfpack_di_wsolve(0, Ap, Ai, Ax, x.data(), b.data(), handle, nullptr, nullptr, i5.data(), x.data()), -3);
+    EXPECT_EQ(umfpack_di_scale(x.data(), b.data(), handle), -3);
+    EXPECT_EQ(umfpack_di_get_determinant(x.data(), nullptr, handle, nullptr), -3);
+    int n = 0;
+    EXPECT_EQ(umfpack_di_get_lunz(&n, &n, &n, &n, &n, handle), -3);
+    EXPECT_EQ(umfpack_di_get_numeric(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, i5.data(), nullptr, nullptr,
+                                     nullptr, nullptr, handle),
+              -3);
+    EXPECT_EQ(umfpack_di_get_symbolic(&n, &n, &n, &n, &n, &n, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+                                      nullptr, nullptr, nullptr, handle),
+              -4);
+    Floats Control(20, 3);
+    EXPECT_EQ(umfpack_di_report_symbolic(handle, Control.data()), -4);
+    EXPECT_EQ(umfpack_di_report_numeric(handle, Control.data()), -3);
+    if (handle == complex.Symbolic || handle == complex.Numeric) continue;
+    void* copy = handle;
+    umfpack_di_free_symbolic(&copy);
+    umfpack_di_free_numeric(&copy);
+    EXPECT_EQ(copy, handle) << "not an object, so left alone";
+  }
+  void* wrong_kind = real.Symbolic;
+  umfpack_di_free_numeric(&wrong_kind);
+  EXPECT_EQ(wrong_kind, real.Symbolic);
+  umfpack_di_free_numeric(nullptr);
+  EXPECT_EQ(later.solve(0, b, b), 0) << "a later object does not suffer from what was done with the old handle";
+  EXPECT_EQ(real.solve(0, b, b), 0);
+}
+
+TEST(Refusals, PatternsThatAreNotTheAnalysedOne) {
+  const Matrix A = random_matrix(30, true);
+  Host host(A);
+  ASSERT_EQ(host.symbolic(), 0);
+  const auto expect_status = [&](int numeric_status) {
+    EXPECT_EQ(host.numeric(), numeric_status);
+    EXPECT_EQ(host.Numeric, nullptr);
+    host.A = A;
+  };
+  host.A.Ai[0] = 1000000;
+  expect_status(-11);
+  host.A.Ai[3] = -1;
+  expect_status(-11);
+  std::swap(host.A.Ai[0], host.A.Ai[1]);
+  expect_status(-11);
+  host.A.Ap[1] = 2000000;
+  expect_status(-11);
+  host.A.Ap[30] -= 1;
+  expect_status(-11);
+  host.A.Ap[30] = 2000000000;
+  expect_status(-11);
+  ASSERT_EQ(host.numeric(), 0);
+  const Floats b(30, 1);
+  host.A.Ai[7] = 30;
+  EXPECT_EQ(host.solve(0, b, b), -8) << "refinement would read through the index";
+  host.A = A;
+  host.A.Ap[2] = -4;
+  EXPECT_EQ(host.wsolve(2, b, b), -8);
+  host.A = A;
+  EXPECT_EQ(host.solve(2, b, b), 0);
+}
+
+TEST(Refusals, RectangularAndSingularSystems) {
+  Matrix wide{.name = {}, .n_row = 2, .n_col = 3, .Ap = {0, 1, 2, 4}, .Ai = {0, 1, 0, 1}, .Ax = {1, 2, 3, 4}, .Az = {}};
+  Host host(wide);
+  ASSERT_EQ(host.symbolic(), 0);
+  ASSERT_EQ(host.numeric(), 0);
+  const Floats b(3, 1);
+  EXPECT_EQ(host.solve(0, b, b), -13);
+  float M = 0;
+  EXPECT_EQ(umfpack_di_get_determinant(&M, nullptr, host.Numeric, nullptr), -13);
+  // n = 1, a column without entries, an entry that is zero; the object is there and solves what can be solved.
+  for (const Matrix& A :
+       {Matrix{.name = {}, .n_row = 1, .n_col = 1, .Ap = {0, 0}, .Ai = {}, .Ax = {}, .Az = {}},
+        Matrix{.name = {}, .n_row = 1, .n_col = 1, .Ap = {0, 1}, .Ai = {0}, .Ax = {0}, .Az = {0}},
+        Matrix{.name = {}, .n_row = 2, .n_col = 2, .Ap = {0, 1, 1}, .Ai = {0}, .Ax = {2}, .Az = {}}}) {
+    Host singular(A);
+    singular.A.Ai.reserve(1);
+    singular.Ax.reserve(1);
+    ASSERT_EQ(singular.symbolic(), 0);
+    ASSERT_EQ(singular.numeric(), 1);
+    EXPECT_EQ(singular.solve(0, b, b), 1);
+    if (A.n_row == 2) {
+      EXPECT_EQ(singular.Xx[0], 0.5F);
+    }
+  }
+  Host one(Matrix{.name = {}, .n_row = 1, .n_col = 1, .Ap = {0, 1}, .Ai = {0}, .Ax = {4}, .Az = {}});
+  ASSERT_EQ(one.symbolic(), 0);
+  ASSERT_EQ(one.numeric(), 0);
+  EXPECT_EQ(one.solve(0, b, b), 0);
+  EXPECT_EQ(one.Xx[0], 0.25F);
+}
+
+TEST(Refusals, ValuesThatAreNoNumbersDoNoHarm) {
+  for (const bool is_complex : {false, true}) {
+    for (const double bad : {std::nan(""), HUGE_VAL, -HUGE_VAL, 1e300}) {
+      Matrix A = random_matrix(20, is_complex);
+      (is_complex ? A.Az : A.Ax)[7] = bad;
+      Host host(A);
+      ASSERT_EQ(host.symbolic(), 0);
+      const int status = host.numeric();
+      EXPECT_TRUE(status == 0 || status == 1) << status;
+      const Floats b(20, 1);
+      const int solved = host.solve(0, b, b);
+      EXPECT_TRUE(solved == 0 || solved == 1) << solved;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace umfpack_test

@@ -1,0 +1,234 @@
+// The texts, piece by piece as the host's callback gets them.
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+#include "quorin/services.h"
+#include "tests/umfpack_single/umfpack_host.hpp"
+
+namespace umfpack_test {
+namespace {
+
+using Pieces = std::vector<std::string>;
+
+Pieces pieces;
+
+void QUORIN_CALLBACK keep(const char* text) { pieces.emplace_back(text); }
+
+template <class Report>
+Pieces printed(const Report& report) {
+  pieces.clear();
+  set_printf_callback_32f(keep);
+  report();
+  set_printf_callback_32f(nullptr);
+  return pieces;
+}
+
+std::string joined(const Pieces& all) {
+  std::string text;
+  for (const std::string& piece : all) text += piece;
+  return text;
+}
+
+bool contains(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
+
+Floats control(float level) {
+  Floats all(20);
+  umfpack_di_defaults(all.data());
+  all[0] = level;
+  return all;
+}
+
+constexpr char kVersion[] = "UMFPACK V5.1.0 (May 31, 2007): ";
+
+TEST(Reports, StatusByLevel) {
+  struct Case {
+    int status;
+    const char* text;
+  };
+  const Case cases[] = {
+      {0, "OK\n"},
+      {1, "WARNING: matrix is singular\n"},
+      {-1, "ERROR: out of memory\n"},
+      {-3, "ERROR: Numeric object is invalid\n"},
+      {-4, "ERROR: Symbolic object is invalid\n"},
+      {-5, "ERROR: required argument(s) missing\n"},
+      {-6, "ERROR: dimension (n_row or n_col) must be > 0\n"},
+      {-8, "ERROR: input matrix is invalid\n"},
+      {-11, "ERROR: pattern of matrix (Ap and/or Ai) has changed\n"},
+      {-13, "ERROR: system argument invalid\n"},
+      {-15, "ERROR: invalid permutation\n"},
+      {-2, "ERROR: Unrecognized error code: -2\n"},
+      {-18, "ERROR: Unrecognized error code: -18\n"},
+      {3, "ERROR: Unrecognized error code: 3\n"},
+  };
+  for (const Case& c : cases) {
+    const Pieces expected = {"\n", kVersion, c.text, "\n"};
+    const Floats two = control(2), zero = control(0.9F), one = control(1.9F);
+    EXPECT_EQ(printed([&] { umfpack_di_report_status(two.data(), c.status); }), expected);
+    EXPECT_EQ(printed([&] { umfpack_ci_report_status_Idx(base(two), kIndex, c.status); }), expected);
+    EXPECT_EQ(printed([&] { umfpack_zi_report_status(nullptr, c.status); }), c.status == 0 ? Pieces() : expected);
+    EXPECT_EQ(printed([&] { umfpack_di_report_status(one.data(), c.status); }), c.status == 0 ? Pieces() : expected);
+    EXPECT_EQ(printed([&] { umfpack_di_report_status(zero.data(), c.status); }), Pieces());
+  }
+  const auto at = [](float level) {
+    const Floats Control = control(level);
+    return joined(printed([&] { umfpack_di_report_status(Control.data(), -911); }));
+  };
+  EXPECT_TRUE(contains(at(1), "INTERNAL ERROR!\n"));
+  EXPECT_FALSE(contains(at(3), "Copyright"));
+  EXPECT_TRUE(contains(at(4), "Copyright"));
+  EXPECT_FALSE(contains(at(5), "License"));
+  EXPECT_TRUE(contains(at(6), "License"));
+}
+
+TEST(Reports, ControlIsThatOfThisInterface) {
+  Floats Control = control(2);
+  Control[3] = 1.5F;
+  Control[1] = 0.3F;
+  Control[5] = 2;
+  const Pieces all = printed([&] { umfpack_di_report_control(Control.data()); });
+  ASSERT_GT(all.size(), 20U);
+  EXPECT_EQ(all[0], "UMFPACK V5.1.0 (May 31, 2007), Control:\n");
+  EXPECT_EQ(all[1], "    Matrix entry defined as: FLOATS\n");
+  EXPECT_EQ(all[2], "    Int (generic integer) defined as: int\n");
+  EXPECT_EQ(all[3], "\n    0: print level: 2\n");
+  EXPECT_EQ(all[4], "    1: dense row parameter:    0.3\n");
+  const std::string text = joined(all);
+  for (const char* const line :
+       {"    3: pivot tolerance: 1\n", "    4: block size for dense matrix kernels: 32\n",
+        "    5: strategy: 2 (symmetric", "    6: initial allocation ratio: 0.7\n",
+        "    7: max iterative refinement steps: 2\n", "    10: CPU timer is ANSI C clock (may wrap around).\n",
+        "    12: 2-by-2 pivot tolerance: 0.01\n", "    14: AMD dense row/col parameter:    10\n",
+        "    15: diagonal pivot tolerance: 0.001\n", "    17: frontal matrix allocation ratio: 0.5\n",
+        "    18: drop tolerance: 0\n"}) {
+    EXPECT_TRUE(contains(text, line)) << line << text;
+  }
+  EXPECT_EQ(printed([&] { umfpack_zi_report_control(Control.data()); }), all);
+  EXPECT_EQ(printed([] { umfpack_di_report_control(nullptr); }), Pieces()) << "level 1 by default";
+}
+
+TEST(Reports, InfoHasTheLabelsAndThisBuildsValues) {
+  Host host(random_matrix(30, false));
+  host.Control[0] = 2;
+  ASSERT_EQ(host.symbolic(), 0);
+  ASSERT_EQ(host.numeric(), 0);
+  ASSERT_EQ(host.solve(0, Floats(30, 1), {}), 0);
+  const Pieces all =
+      printed([&] { umfpack_si_report_info_Idx(base(host.Control.data()), kIndex, base(host.Info.data()), kIndex); });
+  ASSERT_GT(all.size(), 20U);
+  EXPECT_EQ(all[0], "UMFPACK V5.1.0 (May 31, 2007), Info:\n");
+  EXPECT_EQ(all[1], "    matrix entry defined as:          FLOATS\n");
+  const std::string text = joined(all);
+  char rcond[100];
+  std::snprintf(rcond, sizeof rcond, "    estimate of reciprocal of condition number:    %.2e\n",
+                static_cast<double>(host.Info[67]));
+  for (const char* const line :
+       {"    number of rows in matrix A:       30\n", "    size of numerical entry:          4 bytes\n",
+        "    iterative refinement steps taken: ", static_cast<const char*>(rcond)}) {
+    EXPECT_TRUE(contains(text, line)) << line;
+  }
+  EXPECT_FALSE(contains(text, "double"));
+  EXPECT_EQ(printed([&] { umfpack_zi_report_info(nullptr, host.Info.data()); }), Pieces());
+  EXPECT_EQ(printed([&] { umfpack_di_report_info(host.Control.data(), nullptr); }), Pieces());
+}
+
+TEST(Reports, WrongMatricesAreNamed) {
+  struct Case {
+    int n_row, n_col;
+    Integers Ap, Ai;
+    const char* text;
+    int status;
+  };
+  const Case cases[] = {
+      {0, 2, {0, 1, 2}, {0, 1}, "ERROR: n_row <= 0 or n_col <= 0\n", -6},
+      {2, 2, {}, {0, 1}, "ERROR: Ap missing\n", -5},
+      {2, 2, {0, 1, 2}, {}, "ERROR: Ai missing\n", -5},
+      {2, 2, {1, 1, 2}, {0, 1}, "ERROR: Ap [0] = 1 must be 0\n", -8},
+      {2, 2, {0, -1, 2}, {0, 1}, "ERROR: Ap [1] < 0\n", -8},
+      {2, 2, {0, 5, 2}, {0, 1}, "ERROR: Ap [1] > size of Ai\n", -8},
+      {2, 2, {0, 1, 2}, {0, 2}, "ERROR: row index 2 out of range in column 1\n", -8},
+      {2, 2, {0, 2, 2}, {1, 0}, "ERROR: row index 0 out of order (or duplicate) in column 0\n", -8},
+  };
+  const Floats Control = control(5), Ax(2, 1);
+  for (const Case& c : cases) {
+    const int* const Ap = c.Ap.empty() ? nullptr : c.Ap.data();
+    const int* const Ai = c.Ai.empty() ? nullptr : c.Ai.data();
+    for (const bool is_complex : {false, true}) {
+      int status = 0;
+      const std::string text = joined(printed([&] {
+        status = is_complex
+                     ? umfpack_zi_report_matrix(c.n_row, c.n_col, Ap, Ai, Ax.data(), Ax.data(), 1, Control.data())
+                     : umfpack_di_report_matrix(c.n_row, c.n_col, Ap, Ai, Ax.data(), 1, Control.data());
+      }));
+      EXPECT_EQ(status, c.status) << c.text;
+      EXPECT_TRUE(contains(text, c.text)) << c.text << text;
+    }
+    const Floats quiet = control(2);
+    EXPECT_EQ(umfpack_di_report_matrix(c.n_row, c.n_col, Ap, Ai, nullptr, 1, quiet.data()), 0) << "nothing is checked";
+  }
+}
+
+// 0.1F is 0.100000001490116 as a double, and so it goes into every format.
+TEST(Reports, ValuesAreFloats) {
+  const Floats Control = control(5);
+  const Integers Ap = {0, 1, 2}, Ai = {0, 1}, Perm = {1, 0};
+  const Floats Ax = {0.1F, 1234567.0F}, Az = {-2, 3};
+  EXPECT_EQ(
+      printed([&] { umfpack_ci_report_vector_Idx(2, base(Ax), kIndex, base(Az), kIndex, base(Control), kIndex); }),
+      Pieces({"dense vector, n = 2. ", "\n", "    0 :", " (0.1", " - 2i)", "\n", "    1 :", " (1.23457e+06", " + 3i)",
+              "\n", "    dense vector ", "OK\n\n"}));
+  EXPECT_EQ(printed([&] { umfpack_si_report_perm_Idx(2, base(Perm), kIndex, base(Control), kIndex); }),
+            Pieces({"permutation vector, n = 2. ", "\n", "    0 : 1 ", "\n", "    1 : 0 ", "\n",
+                    "    permutation vector ", "OK\n\n"}));
+  const std::string triplet = joined(printed([&] {
+    EXPECT_EQ(umfpack_si_report_triplet_Idx(2, 2, 2, base(Ai), kIndex, base(Perm), kIndex, base(Ax), kIndex,
+                                            base(Control), kIndex),
+              0);
+  }));
+  EXPECT_TRUE(contains(triplet, "    1 : 1 0  (1.23457e+06)\n")) << triplet;
+  const std::string matrix = joined(printed([&] {
+    EXPECT_EQ(umfpack_si_report_matrix_Idx(2, 2, base(Ap), kIndex, base(Ai), kIndex, base(Ax), kIndex, 1, base(Control),
+                                           kIndex),
+              0);
+  }));
+  EXPECT_TRUE(contains(matrix, "\trow 0 : (0.1)\n")) << matrix;
+}
+
+TEST(Reports, ObjectsAreCheckedAndPrinted) {
+  for (const bool is_complex : {false, true}) {
+    Host host(random_matrix(12, is_complex));
+    const Floats Control = control(5);
+    ASSERT_EQ(host.symbolic(), 0);
+    ASSERT_EQ(host.numeric(), 0);
+    int status = -1;
+    const std::string symbolic = joined(printed([&] {
+      status = is_complex ? umfpack_ci_report_symbolic_Idx(host.Symbolic, base(Control), kIndex)
+                          : umfpack_si_report_symbolic_Idx(host.Symbolic, base(Control), kIndex);
+    }));
+    EXPECT_EQ(status, 0);
+    EXPECT_TRUE(contains(symbolic, "\tn_row: 12 n_col: 12\n"));
+    const std::string numeric = joined(printed([&] {
+      status = is_complex ? umfpack_ci_report_numeric_Idx(host.Numeric, base(Control), kIndex)
+                          : umfpack_si_report_numeric_Idx(host.Numeric, base(Control), kIndex);
+    }));
+    EXPECT_EQ(status, 0);
+    EXPECT_TRUE(contains(numeric, "    n_row: 12  n_col: 12\n"));
+    EXPECT_TRUE(contains(numeric, "Numeric object:  OK\n"));
+  }
+}
+
+// The second pivot is 1.0000049999, which prints as 1; the float next to it is 1.0000050068.
+TEST(Reports, FactorsArePrintedAsTheFloatsThatTheHostGets) {
+  Host host(Matrix{
+      .name = {}, .n_row = 2, .n_col = 2, .Ap = {0, 2, 4}, .Ai = {0, 1, 0, 1}, .Ax = {1, -1, 4.9999e-6, 1}, .Az = {}});
+  host.Control[0] = 5;
+  host.Control[16] = 0;
+  ASSERT_EQ(host.symbolic(), 0);
+  ASSERT_EQ(host.numeric(), 0);
+  const std::string text = joined(printed([&] { umfpack_di_report_numeric(host.Numeric, host.Control.data()); }));
+  EXPECT_TRUE(contains(text, " (1.00001)")) << text;
+}
+
+}  // namespace
+}  // namespace umfpack_test
