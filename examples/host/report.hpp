@@ -56,5 +56,6 @@ void lapack_rows(const Library& library, Report& report);
 void signal_rows(const Library& library, Report& report);
 void rci_rows(const Library& library, Report& report);
 void amos_rows(const Library& library, Report& report);
+void umfpack_rows(const Library& library, Report& report);
 
 }  // namespace demo
