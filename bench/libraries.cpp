@@ -62,6 +62,17 @@ Rci find_rci(const Symbols& in) {
           .ilut = in["DCSRILUT"]};
 }
 
+Umfpack find_umfpack(const Symbols& in) {
+  return {.di_symbolic = in["umfpack_di_symbolic"],
+          .di_numeric = in["umfpack_di_numeric"],
+          .di_solve = in["umfpack_di_solve"],
+          .zi_symbolic = in["umfpack_zi_symbolic"],
+          .zi_numeric = in["umfpack_zi_numeric"],
+          .zi_solve = in["umfpack_zi_solve"],
+          .free_symbolic = in["umfpack_di_free_symbolic"],
+          .free_numeric = in["umfpack_di_free_numeric"]};
+}
+
 Libraries find_product(const Symbols& in) {
   return {.product = find_blas(in, "quorin", "sMKL_Set_Num_Threads"),
           .index_forms = {.saxpy = in["saxpy_Idx"], .sdot = in["sdot_Idx"], .sgemm = in["sgemm_Idx"]},
@@ -69,6 +80,7 @@ Libraries find_product(const Symbols& in) {
           .signal = {.remez = in["REMEZ"], .toeplitz = in["TSLS1"]},
           .rci = find_rci(in),
           .amos = {.j = in["CBESJ"], .k = in["CBESK"], .y = in["CBESY"], .ai = in["CAIRY"]},
+          .umfpack = find_umfpack(in),
           .peer = std::nullopt,
           .peer_description = {}};
 }

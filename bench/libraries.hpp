@@ -9,6 +9,7 @@
 #include "quorin/blas.h"
 #include "quorin/rci.h"
 #include "quorin/signal.h"
+#include "quorin/umfpack.h"
 
 namespace quorin::bench {
 
@@ -60,6 +61,17 @@ struct Amos {
   decltype(&::CAIRY) ai;
 };
 
+struct Umfpack {
+  decltype(&::umfpack_di_symbolic) di_symbolic;
+  decltype(&::umfpack_di_numeric) di_numeric;
+  decltype(&::umfpack_di_solve) di_solve;
+  decltype(&::umfpack_zi_symbolic) zi_symbolic;
+  decltype(&::umfpack_zi_numeric) zi_numeric;
+  decltype(&::umfpack_zi_solve) zi_solve;
+  decltype(&::umfpack_di_free_symbolic) free_symbolic;
+  decltype(&::umfpack_di_free_numeric) free_numeric;
+};
+
 struct Libraries {
   Blas product;
   IndexForms index_forms;
@@ -67,6 +79,7 @@ struct Libraries {
   Signal signal;
   Rci rci;
   Amos amos;
+  Umfpack umfpack;
   std::optional<Blas> peer;
   std::string peer_description;
 };

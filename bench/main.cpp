@@ -135,6 +135,7 @@ void run(int argc, char** argv) {
   add_signal_rows(suite);
   add_rci_rows(suite);
   add_amos_rows(suite);
+  add_umfpack_rows(suite);
 
   std::ofstream file;
   if (!options.out.empty()) {

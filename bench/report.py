@@ -14,7 +14,9 @@ from collections import defaultdict
 from dataclasses import dataclass, field
 
 PRODUCT, INDEX, LIMIT = "quorin", "index", "limit"
-TITLES = {"openblas": "OpenBLAS", "lapack": "LAPACK", "eigen": "Eigen", "boost": "Boost.Math", "gsl": "GSL"}
+TITLES = {
+    "openblas": "OpenBLAS", "lapack": "LAPACK", "eigen": "Eigen", "boost": "Boost.Math", "gsl": "GSL", "umfpack": "UMFPACK",
+}
 
 # What a section of the results answers. A section without an entry here is shown under its own name.
 SECTIONS = {
@@ -40,6 +42,11 @@ SECTIONS = {
         "One value per call, n = |z|, for Ai n = x; off the axis is arg z = 1/2. The peers work in real arithmetic. Order 0.3: power series, then continued"
         " fractions, then expansions for large argument. Order 40.3: power series to n = 10, then recurrence from large order, then large"
         " argument. Order 300.3: expansions for large order, with the turning point at n = 300.",
+    ),
+    "umfpack": (
+        "Sparse LU with float entries",
+        "One thread. Analysis, factorization, solution with refinement, and freeing of matrices of order n, against UMFPACK's"
+        " own calls with doubles, the same code over the same BLAS. Grid: five-point differences.",
     ),
 }
 

@@ -129,5 +129,6 @@ void add_index_form_rows(Suite& suite);
 void add_signal_rows(Suite& suite);
 void add_rci_rows(Suite& suite);
 void add_amos_rows(Suite& suite);
+void add_umfpack_rows(Suite& suite);
 
 }  // namespace quorin::bench

@@ -22,7 +22,7 @@ struct Object {
   void* contents = nullptr;  // the dependency's object
   int n_row = 0, n_col = 0;
   int nz = 0;                     // Symbolic: entries of the matrix
-  std::uint32_t fingerprint = 0;  // Symbolic: of its pattern
+  std::uint64_t fingerprint = 0;  // Symbolic: of its pattern
   bool is_singular = false;       // Numeric
 
   std::uintptr_t id = 0;

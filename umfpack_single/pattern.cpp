@@ -1,7 +1,5 @@
 #include "umfpack_single/pattern.hpp"
 
-#include <bit>
-
 namespace quorin::umfpack_single {
 
 bool has_valid_starts(int n, const int* Ap) noexcept {
@@ -19,16 +17,29 @@ bool are_in_range(int nz, const int* Ai, int bound) noexcept {
   return good;
 }
 
-std::uint32_t fingerprint(int n_col, const int* Ap, const int* Ai) noexcept {
-  // Four independent sums, so that the multiplications overlap.
-  std::uint32_t sums[4] = {0x243F6A88U, 0x85A308D3U, 0x13198A2EU, 0x03707344U};
-  const auto mix = [&sums](std::uint32_t k, int value) {
-    std::uint32_t& sum = sums[k & 3U];
-    sum = std::rotl((sum ^ static_cast<std::uint32_t>(value)) * 0x9E3779B1U, 15);
-  };
-  for (int j = 0; j <= n_col; ++j) mix(static_cast<std::uint32_t>(j), Ap[j]);
-  for (int k = 0; k < Ap[n_col]; ++k) mix(static_cast<std::uint32_t>(k), Ai[k]);
-  return ((sums[0] * 31U + sums[1]) * 31U + sums[2]) * 31U + sums[3];
+namespace {
+
+// The sum of (v[k] + c[k]) * (v[k + 1] + c[k + 1]) over pairs of values, with constants c that step through all 32-bit
+// numbers: the hash NH of J. Black et al., UMAC: Fast and secure message authentication, CRYPTO '99, LNCS 1666,
+// 216-233.
+std::uint64_t hash(const int* v, int n, std::uint32_t c) noexcept {
+  constexpr std::uint32_t kFirstStep = 0x9E3779B1U, kSecondStep = 0x85EBCA6BU;
+  std::uint32_t d = ~c;
+  std::uint64_t sum = 0;
+  int k = 0;
+  for (; k + 1 < n; k += 2) {
+    sum += std::uint64_t{static_cast<std::uint32_t>(v[k]) + c} * (static_cast<std::uint32_t>(v[k + 1]) + d);
+    c += kFirstStep;
+    d += kSecondStep;
+  }
+  if (k < n) sum += std::uint64_t{static_cast<std::uint32_t>(v[k]) + c} * d;
+  return sum;
+}
+
+}  // namespace
+
+std::uint64_t fingerprint(int n_col, const int* Ap, const int* Ai) noexcept {
+  return hash(Ap, n_col + 1, 0x243F6A88U) + 0x9E3779B97F4A7C15U * hash(Ai, Ap[n_col], 0x85A308D3U);
 }
 
 }  // namespace quorin::umfpack_single

@@ -13,6 +13,6 @@ bool has_valid_starts(int n, const int* Ap) noexcept;
 bool are_in_range(int nz, const int* Ai, int bound) noexcept;
 
 // A number that tells patterns apart, all but certainly.
-std::uint32_t fingerprint(int n_col, const int* Ap, const int* Ai) noexcept;
+std::uint64_t fingerprint(int n_col, const int* Ap, const int* Ai) noexcept;
 
 }  // namespace quorin::umfpack_single
