@@ -11,7 +11,7 @@ namespace {
 
 // Hands the object to the host if it holds anything; frees it otherwise.
 void hand_over(Object* object, void** handle) noexcept {
-  if (object->contents != nullptr) {
+  if (object->contents != nullptr && handle != nullptr) {
     *handle = publish(object);
   } else {
     destroy(object);
