@@ -91,7 +91,7 @@ double solve(const Library& library, Timer& timer) {
   if (a.n == 0) return kNever;
   // Control, Info, the right-hand side and the solution stand behind the values.
   const auto control = static_cast<int32_t>(a.floats.size()), info = control + 20, b = info + 90, x = b + a.n;
-  a.floats.resize(static_cast<std::size_t>(x + a.n), 1.0F);
+  a.floats.insert(a.floats.end(), std::size_t{20 + 90} + 2 * static_cast<std::size_t>(a.n), 1.0F);
   int32_t* const integers = a.integers.data();
   float* const floats = a.floats.data();
   void *symbolic_object = nullptr, *numeric_object = nullptr;
