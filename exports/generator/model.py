@@ -34,6 +34,10 @@ TYPES = {
     "select_complex_pair": ElementType(
         "quorin_select_complex_pair", "quorin::dense::SelectComplexPair", "selection function"
     ),
+    "vector_function": ElementType("quorin_vector_function", "quorin::jacobi::Function", "function of a vector"),
+    "vector_function_with_data": ElementType(
+        "quorin_vector_function_with_data", "quorin::jacobi::FunctionWithData", "function of a vector, with data"
+    ),
 }
 
 # An implementation that is no function of ours: the dependency's Fortran routine of the same name.

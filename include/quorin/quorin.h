@@ -4,10 +4,13 @@
 
 #include "quorin/amos.h"
 #include "quorin/blas.h"
+#include "quorin/jacobi.h"
 #include "quorin/lapack.h"
+#include "quorin/pack.h"
 #include "quorin/rci.h"
 #include "quorin/services.h"
 #include "quorin/signal.h"
 #include "quorin/umfpack.h"
+#include "quorin/trust_region.h"
 
 #endif

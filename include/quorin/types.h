@@ -37,4 +37,9 @@ typedef int32_t(QUORIN_CDECL* quorin_select_complex)(const quorin_complex* w);
 typedef int32_t(QUORIN_CDECL* quorin_select_real_pair)(const float* alpha_re, const float* alpha_im, const float* beta);
 typedef int32_t(QUORIN_CDECL* quorin_select_complex_pair)(const quorin_complex* alpha, const quorin_complex* beta);
 
+/* Host functions that compute the m values f of a function of the n values x. They leave m, n and x as they are. */
+typedef void(QUORIN_CDECL* quorin_vector_function)(int32_t* m, int32_t* n, float* x, float* f);
+typedef void(QUORIN_CDECL* quorin_vector_function_with_data)(int32_t* m, int32_t* n, float* x, float* f,
+                                                             void* user_data);
+
 #endif

@@ -1,0 +1,57 @@
+/* Packing and unpacking of vectors.
+ *
+ * Gather elements of a vector into contiguous memory, and scatter them back. Bits are moved and nothing is computed. n
+ * = 0 touches nothing; n < 0, an increment that is not positive and a null array are reported through XERBLA and touch
+ * nothing. Indices are zero-based; any mask but 0 selects. Elements go in ascending order. Packing may be done in
+ * place, and so may unpacking with an increment or a mask.
+ *
+ * Generated from exports/tables/pack.table. Do not edit. */
+#ifndef QUORIN_PACK_H
+#define QUORIN_PACK_H
+
+#include "quorin/types.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ---- Packing ---- */
+
+/* y(j) <- a(j inca), j = 0...n-1. -- n: 1; a: n, stride inca; inca: 1; y: n, out */
+QUORIN_API void QUORIN_CDECL vspacki(const int32_t* n, const float* a, const int32_t* inca, float* y);
+QUORIN_API void QUORIN_CDECL vspacki_Idx(const int32_t* n, const float* a, int32_t a_index, const int32_t* inca,
+                                         float* y, int32_t y_index);
+
+/* y(j) <- a(ia(j)), j = 0...n-1. -- n: 1; a: array; ia: n; y: n, out */
+QUORIN_API void QUORIN_CDECL vspackv(const int32_t* n, const float* a, const int32_t* ia, float* y);
+QUORIN_API void QUORIN_CDECL vspackv_Idx(const int32_t* n, const float* a, int32_t a_index, const int32_t* ia,
+                                         int32_t ia_index, float* y, int32_t y_index);
+
+/* y(0), y(1), ... <- the a(j) with ma(j) not 0; the rest of y is not touched and need not exist. -- n: 1; a: n; ma: n;
+   y: n, out */
+QUORIN_API void QUORIN_CDECL vspackm(const int32_t* n, const float* a, const int32_t* ma, float* y);
+QUORIN_API void QUORIN_CDECL vspackm_Idx(const int32_t* n, const float* a, int32_t a_index, const int32_t* ma,
+                                         int32_t ma_index, float* y, int32_t y_index);
+
+/* ---- Unpacking ---- */
+
+/* y(j incy) <- a(j), j = 0...n-1. -- n: 1; a: n; y: n, stride incy, in, out; incy: 1 */
+QUORIN_API void QUORIN_CDECL vsunpacki(const int32_t* n, const float* a, float* y, const int32_t* incy);
+QUORIN_API void QUORIN_CDECL vsunpacki_Idx(const int32_t* n, const float* a, int32_t a_index, float* y, int32_t y_index,
+                                           const int32_t* incy);
+
+/* y(iy(j)) <- a(j), j = 0...n-1. -- n: 1; a: n; y: array, in, out; iy: n */
+QUORIN_API void QUORIN_CDECL vsunpackv(const int32_t* n, const float* a, float* y, const int32_t* iy);
+QUORIN_API void QUORIN_CDECL vsunpackv_Idx(const int32_t* n, const float* a, int32_t a_index, float* y, int32_t y_index,
+                                           const int32_t* iy, int32_t iy_index);
+
+/* The y(j) with my(j) not 0 <- a(0), a(1), ... -- n: 1; a: n; y: n, in, out; my: n */
+QUORIN_API void QUORIN_CDECL vsunpackm(const int32_t* n, const float* a, float* y, const int32_t* my);
+QUORIN_API void QUORIN_CDECL vsunpackm_Idx(const int32_t* n, const float* a, int32_t a_index, float* y, int32_t y_index,
+                                           const int32_t* my, int32_t my_index);
+
+#ifdef __cplusplus
+}  /* extern "C" */
+#endif
+
+#endif

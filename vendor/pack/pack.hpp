@@ -1,0 +1,24 @@
+// Gathers elements of a vector into contiguous memory, and scatters them back. Bits are moved, nothing is computed: NaN
+// payloads, -0 and denormal numbers stay what they are.
+//
+// n <= 0 elements touch nothing. n < 0, an increment that is not positive, and a null array with n > 0 are reported
+// through base::report_argument_error, by position, and touch nothing. Elements go in ascending order, so that of
+// repeated targets the last one stays. Packing may be done in place, y being a, and so may the unpacking with an
+// increment or a mask; other overlaps are not supported. Indices are zero-based and not checked.
+#pragma once
+
+namespace quorin::pack {
+
+/// y(j) <- a(j inca), a(ia(j)): j = 0...n-1.
+void pack_increment(const int* n, const float* a, const int* inca, float* y);
+void pack_index(const int* n, const float* a, const int* ia, float* y);
+/// y(0), y(1), ... <- the a(j) with ma(j) not 0; y needs as many entries as there are.
+void pack_mask(const int* n, const float* a, const int* ma, float* y);
+
+/// y(j incy), y(iy(j)) <- a(j): j = 0...n-1. The rest of y is left alone.
+void unpack_increment(const int* n, const float* a, float* y, const int* incy);
+void unpack_index(const int* n, const float* a, float* y, const int* iy);
+/// The y(j) with my(j) not 0 <- a(0), a(1), ...
+void unpack_mask(const int* n, const float* a, float* y, const int* my);
+
+}  // namespace quorin::pack

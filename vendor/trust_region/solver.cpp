@@ -1,0 +1,219 @@
+#include "vendor/trust_region/solver.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "vendor/trust_region/vectors.hpp"
+
+namespace quorin::trust_region {
+namespace {
+
+// A step is taken if it brings this part of the decrease that the model predicts.
+constexpr double kAcceptable = 1e-4;
+constexpr double kPoor = 0.25, kGood = 0.75;
+// The least share of a step that the next radius is after a failure.
+constexpr double kStrongestShrink = 0.1, kMildestShrink = 0.5;
+// || ||D s|| - radius | relative to the radius, if the host wants no better.
+constexpr double kLooseLength = 0.1, kDefaultLength = 1e-10;
+
+// ||F||; not finite if an entry is not, as squares of floats do not overflow.
+double norm_of(std::size_t m, const float* residual) {
+  double sum = 0.0;
+  for (std::size_t i = 0; i < m; ++i) sum += double{residual[i]} * double{residual[i]};
+  return std::sqrt(sum);
+}
+
+StepLimits step_limits(const Setup& setup) {
+  const double asked = setup.tolerances.step_precision > 0.0F ? double{setup.tolerances.step_precision} : kDefaultLength;
+  return {.iterations = setup.step_iteration_limit, .tolerance = std::min(asked, kLooseLength)};
+}
+
+}  // namespace
+
+Solver::Solver(const Setup& setup)
+    : setup_(setup),
+      bounds_(setup.lower != nullptr ? base::saturating_product(2, setup.n) : 0),
+      x_(setup.n),
+      trial_x_(setup.n),
+      residual_(setup.m),
+      trial_residual_(setup.m),
+      largest_norms_(setup.n),
+      scale_(setup.n),
+      model_(setup.n),
+      trial_model_(setup.n),
+      step_(setup.n) {
+  if (!*this) return;
+  if (setup.lower != nullptr) {
+    box_ = {.lower = bounds_.data(), .upper = bounds_.data() + setup.n};
+    std::copy_n(setup.lower, setup.n, bounds_.data());
+    std::copy_n(setup.upper, setup.n, bounds_.data() + setup.n);
+  }
+  std::fill(largest_norms_.begin(), largest_norms_.end(), 0.0);
+}
+
+Solver::operator bool() const {
+  return bounds_ && x_ && trial_x_ && residual_ && trial_residual_ && largest_norms_ && scale_ && model_ &&
+         trial_model_ && step_;
+}
+
+bool Solver::advance(float* residual, const float* jacobian, int* request) {
+  const bool has_ended = stage_ == kStopped;
+  request_ = leave(residual, jacobian);
+  // What the host finds at the end belongs together.
+  if (stage_ == kStopped && !has_ended && !failed_) {
+    std::copy_n(x_.data(), setup_.n, setup_.x);
+    std::copy_n(residual_.data(), setup_.m, residual);
+  }
+  *request = request_;
+  return !failed_;
+}
+
+// Goes on from where the run stands.
+int Solver::leave(const float* residual, const float* jacobian) {
+  switch (stage_) {
+    case kStart:
+      return start();
+    case kFirstResidual:
+      return take_first_residual(residual);
+    case kFirstJacobian:
+      return take_first_jacobian(jacobian);
+    case kTrialResidual:
+      return take_trial_residual(residual);
+    case kTrialJacobian:
+      return take_trial_jacobian(jacobian);
+    default:
+      return request_;
+  }
+}
+
+int Solver::start() {
+  for (std::size_t j = 0; j < setup_.n; ++j) x_[j] = box_.project(j, setup_.x[j]);
+  std::copy_n(x_.data(), setup_.n, setup_.x);
+  return ask(kResidual, kFirstResidual);
+}
+
+int Solver::take_first_residual(const float* residual) {
+  first_norm_ = norm_ = norm_of(setup_.m, residual);
+  if (!std::isfinite(norm_)) return fail();
+  std::copy_n(residual, setup_.m, residual_.data());
+  return ask(kJacobian, kFirstJacobian);
+}
+
+int Solver::take_first_jacobian(const float* jacobian) {
+  if (!model_.take(setup_.m, jacobian, residual_.data())) return fail();
+  update_scale();
+  double length = 0.0;
+  for (std::size_t j = 0; j < setup_.n; ++j) length = std::hypot(length, scale_[j] * double{x_[j]});
+  radius_ = double{setup_.first_radius} * (length > 0.0 ? length : 1.0);
+  return go_on_from_new_point();
+}
+
+int Solver::take_trial_residual(const float* residual) {
+  trial_norm_ = norm_of(setup_.m, residual);
+  if (!std::isfinite(trial_norm_)) return reject();
+  std::copy_n(residual, setup_.m, trial_residual_.data());
+  const double quotient = trial_norm_ / norm_;
+  // Far up, the exact amount says nothing.
+  const double actual = quotient < 10.0 ? 1.0 - quotient * quotient : -1.0;
+  update_radius(actual, predicted_decrease_);
+  if (actual < kAcceptable * predicted_decrease_) return go_on();
+  return ask(kJacobian, kTrialJacobian);
+}
+
+int Solver::take_trial_jacobian(const float* jacobian) {
+  if (!trial_model_.take(setup_.m, jacobian, trial_residual_.data())) return reject();
+  model_.swap(trial_model_);
+  x_.swap(trial_x_);
+  residual_.swap(trial_residual_);
+  norm_ = trial_norm_;
+  update_scale();
+  return go_on_from_new_point();
+}
+
+// F or its Jacobian is not finite at the point tried.
+int Solver::reject() {
+  radius_ = kStrongestShrink * std::min(radius_, step_length_);
+  return go_on();
+}
+
+int Solver::go_on_from_new_point() {
+  if (norm_ < double{setup_.tolerances.residual}) return stop(kResidualSmall);
+  if (is_singular()) return stop(kJacobianSingular);
+  return go_on();
+}
+
+int Solver::go_on() {
+  if (longest_axis() < double{setup_.tolerances.radius}) return stop(kRadiusSmall);
+  if (iterations_ >= setup_.iteration_limit) return stop(kIterationLimit);
+  return propose();
+}
+
+int Solver::propose() {
+  const double* const s =
+      step_.solve(model_, box_, x_.data(), scale_.data(), radius_, step_limits(setup_), trial_x_.data());
+  const double decrease = 2.0 * step_.decrease();
+  const double trial_square = std::max(norm_ * norm_ - decrease, 0.0);
+  const double reduction = decrease / (norm_ + std::sqrt(trial_square));
+  // A step that is too short for floats lowers nothing.
+  if (!(decrease > 0.0) || reduction < double{setup_.tolerances.decrease}) return stop(kDecreaseSmall);
+  if (norm(setup_.n, s) < double{setup_.tolerances.step}) return stop(kStepSmall);
+
+  step_length_ = slope_ = 0.0;
+  for (std::size_t j = 0; j < setup_.n; ++j) {
+    step_length_ = std::hypot(step_length_, scale_[j] * s[j]);
+    slope_ += model_.gradient(j) * s[j];
+  }
+  slope_ /= norm_ * norm_;
+  predicted_decrease_ = decrease / (norm_ * norm_);
+  if (iterations_ == 0) radius_ = std::min(radius_, step_length_);
+  ++iterations_;
+  std::copy_n(trial_x_.data(), setup_.n, setup_.x);
+  return ask(kResidual, kTrialResidual);
+}
+
+// From the decreases of ||F||^2, relative to it. After a failure: to the minimum of the parabola that has the slope of
+// the model at the start of the step and the value found at its end.
+void Solver::update_radius(double actual, double predicted) {
+  if (actual <= kPoor * predicted) {
+    const double share = actual >= 0.0 ? kMildestShrink : slope_ / (2.0 * slope_ + actual);
+    radius_ = std::clamp(share, kStrongestShrink, kMildestShrink) * std::min(radius_, step_length_ / kStrongestShrink);
+  } else if (actual >= kGood * predicted || step_length_ < (1.0 - kLooseLength) * radius_) {
+    radius_ = box_.is_bounded() ? std::max(radius_, 2.0 * step_length_) : 2.0 * step_length_;
+  }
+}
+
+void Solver::update_scale() {
+  for (std::size_t j = 0; j < setup_.n; ++j) {
+    largest_norms_[j] = std::max(largest_norms_[j], model_.column_norm(j));
+    scale_[j] = largest_norms_[j] > 0.0 ? largest_norms_[j] : 1.0;
+  }
+}
+
+bool Solver::is_singular() const {
+  for (std::size_t j = 0; j < setup_.n; ++j) {
+    if (model_.column_norm(j) >= double{setup_.tolerances.column}) continue;
+    if (!box_.freezes(j, x_[j], model_.gradient(j))) return true;
+  }
+  return false;
+}
+
+// The largest ||s|| that the ellipsoid admits.
+double Solver::longest_axis() const { return radius_ / *std::min_element(scale_.data(), scale_.data() + setup_.n); }
+
+int Solver::ask(Request request, Stage stage) {
+  stage_ = stage;
+  return request;
+}
+
+int Solver::stop(Request request) {
+  stage_ = kStopped;
+  return request;
+}
+
+int Solver::fail() {
+  failed_ = true;
+  return stop(kIterationLimit);
+}
+
+}  // namespace quorin::trust_region
