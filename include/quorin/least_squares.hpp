@@ -10,6 +10,7 @@
 
 #include <array>
 #include <cmath>
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
@@ -36,12 +37,12 @@ enum class Stop {
 
 /// The run ends when a quantity falls below its tolerance; 0 switches a test off.
 struct Options {
-  float radius = 0.0F;         ///< of the trust region
-  float residual = 0.0F;       ///< ||F||
-  float column = 0.0F;         ///< norm of a column of the Jacobian
-  float step = 0.0F;           ///< ||s||
-  float decrease = 0.0F;       ///< ||F|| - ||F + J s||
-  float step_precision = 0.1F; ///< of the length of a step, relative; not a test
+  float radius = 0.0F;          ///< of the trust region
+  float residual = 0.0F;        ///< ||F||
+  float column = 0.0F;          ///< norm of a column of the Jacobian
+  float step = 0.0F;            ///< ||s||
+  float decrease = 0.0F;        ///< ||F|| - ||F + J s||
+  float step_precision = 0.1F;  ///< of the length of a step, relative; not a test
   int max_iterations = 1000;
   int max_step_iterations = 100;
   float first_radius = 100.0F;  ///< from 0.1 to 100, relative to the length of x
@@ -135,7 +136,7 @@ class Differences {
 /// residual(std::span<const float> x, std::span<float> f): f <- F(x).
 /// jacobian(std::span<const float> x, std::span<float> columns): dF/dx, m x n, column-major.
 /// Throws std::invalid_argument for sizes, bounds or options that make no sense, std::bad_alloc without memory.
-template <class Residual, class Jacobian>
+template <class Residual, std::invocable<std::span<const float>, std::span<float>> Jacobian>
 Result minimize(std::size_t m, std::span<float> x, Residual&& residual, Jacobian&& jacobian, const Bounds& bounds = {},
                 const Options& options = {}) {
   const bool is_bounded = !bounds.lower.empty() || !bounds.upper.empty();
@@ -150,11 +151,11 @@ Result minimize(std::size_t m, std::span<float> x, Residual&& residual, Jacobian
   std::vector<float> f(m), columns(m * x.size());
   detail::Handle handle(is_bounded ? strnlspbc_delete : strnlsp_delete);
   void** const run = handle.address();
-  detail::require(is_bounded ? strnlspbc_init(run, &n, &rows, x.data(), bounds.lower.data(), bounds.upper.data(),
-                                              eps.data(), &options.max_iterations, &options.max_step_iterations,
-                                              &options.first_radius)
-                             : strnlsp_init(run, &n, &rows, x.data(), eps.data(), &options.max_iterations,
-                                            &options.max_step_iterations, &options.first_radius));
+  detail::require(is_bounded
+                      ? strnlspbc_init(run, &n, &rows, x.data(), bounds.lower.data(), bounds.upper.data(), eps.data(),
+                                       &options.max_iterations, &options.max_step_iterations, &options.first_radius)
+                      : strnlsp_init(run, &n, &rows, x.data(), eps.data(), &options.max_iterations,
+                                     &options.max_step_iterations, &options.first_radius));
   auto* const solve = is_bounded ? strnlspbc_solve : strnlsp_solve;
   auto* const get = is_bounded ? strnlspbc_get : strnlsp_get;
   Result result;

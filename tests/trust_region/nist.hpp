@@ -68,12 +68,11 @@ inline std::vector<Entry> models() {
       {"Lanczos3", fit(lanczos)},
       {"DanWood", fit([](const double* b, double x) { return b[0] * pow(x, b[1]); })},
       {"Misra1b", fit([](const double* b, double x) { return b[0] * (1 - pow(1 + b[1] * x / 2, -2.0)); })},
-      {"Kirby2", fit([](const double* b, double x) {
-         return (b[0] + x * (b[1] + x * b[2])) / (1 + x * (b[3] + x * b[4]));
-       })},
+      {"Kirby2",
+       fit([](const double* b, double x) { return (b[0] + x * (b[1] + x * b[2])) / (1 + x * (b[3] + x * b[4])); })},
       {"Hahn1", fit(rational)},
-      {"Nelson",
-       [](const double* b, const double* row) { return std::log(row[0]) - (b[0] - b[1] * row[1] * exp(-b[2] * row[2])); }},
+      {"Nelson", [](const double* b,
+                    const double* row) { return std::log(row[0]) - (b[0] - b[1] * row[1] * exp(-b[2] * row[2])); }},
       {"MGH17", fit([](const double* b, double x) { return b[0] + b[1] * exp(-x * b[3]) + b[2] * exp(-x * b[4]); })},
       {"Lanczos1", fit(lanczos)},
       {"Lanczos2", fit(lanczos)},
@@ -112,7 +111,9 @@ inline std::vector<NistProblem> nist_problems(const std::string& directory) {
   for (const nist::Entry& entry : nist::models()) {
     std::ifstream in(directory + "/" + entry.name + ".dat");
     std::size_t n = 0, m = 0;
-    NistProblem problem{.name = entry.name, .misfit = entry.misfit};
+    NistProblem problem;
+    problem.name = entry.name;
+    problem.misfit = entry.misfit;
     in >> n >> m >> problem.width;
     for (Reals& start : problem.starts) start = nist::read(in, n);
     problem.certified = nist::read(in, n);

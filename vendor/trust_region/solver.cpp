@@ -17,6 +17,12 @@ constexpr double kStrongestShrink = 0.1, kMildestShrink = 0.5;
 // || ||D s|| - radius | relative to the radius, if the host wants no better.
 constexpr double kLooseLength = 0.1, kDefaultLength = 1e-10;
 
+// Times that the radius is doubled for a step that floats can tell from none, and such steps in vain that end the run.
+constexpr int kEnlargements = 20, kFailedEnlargements = 5;
+// What rounding of F to floats may change in ||F||^2, relative to it.
+constexpr double kNoise = std::numeric_limits<float>::epsilon();
+constexpr int kPolishingSteps = 5;
+
 // ||F||; not finite if an entry is not, as squares of floats do not overflow.
 double norm_of(std::size_t m, const float* residual) {
   double sum = 0.0;
@@ -25,7 +31,8 @@ double norm_of(std::size_t m, const float* residual) {
 }
 
 StepLimits step_limits(const Setup& setup) {
-  const double asked = setup.tolerances.step_precision > 0.0F ? double{setup.tolerances.step_precision} : kDefaultLength;
+  const double asked =
+      setup.tolerances.step_precision > 0.0F ? double{setup.tolerances.step_precision} : kDefaultLength;
   return {.iterations = setup.step_iteration_limit, .tolerance = std::min(asked, kLooseLength)};
 }
 
@@ -103,8 +110,14 @@ int Solver::take_first_residual(const float* residual) {
 int Solver::take_first_jacobian(const float* jacobian) {
   if (!model_.take(setup_.m, jacobian, residual_.data())) return fail();
   update_scale();
-  double length = 0.0;
-  for (std::size_t j = 0; j < setup_.n; ++j) length = std::hypot(length, scale_[j] * double{x_[j]});
+  double length = scaled_length();
+  // No variable gets more room, in units of its own start, than the region is wide: a direction in which F is flat at
+  // the start would have too much.
+  for (std::size_t j = 0; j < setup_.n; ++j) {
+    if (x_[j] != 0.0F) largest_norms_[j] = std::max(largest_norms_[j], length / std::fabs(double{x_[j]}));
+  }
+  update_scale();
+  length = scaled_length();
   radius_ = double{setup_.first_radius} * (length > 0.0 ? length : 1.0);
   return go_on_from_new_point();
 }
@@ -116,8 +129,16 @@ int Solver::take_trial_residual(const float* residual) {
   const double quotient = trial_norm_ / norm_;
   // Far up, the exact amount says nothing.
   const double actual = quotient < 10.0 ? 1.0 - quotient * quotient : -1.0;
+  if (is_beyond_noise(actual)) {
+    ++polishing_steps_;
+    return ask(kJacobian, kTrialJacobian);
+  }
   update_radius(actual, predicted_decrease_);
-  if (actual < kAcceptable * predicted_decrease_) return go_on();
+  if (actual < kAcceptable * predicted_decrease_) {
+    failed_enlargements_ += is_enlarged_ ? 1 : 0;
+    return go_on();
+  }
+  failed_enlargements_ = 0;
   return ask(kJacobian, kTrialJacobian);
 }
 
@@ -129,6 +150,12 @@ int Solver::take_trial_jacobian(const float* jacobian) {
   norm_ = trial_norm_;
   update_scale();
   return go_on_from_new_point();
+}
+
+// At the end of a run the decrease that a step promises is less than the rounding of F in floats, and what is found
+// says nothing. The model still knows better, so a few such steps are taken on its word.
+bool Solver::is_beyond_noise(double actual) const {
+  return predicted_decrease_ < kNoise && std::fabs(actual) < kNoise && polishing_steps_ < kPolishingSteps;
 }
 
 // F or its Jacobian is not finite at the point tried.
@@ -150,26 +177,37 @@ int Solver::go_on() {
 }
 
 int Solver::propose() {
-  const double* const s =
-      step_.solve(model_, box_, x_.data(), scale_.data(), radius_, step_limits(setup_), trial_x_.data());
+  is_enlarged_ = false;
+  const double* s = find_step();
+  // Floats are too coarse for a short step along a narrow valley; a longer one may still lead down.
+  for (int i = 0; i < kEnlargements && failed_enlargements_ < kFailedEnlargements; ++i) {
+    if (step_.decrease() > 0.0 || step_length_ < (1.0 - 2.0 * kLooseLength) * radius_) break;
+    radius_ *= 2.0;
+    is_enlarged_ = true;
+    s = find_step();
+  }
   const double decrease = 2.0 * step_.decrease();
-  const double trial_square = std::max(norm_ * norm_ - decrease, 0.0);
-  const double reduction = decrease / (norm_ + std::sqrt(trial_square));
-  // A step that is too short for floats lowers nothing.
-  if (!(decrease > 0.0) || reduction < double{setup_.tolerances.decrease}) return stop(kDecreaseSmall);
+  if (!(decrease > 0.0)) return stop(kDecreaseSmall);
+  const double trial_norm = std::sqrt(std::max(norm_ * norm_ - decrease, 0.0));
+  if (decrease / (norm_ + trial_norm) < double{setup_.tolerances.decrease}) return stop(kDecreaseSmall);
   if (norm(setup_.n, s) < double{setup_.tolerances.step}) return stop(kStepSmall);
 
-  step_length_ = slope_ = 0.0;
-  for (std::size_t j = 0; j < setup_.n; ++j) {
-    step_length_ = std::hypot(step_length_, scale_[j] * s[j]);
-    slope_ += model_.gradient(j) * s[j];
-  }
-  slope_ /= norm_ * norm_;
+  slope_ = 0.0;
+  for (std::size_t j = 0; j < setup_.n; ++j) slope_ += model_.gradient(j) * s[j] / (norm_ * norm_);
   predicted_decrease_ = decrease / (norm_ * norm_);
   if (iterations_ == 0) radius_ = std::min(radius_, step_length_);
   ++iterations_;
   std::copy_n(trial_x_.data(), setup_.n, setup_.x);
   return ask(kResidual, kTrialResidual);
+}
+
+// The step for the present radius, and its length.
+const double* Solver::find_step() {
+  const double* const s =
+      step_.solve(model_, box_, x_.data(), scale_.data(), radius_, step_limits(setup_), trial_x_.data());
+  step_length_ = 0.0;
+  for (std::size_t j = 0; j < setup_.n; ++j) step_length_ = std::hypot(step_length_, scale_[j] * s[j]);
+  return s;
 }
 
 // From the decreases of ||F||^2, relative to it. After a failure: to the minimum of the parabola that has the slope of
@@ -188,6 +226,13 @@ void Solver::update_scale() {
     largest_norms_[j] = std::max(largest_norms_[j], model_.column_norm(j));
     scale_[j] = largest_norms_[j] > 0.0 ? largest_norms_[j] : 1.0;
   }
+}
+
+// ||D x||
+double Solver::scaled_length() const {
+  double length = 0.0;
+  for (std::size_t j = 0; j < setup_.n; ++j) length = std::hypot(length, scale_[j] * double{x_[j]});
+  return length;
 }
 
 bool Solver::is_singular() const {

@@ -32,12 +32,12 @@ struct Setup {
   float* x;  // the host's; written with every request
   Tolerances tolerances;
   int iteration_limit, step_iteration_limit;
-  float first_radius;  // in units of ||D x||
+  float first_radius;          // in units of ||D x||
   const float *lower, *upper;  // copied; null if there are no bounds
 };
 
-/// Levenberg-Marquardt in its trust-region form, with an ellipsoid ||D s|| <= radius, D being the largest norm so far of
-/// each column of J: More 1978 (see DampedStep), sections 4 to 7. A point where F, or its Jacobian, is not finite is
+/// Levenberg-Marquardt in its trust-region form, with an ellipsoid ||D s|| <= radius, D being the largest norm so far
+/// of each column of J: More 1978 (see DampedStep), sections 4 to 7. A point where F, or its Jacobian, is not finite is
 /// treated like one where ||F|| has grown: the step is taken back and the radius shrinks.
 class Solver : public base::HandleNode {
  public:
@@ -68,8 +68,11 @@ class Solver : public base::HandleNode {
   int go_on_from_new_point();
   int go_on();
   int propose();
+  const double* find_step();
+  bool is_beyond_noise(double actual) const;
   void update_scale();
   void update_radius(double actual, double predicted);
+  double scaled_length() const;
   bool is_singular() const;
   double longest_axis() const;
 
@@ -86,7 +89,8 @@ class Solver : public base::HandleNode {
 
   Stage stage_ = kStart;
   int request_ = 0, iterations_ = 0;
-  bool failed_ = false;
+  int failed_enlargements_ = 0, polishing_steps_ = 0;
+  bool is_enlarged_ = false, failed_ = false;
   double radius_ = 0.0, first_norm_ = 0.0, norm_ = 0.0;
   // Of the step under way; slope and decrease relative to ||F||^2.
   double trial_norm_ = 0.0, step_length_ = 0.0, slope_ = 0.0, predicted_decrease_ = 0.0;

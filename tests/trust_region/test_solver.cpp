@@ -1,0 +1,287 @@
+// The protocol of the solvers, their handles and stops, the published example, and hosts that misbehave.
+#include <gtest/gtest.h>
+
+#include "tests/trust_region/fit.hpp"
+
+namespace trust_region_test {
+namespace {
+
+TEST(Powell, TakesThePublishedNumberOfStepsForAnyNumberOfBlocks) {
+  for (const std::size_t blocks : {std::size_t{1}, std::size_t{3}, std::size_t{25}}) {
+    Fit run = powell_run(blocks, 1e-5F);
+    run.go();
+    const double growth = std::sqrt(static_cast<double>(blocks));
+    EXPECT_FLOAT_EQ(run.r1, static_cast<float>(std::sqrt(215.0) * growth));
+    EXPECT_EQ(run.criterion, 3);
+    EXPECT_LT(run.r2, 1e-5F);
+    if (blocks > 1) continue;  // then ||F|| is larger, and the run a step longer
+    EXPECT_EQ(run.iterations, 11);
+    EXPECT_EQ(run.requests[0], 12);
+    EXPECT_EQ(run.requests[1], 12);
+    EXPECT_NEAR(run.r2, 3.0e-6, 1e-6);
+  }
+}
+
+TEST(Powell, TakesThePublishedNumberOfStepsWithSingleDifferences) {
+  Fit run = powell_run(1, 1e-3F);
+  const float step = 1e-3F;
+  const int n = 4;
+  ASSERT_EQ(run.begin(), kSuccess);
+  while (run.step()) {
+    if (run.request != 2) continue;
+    const auto in_floats = [](int* rows, int* columns, float* x, float* f) {
+      Reals values(static_cast<std::size_t>(*rows));
+      extended_powell(Reals(x, x + *columns), values);
+      for (std::size_t i = 0; i < values.size(); ++i) f[i] = static_cast<float>(values[i]);
+    };
+    ASSERT_EQ(sjacobi(in_floats, &n, &n, run.columns.data(), run.x.data(), &step), kSuccess);
+  }
+  run.finish();
+  EXPECT_EQ(run.iterations, 7);
+  EXPECT_EQ(run.criterion, 3);
+  EXPECT_NEAR(run.r2, 7.7e-4, 2.5e-4);
+}
+
+// Each row switches on one test, or limits the steps; the criterion is the one that it must end with.
+TEST(Stops, EachTestHasItsCode) {
+  struct Row {
+    int criterion, tolerance;
+    float value;
+    int limit;
+  };
+  for (const Row& row : {Row{1, 0, 0, 3}, Row{2, 0, 1, 1000}, Row{3, 1, 1e-2F, 1000}, Row{4, 2, 1e3F, 1000},
+                         Row{5, 3, 1e-2F, 1000}, Row{6, 4, 1e-2F, 1000}}) {
+    Fit run = powell_run(1, 0.0F);
+    run.eps[static_cast<std::size_t>(row.tolerance)] = row.value;
+    run.limit = row.limit;
+    run.go();
+    EXPECT_EQ(run.criterion, row.criterion);
+    EXPECT_EQ(run.request, -row.criterion);
+    EXPECT_LE(run.iterations, row.limit);
+    if (row.criterion == 1) {
+      EXPECT_EQ(run.iterations, 3);
+    }
+    if (row.criterion == 4) {
+      EXPECT_EQ(run.iterations, 0);
+    }
+  }
+}
+
+TEST(Stops, RequestsRepeatAfterTheEnd) {
+  Fit run = powell_run(1, 1e-5F);
+  ASSERT_EQ(run.begin(), kSuccess);
+  int criterion = -1, iterations = -1;
+  float r1 = -1, r2 = -1;
+  EXPECT_EQ(strnlsp_get(&run.handle, &iterations, &criterion, &r1, &r2), kSuccess);
+  EXPECT_EQ(iterations + criterion, 0);
+  EXPECT_EQ(r1 + r2, 0.0F);
+  while (run.step()) {
+  }
+  const Floats x = run.x;
+  for (int i = 0; i < 2; ++i) {
+    EXPECT_FALSE(run.step());
+    EXPECT_EQ(run.request, -3);
+    EXPECT_EQ(run.status, kSuccess);
+  }
+  EXPECT_EQ(run.x, x);
+  run.finish();
+}
+
+TEST(Stops, WithoutAnyTestARunEndsWhereFloatsEnd) {
+  Fit run = powell_run(2, 0.0F);
+  run.go();
+  EXPECT_EQ(run.criterion, 6);
+  EXPECT_LT(run.r2, 1e-5F);
+}
+
+TEST(Handles, WhatIsNoHandleIsRefused) {
+  Fit run = powell_run(1, 1e-5F), bounded = bounded_powell_run(1, 1e-5F);
+  ASSERT_EQ(run.begin(), kSuccess);
+  ASSERT_EQ(bounded.begin(), kSuccess);
+  void* const deleted = run.handle;
+  EXPECT_EQ(strnlsp_delete(&run.handle), kSuccess);
+
+  float zeros[64] = {};
+  void* const candidates[] = {nullptr,
+                              deleted,
+                              bounded.handle,
+                              zeros,
+                              &bounded,
+                              reinterpret_cast<void*>(~std::uintptr_t{0}),
+                              reinterpret_cast<void*>(std::uintptr_t{1})};
+  for (void* candidate : candidates) {
+    void* handle = candidate;
+    int request = 7, a = 7, b = 7;
+    float r1 = 7, r2 = 7;
+    EXPECT_EQ(strnlsp_solve(&handle, zeros, zeros, &request), kInvalid);
+    EXPECT_EQ(strnlsp_get(&handle, &a, &b, &r1, &r2), kInvalid);
+    EXPECT_EQ(strnlsp_delete(&handle), kInvalid);
+    EXPECT_EQ(sjacobi_solve(&handle, zeros, zeros, &request), kInvalid);
+    EXPECT_EQ(sjacobi_delete(&handle), kInvalid);
+    EXPECT_EQ(handle, candidate);
+    EXPECT_EQ(request, 7);
+  }
+  EXPECT_EQ(strnlsp_solve(nullptr, zeros, zeros, nullptr), kInvalid);
+  EXPECT_EQ(strnlsp_delete(nullptr), kInvalid);
+  int request = 7;
+  EXPECT_EQ(strnlspbc_solve(&bounded.handle, nullptr, zeros, &request), kInvalid);
+  EXPECT_EQ(strnlspbc_solve(&bounded.handle, zeros, zeros, nullptr), kInvalid);
+  EXPECT_EQ(strnlspbc_delete(&bounded.handle), kSuccess);
+}
+
+TEST(Handles, InitRefusesWhatMakesNoSense) {
+  const auto status = [](auto change) {
+    Fit run = bounded_powell_run(1, 1e-5F);
+    run.handle = &run;
+    change(run);
+    const int result = run.begin();
+    if (result == kInvalid) {
+      EXPECT_EQ(run.handle, nullptr);
+    } else {
+      strnlspbc_delete(&run.handle);
+    }
+    return result;
+  };
+  EXPECT_EQ(status([](Fit&) {}), kSuccess);
+  EXPECT_EQ(status([](Fit& r) { r.eps[4] = -1e-5F; }), kSuccess);
+  EXPECT_EQ(status([](Fit& r) { r.lower[1] = -kInfinity; }), kSuccess);
+  EXPECT_EQ(status([](Fit& r) { r.m = 3; }), kInvalid);
+  EXPECT_EQ(status([](Fit& r) { r.limit = 0; }), kInvalid);
+  EXPECT_EQ(status([](Fit& r) { r.step_limit = 0; }), kInvalid);
+  EXPECT_EQ(status([](Fit& r) { r.rs = -1; }), kInvalid);
+  EXPECT_EQ(status([](Fit& r) { r.rs = kNaN; }), kInvalid);
+  EXPECT_EQ(status([](Fit& r) { r.eps[3] = -1; }), kInvalid);
+  EXPECT_EQ(status([](Fit& r) { r.eps[4] = kNaN; }), kInvalid);
+  EXPECT_EQ(status([](Fit& r) { r.x[2] = kInfinity; }), kInvalid);
+  EXPECT_EQ(status([](Fit& r) { r.lower[2] = 2; }), kInvalid);
+  EXPECT_EQ(status([](Fit& r) { r.upper[2] = kNaN; }), kInvalid);
+
+  const int n = 1, no = 0, many = std::numeric_limits<int>::max();
+  float x = 1, eps[6] = {};
+  const float rs = 1;
+  void* handle = &x;
+  EXPECT_EQ(strnlsp_init(nullptr, &n, &n, &x, eps, &n, &n, &rs), kInvalid);
+  EXPECT_EQ(strnlsp_init(&handle, &no, &n, &x, eps, &n, &n, &rs), kInvalid);
+  EXPECT_EQ(strnlsp_init(&handle, nullptr, &n, &x, eps, &n, &n, &rs), kInvalid);
+  EXPECT_EQ(strnlsp_init(&handle, &n, &n, nullptr, eps, &n, &n, &rs), kInvalid);
+  EXPECT_EQ(strnlsp_init(&handle, &n, &n, &x, eps, &n, &n, nullptr), kInvalid);
+  EXPECT_EQ(strnlspbc_init(&handle, &n, &n, &x, nullptr, &x, eps, &n, &n, &rs), kInvalid);
+  if (sizeof(void*) == 4) {
+    EXPECT_EQ(strnlsp_init(&handle, &n, &many, &x, eps, &n, &n, &rs), kOutOfMemory);
+  }
+  EXPECT_EQ(handle, nullptr);
+}
+
+TEST(Handles, RunsDoNotDisturbEachOther) {
+  std::vector<Fit> runs = {powell_run(1, 1e-5F), bounded_powell_run(2, 1e-5F), powell_run(3, 1e-5F)};
+  std::vector<Fit> alone = runs;
+  for (Fit& run : alone) run.go();
+  for (Fit& run : runs) ASSERT_EQ(run.begin(), kSuccess);
+  for (bool any = true; any;) {
+    any = false;
+    for (Fit& run : runs) any = run.step() || any;
+  }
+  for (std::size_t i = 0; i < runs.size(); ++i) {
+    runs[i].finish();
+    EXPECT_EQ(runs[i].x, alone[i].x);
+    EXPECT_EQ(runs[i].iterations, alone[i].iterations);
+  }
+}
+
+TEST(IndexForms, AddTheirIndices) {
+  Fit plain = bounded_powell_run(1, 1e-5F);
+  plain.go();
+  Fit run = bounded_powell_run(1, 1e-5F);
+  run.f.resize(4);
+  run.columns.resize(16);
+  const auto shifted = [](Floats& v, std::size_t by) { v.insert(v.begin(), by, kNaN); };
+  shifted(run.x, 1);
+  shifted(run.lower, 2);
+  shifted(run.upper, 3);
+  Floats eps(run.eps.begin(), run.eps.end()), f(7, kNaN), columns(23, kNaN);
+  shifted(eps, 4);
+  const int n = 4;
+  ASSERT_EQ(strnlspbc_init_Idx(&run.handle, &n, &n, run.x.data(), 1, run.lower.data(), 2, run.upper.data(), 3,
+                               eps.data(), 4, &run.limit, &run.step_limit, &run.rs),
+            kSuccess);
+  while (strnlspbc_solve_Idx(&run.handle, f.data(), 3, columns.data(), 7, &run.request) == kSuccess &&
+         run.request > 0) {
+    const Reals x(run.x.begin() + 1, run.x.end());
+    Reals values(4);
+    extended_powell(x, values);
+    if (run.request == 1) std::copy(values.begin(), values.end(), f.begin() + 3);
+    const Reals jacobian = jacobian_of(extended_powell, plain.start, x, 4);
+    if (run.request == 2) std::copy(jacobian.begin(), jacobian.end(), columns.begin() + 7);
+  }
+  EXPECT_EQ(strnlspbc_get_Idx(&run.handle, &run.iterations, &run.criterion, &run.r1, &run.r2), kSuccess);
+  EXPECT_EQ(run.criterion, plain.criterion);
+  EXPECT_EQ(run.iterations, plain.iterations);
+  EXPECT_EQ(run.r2, plain.r2);
+  EXPECT_EQ(strnlspbc_delete_Idx(&run.handle), kSuccess);
+}
+
+// sqrt(x) - 2 from x = 100: the first step ends left of 0, where there is no root.
+void root(const Reals& x, Reals& f) { f[0] = std::sqrt(x[0]) - 2; }
+
+TEST(NotFinite, ResidualsShrinkTheRegion) {
+  Fit run;
+  run.m = 1;
+  run.function = root;
+  run.x = {100};
+  run.go();
+  EXPECT_FLOAT_EQ(run.x[0], 4.0F);
+
+  Fit overflowing = run;  // exp(x) - 1: the first step goes to about exp(40)
+  overflowing.function = [](const Reals& x, Reals& f) { f[0] = std::exp(x[0]) - 1; };
+  overflowing.x = {-6};
+  overflowing.go();
+  EXPECT_NEAR(overflowing.x[0], 0.0F, 1e-6F);
+}
+
+TEST(NotFinite, JacobiansAtATrialPointTakeTheStepBack) {
+  Fit run;
+  run.m = 1;
+  run.x = {3};
+  run.function = [](const Reals& x, Reals& f) { f[0] = x[0] * x[0] - 4; };
+  ASSERT_EQ(run.begin(), kSuccess);
+  float refused = 0;
+  while (run.step()) {
+    if (run.request == 2 && run.requests[1] == 2) {
+      refused = run.x[0];
+      run.columns[0] = kNaN;
+    }
+  }
+  run.finish();
+  EXPECT_NE(refused, 0.0F);
+  EXPECT_FLOAT_EQ(run.x[0], 2.0F);
+}
+
+TEST(NotFinite, ARunWithNothingButThemEnds) {
+  for (const double bad : {std::nan(""), -std::numeric_limits<double>::infinity(), 1e300}) {
+    Fit run;  // good at the start only
+    run.m = 2;
+    run.x = {1, 1};
+    run.limit = std::numeric_limits<int>::max();
+    run.function = [bad](const Reals& x, Reals& f) {
+      const bool is_start = std::fabs(x[0] - 1) < 1e-5 && std::fabs(x[1] - 1) < 1e-5;
+      f = is_start ? Reals{x[0], x[0] * x[1]} : Reals{bad, 0};
+    };
+    run.go();
+    EXPECT_LT(run.iterations, 1000);
+    for (const float value : run.x) EXPECT_NEAR(value, 1, 1e-5);
+
+    Fit never = run;  // not even there
+    never.function = [bad](const Reals&, Reals& f) { f = {1, bad}; };
+    ASSERT_EQ(never.begin(), kSuccess);
+    while (never.step()) {
+    }
+    EXPECT_EQ(never.status, kInvalid);
+    EXPECT_EQ(never.request, -1);
+    EXPECT_FALSE(never.step());
+    EXPECT_EQ(never.status, kInvalid);
+    never.finish();
+  }
+}
+
+}  // namespace
+}  // namespace trust_region_test
