@@ -55,6 +55,7 @@ void blas_rows(const Library& library, Report& report);
 void lapack_rows(const Library& library, Report& report);
 void signal_rows(const Library& library, Report& report);
 void rci_rows(const Library& library, Report& report);
+void least_squares_rows(const Library& library, Report& report);
 void amos_rows(const Library& library, Report& report);
 void umfpack_rows(const Library& library, Report& report);
 

@@ -133,21 +133,25 @@ inline void extended_powell(const Reals& x, Reals& f) {
   }
 }
 
+inline Floats repeated(const std::array<float, 4>& block, std::size_t times) {
+  Floats all(4 * times);
+  for (std::size_t i = 0; i < all.size(); ++i) all[i] = block[i % 4];
+  return all;
+}
+
 inline Fit powell_run(std::size_t blocks, float eps) {
   Fit run;
   run.m = 4 * blocks;
   run.function = extended_powell;
-  for (std::size_t k = 0; k < blocks; ++k) run.x.insert(run.x.end(), {3, -1, 0, 1});
+  run.x = repeated({3, -1, 0, 1}, blocks);
   run.eps.fill(eps);
   return run;
 }
 
 inline Fit bounded_powell_run(std::size_t blocks, float eps) {
   Fit run = powell_run(blocks, eps);
-  for (std::size_t k = 0; k < blocks; ++k) {
-    run.lower.insert(run.lower.end(), {0.1F, -20, -1, -1});
-    run.upper.insert(run.upper.end(), {100, 20, 1, 50});
-  }
+  run.lower = repeated({0.1F, -20, -1, -1}, blocks);
+  run.upper = repeated({100, 20, 1, 50}, blocks);
   return run;
 }
 
