@@ -53,7 +53,7 @@ struct Result {
   int iterations = 0;
   float first_norm = 0.0F;  ///< ||F|| at the start
   float norm = 0.0F;        ///< ||F|| at the best point
-  bool converged() const { return stop >= Stop::kRadiusSmall; }
+  bool converged() const { return stop >= Stop::kRadiusSmall && stop != Stop::kJacobianSingular; }
 };
 
 /// Both of n entries, or both empty for no bounds; infinite ones are none.

@@ -256,6 +256,26 @@ TEST(NotFinite, JacobiansAtATrialPointTakeTheStepBack) {
   EXPECT_FLOAT_EQ(run.x[0], 2.0F);
 }
 
+// Good nowhere but at the start, whose neighbours in floats are tried at last.
+TEST(NotFinite, ARunThatCannotLeaveItsStartEnds) {
+  Fit run;
+  run.m = 1;
+  run.x = {1};
+  run.limit = std::numeric_limits<int>::max();
+  ASSERT_EQ(run.begin(), kSuccess);
+  int steps = 0;
+  for (; steps < 1000; ++steps) {
+    ASSERT_EQ(strnlsp_solve(&run.handle, run.f.data(), run.columns.data(), &run.request), kSuccess);
+    if (run.request < 0) break;
+    run.f[0] = steps == 0 ? 1.0F : kNaN;
+    run.columns[0] = 1;
+  }
+  EXPECT_EQ(run.request, -6);
+  EXPECT_EQ(run.x[0], 1);
+  EXPECT_EQ(run.f[0], 1);
+  run.finish();
+}
+
 TEST(NotFinite, ARunWithNothingButThemEnds) {
   for (const double bad : {std::nan(""), -std::numeric_limits<double>::infinity(), 1e300}) {
     Fit run;  // good at the start only

@@ -106,7 +106,8 @@ bool BoxStep::start_at_cauchy_point(const Task& task) {
       step_[j] = task.project(j, t * direction[j]);
       change += step_[j] * task.model.gradient(j);
     }
-    if (length(task) > task.radius || task.model.decrease(step_.data(), image_.data()) < -kSufficient * change) continue;
+    if (length(task) > task.radius || task.model.decrease(step_.data(), image_.data()) < -kSufficient * change)
+      continue;
     for (std::size_t j = 0; j < n_; ++j) {
       if (step_[j] <= task.least(j) || step_[j] >= task.most(j)) frozen_[j] = 1;
     }

@@ -39,7 +39,8 @@ void DampedStep::solve(const PivotedQr& qr, const double* scale, double radius, 
       (excess > 0.0 ? lower : upper) = parameter;
       const double next = parameter + newton_correction(excess);
       if (next == parameter) break;
-      parameter = next > lower && next < upper ? next : std::max(std::sqrt(lower) * std::sqrt(upper), kLeastShare * upper);
+      parameter =
+          next > lower && next < upper ? next : std::max(std::sqrt(lower) * std::sqrt(upper), kLeastShare * upper);
     }
     // Out of iterations: the direction is right, the length need not be.
     if (excess > tolerance) {

@@ -9,9 +9,7 @@
 namespace quorin::trust_region {
 
 LinearModel::LinearModel(std::size_t n)
-    : n_(n),
-      triangle_(base::saturating_product(n + 1, n + 1)),
-      block_(base::saturating_product(kBlockRows, n + 1)) {}
+    : n_(n), triangle_(base::saturating_product(n + 1, n + 1)), block_(base::saturating_product(kBlockRows, n + 1)) {}
 
 void LinearModel::swap(LinearModel& other) noexcept {
   std::swap(n_, other.n_);

@@ -23,6 +23,9 @@ constexpr int kEnlargements = 20, kFailedEnlargements = 5;
 constexpr double kNoise = std::numeric_limits<float>::epsilon();
 constexpr int kPolishingSteps = 5;
 
+// By how much D_j may exceed the norm of its column at the start.
+constexpr double kMostBalance = 10.0;
+
 // ||F||; not finite if an entry is not, as squares of floats do not overflow.
 double norm_of(std::size_t m, const float* residual) {
   double sum = 0.0;
@@ -111,10 +114,12 @@ int Solver::take_first_jacobian(const float* jacobian) {
   if (!model_.take(setup_.m, jacobian, residual_.data())) return fail();
   update_scale();
   double length = scaled_length();
-  // No variable gets more room, in units of its own start, than the region is wide: a direction in which F is flat at
-  // the start would have too much.
+  // Where F is hardly sensitive to a variable, the norm of its column alone would give it too much room, in units of
+  // its own start.
   for (std::size_t j = 0; j < setup_.n; ++j) {
-    if (x_[j] != 0.0F) largest_norms_[j] = std::max(largest_norms_[j], length / std::fabs(double{x_[j]}));
+    if (x_[j] == 0.0F) continue;
+    const double balanced = length / std::fabs(double{x_[j]});
+    largest_norms_[j] = std::max(largest_norms_[j], std::min(balanced, kMostBalance * scale_[j]));
   }
   update_scale();
   length = scaled_length();
@@ -124,26 +129,23 @@ int Solver::take_first_jacobian(const float* jacobian) {
 
 int Solver::take_trial_residual(const float* residual) {
   trial_norm_ = norm_of(setup_.m, residual);
-  if (!std::isfinite(trial_norm_)) return reject();
+  if (!std::isfinite(trial_norm_)) return reject_not_finite();
   std::copy_n(residual, setup_.m, trial_residual_.data());
   const double quotient = trial_norm_ / norm_;
   // Far up, the exact amount says nothing.
   const double actual = quotient < 10.0 ? 1.0 - quotient * quotient : -1.0;
-  if (is_beyond_noise(actual)) {
+  if (is_within_noise(actual)) {
     ++polishing_steps_;
     return ask(kJacobian, kTrialJacobian);
   }
   update_radius(actual, predicted_decrease_);
-  if (actual < kAcceptable * predicted_decrease_) {
-    failed_enlargements_ += is_enlarged_ ? 1 : 0;
-    return go_on();
-  }
+  if (actual < kAcceptable * predicted_decrease_) return reject();
   failed_enlargements_ = 0;
   return ask(kJacobian, kTrialJacobian);
 }
 
 int Solver::take_trial_jacobian(const float* jacobian) {
-  if (!trial_model_.take(setup_.m, jacobian, trial_residual_.data())) return reject();
+  if (!trial_model_.take(setup_.m, jacobian, trial_residual_.data())) return reject_not_finite();
   model_.swap(trial_model_);
   x_.swap(trial_x_);
   residual_.swap(trial_residual_);
@@ -154,13 +156,18 @@ int Solver::take_trial_jacobian(const float* jacobian) {
 
 // At the end of a run the decrease that a step promises is less than the rounding of F in floats, and what is found
 // says nothing. The model still knows better, so a few such steps are taken on its word.
-bool Solver::is_beyond_noise(double actual) const {
+bool Solver::is_within_noise(double actual) const {
   return predicted_decrease_ < kNoise && std::fabs(actual) < kNoise && polishing_steps_ < kPolishingSteps;
 }
 
 // F or its Jacobian is not finite at the point tried.
-int Solver::reject() {
+int Solver::reject_not_finite() {
   radius_ = kStrongestShrink * std::min(radius_, step_length_);
+  return reject();
+}
+
+int Solver::reject() {
+  failed_enlargements_ += is_enlarged_ ? 1 : 0;
   return go_on();
 }
 

@@ -65,11 +65,12 @@ class Solver : public base::HandleNode {
   int take_trial_residual(const float* residual);
   int take_trial_jacobian(const float* jacobian);
   int reject();
+  int reject_not_finite();
   int go_on_from_new_point();
   int go_on();
   int propose();
   const double* find_step();
-  bool is_beyond_noise(double actual) const;
+  bool is_within_noise(double actual) const;
   void update_scale();
   void update_radius(double actual, double predicted);
   double scaled_length() const;
