@@ -81,6 +81,10 @@ Libraries find_product(const Symbols& in) {
           .rci = find_rci(in),
           .amos = {.j = in["CBESJ"], .k = in["CBESK"], .y = in["CBESY"], .ai = in["CAIRY"]},
           .umfpack = find_umfpack(in),
+          .pack = {.increment = in["vspacki"],
+                   .index = in["vspackv"],
+                   .mask = in["vspackm"],
+                   .unpack_mask = in["vsunpackm"]},
           .peer = std::nullopt,
           .peer_description = {}};
 }

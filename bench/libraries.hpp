@@ -7,6 +7,7 @@
 
 #include "quorin/amos.h"
 #include "quorin/blas.h"
+#include "quorin/pack.h"
 #include "quorin/rci.h"
 #include "quorin/signal.h"
 #include "quorin/umfpack.h"
@@ -72,6 +73,13 @@ struct Umfpack {
   decltype(&::umfpack_di_free_numeric) free_numeric;
 };
 
+struct Pack {
+  decltype(&::vspacki) increment;
+  decltype(&::vspackv) index;
+  decltype(&::vspackm) mask;
+  decltype(&::vsunpackm) unpack_mask;
+};
+
 struct Libraries {
   Blas product;
   IndexForms index_forms;
@@ -80,6 +88,7 @@ struct Libraries {
   Rci rci;
   Amos amos;
   Umfpack umfpack;
+  Pack pack;
   std::optional<Blas> peer;
   std::string peer_description;
 };

@@ -136,6 +136,7 @@ void run(int argc, char** argv) {
   add_rci_rows(suite);
   add_amos_rows(suite);
   add_umfpack_rows(suite);
+  add_pack_rows(suite);
 
   std::ofstream file;
   if (!options.out.empty()) {

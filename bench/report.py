@@ -16,6 +16,7 @@ from dataclasses import dataclass, field
 PRODUCT, INDEX, LIMIT = "quorin", "index", "limit"
 TITLES = {
     "openblas": "OpenBLAS", "lapack": "LAPACK", "eigen": "Eigen", "boost": "Boost.Math", "gsl": "GSL", "umfpack": "UMFPACK",
+    "loop": "a loop",
 }
 
 # What a section of the results answers. A section without an entry here is shown under its own name.
@@ -47,6 +48,11 @@ SECTIONS = {
         "Sparse LU with float entries",
         "One thread. Analysis, factorization, solution with refinement, and freeing of matrices of order n, against UMFPACK's"
         " own calls with doubles, the same code over the same BLAS. Grid: five-point differences.",
+    ),
+    "pack": (
+        "Packing and unpacking",
+        "One thread, n elements, against the loop that a host would write. vspacki: increment 2; vspackv: random indices; vspackm,"
+        " vsunpackm: a random half.",
     ),
 }
 

@@ -130,5 +130,6 @@ void add_signal_rows(Suite& suite);
 void add_rci_rows(Suite& suite);
 void add_amos_rows(Suite& suite);
 void add_umfpack_rows(Suite& suite);
+void add_pack_rows(Suite& suite);
 
 }  // namespace quorin::bench
