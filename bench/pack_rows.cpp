@@ -22,13 +22,15 @@ struct Operands {
   }
 
   std::size_t length;
+  std::size_t increment = 2;
   Array<float> a, y;
   std::vector<int> index, mask;
 };
 
 struct Loops {
   static void pack_increment(Operands& o) {
-    for (std::size_t j = 0; j < o.length; ++j) o.y[j] = o.a[2 * j];
+    benchmark::DoNotOptimize(o.increment);  // as unknown as it is to the library
+    for (std::size_t j = 0; j < o.length; ++j) o.y[j] = o.a[o.increment * j];
   }
   static void pack_index(Operands& o) {
     for (std::size_t j = 0; j < o.length; ++j) o.y[j] = o.a[static_cast<std::size_t>(o.index[j])];
