@@ -12,5 +12,6 @@
 #include "quorin/signal.h"
 #include "quorin/umfpack.h"
 #include "quorin/trust_region.h"
+#include "quorin/slap.h"
 
 #endif

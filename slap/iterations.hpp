@@ -1,0 +1,58 @@
+// The iterations. Each starts from x, leaves its result there, and tells how it ended through the Progress.
+//
+// `vectors` is scratch; vectors of n follow each other in it. The residual is r = b - A x throughout.
+#pragma once
+
+#include "slap/column_matrix.hpp"
+#include "slap/preconditioner.hpp"
+#include "slap/progress.hpp"
+
+namespace quorin::slap {
+
+struct System {
+  const ColumnMatrix& matrix;
+  const Preconditioner& preconditioner;
+  const Preconditioner& transposed;  // M^-T, which only BiCG uses
+  const float* b;
+  float* x;
+
+  int n() const { return matrix.n; }
+  // r <- b - A x
+  void residual(float* r) const;
+  // z <- M^-1 r; z may be r.
+  void precondition(const float* r, float* z) const { preconditioner.solve(r, z); }
+};
+
+// Conjugate gradients for symmetric positive definite A and M: M. R. Hestenes, E. Stiefel, J. Res. NBS 49 (1952)
+// 409-436. 3 vectors. Breakdown: 5, (z, r) <= 0, M is not positive definite; 6, (p, A p) <= 0, A is not.
+void conjugate_gradients(const System& system, Progress& progress, float* vectors);
+
+// Conjugate gradients for A A^T y = b with x = A^T y, M near A A^T: E. J. Craig, J. Math. Phys. 34 (1955) 64-73; Saad,
+// section 8.3.2. 4 vectors. Breakdown: 5, (z, r) <= 0; 6, A^T p = 0, A is singular.
+void normal_equations(const System& system, Progress& progress, float* vectors);
+
+// Biconjugate gradients for a general A: R. Fletcher, Conjugate gradient methods for indefinite systems, Lecture Notes
+// in Mathematics 506 (1976) 73-89. 6 vectors. Breakdown: 5, (z, rr) = 0; 6, (pp, A p) = 0.
+void biconjugate_gradients(const System& system, Progress& progress, float* vectors);
+
+// Conjugate gradients squared: P. Sonneveld, SIAM J. Sci. Stat. Comput. 10 (1989) 36-52. 7 vectors. Breakdown: 5, (r0,
+// r) = 0; 6, (r0, A M^-1 p) = 0.
+void conjugate_gradients_squared(const System& system, Progress& progress, float* vectors);
+
+// Generalised minimal residuals with restarts after `length` >= 1 steps: Y. Saad, M. H. Schultz, SIAM J. Sci. Stat.
+// Comput. 7 (1986) 856-869. length + 2 vectors, then length (length + 3) + 1 entries. It makes least what is tested:
+// ||M^-1 r|| for ITOL = 2, else ||r||. Inside a cycle the recurrence gives the residual; it counts as converged only
+// when the residual computed anew agrees. ITOL = 0 is taken as 1. Breakdown: 5, A is singular or not finite.
+void minimal_residuals(const System& system, int length, Progress& progress, float* vectors);
+
+// Orthomin(length), length >= 0: P. K. W. Vinsome, Orthomin, an iterative method for solving sparse sets of
+// simultaneous linear equations, SPE 5729 (1976). A p is made orthogonal to the last `length` directions' A p, and each
+// step makes
+// ||r|| least along p. 2 length + 3 vectors, then `length` entries. Breakdown: 5, A p = 0; 6, (r, A p) = 0.
+void orthomin(const System& system, int length, Progress& progress, float* vectors);
+
+// x <- x + M^-1 (b - A x): Jacobi's and Gauss and Seidel's iterations, refinement with incomplete factors. 2 vectors.
+// No breakdown.
+void refinement(const System& system, Progress& progress, float* vectors);
+
+}  // namespace quorin::slap

@@ -1,0 +1,26 @@
+#include "dense/dense.hpp"
+#include "slap/iterations.hpp"
+
+namespace quorin::slap {
+
+void System::residual(float* r) const {
+  matrix.multiply(x, r);
+  for (int i = 0; i < matrix.n; ++i) r[i] = b[i] - r[i];
+}
+
+void refinement(const System& system, Progress& progress, float* vectors) {
+  const int n = system.n();
+  float *const r = vectors, *const z = r + n;
+  system.residual(r);
+  if (!progress.start_tests(system, z)) return;
+  system.precondition(r, z);
+  if (progress.has_converged(system, r, z)) return;
+  while (progress.next()) {
+    dense::axpy(n, 1.0F, z, 1, system.x, 1);
+    system.residual(r);
+    system.precondition(r, z);
+    if (progress.has_converged(system, r, z)) return;
+  }
+}
+
+}  // namespace quorin::slap
