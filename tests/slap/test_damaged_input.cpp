@@ -1,0 +1,124 @@
+// Matrices that break the rules: whatever happens, nothing is written or read outside the caller's arrays (the
+// sanitizers see that on linux), and the status is one of the published ones.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "tests/slap/slap_host.hpp"
+
+namespace slap_test {
+namespace {
+
+constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
+
+Options few_iterations(int itol) {
+  Options options;
+  options.itmax = 5;
+  options.nsave = 3;
+  options.itol = itol;
+  return options;
+}
+
+void expect_survival(const Triads& t, const Floats& b, const std::string& what) {
+  for (const Solver& s : solvers()) {
+    for (const int itol : {1, 2, 11}) {
+      const Outcome o = run(s, t, b, few_iterations(itol));
+      EXPECT_TRUE(o.is_guarded) << s.name << ": " << what;
+      EXPECT_TRUE(o.ierr == 0 || (o.ierr >= 2 && o.ierr <= 6)) << s.name << ": " << o.ierr << ", " << what;
+    }
+  }
+}
+
+TEST(DamagedInput, RandomTriads) {
+  std::mt19937 random(61);
+  for (int round = 0; round < 200; ++round) {
+    Triads t;
+    t.n = 1 + round % 9;
+    t.isym = round % 2;
+    // Columns and rows within the matrix, or some of them outside.
+    const int outside = round % 5 == 0 ? 2 : 0;
+    std::uniform_int_distribution<int> index(1 - outside, t.n + outside), entry(-2, 2), count(1, 3 * t.n);
+    for (int k = count(random); k > 0; --k) t.add(index(random), index(random), entry(random));
+    Floats b(t.n);
+    for (float& e : b) e = static_cast<float>(entry(random));
+    expect_survival(t, b, "round " + std::to_string(round));
+  }
+}
+
+// Marked as converted, with starts or rows that lead elsewhere.
+TEST(DamagedInput, ColumnsThatAreNone) {
+  std::mt19937 random(62);
+  constexpr int kFar = std::numeric_limits<int>::max();
+  for (int round = 0; round < 100; ++round) {
+    Triads t = random_dominant(6, 0.4, 1.0, false, random).converted();
+    std::uniform_int_distribution<int> place(0, t.n - 1), value(-3, t.nelt() + 3);
+    const int damage = round % 4;
+    if (damage == 0) t.ja[place(random)] = value(random);
+    if (damage == 1) t.ja[place(random)] = round % 8 < 4 ? kFar : -kFar;
+    if (damage == 2) t.ia[place(random)] = round % 8 < 4 ? kFar : 0;
+    if (damage == 3) t.ja[1 + place(random) / 2] = t.ja[place(random) / 2];
+    for (const Solver& s : solvers()) {
+      const Floats b(6, 1.0F);
+      // The lengths count what is stored, so the arrays are as long as a host can make them.
+      const Outcome o = run(s, t, b, few_iterations(1));
+      EXPECT_TRUE(o.is_guarded) << s.name << ": round " << round;
+      if (damage == 1 || damage == 2) {
+        EXPECT_EQ(o.ierr, 3) << s.name << ": round " << round;
+      }
+    }
+  }
+}
+
+TEST(DamagedInput, ValuesThatAreNoNumbers) {
+  for (const float bad : {kNan, std::numeric_limits<float>::infinity()}) {
+    for (const int isym : {0, 1}) {
+      for (const int at : {0, 1, 5}) {
+        Triads t = grid(3, 0);
+        if (isym != 0) t = t.lower();
+        t.a[at] = bad;
+        expect_survival(t, Floats(9, 1.0F), "entry " + std::to_string(at));
+      }
+    }
+    expect_survival(grid(3, 5), {1, 1, 1, bad, 1, 1, 1, 1, 1}, "right-hand side");
+  }
+  const Outcome o = run(solver("SSDCG"), grid(3, 0), {1, 1, kNan, 1, 1, 1, 1, 1, 1}, few_iterations(1));
+  EXPECT_EQ(o.ierr, 2);
+  EXPECT_EQ(o.iter, 6);
+}
+
+TEST(DamagedInput, ZeroAndAbsentDiagonals) {
+  for (const int isym : {0, 1}) {
+    Triads zero = isym != 0 ? grid(4, 0).lower() : grid(4, 0), absent = zero;
+    absent.ia.clear(), absent.ja.clear(), absent.a.clear();
+    for (int k = 0; k < zero.nelt(); ++k) {
+      const bool is_hit = zero.ia[k] == zero.ja[k] && zero.ia[k] % 5 == 2;
+      if (!is_hit) absent.add(zero.ia[k], zero.ja[k], zero.a[k]);
+      if (is_hit) zero.a[k] = 0;
+    }
+    expect_survival(zero, Floats(16, 1.0F), "zero diagonal");
+    expect_survival(absent, Floats(16, 1.0F), "absent diagonal");
+  }
+  Triads one;
+  one.n = 1;
+  one.add(1, 1, 0);
+  expect_survival(one, {1}, "zero of order 1");
+}
+
+// An unsymmetric pattern has more entries below the diagonal than the incomplete Cholesky's arrays hold: then the
+// factors leave some out.
+TEST(DamagedInput, CholeskyOfAnUnsymmetricPattern) {
+  std::mt19937 random(63);
+  Triads t;
+  t.n = 40;
+  for (int j = 1; j <= 40; ++j) {
+    for (int i = j; i <= 40; ++i) t.add(i, j, i == j ? 50 : 1);
+  }
+  const Outcome o = run(solver("SSICCG"), t, Floats(40, 1.0F), few_iterations(1));
+  EXPECT_TRUE(o.is_guarded);
+  const Outcome reused = run_reusing(t, Floats(40, 1.0F), few_iterations(1));
+  EXPECT_TRUE(reused.is_guarded);
+}
+
+}  // namespace
+}  // namespace slap_test

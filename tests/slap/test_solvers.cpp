@@ -1,0 +1,216 @@
+// What every solver has to do, for every solver.
+//
+// A single-precision residual b - A x is known to a few roundings of its largest terms, so ERR is compared with the
+// residual in double precision to kResidualNoise beside a relative kAgreement.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "tests/slap/slap_host.hpp"
+#include "tests/support/capture_output.hpp"
+
+namespace slap_test {
+namespace {
+
+constexpr double kResidualNoise = 2e-5, kAgreement = 0.02;
+
+struct Problem {
+  std::string name;
+  Triads a;
+  bool is_symmetric;
+};
+
+std::vector<Problem> problems() {
+  std::mt19937 random(41);
+  std::vector<Problem> all;
+  all.push_back({"symmetric positive definite", random_dominant(150, 0.04, 1.0, true, random), true});
+  all.push_back({"M-matrix", grid(12, 0), true});
+  all.push_back({"diagonally dominant", random_dominant(150, 0.04, 1.2, false, random), false});
+  all.push_back({"convection", grid(12, 40), false});
+  Triads small;
+  small.n = 1;
+  small.add(1, 1, 4);
+  all.push_back({"order 1", small, true});
+  Triads diagonal;
+  diagonal.n = 5;
+  for (int i = 1; i <= 5; ++i) diagonal.add(i, i, i);
+  all.push_back({"diagonal", diagonal, true});
+  return all;
+}
+
+class EverySolver : public testing::TestWithParam<Solver> {
+ protected:
+  const Solver& s() const { return GetParam(); }
+  // Calls check(problem, b) for the problems that the solver's theory covers.
+  template <class Check>
+  void for_each_problem(const Check& check) const {
+    std::mt19937 random(42);
+    for (const Problem& p : problems()) {
+      if (s().is_symmetric_only() && !p.is_symmetric) continue;
+      SCOPED_TRACE(s().name + ", " + p.name);
+      check(p, right_hand_side(p.a, random_solution(p.a.n, random)));
+    }
+  }
+};
+
+INSTANTIATE_TEST_SUITE_P(All, EverySolver, testing::ValuesIn(solvers()),
+                         [](const auto& tested) { return tested.param.name; });
+
+TEST_P(EverySolver, ConvergesAndTellsTheTrueResidual) {
+  for_each_problem([&](const Problem& p, const Floats& b) {
+    const Outcome o = run(s(), p.a, b);
+    EXPECT_EQ(o.ierr, 0);
+    EXPECT_EQ(o.tol, 1e-4F);
+    EXPECT_LE(o.err, o.tol);
+    EXPECT_GE(o.iter, 1);
+    EXPECT_NEAR(relative_residual(p.a, b, o.x), o.err, kResidualNoise + kAgreement * o.err);
+    EXPECT_TRUE(o.is_guarded);
+    const Outcome again = run(s(), p.a, b, {}, o.x);
+    EXPECT_TRUE(again.iter == 0 || again.err <= 1e-4F) << "a good start is soon good enough";
+  });
+}
+
+TEST_P(EverySolver, TakesEveryStorageOfAMatrix) {
+  std::mt19937 random(43);
+  for_each_problem([&](const Problem& p, const Floats& b) {
+    const Outcome o = run(s(), p.a, b), other = run(s(), p.a.shuffled(random), b);
+    EXPECT_EQ(other.x, o.x) << "triads in another order";
+    const Outcome columns = run(s(), p.a.converted(), b);
+    EXPECT_EQ(columns.x, o.x);
+    EXPECT_EQ(columns.iter, o.iter);
+    EXPECT_EQ(o.matrix.ja[p.a.n], p.a.nelt() + 1) << "columns are left behind";
+    EXPECT_EQ(o.matrix.a, columns.matrix.a);
+    if (!p.is_symmetric) return;
+    const Outcome lower = run(s(), p.a.lower(), b);
+    EXPECT_EQ(lower.ierr, 0);
+    EXPECT_NEAR(lower.iter, o.iter, 1);
+    EXPECT_TRUE(lower.is_guarded);
+    // Both within the tolerance of the same solution; roundings differ.
+    EXPECT_LE(relative_residual(p.a, b, lower.x), 1.3e-4);
+  });
+}
+
+TEST_P(EverySolver, PreconditionedTestAndIndexForm) {
+  for_each_problem([&](const Problem& p, const Floats& b) {
+    Options options;
+    options.itol = 2;
+    const Outcome o = run(s(), p.a, b, options);
+    EXPECT_EQ(o.ierr, 0);
+    EXPECT_LE(o.err, o.tol);
+    // M is not far from A in any of these (from A A^T in two, where squares of the condition count).
+    EXPECT_LE(relative_residual(p.a, b, o.x), 0.02);
+    if (!s().has_index_form()) return;
+    options.index_form = true;
+    const Outcome indexed = run(s(), p.a, b, options);
+    EXPECT_EQ(indexed.x, o.x);
+    EXPECT_EQ(indexed.iter, o.iter);
+    EXPECT_EQ(indexed.matrix.ja, o.matrix.ja);
+  });
+}
+
+// Both entries of a pair count, in products as in preconditioners.
+TEST_P(EverySolver, RepeatedEntriesAddUp) {
+  for_each_problem([&](const Problem& p, const Floats& b) {
+    Triads halves = p.a;
+    for (int k = 0; k < p.a.nelt(); ++k) {
+      // Diagonal preconditioners know the first entry only, so that is left whole.
+      if (p.a.ia[k] == p.a.ja[k] && s().preconditioner == Solver::Preconditioner::kDiagonal) continue;
+      halves.a[k] /= 4;
+      halves.add(p.a.ia[k], p.a.ja[k], 3 * static_cast<double>(halves.a[k]));
+    }
+    const Outcome o = run(s(), p.a, b), repeated = run(s(), halves, b);
+    EXPECT_EQ(repeated.ierr, 0);
+    EXPECT_LE(relative_residual(p.a, b, repeated.x), 1.3e-4);
+    EXPECT_TRUE(repeated.is_guarded);
+    // The factors are those of the whole matrix; only A A^T has another diagonal.
+    if (s().name != "SSDCGN") {
+      EXPECT_NEAR(repeated.iter, o.iter, 1 + o.iter / 10);
+    }
+    if (!p.is_symmetric) return;
+    const Outcome lower = run(s(), halves.lower(), b);
+    EXPECT_NEAR(lower.iter, repeated.iter, 1 + o.iter / 10);
+    EXPECT_TRUE(lower.is_guarded);
+  });
+}
+
+TEST_P(EverySolver, PrintsNothing) {
+  const quorin::test::CapturedOutput output;
+  Options options;
+  options.iunit = 6;
+  for_each_problem([&](const Problem& p, const Floats& b) { run(s(), p.a, b, options); });
+  options.itol = 5;
+  for_each_problem([&](const Problem& p, const Floats& b) { run(s(), p.a, b, options); });
+}
+
+TEST(Solvers, CholeskyFactorsAreUsedAgain) {
+  std::mt19937 random(44);
+  for (const Triads& a : {grid(12, 0), grid(12, 0).lower()}) {
+    const Floats b = right_hand_side(a, random_solution(a.n, random));
+    const Floats c = right_hand_side(a, random_solution(a.n, random));
+    const Outcome first = run_reusing(a, b, {});
+    EXPECT_EQ(first.x, run(solver("SSICCG"), a, b).x);
+    Options options;
+    options.ifact = 0;
+    const Outcome second = run_reusing(first.matrix, c, options, &first);
+    EXPECT_EQ(second.x, run(solver("SSICCG"), a, c).x);
+    EXPECT_TRUE(first.is_guarded && second.is_guarded);
+    EXPECT_EQ(second.iwork, first.iwork);
+  }
+}
+
+TEST(Solvers, HeadersTellWhereThingsAre) {
+  std::mt19937 random(45);
+  const Triads a = grid(5, 0);
+  const int n = a.n, nelt = a.nelt();
+  const Floats b = right_hand_side(a, random_solution(n, random));
+  const auto ends = [&](const char* name) {
+    const Outcome o = run(solver(name), a, b);
+    return std::pair(o.iwork[8], o.iwork[9]);
+  };
+  EXPECT_EQ(ends("SSDCG"), std::pair(11, 5 * n + 1));
+  EXPECT_EQ(ends("SSDBCG"), std::pair(11, 8 * n + 1));
+  EXPECT_EQ(ends("SSJAC"), std::pair(11, 4 * n + 1));
+  EXPECT_EQ(ends("SSDOMN"), std::pair(11, 7 * n + 10 * (3 * n + 1) + 1));
+  EXPECT_EQ(ends("SSDGMR").first, 31);
+  EXPECT_EQ(ends("SSILUR"), std::pair(nelt + 3 * n + 13, nelt + 3 * n + 1));
+  const Outcome diagonal = run(solver("SSDCG"), a, b);
+  EXPECT_EQ(diagonal.iwork[3], 1);
+  EXPECT_EQ(Floats(diagonal.rwork.begin(), diagonal.rwork.begin() + n), Floats(n, 0.25F));
+  const Outcome cholesky = run(solver("SSICCG"), a, b);
+  const int nl = (nelt + n) / 2;
+  EXPECT_EQ(Integers(cholesky.iwork.begin(), cholesky.iwork.begin() + 5), (Integers{nl, 11, 11 + nl, 1, nl + 1}));
+  EXPECT_EQ(cholesky.iwork[8], nl + n + 12);
+  EXPECT_EQ(cholesky.iwork[9], nl + 5 * n + 1);
+}
+
+// GMRES that never restarts and Orthomin that forgets nothing make the same residuals least over the same spaces; GMRES
+// that restarts every step is Orthomin without memory.
+TEST(Solvers, GmresAndOrthominAgreeWhereTheyAreTheSame) {
+  std::mt19937 random(46);
+  for (const char* family : {"SSD", "SSLU"}) {
+    const bool is_diagonal = family == std::string("SSD");
+    const Solver& gmres = solver(is_diagonal ? "SSDGMR" : "SSLUGM");
+    const Solver& orthomin = solver(is_diagonal ? "SSDOMN" : "SSLUOM");
+    const Triads a = grid(14, 3);
+    const Floats b = right_hand_side(a, random_solution(a.n, random));
+    Options options;
+    options.nsave = 150;
+    const Outcome g = run(gmres, a, b, options), o = run(orthomin, a, b, options);
+    EXPECT_EQ(g.ierr, 0);
+    EXPECT_EQ(o.ierr, 0);
+    EXPECT_LT(g.iter, 150);
+    EXPECT_NEAR(g.iter, o.iter, 1) << family;
+    options.nsave = 0;
+    const Outcome forgetful = run(orthomin, a, b, options);
+    EXPECT_EQ(forgetful.ierr, 0);
+    EXPECT_GT(forgetful.iter, o.iter);
+    EXPECT_TRUE(forgetful.is_guarded);
+    if (is_diagonal) continue;
+    options.nsave = 1;
+    EXPECT_NEAR(run(gmres, a, b, options).iter, forgetful.iter, 1);
+  }
+}
+
+}  // namespace
+}  // namespace slap_test
