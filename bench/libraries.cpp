@@ -73,6 +73,25 @@ Umfpack find_umfpack(const Symbols& in) {
           .free_numeric = in["umfpack_di_free_numeric"]};
 }
 
+Slap find_slap(const Symbols& in) {
+  return {.to_columns = in["SS2Y"],
+          .ssdcg = in["SSDCG"],
+          .ssiccg = in["SSICCG"],
+          .ssdcgn = in["SSDCGN"],
+          .sslucn = in["SSLUCN"],
+          .ssdbcg = in["SSDBCG"],
+          .sslubc = in["SSLUBC"],
+          .ssdcgs = in["SSDCGS"],
+          .sslucs = in["SSLUCS"],
+          .ssdgmr = in["SSDGMR"],
+          .sslugm = in["SSLUGM"],
+          .ssdomn = in["SSDOMN"],
+          .ssluom = in["SSLUOM"],
+          .ssjac = in["SSJAC"],
+          .ssgs = in["SSGS"],
+          .ssilur = in["SSILUR"]};
+}
+
 Libraries find_product(const Symbols& in) {
   return {.product = find_blas(in, "quorin", "sMKL_Set_Num_Threads"),
           .index_forms = {.saxpy = in["saxpy_Idx"], .sdot = in["sdot_Idx"], .sgemm = in["sgemm_Idx"]},
@@ -85,6 +104,7 @@ Libraries find_product(const Symbols& in) {
                    .index = in["vspackv"],
                    .mask = in["vspackm"],
                    .unpack_mask = in["vsunpackm"]},
+          .slap = find_slap(in),
           .peer = std::nullopt,
           .peer_description = {}};
 }

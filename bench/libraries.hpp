@@ -10,6 +10,7 @@
 #include "quorin/pack.h"
 #include "quorin/rci.h"
 #include "quorin/signal.h"
+#include "quorin/slap.h"
 #include "quorin/umfpack.h"
 
 namespace quorin::bench {
@@ -80,6 +81,25 @@ struct Pack {
   decltype(&::vsunpackm) unpack_mask;
 };
 
+struct Slap {
+  decltype(&::SS2Y) to_columns;
+  decltype(&::SSDCG) ssdcg;
+  decltype(&::SSICCG) ssiccg;
+  decltype(&::SSDCGN) ssdcgn;
+  decltype(&::SSLUCN) sslucn;
+  decltype(&::SSDBCG) ssdbcg;
+  decltype(&::SSLUBC) sslubc;
+  decltype(&::SSDCGS) ssdcgs;
+  decltype(&::SSLUCS) sslucs;
+  decltype(&::SSDGMR) ssdgmr;
+  decltype(&::SSLUGM) sslugm;
+  decltype(&::SSDOMN) ssdomn;
+  decltype(&::SSLUOM) ssluom;
+  decltype(&::SSJAC) ssjac;
+  decltype(&::SSGS) ssgs;
+  decltype(&::SSILUR) ssilur;
+};
+
 struct Libraries {
   Blas product;
   IndexForms index_forms;
@@ -89,6 +109,7 @@ struct Libraries {
   Amos amos;
   Umfpack umfpack;
   Pack pack;
+  Slap slap;
   std::optional<Blas> peer;
   std::string peer_description;
 };

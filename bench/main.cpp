@@ -137,6 +137,7 @@ void run(int argc, char** argv) {
   add_amos_rows(suite);
   add_umfpack_rows(suite);
   add_pack_rows(suite);
+  add_slap_rows(suite);
 
   std::ofstream file;
   if (!options.out.empty()) {

@@ -5,36 +5,51 @@
 #include "slap/vector_updates.hpp"
 
 namespace quorin::slap {
+namespace {
 
-void biconjugate_gradients(const System& system, Progress& progress, float* vectors) {
+struct BicgVectors {
+  BicgVectors(int n, float* memory) : r(memory), z(r + n), p(z + n), rr(p + n), zz(rr + n), pp(zz + n) {}
+  float *r, *z, *p;
+  float *rr, *zz, *pp;  // their shadows, which A^T moves
+};
+
+// From r = b - A x and z = M^-1 r, with r as its own shadow.
+Leg run_leg(const System& system, Progress& progress, const BicgVectors& v) {
   const int n = system.n();
-  float *const r = vectors, *const z = r + n, *const p = z + n;
-  float *const rr = p + n, *const zz = rr + n, *const pp = zz + n;  // the shadows, for A^T
-  system.residual(r);
-  system.precondition(r, z);
-  if (progress.ends_at_start(system, r, z, p)) return;
-  dense::copy(n, r, 1, rr, 1);
+  dense::copy(n, v.r, 1, v.rr, 1);
   float old_zr = 1;  // the first direction needs none
   for (bool is_first = true; progress.next(); is_first = false) {
-    system.transposed.solve(rr, zz);
-    const float zr = dense::dotu(n, z, 1, rr, 1);
+    const float zr = dense::dotu(n, v.z, 1, v.rr, 1);
+    if (!is_first && is_lost(n, zr, v.z, v.rr)) return progress.lose();
     if (!(std::fabs(zr) > 0)) return progress.fail(kBreakdown);
-    const float beta = zr / old_zr;
-    turn(n, is_first, z, beta, p);
-    turn(n, is_first, zz, beta, pp);
+    system.transposed.solve(v.rr, v.zz);
+    turn(n, is_first, v.z, zr / old_zr, v.p);
+    turn(n, is_first, v.zz, zr / old_zr, v.pp);
     old_zr = zr;
-    float* const q = z;  // A p
-    system.matrix.multiply(p, q);
-    const float pq = dense::dotu(n, pp, 1, q, 1);
+    float* const q = v.z;  // A p
+    system.matrix.multiply(v.p, q);
+    const float pq = dense::dotu(n, v.pp, 1, q, 1);
     if (!(std::fabs(pq) > 0)) return progress.fail(kSecondBreakdown);
     const float alpha = zr / pq;
-    dense::axpy(n, alpha, p, 1, system.x, 1);
-    dense::axpy(n, -alpha, q, 1, r, 1);
-    float* const qq = zz;  // A^T pp
-    system.matrix.multiply_transposed(pp, qq);
-    dense::axpy(n, -alpha, qq, 1, rr, 1);
-    system.precondition(r, z);
-    if (progress.has_converged(system, r, z)) return;
+    dense::axpy(n, alpha, v.p, 1, system.x, 1);
+    dense::axpy(n, -alpha, q, 1, v.r, 1);
+    float* const qq = v.zz;  // A^T pp
+    system.matrix.multiply_transposed(v.pp, qq);
+    dense::axpy(n, -alpha, qq, 1, v.rr, 1);
+    system.precondition(v.r, v.z);
+    if (progress.claims_convergence(progress.tested_norm(system, v.r, v.z))) return Leg::kClaimed;
+  }
+  return Leg::kOver;
+}
+
+}  // namespace
+
+void biconjugate_gradients(const System& system, Progress& progress, float* vectors) {
+  const BicgVectors v(system.n(), vectors);
+  for (Leg leg = Leg::kFirst; leg != Leg::kOver; leg = run_leg(system, progress, v)) {
+    system.residual(v.r);
+    system.precondition(v.r, v.z);
+    if (progress.is_done_after(leg, system, v.r, v.z, v.p)) return;
   }
 }
 

@@ -2,49 +2,69 @@
 
 #include "dense/dense.hpp"
 #include "slap/iterations.hpp"
+#include "slap/vector_updates.hpp"
 
 namespace quorin::slap {
+namespace {
 
-void conjugate_gradients_squared(const System& system, Progress& progress, float* vectors) {
+struct CgsVectors {
+  CgsVectors(int n, float* memory) : r(memory), r0(r + n), p(r0 + n), q(p + n), u(q + n), t(u + n), v(t + n) {}
+  float *r, *r0, *p, *q, *u, *t, *v;
+};
+
+// u <- r + beta q, p <- u + beta (q + beta p)
+void turn(int n, bool is_first, float beta, const CgsVectors& w) {
+  if (is_first) {
+    dense::copy(n, w.r, 1, w.u, 1);
+    dense::copy(n, w.r, 1, w.p, 1);
+    return;
+  }
+  for (int i = 0; i < n; ++i) {
+    w.u[i] = w.r[i] + beta * w.q[i];
+    w.p[i] = w.u[i] + beta * (w.q[i] + beta * w.p[i]);
+  }
+}
+
+// From r = b - A x.
+Leg run_leg(const System& system, Progress& progress, const CgsVectors& w) {
   const int n = system.n();
-  float *const r = vectors, *const r0 = r + n, *const p = r0 + n, *const q = p + n, *const u = q + n;
-  float *const t = u + n, *const v = t + n;
-  system.residual(r);
-  if (progress.tests_preconditioned()) system.precondition(r, t);
-  if (progress.ends_at_start(system, r, t, v)) return;
-  dense::copy(n, r, 1, r0, 1);
-  float old_rho = 0;
+  dense::copy(n, w.r, 1, w.r0, 1);
+  float old_rho = 1;  // the first direction needs none
   for (bool is_first = true; progress.next(); is_first = false) {
-    const float rho = dense::dotu(n, r0, 1, r, 1);
+    const float rho = dense::dotu(n, w.r0, 1, w.r, 1);
+    if (!is_first && is_lost(n, rho, w.r0, w.r)) return progress.lose();
     if (!(std::fabs(rho) > 0)) return progress.fail(kBreakdown);
-    // u = r + beta q, p = u + beta (q + beta p)
-    const float beta = is_first ? 0 : rho / old_rho;
-    if (is_first) {
-      dense::copy(n, r, 1, u, 1);
-      dense::copy(n, r, 1, p, 1);
-    } else {
-      for (int i = 0; i < n; ++i) {
-        u[i] = r[i] + beta * q[i];
-        p[i] = u[i] + beta * (q[i] + beta * p[i]);
-      }
-    }
+    turn(n, is_first, rho / old_rho, w);
     old_rho = rho;
-    system.precondition(p, t);
-    system.matrix.multiply(t, v);
-    const float sigma = dense::dotu(n, r0, 1, v, 1);
+    system.precondition(w.p, w.t);
+    system.matrix.multiply(w.t, w.v);
+    const float sigma = dense::dotu(n, w.r0, 1, w.v, 1);
+    if (!is_first && is_lost(n, sigma, w.r0, w.v)) return progress.lose();
     if (!(std::fabs(sigma) > 0)) return progress.fail(kSecondBreakdown);
     const float alpha = rho / sigma;
     // q = u - alpha v, and t = M^-1 (u + q)
     for (int i = 0; i < n; ++i) {
-      q[i] = u[i] - alpha * v[i];
-      t[i] = u[i] + q[i];
+      w.q[i] = w.u[i] - alpha * w.v[i];
+      w.t[i] = w.u[i] + w.q[i];
     }
-    system.precondition(t, t);
-    dense::axpy(n, alpha, t, 1, system.x, 1);
-    system.matrix.multiply(t, v);
-    dense::axpy(n, -alpha, v, 1, r, 1);
-    if (progress.tests_preconditioned()) system.precondition(r, t);
-    if (progress.has_converged(system, r, t)) return;
+    system.precondition(w.t, w.t);
+    dense::axpy(n, alpha, w.t, 1, system.x, 1);
+    system.matrix.multiply(w.t, w.v);
+    dense::axpy(n, -alpha, w.v, 1, w.r, 1);
+    if (progress.tests_preconditioned()) system.precondition(w.r, w.t);
+    if (progress.claims_convergence(progress.tested_norm(system, w.r, w.t))) return Leg::kClaimed;
+  }
+  return Leg::kOver;
+}
+
+}  // namespace
+
+void conjugate_gradients_squared(const System& system, Progress& progress, float* vectors) {
+  const CgsVectors w(system.n(), vectors);
+  for (Leg leg = Leg::kFirst; leg != Leg::kOver; leg = run_leg(system, progress, w)) {
+    system.residual(w.r);
+    if (progress.tests_preconditioned()) system.precondition(w.r, w.t);
+    if (progress.is_done_after(leg, system, w.r, w.t, w.v)) return;
   }
 }
 

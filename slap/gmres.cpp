@@ -127,15 +127,16 @@ class Cycle {
   bool is_exhausted_ = false;
 };
 
-enum class CycleEnd { kRestart, kBreakdown };
+enum class CycleEnd { kRestart, kClaimed, kBreakdown };
 
 CycleEnd run_cycle(Cycle& cycle, int length, Progress& progress) {
   for (int k = 0; k < length && !progress.is_over(); ++k) {
     progress.next();
     if (!cycle.step()) return CycleEnd::kBreakdown;
     // A test of the solution, which is not there yet, waits for the end of the cycle.
-    const bool is_good = !progress.tests_solution() && progress.has_converged(cycle.residual_norm());
-    if (is_good || cycle.is_exhausted()) break;
+    const bool is_good = !progress.tests_solution() && progress.claims_convergence(cycle.residual_norm());
+    if (is_good) return CycleEnd::kClaimed;
+    if (cycle.is_exhausted()) break;
   }
   return CycleEnd::kRestart;
 }
@@ -149,8 +150,11 @@ void minimal_residuals(const System& system, int length, Progress& progress, flo
   for (;;) {
     const float norm = cycle.take_residual();
     const float tested = progress.tests_solution() ? dense::nrm2(system.n(), system.x, 1) : norm;
-    if (progress.has_converged(tested)) return;
-    if (end == CycleEnd::kBreakdown || !(norm > 0) || !std::isfinite(norm)) return progress.fail(kBreakdown);
+    if (end == CycleEnd::kClaimed ? progress.is_confirmed(tested) : progress.has_converged(tested)) return;
+    if (end == CycleEnd::kBreakdown || !(norm > 0) || !std::isfinite(norm)) {
+      progress.fail(kBreakdown);
+      return;
+    }
     if (progress.is_over()) {
       progress.next();
       return;

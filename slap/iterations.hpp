@@ -27,22 +27,26 @@ struct System {
 // 409-436. 3 vectors. Breakdown: 5, (z, r) <= 0, M is not positive definite; 6, (p, A p) <= 0, A is not.
 void conjugate_gradients(const System& system, Progress& progress, float* vectors);
 
+// The iterations below run in legs (progress.hpp): when the residual of the recurrence passes the test, it is computed
+// anew, and the next leg goes on from that if it does not pass. Otherwise rounding would let the two drift apart.
+
 // Conjugate gradients for A A^T y = b with x = A^T y, M near A A^T: E. J. Craig, J. Math. Phys. 34 (1955) 64-73; Saad,
 // section 8.3.2. 4 vectors. Breakdown: 5, (z, r) <= 0; 6, A^T p = 0, A is singular.
 void normal_equations(const System& system, Progress& progress, float* vectors);
 
 // Biconjugate gradients for a general A: R. Fletcher, Conjugate gradient methods for indefinite systems, Lecture Notes
-// in Mathematics 506 (1976) 73-89. 6 vectors. Breakdown: 5, (z, rr) = 0; 6, (pp, A p) = 0.
+// in Mathematics 506 (1976) 73-89. 6 vectors. A leg also ends when the residual and its shadow have become orthogonal
+// but for rounding; in single precision that is common. Breakdown in the first step of a leg: 5, (z, r) = 0; in any: 6,
+// (pp, A p) = 0.
 void biconjugate_gradients(const System& system, Progress& progress, float* vectors);
 
-// Conjugate gradients squared: P. Sonneveld, SIAM J. Sci. Stat. Comput. 10 (1989) 36-52. 7 vectors. Breakdown: 5, (r0,
-// r) = 0; 6, (r0, A M^-1 p) = 0.
+// Conjugate gradients squared: P. Sonneveld, SIAM J. Sci. Stat. Comput. 10 (1989) 36-52. 7 vectors. Legs as above.
+// Breakdown in the first step of a leg: 5, r = 0; 6, (r, A M^-1 r) = 0.
 void conjugate_gradients_squared(const System& system, Progress& progress, float* vectors);
 
 // Generalised minimal residuals with restarts after `length` >= 1 steps: Y. Saad, M. H. Schultz, SIAM J. Sci. Stat.
 // Comput. 7 (1986) 856-869. length + 2 vectors, then length (length + 3) + 1 entries. It makes least what is tested:
-// ||M^-1 r|| for ITOL = 2, else ||r||. Inside a cycle the recurrence gives the residual; it counts as converged only
-// when the residual computed anew agrees. ITOL = 0 is taken as 1. Breakdown: 5, A is singular or not finite.
+// ||M^-1 r|| for ITOL = 2, else ||r||. Breakdown: 5, A is singular or not finite.
 void minimal_residuals(const System& system, int length, Progress& progress, float* vectors);
 
 // Orthomin(length), length >= 0: P. K. W. Vinsome, Orthomin, an iterative method for solving sparse sets of

@@ -43,21 +43,27 @@ void orthomin(const System& system, int length, Progress& progress, float* vecto
   const Directions directions(n, length, r + n);
   system.residual(r);
   system.precondition(r, directions.p(0));
-  if (progress.ends_at_start(system, r, directions.p(0), directions.q(0))) return;
+  if (progress.is_done_after(Leg::kFirst, system, r, directions.p(0), directions.q(0))) return;
   for (int k = 0; progress.next(); ++k) {
     float *const p = directions.p(k), *const q = directions.q(k);
     system.matrix.multiply(p, q);
     orthogonalise(n, directions, k);
     const float qq = dense::dotu(n, q, 1, q, 1), rq = dense::dotu(n, r, 1, q, 1);
-    if (!(qq > 0)) return progress.fail(kBreakdown);
-    if (rq == 0) return progress.fail(kSecondBreakdown);
+    if (!(qq > 0) || rq == 0) {
+      progress.fail(qq > 0 ? kSecondBreakdown : kBreakdown);
+      return;
+    }
     if (length > 0) directions.inverse(k) = 1 / qq;
     const float alpha = rq / qq;
     dense::axpy(n, alpha, p, 1, system.x, 1);
     dense::axpy(n, -alpha, q, 1, r, 1);
     float* const z = directions.p(k + 1);
     system.precondition(r, z);
-    if (progress.has_converged(system, r, z)) return;
+    if (!progress.claims_convergence(progress.tested_norm(system, r, z))) continue;
+    // So says the recurrence. Its residual drifts from the true one, which takes its place.
+    system.residual(r);
+    system.precondition(r, z);
+    if (progress.is_done_after(Leg::kClaimed, system, r, z, nullptr)) return;
   }
 }
 

@@ -31,27 +31,49 @@ struct StoppingArguments {
   int* ierr;
 };
 
+// Iterations that know their residual from a recurrence run in legs. Each begins with b - A x computed anew.
+enum class Leg {
+  kFirst,
+  kLost,     // rounding made the recurrence useless
+  kClaimed,  // the recurrence's residual passed the test
+  kOver,     // nothing more is to be done
+};
+
 class Progress {
  public:
   // Iteration 0. A tolerance below 500 half epsilons cannot be reached in single precision; it is raised to that.
   explicit Progress(const StoppingArguments& arguments);
 
-  // The test at iteration 0, which fixes the denominator of all others: `r` is the residual, `z` = M^-1 r, `scratch`
-  // has n entries. True: nothing is left to do, the solution is good enough or the test unknown.
-  bool ends_at_start(const System& system, const float* r, const float* z, float* scratch);
+  // Fixes the denominator of the test; `scratch` has n entries. False: the test is unknown, and that is the end.
+  bool start_tests(const System& system, float* scratch);
 
-  // The test after an iteration. z = M^-1 r is read only if tests_preconditioned().
-  bool has_converged(const System& system, const float* r, const float* z);
+  // What the test is about: the norm of r, of z = M^-1 r (read only if tests_preconditioned()), or of the error.
+  float tested_norm(const System& system, const float* r, const float* z) const;
 
-  // The same in two parts, for iterations that know the norm.
-  bool start_tests(const System& system, float* scratch);  // false: the test is unknown
+  // The test of a residual that was computed as b - A x.
   bool has_converged(float norm);
+  // The test of a recurrence's residual. It asks for more once such a claim was found untrue.
+  bool claims_convergence(float norm);
+  // The test of a residual that was computed anew after a claim. True also if three in turn did not make it less:
+  // rounding keeps it there, and ERR tells where.
+  bool is_confirmed(float norm);
+  // Whether nothing is left to do after a leg (or before the first, which starts the tests), r being computed anew.
+  bool is_done_after(Leg leg, const System& system, const float* r, const float* z, float* scratch);
 
   // Goes to the next iteration; false when none is left.
   bool next();
   // Whether next() would be false.
   bool is_over() const { return *arguments_.iter >= arguments_.itmax; }
-  void fail(Status status) { *arguments_.ierr = status; }
+  // The end by a breakdown.
+  Leg fail(Status status) {
+    *arguments_.ierr = status;
+    return Leg::kOver;
+  }
+  // Goes back: the iteration that next() went to has not begun.
+  Leg lose() {
+    --*arguments_.iter;
+    return Leg::kLost;
+  }
 
   bool tests_preconditioned() const { return arguments_.itol == kPreconditionedResidual; }
   bool tests_solution() const { return arguments_.itol == kKnownSolution; }
@@ -59,6 +81,8 @@ class Progress {
  private:
   StoppingArguments arguments_;
   float denominator_ = 0;
+  float least_claimed_;  // the least error behind a claim
+  int untrue_claims_ = 0, idle_claims_ = 0;
 };
 
 }  // namespace quorin::slap

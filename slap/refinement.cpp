@@ -14,12 +14,12 @@ void refinement(const System& system, Progress& progress, float* vectors) {
   system.residual(r);
   if (!progress.start_tests(system, z)) return;
   system.precondition(r, z);
-  if (progress.has_converged(system, r, z)) return;
+  if (progress.has_converged(progress.tested_norm(system, r, z))) return;
   while (progress.next()) {
     dense::axpy(n, 1.0F, z, 1, system.x, 1);
     system.residual(r);
     system.precondition(r, z);
-    if (progress.has_converged(system, r, z)) return;
+    if (progress.has_converged(progress.tested_norm(system, r, z))) return;
   }
 }
 

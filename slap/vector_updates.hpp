@@ -1,5 +1,8 @@
-// Updates of long vectors that the BLAS has no routine for.
+// What the Lanczos-type iterations share.
 #pragma once
+
+#include <cmath>
+#include <limits>
 
 #include "dense/dense.hpp"
 
@@ -9,6 +12,13 @@ namespace quorin::slap {
 inline void turn(int n, bool is_first, const float* z, float beta, float* p) {
   if (is_first) return dense::copy(n, z, 1, p, 1);
   for (int i = 0; i < n; ++i) p[i] = z[i] + beta * p[i];
+}
+
+// Whether x . y, as computed, has lost nearly all its digits to cancellation. A recurrence that divides by it then has
+// nothing to go by; one that starts anew, with the residual of the moment as its shadow, gets further.
+inline bool is_lost(int n, float product, const float* x, const float* y) {
+  constexpr float kNoise = 32 * std::numeric_limits<float>::epsilon();
+  return !(std::fabs(product) > kNoise * dense::nrm2(n, x, 1) * dense::nrm2(n, y, 1));
 }
 
 }  // namespace quorin::slap

@@ -12,9 +12,12 @@
  * X holds a first guess, then the solution. The iteration ends when ERR <= TOL, where ERR is, for ITOL = 1, ||r|| /
  * ||B|| with r = B - A X; for ITOL = 2, ||M^-1 r|| / ||M^-1 B|| with the preconditioner M (that of A A^T in SSDCGN and
  * SSLUCN); for ITOL = 11, the distance to a known solution, which this library has no way to give, so that it never
- * passes. SSDGMR and SSLUGM take ITOL = 0 as 1. A TOL below 500 R1MACH(3) = 2.98e-5 is raised to that. ITMAX bounds the
- * iterations; ITER is their number, ITMAX+1 without convergence. NSAVE is the number of steps between restarts (GMRES)
- * or of earlier directions that a new one is made orthogonal to (Orthomin).
+ * passes. SSDGMR and SSLUGM take ITOL = 0 as 1. A TOL below 500 R1MACH(3) = 2.98e-5 is raised to that. Where the
+ * recurrence of an iteration passes the test, the residual is computed anew and ERR is that of X itself (not in SSDCG,
+ * SSICCG and SSICCGC, which trust the recurrence as published); if rounding keeps it above TOL, X is returned as good
+ * as it gets, and ERR tells. ITMAX bounds the iterations; ITER is their number, ITMAX+1 without convergence. NSAVE is
+ * the number of steps between restarts (GMRES) or of earlier directions that a new one is made orthogonal to
+ * (Orthomin).
  *
  * IERR: 0 converged; 2 not converged within ITMAX iterations; 3 bad input: N < 1 or NELT < 1 (nothing is touched then),
  * an unknown ITOL (ERR = 1.0E10), NSAVE too small (below 2 in SSDGMR, 1 in SSLUGM, 0 in SSDOMN and SSLUOM), or a row
@@ -119,10 +122,10 @@ QUORIN_API void QUORIN_CDECL SSLUCN_Idx(const int32_t* N, const float* B, int32_
 
 /* ---- General systems ---- */
 
-/* Biconjugate gradients with diagonal scaling. IERR 5: the residuals of A and A^T are orthogonal; 6: so are the
-   directions of A^T and A times those of A. -- B: N; X: N, in, out; IA: NELT, in, out; JA: NELT or N+2, in, out; A: NELT,
-   in, out; TOL: in, out; ITER: out; ERR: out; IERR: out; IUNIT: 1; RWORK: LENW, in, out; LENW: 1; IWORK: LENIW, in, out;
-   LENIW: 1 */
+/* Biconjugate gradients with diagonal scaling. It starts anew when rounding has made the residuals of A and A^T
+   orthogonal. IERR 5: (M^-1 r, r) = 0; 6: the directions of A^T are orthogonal to A times those of A. -- B: N; X: N, in,
+   out; IA: NELT, in, out; JA: NELT or N+2, in, out; A: NELT, in, out; TOL: in, out; ITER: out; ERR: out; IERR: out; IUNIT:
+   1; RWORK: LENW, in, out; LENW: 1; IWORK: LENIW, in, out; LENIW: 1 */
 QUORIN_API void QUORIN_CDECL SSDBCG(const int32_t* N, const float* B, float* X, const int32_t* NELT, int32_t* IA,
                                     int32_t* JA, float* A, const int32_t* ISYM, const int32_t* ITOL, float* TOL,
                                     const int32_t* ITMAX, int32_t* ITER, float* ERR, int32_t* IERR,
@@ -145,9 +148,10 @@ QUORIN_API void QUORIN_CDECL SSLUBC_Idx(const int32_t* N, const float* B, int32_
                                         int32_t RWORK_index, const int32_t* LENW, int32_t* IWORK, int32_t IWORK_index,
                                         const int32_t* LENIW);
 
-/* Conjugate gradients squared with diagonal scaling. IERR 5: the residual is orthogonal to the first one; 6: so is the
-   product with the direction. -- B: N; X: N, in, out; IA: NELT, in, out; JA: NELT or N+2, in, out; A: NELT, in, out; TOL:
-   in, out; ITER: out; ERR: out; IERR: out; IUNIT: 1; RWORK: LENW, in, out; LENW: 1; IWORK: LENIW, in, out; LENIW: 1 */
+/* Conjugate gradients squared with diagonal scaling. It starts anew when rounding has made the residual orthogonal to
+   the first one. IERR 5: r = 0, or not finite; 6: (r, A M^-1 r) = 0. -- B: N; X: N, in, out; IA: NELT, in, out; JA: NELT
+   or N+2, in, out; A: NELT, in, out; TOL: in, out; ITER: out; ERR: out; IERR: out; IUNIT: 1; RWORK: LENW, in, out; LENW:
+   1; IWORK: LENIW, in, out; LENIW: 1 */
 QUORIN_API void QUORIN_CDECL SSDCGS(const int32_t* N, const float* B, float* X, const int32_t* NELT, int32_t* IA,
                                     int32_t* JA, float* A, const int32_t* ISYM, const int32_t* ITOL, float* TOL,
                                     const int32_t* ITMAX, int32_t* ITER, float* ERR, int32_t* IERR,

@@ -1,0 +1,200 @@
+// The SLAP solvers: what an iteration costs beside the memory's limit, and the time to a solution beside Eigen's.
+#include <cmath>
+#include <cstddef>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "bench/sparse_solver.hpp"
+#include "bench/suite.hpp"
+
+namespace quorin::bench {
+namespace {
+
+constexpr int kDirections = 20;
+
+// Five-point differences on side x side inner points of the unit square: -laplace u + wind (u_x + u_y / 2), upwind.
+Triads grid(int side, double wind) {
+  Triads a;
+  a.order = side * side;
+  const double w = wind / (side + 1);
+  const auto add = [&](int row, int column, double value) {
+    a.rows.push_back(row);
+    a.columns.push_back(column);
+    a.values.push_back(static_cast<float>(value));
+  };
+  for (int row = 1; row <= a.order; ++row) {
+    const int i = (row - 1) / side, j = (row - 1) % side;
+    if (i > 0) add(row, row - side, -1 - w / 2);
+    if (j > 0) add(row, row - 1, -1 - w);
+    add(row, row, 4 + 1.5 * w);
+    if (j + 1 < side) add(row, row + 1, -1);
+    if (i + 1 < side) add(row, row + side, -1);
+  }
+  return a;
+}
+
+// Symmetric, barely dominant, with about 11 entries a row at places without order: little is found in a cache.
+Triads scattered(int order) {
+  Triads a;
+  a.order = order;
+  std::vector<float> sums(static_cast<std::size_t>(order) + 1);
+  std::uint32_t bits = 0x9E3779B9;
+  const auto add = [&](int row, int column, float value) {
+    a.rows.push_back(row);
+    a.columns.push_back(column);
+    a.values.push_back(value);
+    sums[static_cast<std::size_t>(row)] += std::fabs(value);
+  };
+  for (int row = 1; row <= order; ++row) {
+    for (int k = 0; k < 5; ++k) {
+      bits = bits * 1664525 + 1013904223;
+      const int column = 1 + static_cast<int>(bits >> 8) % order;
+      if (column == row) continue;
+      add(row, column, -1);
+      add(column, row, -1);
+    }
+  }
+  for (int row = 1; row <= order; ++row) add(row, row, 1.01F * sums[static_cast<std::size_t>(row)]);
+  return a;
+}
+
+// Smooth, so that it takes iterations to carry it across a grid.
+std::vector<float> right_hand_side(int order) {
+  std::vector<float> b(static_cast<std::size_t>(order));
+  for (std::size_t i = 0; i < b.size(); ++i) b[i] = static_cast<float>(1 + std::sin(0.001 * static_cast<double>(i)));
+  return b;
+}
+
+struct Solver {
+  std::string name;
+  decltype(&::SSDCG) Slap::*common;
+  decltype(&::SSDGMR) Slap::*with_directions;
+  bool is_symmetric;
+  // Of an iteration: products with A, solves with a whole set of factors, passes over vectors of n.
+  double products, solves, vectors;
+  PeerIteration peer;
+  PeerPreconditioner peer_preconditioner;
+};
+
+// Passes: each read or written vector of a step counts one; a solve's own (in, out, pivots) are counted with the solve.
+std::vector<Solver> solvers() {
+  using I = PeerIteration;
+  using M = PeerPreconditioner;
+  constexpr double kCg = 2 + 3 + 2 + 3 + 3 + 1, kDiagonal = 3;
+  constexpr double kNormal = kCg, kBicg = 2 + 3 + 3 + 2 + 3 + 3 + 3 + 1, kCgs = 2 + 7 + 2 + 4 + 3 + 3 + 1;
+  constexpr double kRefinement = 3 + 3 + 1, m = kDirections;
+  // A new direction is made orthogonal to 0, 1 .. m others.
+  constexpr double kOrthomin = m * (2 + 3 + 3) + 2 + 2 + 3 + 3 + 1, kGmres = (m + 1) / 2 * (2 + 3) + 1 + 1 + 2 + 3;
+  return {
+      {"SSDCG", &Slap::ssdcg, nullptr, true, 1, 0, kCg + kDiagonal, I::kCg, M::kDiagonal},
+      {"SSICCG", &Slap::ssiccg, nullptr, true, 1, 1, kCg, I::kCg, M::kIncomplete},
+      {"SSDCGN", &Slap::ssdcgn, nullptr, false, 2, 0, kNormal + kDiagonal, I::kLeastSquaresCg, M::kDiagonal},
+      {"SSLUCN", &Slap::sslucn, nullptr, false, 2, 2, kNormal, I::kLeastSquaresCg, M::kDiagonal},
+      {"SSDBCG", &Slap::ssdbcg, nullptr, false, 2, 0, kBicg + 2 * kDiagonal, I::kBicgstab, M::kDiagonal},
+      {"SSLUBC", &Slap::sslubc, nullptr, false, 2, 2, kBicg, I::kBicgstab, M::kIncomplete},
+      {"SSDCGS", &Slap::ssdcgs, nullptr, false, 2, 0, kCgs + 2 * kDiagonal, I::kBicgstab, M::kDiagonal},
+      {"SSLUCS", &Slap::sslucs, nullptr, false, 2, 2, kCgs, I::kBicgstab, M::kIncomplete},
+      {"SSDGMR", nullptr, &Slap::ssdgmr, false, 1, 0, kGmres + kDiagonal, I::kGmres, M::kDiagonal},
+      {"SSLUGM", nullptr, &Slap::sslugm, false, 1, 1, kGmres, I::kGmres, M::kIncomplete},
+      {"SSDOMN", nullptr, &Slap::ssdomn, false, 1, 0, kOrthomin + kDiagonal, I::kGmres, M::kDiagonal},
+      {"SSLUOM", nullptr, &Slap::ssluom, false, 1, 1, kOrthomin, I::kGmres, M::kIncomplete},
+      {"SSJAC", &Slap::ssjac, nullptr, false, 1, 0, kRefinement + kDiagonal, I::kBicgstab, M::kDiagonal},
+      {"SSGS", &Slap::ssgs, nullptr, false, 1, 0.5, kRefinement, I::kBicgstab, M::kDiagonal},
+      {"SSILUR", &Slap::ssilur, nullptr, false, 1, 1, kRefinement, I::kBicgstab, M::kIncomplete},
+  };
+}
+
+// Bytes that an iteration has to touch: a product reads A and x, and clears, reads and writes y; a solve reads the
+// factors, and each entry of the vector twice and writes it twice.
+double bytes_per_iteration(const Solver& s, const Triads& a) {
+  const double n = a.order, entries = static_cast<double>(a.values.size());
+  const double product = 8 * entries + 4 * n + 4 * (4 * n);
+  const double solve = 8 * (entries - n) + 2 * 4 * n + 4 * n + 4 * (4 * n);
+  return s.products * product + s.solves * solve + s.vectors * 4 * n;
+}
+
+double footprint(const Solver& s, const Triads& a) {
+  const double n = a.order, entries = static_cast<double>(a.values.size());
+  const double directions = s.with_directions == nullptr ? 0 : 2 * kDirections;
+  return 8 * entries * (s.solves > 0 ? 2 : 1) + 4 * n * (8 + directions);
+}
+
+class SlapCall {
+ public:
+  // `limit` iterations if that is positive, else until the residual is 1e-4 of the right-hand side.
+  SlapCall(const Slap& slap, const Solver& s, const Triads& a, int limit)
+      : solver_(s), slap_(slap), n_(a.order), limit_(limit), a_(a), b_(right_hand_side(a.order)) {
+    const auto n = static_cast<std::size_t>(n_), entries = a.values.size();
+    nelt_ = static_cast<int>(entries);
+    a_.columns.resize(std::max(entries, n + 2));
+    slap_.to_columns(&n_, &nelt_, a_.rows.data(), a_.columns.data(), a_.values.data(), &kFull);
+    rwork_.resize(2 * entries + n * (3 * kDirections + 12) + kDirections * (kDirections + 4));
+    iwork_.resize(2 * entries + 5 * n + 64);
+    x_.resize(n);
+  }
+
+  void operator()() {
+    std::fill(x_.begin(), x_.end(), 0.0F);
+    float tolerance = 1e-4F, error = 0;
+    const int itol = 1, most = limit_ > 0 ? limit_ : 20000, unit = 0, length = 0;
+    int iterations = 0, status = -1;
+    if (solver_.common != nullptr) {
+      (slap_.*solver_.common)(&n_, b_.data(), x_.data(), &nelt_, a_.rows.data(), a_.columns.data(), a_.values.data(),
+                              &kFull, &itol, &tolerance, &most, &iterations, &error, &status, &unit, rwork_.data(),
+                              &length, iwork_.data(), &length);
+    } else {
+      (slap_.*solver_.with_directions)(&n_, b_.data(), x_.data(), &nelt_, a_.rows.data(), a_.columns.data(),
+                                       a_.values.data(), &kFull, &kDirections, &itol, &tolerance, &most, &iterations,
+                                       &error, &status, &unit, rwork_.data(), &length, iwork_.data(), &length);
+    }
+    if (status != (limit_ > 0 ? 2 : 0)) throw std::runtime_error(solver_.name + " does not do what the row expects");
+  }
+
+ private:
+  static constexpr int kFull = 0;
+  Solver solver_;
+  const Slap& slap_;
+  int n_, nelt_ = 0, limit_;
+  Triads a_;
+  std::vector<float> b_, x_, rwork_;
+  std::vector<int> iwork_;
+};
+
+void add_iteration_row(Suite& suite, const Solver& s, int side) {
+  // The set-up counts as nothing, so there are enough iterations to make it little. None converges in so many.
+  constexpr int kIterations = 40;
+  const Triads a = grid(side, 0);
+  const Row row{"slap-iteration", s.name,        a.order,        1, kIterations * bytes_per_iteration(s, a),
+                Unit::kByte,      Limit::kTriad, footprint(s, a)};
+  suite.measure(row, "quorin", [&slap = suite.libraries().slap, s, a] { return SlapCall(slap, s, a, kIterations); });
+  suite.add_limit(row);
+}
+
+void add_solution_row(Suite& suite, const Solver& s, const Triads& a) {
+  const Row row{"slap-solution", s.name, a.order, 1, 3e9, Unit::kTime};
+  suite.measure(row, "quorin", [&slap = suite.libraries().slap, s, a] { return SlapCall(slap, s, a, 0); });
+  if (!EigenSolver::is_there()) return;
+  suite.measure(row, "eigen", [s, a] {
+    return [b = right_hand_side(a.order), peer = EigenSolver(a, s.peer, s.peer_preconditioner, kDirections)]() mutable {
+      peer.solve(b, 1e-4F);
+    };
+  });
+}
+
+}  // namespace
+
+void add_slap_rows(Suite& suite) {
+  for (const Solver& s : solvers()) {
+    for (const int side : suite.sizes({100, 1000}, {300})) add_iteration_row(suite, s, side);
+  }
+  // The orders tell the problems apart in the tables.
+  const Triads poisson = grid(100, 0), wind = grid(150, 200), random = scattered(40'000);
+  for (const Solver& s : solvers()) {
+    add_solution_row(suite, s, poisson);
+    if (!s.is_symmetric) add_solution_row(suite, s, wind);
+    add_solution_row(suite, s, random);
+  }
+}
+
+}  // namespace quorin::bench
