@@ -54,6 +54,20 @@ SECTIONS = {
         "One thread, n elements, against the loop that a host would write. vspacki: increment 2; vspackv: random indices; vspackm,"
         " vsunpackm: a random half.",
     ),
+    "slap-iteration": (
+        "SLAP: the cost of an iteration",
+        "One thread. 40 iterations with five-point differences on a square, n unknowns, NSAVE = 20; the set-up is in the time and not in"
+        " the work. The work is the bytes that the iterations have to touch: matrix, factors, and the vectors of every pass. The limit is y <- a x + y"
+        " on arrays as large as all of these together. Where the arrays fit a cache, indirect addresses bound the speed, not the memory.",
+    ),
+    "slap-solution": (
+        "SLAP: the time to a solution",
+        "One thread, set-up included, ||r|| <= 1e-4 ||b|| from zero, NSAVE = 20. n = 10000: Poisson's equation; n = 22500: convection and"
+        " diffusion; n = 5000: a symmetric dominant matrix without order. Peers in single precision: ConjugateGradient with a diagonal or IncompleteCholesky for"
+        " SSDCG and SSICCG, LeastSquaresConjugateGradient for SSDCGN and SSLUCN, GMRES for GMRES and Orthomin, and BiCGSTAB for the"
+        " others, with a diagonal or IncompleteLUT of about as many entries. They have no counterpart for the iterations of"
+        " SSJAC, SSGS and SSILUR.",
+    ),
 }
 
 

@@ -189,7 +189,7 @@ void add_slap_rows(Suite& suite) {
     for (const int side : suite.sizes({100, 1000}, {300})) add_iteration_row(suite, s, side);
   }
   // The orders tell the problems apart in the tables.
-  const Triads poisson = grid(100, 0), wind = grid(150, 200), random = scattered(40'000);
+  const Triads poisson = grid(100, 0), wind = grid(150, 200), random = scattered(5000);
   for (const Solver& s : solvers()) {
     add_solution_row(suite, s, poisson);
     if (!s.is_symmetric) add_solution_row(suite, s, wind);

@@ -51,8 +51,7 @@ void minimal_residuals(const System& system, int length, Progress& progress, flo
 
 // Orthomin(length), length >= 0: P. K. W. Vinsome, Orthomin, an iterative method for solving sparse sets of
 // simultaneous linear equations, SPE 5729 (1976). A p is made orthogonal to the last `length` directions' A p, and each
-// step makes
-// ||r|| least along p. 2 length + 3 vectors, then `length` entries. Breakdown: 5, A p = 0; 6, (r, A p) = 0.
+// step makes ||r|| least along p. 2 length + 3 vectors, then `length` entries. Breakdown: 5, A p = 0; 6, (r, A p) = 0.
 void orthomin(const System& system, int length, Progress& progress, float* vectors);
 
 // x <- x + M^-1 (b - A x): Jacobi's and Gauss and Seidel's iterations, refinement with incomplete factors. 2 vectors.

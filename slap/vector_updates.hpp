@@ -1,4 +1,4 @@
-// What the Lanczos-type iterations share.
+// What iterations with directions share.
 #pragma once
 
 #include <cmath>

@@ -14,6 +14,7 @@ int main() {
   demo::signal_rows(library, report);
   demo::rci_rows(library, report);
   demo::least_squares_rows(library, report);
+  demo::slap_rows(library, report);
   demo::amos_rows(library, report);
   demo::umfpack_rows(library, report);
   std::printf("\n%d rows, %d failed\n", report.rows(), report.failures());

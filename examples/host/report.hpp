@@ -56,6 +56,7 @@ void lapack_rows(const Library& library, Report& report);
 void signal_rows(const Library& library, Report& report);
 void rci_rows(const Library& library, Report& report);
 void least_squares_rows(const Library& library, Report& report);
+void slap_rows(const Library& library, Report& report);
 void amos_rows(const Library& library, Report& report);
 void umfpack_rows(const Library& library, Report& report);
 

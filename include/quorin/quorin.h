@@ -10,8 +10,8 @@
 #include "quorin/rci.h"
 #include "quorin/services.h"
 #include "quorin/signal.h"
-#include "quorin/umfpack.h"
-#include "quorin/trust_region.h"
 #include "quorin/slap.h"
+#include "quorin/trust_region.h"
+#include "quorin/umfpack.h"
 
 #endif
