@@ -28,6 +28,8 @@ std::vector<Problem> problems() {
   all.push_back({"M-matrix", grid(12, 0), true});
   all.push_back({"diagonally dominant", random_dominant(150, 0.04, 1.2, false, random), false});
   all.push_back({"convection", grid(12, 40), false});
+  // Biconjugate recurrences lose all digits here.
+  all.push_back({"strong convection", grid(40, 150), false});
   Triads small;
   small.n = 1;
   small.add(1, 1, 4);
