@@ -20,7 +20,7 @@ Leg run_leg(const System& system, Progress& progress, const BicgVectors& v) {
   float old_zr = 1;  // the first direction needs none
   for (bool is_first = true; progress.next(); is_first = false) {
     const float zr = dense::dotu(n, v.z, 1, v.rr, 1);
-    if (!is_first && is_lost(n, zr, v.z, v.rr)) return progress.lose();
+    if (!is_first && is_lost(zr, dense::nrm2(n, v.z, 1), dense::nrm2(n, v.rr, 1))) return progress.lose();
     if (!(std::fabs(zr) > 0)) return progress.fail(kBreakdown);
     system.transposed.solve(v.rr, v.zz);
     turn(n, is_first, v.z, zr / old_zr, v.p);

@@ -29,17 +29,18 @@ void turn(int n, bool is_first, float beta, const CgsVectors& w) {
 Leg run_leg(const System& system, Progress& progress, const CgsVectors& w) {
   const int n = system.n();
   dense::copy(n, w.r, 1, w.r0, 1);
+  const float norm_r0 = dense::nrm2(n, w.r0, 1);
   float old_rho = 1;  // the first direction needs none
   for (bool is_first = true; progress.next(); is_first = false) {
     const float rho = dense::dotu(n, w.r0, 1, w.r, 1);
-    if (!is_first && is_lost(n, rho, w.r0, w.r)) return progress.lose();
+    if (!is_first && is_lost(rho, norm_r0, dense::nrm2(n, w.r, 1))) return progress.lose();
     if (!(std::fabs(rho) > 0)) return progress.fail(kBreakdown);
     turn(n, is_first, rho / old_rho, w);
     old_rho = rho;
     system.precondition(w.p, w.t);
     system.matrix.multiply(w.t, w.v);
     const float sigma = dense::dotu(n, w.r0, 1, w.v, 1);
-    if (!is_first && is_lost(n, sigma, w.r0, w.v)) return progress.lose();
+    if (!is_first && is_lost(sigma, norm_r0, dense::nrm2(n, w.v, 1))) return progress.lose();
     if (!(std::fabs(sigma) > 0)) return progress.fail(kSecondBreakdown);
     const float alpha = rho / sigma;
     // q = u - alpha v, and t = M^-1 (u + q)

@@ -40,7 +40,6 @@ class Cycle {
   void start(float norm) {
     dense::scal(n_, 1 / norm, v(0), 1);
     g_[0] = norm;
-    is_exhausted_ = false;
     steps_ = 0;
   }
 
@@ -57,19 +56,16 @@ class Cycle {
       dense::axpy(n_, -h, v(i), 1, w, 1);
       column(k)[i] = h;
     }
-    float after = dense::nrm2(n_, w, 1);
+    const float after = dense::nrm2(n_, w, 1);
     const float noise = static_cast<float>(k + 1) * std::numeric_limits<float>::epsilon() * before;
-    if (after <= noise) after = 0;  // the space is exhausted
     if (!rotate(k, after, noise)) return false;
     if (after > 0) dense::scal(n_, 1 / after, w, 1);
     ++steps_;
-    is_exhausted_ = after == 0;
     return true;
   }
 
   // The norm of the residual, as the recurrence has it.
   float residual_norm() const { return std::fabs(g_[steps_]); }
-  bool is_exhausted() const { return is_exhausted_; }
 
   // x <- x + V y, or x + M^-1 V y.
   void correct() {
@@ -124,7 +120,6 @@ class Cycle {
   int n_;
   float *v_, *z_, *r_, *cosines_, *sines_, *g_;
   int steps_ = 0;
-  bool is_exhausted_ = false;
 };
 
 enum class CycleEnd { kRestart, kClaimed, kBreakdown };
@@ -134,9 +129,7 @@ CycleEnd run_cycle(Cycle& cycle, int length, Progress& progress) {
     progress.next();
     if (!cycle.step()) return CycleEnd::kBreakdown;
     // A test of the solution, which is not there yet, waits for the end of the cycle.
-    const bool is_good = !progress.tests_solution() && progress.claims_convergence(cycle.residual_norm());
-    if (is_good) return CycleEnd::kClaimed;
-    if (cycle.is_exhausted()) break;
+    if (!progress.tests_solution() && progress.claims_convergence(cycle.residual_norm())) return CycleEnd::kClaimed;
   }
   return CycleEnd::kRestart;
 }

@@ -14,11 +14,12 @@ inline void turn(int n, bool is_first, const float* z, float beta, float* p) {
   for (int i = 0; i < n; ++i) p[i] = z[i] + beta * p[i];
 }
 
-// Whether x . y, as computed, has lost nearly all its digits to cancellation. A recurrence that divides by it then has
-// nothing to go by; one that starts anew, with the residual of the moment as its shadow, gets further.
-inline bool is_lost(int n, float product, const float* x, const float* y) {
+// Whether x . y, as computed for vectors of these norms, has lost nearly all its digits to cancellation. A recurrence
+// that divides by it then has nothing to go by; one that starts anew, with the residual of the moment as its shadow,
+// gets further.
+inline bool is_lost(float product, float norm_x, float norm_y) {
   constexpr float kNoise = 32 * std::numeric_limits<float>::epsilon();
-  return !(std::fabs(product) > kNoise * dense::nrm2(n, x, 1) * dense::nrm2(n, y, 1));
+  return !(std::fabs(product) > kNoise * norm_x * norm_y);
 }
 
 }  // namespace quorin::slap

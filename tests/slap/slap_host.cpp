@@ -198,7 +198,7 @@ std::vector<T> copy(Guarded<T>& array) {
 
 // One call: the arguments as addresses, and the result.
 struct Call {
-  Call(const Triads& a, Options given, Floats start, Lengths size)
+  Call(const Triads& a, const Options& given, const Floats& start, Lengths size)
       : options(given),
         rwork(static_cast<std::size_t>(std::max(size.reals, 0)), std::nanf("")),
         iwork(static_cast<std::size_t>(std::max(size.integers, 0)), -777),
@@ -226,8 +226,8 @@ struct Call {
 
 }  // namespace
 
-Outcome run(const Solver& s, const Triads& a, const Floats& b, const Options& options, Floats start) {
-  Call c(a, options, std::move(start), a.n < 1 || a.nelt() < 1 ? Lengths{0, 0} : lengths(s, a, options.nsave));
+Outcome run(const Solver& s, const Triads& a, const Floats& b, const Options& options, const Floats& start) {
+  Call c(a, options, start, a.n < 1 || a.nelt() < 1 ? Lengths{0, 0} : lengths(s, a, options.nsave));
   Triads& m = c.result.matrix;
   Outcome& r = c.result;
   const Options& o = c.options;

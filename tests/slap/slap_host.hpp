@@ -81,7 +81,7 @@ struct Outcome {
   bool is_guarded = false;  // nothing was written behind or in front of the work arrays
 };
 
-Outcome run(const Solver& s, const Triads& a, const Floats& b, const Options& options = {}, Floats start = {});
+Outcome run(const Solver& s, const Triads& a, const Floats& b, const Options& options = {}, const Floats& start = {});
 // SSICCGC, which takes the work arrays of `earlier` if that is given.
 Outcome run_reusing(const Triads& a, const Floats& b, const Options& options, const Outcome* earlier = nullptr);
 
