@@ -109,6 +109,9 @@ TEST(Status, LimitsOfIterations) {
       EXPECT_EQ(good.iter, 0);
       EXPECT_EQ(good.x, exact);
     }
+    // Two drivers put the limit before everything.
+    const Outcome unknown = run(s, a, b, {.itol = 5, .itmax = -1});
+    EXPECT_EQ(unknown.ierr, s.name == "SSDCGN" || s.name == "SSDGMR" ? 2 : 3) << s.name;
   }
 }
 
