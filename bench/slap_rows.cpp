@@ -1,6 +1,8 @@
 // The SLAP solvers: what an iteration costs beside the memory's limit, and the time to a solution beside Eigen's.
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <stdexcept>
 #include <string>
 #include <vector>
