@@ -7,6 +7,12 @@
 namespace quorin::bench {
 namespace {
 
+#if defined(_WIN32)
+constexpr const char* kLapackPeerFile = "lapack_peer.dll";
+#else
+constexpr const char* kLapackPeerFile = "libopenblas.so.0";
+#endif
+
 // A function of a library; initialises pointers of any type.
 class Found {
  public:
@@ -40,6 +46,17 @@ class Symbols {
   std::string suffix_;
 };
 
+Lapack find_lapack(const Symbols& in) {
+  return {.sgetrf = in["sgetrf"],
+          .cgetrf = in["cgetrf"],
+          .spotrf = in["spotrf"],
+          .sgeqrf = in["sgeqrf"],
+          .ssyevr = in["ssyevr"],
+          .cheevr = in["cheevr"],
+          .sgesdd = in["sgesdd"],
+          .sgeev = in["sgeev"]};
+}
+
 Blas find_blas(const Symbols& in, const std::string& name, const std::string& thread_setter) {
   return {.name = name,
           .set_threads = in.exactly(thread_setter),
@@ -49,7 +66,8 @@ Blas find_blas(const Symbols& in, const std::string& name, const std::string& th
           .sgemm = in["sgemm"],
           .cgemm = in["cgemm"],
           .ssyrk = in["ssyrk"],
-          .strsm = in["strsm"]};
+          .strsm = in["strsm"],
+          .lapack = std::nullopt};
 }
 
 Rci find_rci(const Symbols& in) {
@@ -121,10 +139,16 @@ std::string describe_openblas(const Symbols& in) {
 Libraries load_libraries(const std::string& product_file, const std::string& peer_file) {
   const platform::Module product = platform::open_module(product_file.c_str());
   if (product == nullptr) throw std::runtime_error("cannot load " + product_file);
-  Libraries libraries = find_product(Symbols(product, product_file, ""));
+  const Symbols symbols(product, product_file, "");
+  Libraries libraries = find_product(symbols);
+  libraries.product.lapack = find_lapack(symbols);
   if (const platform::Module peer = platform::open_module(peer_file.c_str())) {
     const Symbols peer_symbols(peer, peer_file, "_");
     libraries.peer = find_blas(peer_symbols, "openblas", "openblas_set_num_threads");
+    // On Windows the peer comes without LAPACK: another DLL has it, over the peer.
+    if (const platform::Module lapack = platform::open_module(kLapackPeerFile)) {
+      libraries.peer->lapack = find_lapack(Symbols(lapack, kLapackPeerFile, "_"));
+    }
     libraries.peer_description = describe_openblas(peer_symbols);
   }
   return libraries;

@@ -7,6 +7,7 @@
 
 #include "quorin/amos.h"
 #include "quorin/blas.h"
+#include "quorin/lapack.h"
 #include "quorin/pack.h"
 #include "quorin/rci.h"
 #include "quorin/signal.h"
@@ -14,6 +15,17 @@
 #include "quorin/umfpack.h"
 
 namespace quorin::bench {
+
+struct Lapack {
+  decltype(&::sgetrf) sgetrf;
+  decltype(&::cgetrf) cgetrf;
+  decltype(&::spotrf) spotrf;
+  decltype(&::sgeqrf) sgeqrf;
+  decltype(&::ssyevr) ssyevr;
+  decltype(&::cheevr) cheevr;
+  decltype(&::sgesdd) sgesdd;
+  decltype(&::sgeev) sgeev;
+};
 
 // The routines that rows measure, with the types that the public header gives them. Other BLAS have the same types.
 struct Blas {
@@ -27,6 +39,8 @@ struct Blas {
   decltype(&::cgemm) cgemm;
   decltype(&::ssyrk) ssyrk;
   decltype(&::strsm) strsm;
+
+  std::optional<Lapack> lapack;
 };
 
 struct IndexForms {

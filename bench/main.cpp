@@ -132,6 +132,7 @@ void run(int argc, char** argv) {
   add_limit_rows(suite);
   add_index_form_rows(suite);
   add_blas_rows(suite);
+  add_lapack_rows(suite);
   add_signal_rows(suite);
   add_rci_rows(suite);
   add_amos_rows(suite);

@@ -23,6 +23,12 @@ TITLES = {
 SECTIONS = {
     "calls": ("The cost of a call", "One thread. \"Index adds\" is the time of the index form less that of the plain form."),
     "blas": ("BLAS on square matrices of order n, and on vectors of length n", ""),
+    "lapack": (
+        "LAPACK on square matrices of order n",
+        "The peer is the published LAPACK over the stock OpenBLAS, on as many threads. Singular values, symmetric eigenvalues and right"
+        " eigenvectors of general matrices, all with vectors. Operations are nominal, in n^3: sgetrf 2/3, cgetrf 8/3, spotrf 1/3,"
+        " sgeqrf 4/3, ssyevr 10/3, cheevr 40/3, sgesdd 20/3, sgeev 25.",
+    ),
     "signal": (
         "Filter design and Toeplitz systems",
         "One thread. REMEZ: a low-pass filter of n coefficients. TSLS1: a system of order n, against the reference LAPACK's"

@@ -77,11 +77,12 @@ class Suite {
   }
 
   // Adds a row with every BLAS there is as one side, and the limit: `prepare(blas)` makes the operands and returns the
-  // call.
-  template <class Prepare>
-  void compare(const Row& row, Prepare prepare) {
+  // call. A peer that is not `able` to do the operation is left out.
+  template <class Prepare, class Able = bool (*)(const Blas&)>
+  void compare(
+      const Row& row, Prepare prepare, Able able = [](const Blas&) { return true; }) {
     measure_blas(row, libraries_.product, prepare);
-    if (libraries_.peer) measure_blas(row, *libraries_.peer, prepare);
+    if (libraries_.peer && able(*libraries_.peer)) measure_blas(row, *libraries_.peer, prepare);
     add_limit(row);
   }
 
@@ -125,6 +126,7 @@ class Suite {
 // The rows. Each file of rows has one such function, and main.cpp calls it.
 void add_limit_rows(Suite& suite);
 void add_blas_rows(Suite& suite);
+void add_lapack_rows(Suite& suite);
 void add_index_form_rows(Suite& suite);
 void add_signal_rows(Suite& suite);
 void add_rci_rows(Suite& suite);

@@ -70,6 +70,12 @@ const std::vector<Case>& cases() {
        [](const HostModule& m, Operands& o, float* c) {
          m.symbol<decltype(strsm)>("strsm")("L", "U", "N", "U", &o.n, &o.n, o.alpha, o.triangle.data(), &o.n, c, &o.n);
        }},
+      {"strtrs", "STRTRS",
+       [](const HostModule& m, Operands& o, float* c) {
+         std::int32_t info = 0;
+         m.symbol<decltype(strtrs)>("strtrs")("U", "N", "U", &o.n, &o.n, o.triangle.data(), &o.n, c, &o.n, &info);
+         EXPECT_TRUE(info == 0 || info == -1000) << info;
+       }},
       {"cher2k", "CHER2K",
        [](const HostModule& m, Operands& o, float* c) {
          m.symbol<decltype(cher2k)>("cher2k")("L", "N", &o.n, &o.n, as_complex(o.alpha), as_complex(o.a.data()), &o.n,

@@ -1,0 +1,141 @@
+// LAPACK on square matrices, beside the published routines over another BLAS.
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <type_traits>
+#include <vector>
+
+#include "bench/operands.hpp"
+#include "bench/suite.hpp"
+
+namespace quorin::bench {
+namespace {
+
+float& real_part(float& x) { return x; }
+float& real_part(quorin_complex& x) { return x.re; }
+
+// A copy of the same matrix for each call; its diagonal makes it positive definite where routines read one triangle.
+template <class T>
+struct Problem {
+  explicit Problem(int order) : n(order), original(square_matrix<T>(order)), a(square_matrix<T>(order)) {
+    const auto side = static_cast<std::size_t>(order);
+    for (std::size_t i = 0; i < side; ++i) {
+      T diagonal{};
+      real_part(diagonal) = static_cast<float>(order);
+      original[i * side + i] = diagonal;
+    }
+  }
+  std::size_t side() const { return static_cast<std::size_t>(n); }
+  T* fresh() const {
+    std::copy_n(original.data(), side() * side(), a.data());
+    return a.data();
+  }
+
+  int n;
+  Array<T> original, a;
+};
+
+template <class T, class Getrf>
+auto getrf_call(Getrf* getrf, int n) {
+  return [getrf, p = Problem<T>(n), pivots = std::vector<std::int32_t>(static_cast<std::size_t>(n))]() mutable {
+    std::int32_t info = 0;
+    getrf(&p.n, &p.n, p.fresh(), &p.n, pivots.data(), &info);
+  };
+}
+
+auto potrf_call(const Lapack& lapack, int n) {
+  return [potrf = lapack.spotrf, p = Problem<float>(n)] {
+    std::int32_t info = 0;
+    potrf("L", &p.n, p.fresh(), &p.n, &info);
+  };
+}
+
+auto geqrf_call(const Lapack& lapack, int n) {
+  const auto side = static_cast<std::size_t>(n);
+  return [geqrf = lapack.sgeqrf, p = Problem<float>(n), tau = Array<float>(side), work = Array<float>(64 * side)] {
+    const std::int32_t lwork = 64 * p.n;
+    std::int32_t info = 0;
+    geqrf(&p.n, &p.n, p.fresh(), &p.n, tau.data(), work.data(), &lwork, &info);
+  };
+}
+
+// All singular values and vectors.
+auto gesdd_call(const Lapack& lapack, int n) {
+  const auto side = static_cast<std::size_t>(n);
+  const auto lwork = static_cast<std::int32_t>(4 * n * n + 200 * n);
+  return [gesdd = lapack.sgesdd, lwork, p = Problem<float>(n), s = Array<float>(side), u = square_matrix<float>(n),
+          vt = square_matrix<float>(n), work = Array<float>(static_cast<std::size_t>(lwork)),
+          iwork = std::vector<std::int32_t>(8 * side)]() mutable {
+    std::int32_t info = 0;
+    gesdd("A", &p.n, &p.n, p.fresh(), &p.n, s.data(), u.data(), &p.n, vt.data(), &p.n, work.data(), &lwork,
+          iwork.data(), &info);
+  };
+}
+
+// All eigenvalues and vectors of a symmetric matrix.
+auto syevr_call(const Lapack& lapack, int n) {
+  const auto side = static_cast<std::size_t>(n);
+  return [syevr = lapack.ssyevr, p = Problem<float>(n), w = Array<float>(side), z = square_matrix<float>(n),
+          support = std::vector<std::int32_t>(2 * side), work = Array<float>(100 * side),
+          iwork = std::vector<std::int32_t>(10 * side)]() mutable {
+    const std::int32_t lwork = 100 * p.n, liwork = 10 * p.n, unused = 0;
+    const float zero = 0;
+    std::int32_t found = 0, info = 0;
+    syevr("V", "A", "L", &p.n, p.fresh(), &p.n, &zero, &zero, &unused, &unused, &zero, &found, w.data(), z.data(), &p.n,
+          support.data(), work.data(), &lwork, iwork.data(), &liwork, &info);
+  };
+}
+
+auto heevr_call(const Lapack& lapack, int n) {
+  const auto side = static_cast<std::size_t>(n);
+  return [heevr = lapack.cheevr, p = Problem<quorin_complex>(n), w = Array<float>(side),
+          z = square_matrix<quorin_complex>(n), support = std::vector<std::int32_t>(2 * side),
+          work = Array<quorin_complex>(100 * side), rwork = Array<float>(24 * side),
+          iwork = std::vector<std::int32_t>(10 * side)]() mutable {
+    const std::int32_t lwork = 100 * p.n, lrwork = 24 * p.n, liwork = 10 * p.n, unused = 0;
+    const float zero = 0;
+    std::int32_t found = 0, info = 0;
+    heevr("V", "A", "L", &p.n, p.fresh(), &p.n, &zero, &zero, &unused, &unused, &zero, &found, w.data(), z.data(), &p.n,
+          support.data(), work.data(), &lwork, rwork.data(), &lrwork, iwork.data(), &liwork, &info);
+  };
+}
+
+// All eigenvalues and right vectors of a general matrix.
+auto geev_call(const Lapack& lapack, int n) {
+  const auto side = static_cast<std::size_t>(n);
+  return [geev = lapack.sgeev, p = Problem<float>(n), re = Array<float>(side), im = Array<float>(side),
+          v = square_matrix<float>(n), work = Array<float>(100 * side)] {
+    const std::int32_t lwork = 100 * p.n;
+    std::int32_t info = 0;
+    geev("N", "V", &p.n, p.fresh(), &p.n, re.data(), im.data(), v.data(), &p.n, v.data(), &p.n, work.data(), &lwork,
+         &info);
+  };
+}
+
+}  // namespace
+
+void add_lapack_rows(Suite& suite) {
+  for (const int threads : {1, 2}) {
+    for (const int n : suite.sizes({100, 500, 1500}, {100, 500})) {
+      const double cube = static_cast<double>(n) * n * n;
+      const auto row = [&](const char* operation, double flops) {
+        return Row{"lapack", operation, n, threads, flops, Unit::kFlop, Limit::kArithmetic};
+      };
+      const auto compare = [&](const char* operation, double flops, auto prepare) {
+        suite.compare(
+            row(operation, flops), [prepare, n](const Blas& blas) { return prepare(*blas.lapack, n); },
+            [](const Blas& blas) { return blas.lapack.has_value(); });
+      };
+      compare("sgetrf", 2.0 / 3 * cube, [](const Lapack& l, int m) { return getrf_call<float>(l.sgetrf, m); });
+      compare("cgetrf", 8.0 / 3 * cube, [](const Lapack& l, int m) { return getrf_call<quorin_complex>(l.cgetrf, m); });
+      compare("spotrf", 1.0 / 3 * cube, potrf_call);
+      compare("sgeqrf", 4.0 / 3 * cube, geqrf_call);
+      compare("ssyevr", 10.0 / 3 * cube, syevr_call);
+      compare("cheevr", 40.0 / 3 * cube, heevr_call);
+      compare("sgesdd", 20.0 / 3 * cube, gesdd_call);
+      compare("sgeev", 25 * cube, geev_call);
+    }
+  }
+}
+
+}  // namespace quorin::bench
