@@ -1,11 +1,10 @@
-// The objects behind the handles that hosts keep.
-//
-// A handle is a number that looks like an address, but is none, and is never given out twice. So an object that was
-// freed, is of the wrong kind or never was one is told from a good one without reading through the handle.
+// The objects behind the handles that hosts keep (base/handle_table.hpp): one that was freed, is of the wrong kind or
+// never was one is told from a good one without reading through the handle.
 #pragma once
 
 #include <cstdint>
 
+#include "base/handle_table.hpp"
 #include "umfpack_single/dependency.hpp"
 
 namespace quorin::umfpack_single {
@@ -17,16 +16,13 @@ inline constexpr Kind kSymbolicOf = E::kParts == 1 ? Kind::kRealSymbolic : Kind:
 template <class E>
 inline constexpr Kind kNumericOf = E::kParts == 1 ? Kind::kRealNumeric : Kind::kComplexNumeric;
 
-struct Object {
+struct Object : base::HandleNode {
   Kind kind = Kind::kRealSymbolic;
   void* contents = nullptr;  // the dependency's object
   int n_row = 0, n_col = 0;
   int nz = 0;                     // Symbolic: entries of the matrix
   std::uint64_t fingerprint = 0;  // Symbolic: of its pattern
   bool is_singular = false;       // Numeric
-
-  std::uintptr_t id = 0;
-  Object* following = nullptr;
 };
 
 // An object that nobody can find yet, or null if there is no memory.
