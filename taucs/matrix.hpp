@@ -1,0 +1,75 @@
+// The compressed-column matrix, and the flags that name its element type and structure.
+//
+// Hosts read and write the record: its fields, their order and the values of the flags are part of the interface
+// (`taucs_ccs_matrix` and `TAUCS_LOWER`, ... in the public headers).
+#pragma once
+
+#include <complex>
+#include <concepts>
+#include <cstddef>
+#include <cstdint>
+#include <type_traits>
+
+namespace quorin::taucs {
+
+enum Flag : std::int32_t {
+  kLower = 1,         // only the lower triangle (row >= column) is stored
+  kUpper = 2,         // only the upper triangle is stored
+  kTriangular = 4,    // the matrix is triangular
+  kSymmetric = 8,     // stored as one triangle
+  kHermitian = 16,    // stored as one triangle
+  kPattern = 32,      // only the pattern is meaningful
+  kInt = 1024,        // element types; matrices come with kDouble and kDcomplex only
+  kDouble = 2048,     //
+  kSingle = 4096,     //
+  kDcomplex = 8192,   //
+  kScomplex = 16384,  //
+};
+
+template <class T>
+concept Element = std::same_as<T, double> || std::same_as<T, std::complex<double>>;
+
+template <Element T>
+inline constexpr std::int32_t kTypeFlag = std::same_as<T, double> ? kDouble : kDcomplex;
+
+// An m-by-n matrix. Column j has the entries colptr[j], ..., colptr[j+1] - 1 of rowind (zero-based) and values, in any
+// order; colptr[0] = 0. A symmetric or Hermitian matrix holds one triangle with its diagonal.
+struct CcsMatrix {
+  std::int32_t n = 0;  // columns
+  std::int32_t m = 0;  // rows
+  std::int32_t flags = 0;
+  std::int32_t* colptr = nullptr;  // n + 1
+  std::int32_t* rowind = nullptr;  // nnz
+  union Values {
+    void* v;
+    double* d;
+    std::complex<double>* z;
+  } values{nullptr};  // nnz
+
+  bool has(std::int32_t flag) const noexcept { return (flags & flag) != 0; }
+  bool is_symmetric_or_hermitian() const noexcept { return has(kSymmetric | kHermitian); }
+
+  template <Element T>
+  T* elements() const noexcept {
+    if constexpr (std::same_as<T, double>) {
+      return values.d;
+    } else {
+      return values.z;
+    }
+  }
+};
+static_assert(std::is_standard_layout_v<CcsMatrix> && offsetof(CcsMatrix, colptr) >= 12);
+static_assert(sizeof(void*) != 4 || sizeof(CcsMatrix) == 24);
+
+/// A matrix with room for nnz entries, its arrays not cleared, and the type's flag alone. Null for a negative size or
+/// if there is no memory.
+template <Element T>
+CcsMatrix* create(std::int32_t m, std::int32_t n, std::int32_t nnz) noexcept;
+
+/// The same, of the type that `flags` names (complex if both), and with all of these flags; null if they name none.
+CcsMatrix* ccs_create(std::int32_t m, std::int32_t n, std::int32_t nnz, std::int32_t flags) noexcept;
+
+/// Frees a matrix and its arrays; null does nothing.
+void ccs_free(CcsMatrix* A) noexcept;
+
+}  // namespace quorin::taucs
