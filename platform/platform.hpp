@@ -87,6 +87,48 @@ inline constexpr const char* kAllocatorLibrary = "libimalloc.so";
 inline constexpr const char* kOpenMpLibrary = "libiomp5.so";
 #endif
 
+// --- Clock, memory ---------------------------------------------------------------------------------------------------
+
+// Seconds since midnight, universal time, to the millisecond.
+double seconds_of_day() noexcept;
+
+// What the system tells about memory, in bytes. On 32-bit Windows the figures stop below 4 GiB.
+struct MemoryStatus {
+  unsigned load_percent = 0;
+  double total_physical = 0, available_physical = 0;
+  double total_page_file = 0, available_page_file = 0;
+  double total_virtual = 0, available_virtual = 0;
+};
+MemoryStatus memory_status() noexcept;
+
+// --- Files -----------------------------------------------------------------------------------------------------------
+
+// A file that is read or written from its beginning, closed when it goes out of scope. False if it could not be opened.
+class File {
+ public:
+  File() = default;
+  File(const File&) = delete;
+  File& operator=(const File&) = delete;
+  ~File();
+
+  void open_for_reading(const char* name) noexcept;
+  // As the C library's mode "w": made or emptied, and a line ends as the system's text files want it.
+  void open_for_text(const char* name) noexcept;
+  // Made with mode 0700 if there is none; what an existing file holds stays until it is written over.
+  void open_for_overwriting(const char* name) noexcept;
+
+  explicit operator bool() const noexcept { return handle_ >= 0; }
+  // Bytes in all; the largest number if the system cannot tell, as for a pipe.
+  std::uint64_t size() const noexcept;
+  // Bytes read, fewer only at the end of the file or after an error.
+  std::size_t read(void* buffer, std::size_t bytes) noexcept;
+  // Whether all of it was written.
+  bool write(const void* buffer, std::size_t bytes) noexcept;
+
+ private:
+  int handle_ = -1;
+};
+
 // --- Environment, output ---------------------------------------------------------------------------------------------
 
 // Copies the value of an environment variable, zero-terminated; false if it is unset or longer than the buffer.

@@ -24,6 +24,11 @@ TYPES = {
     "dcomplex": ElementType("quorin_double_complex", "std::complex<double>", "double complex"),
     "logical": ElementType("int32_t", "std::int32_t", "logical"),  # zero is false
     "pointer": ElementType("void*", "void*", "pointer"),
+    "const_pointer": ElementType("const void*", "const void*", "pointer"),
+    "int_array": ElementType("int32_t*", "std::int32_t*", "array of int"),
+    # The record of TAUCS, always by its address. Its C declaration stands in include/quorin/types.h.
+    "ccs_matrix": ElementType("taucs_ccs_matrix*", "quorin::taucs::CcsMatrix*", "matrix"),
+    "const_ccs_matrix": ElementType("const taucs_ccs_matrix*", "const quorin::taucs::CcsMatrix*", "matrix"),
     # Host functions. Their C declarations stand in include/quorin/types.h.
     "text_output_callback": ElementType(
         "quorin_text_output_callback", "quorin::base::TextOutputCallback", "text-output callback"

@@ -173,7 +173,7 @@ class Reader:
     def check_shapes(self, routine: Routine) -> None:
         known = {argument.name for argument in routine.arguments} | {"max", "min"}
         for argument in routine.arguments:
-            for name in re.findall(r"[A-Za-z]\w*", argument.shape):
+            for name in re.findall(r"(?<![\w.])[A-Za-z]\w*", argument.shape):
                 if name not in known:
                     self.fault(f"argument '{argument.name}': its shape names '{name}', which is no argument")
 

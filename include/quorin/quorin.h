@@ -13,5 +13,6 @@
 #include "quorin/slap.h"
 #include "quorin/trust_region.h"
 #include "quorin/umfpack.h"
+#include "quorin/taucs.h"
 
 #endif

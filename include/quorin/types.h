@@ -42,4 +42,35 @@ typedef void(QUORIN_CDECL* quorin_vector_function)(int32_t* m, int32_t* n, float
 typedef void(QUORIN_CDECL* quorin_vector_function_with_data)(int32_t* m, int32_t* n, float* x, float* f,
                                                              void* user_data);
 
+/* The compressed-column matrix of the TAUCS routines. Column j has the entries colptr[j], ..., colptr[j + 1] - 1 of rowind
+ * (zero-based) and values, in any order; colptr[0] is 0. A symmetric or Hermitian matrix holds one triangle with its
+ * diagonal, the lower one. */
+typedef struct taucs_ccs_matrix {
+  int32_t n; /* columns */
+  int32_t m; /* rows */
+  int32_t flags;
+  int32_t* colptr; /* n + 1 */
+  int32_t* rowind; /* colptr[n] */
+  union {
+    void* v;
+    double* d;
+    quorin_double_complex* z;
+  } values; /* colptr[n] */
+} taucs_ccs_matrix;
+
+/* The bits of taucs_ccs_matrix.flags. Matrices come with elements of TAUCS_DOUBLE and TAUCS_DCOMPLEX only. */
+enum {
+  TAUCS_LOWER = 1, /* only the lower triangle is stored */
+  TAUCS_UPPER = 2, /* only the upper triangle is stored */
+  TAUCS_TRIANGULAR = 4,
+  TAUCS_SYMMETRIC = 8,
+  TAUCS_HERMITIAN = 16,
+  TAUCS_PATTERN = 32,
+  TAUCS_INT = 1024,
+  TAUCS_DOUBLE = 2048,
+  TAUCS_SINGLE = 4096,
+  TAUCS_DCOMPLEX = 8192,
+  TAUCS_SCOMPLEX = 16384
+};
+
 #endif

@@ -4,10 +4,15 @@
 #include <cassert>
 
 #include <dlfcn.h>
+#include <fcntl.h>
 #include <pthread.h>
 #include <sched.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/sysinfo.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -133,6 +138,66 @@ void* find_symbol(Module module, const char* name) noexcept { return dlsym(modul
 bool is_code_mapped(const void* address) noexcept {
   Dl_info info{};
   return dladdr(address, &info) != 0;
+}
+
+double seconds_of_day() noexcept {
+  constexpr std::time_t kDay = 86400;
+  timespec now{};
+  clock_gettime(CLOCK_REALTIME, &now);
+  return static_cast<double>(now.tv_sec % kDay) + static_cast<double>(now.tv_nsec / 1000000) * 0.001;
+}
+
+MemoryStatus memory_status() noexcept {
+  struct sysinfo info {};
+  if (sysinfo(&info) != 0) return {};
+  const auto bytes = [&](unsigned long units) { return static_cast<double>(units) * info.mem_unit; };
+  MemoryStatus status;
+  status.total_physical = bytes(info.totalram);
+  status.available_physical = bytes(info.freeram) + bytes(info.bufferram);
+  status.load_percent = static_cast<unsigned>(100 * (1 - status.available_physical / status.total_physical));
+  status.total_page_file = status.total_physical + bytes(info.totalswap);
+  status.available_page_file = status.available_physical + bytes(info.freeswap);
+  rlimit limit{};
+  const bool is_limited = getrlimit(RLIMIT_AS, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY;
+  status.total_virtual = status.available_virtual =
+      is_limited ? static_cast<double>(limit.rlim_cur) : static_cast<double>(UINTPTR_MAX);
+  return status;
+}
+
+File::~File() {
+  if (handle_ >= 0) close(handle_);
+}
+void File::open_for_reading(const char* name) noexcept {
+  if (name != nullptr) handle_ = open(name, O_RDONLY | O_CLOEXEC);
+}
+void File::open_for_text(const char* name) noexcept {
+  if (name != nullptr) handle_ = open(name, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+}
+void File::open_for_overwriting(const char* name) noexcept {
+  if (name != nullptr) handle_ = open(name, O_WRONLY | O_CREAT | O_CLOEXEC, 0700);
+}
+std::uint64_t File::size() const noexcept {
+  struct stat status {};
+  const bool is_known = fstat(handle_, &status) == 0 && S_ISREG(status.st_mode);
+  return is_known ? static_cast<std::uint64_t>(status.st_size) : UINT64_MAX;
+}
+std::size_t File::read(void* buffer, std::size_t bytes) noexcept {
+  std::size_t done = 0;
+  while (handle_ >= 0 && done < bytes) {
+    const ssize_t got = ::read(handle_, static_cast<char*>(buffer) + done, bytes - done);
+    if (got == 0 || (got < 0 && errno != EINTR)) break;
+    if (got > 0) done += static_cast<std::size_t>(got);
+  }
+  return done;
+}
+bool File::write(const void* buffer, std::size_t bytes) noexcept {
+  std::size_t done = 0;
+  while (handle_ >= 0 && done < bytes) {
+    const ssize_t put = ::write(handle_, static_cast<const char*>(buffer) + done, bytes - done);
+    if (put < 0 && errno != EINTR) break;
+    if (put > 0) done += static_cast<std::size_t>(put);
+  }
+  return handle_ >= 0 && done == bytes;
 }
 
 bool read_environment(const char* name, char* buffer, std::size_t size) noexcept {

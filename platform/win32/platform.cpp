@@ -3,6 +3,11 @@
 #undef NDEBUG  // for the declaration of the assertion handler
 #include <cassert>
 
+#include <fcntl.h>
+#include <io.h>
+#include <sys/stat.h>
+
+#include <algorithm>
 #include <cstdio>
 #include <new>
 
@@ -132,6 +137,66 @@ bool is_code_mapped(const void* address) noexcept {
   constexpr DWORD kExecutable = PAGE_EXECUTE | PAGE_EXECUTE_READ | PAGE_EXECUTE_READWRITE | PAGE_EXECUTE_WRITECOPY;
   return VirtualQuery(address, &area, sizeof area) != 0 && area.State == MEM_COMMIT &&
          (area.Protect & kExecutable) != 0;
+}
+
+double seconds_of_day() noexcept {
+  SYSTEMTIME now{};
+  GetSystemTime(&now);
+  return now.wHour * 3600.0 + now.wMinute * 60.0 + now.wSecond + now.wMilliseconds * 0.001;
+}
+
+MemoryStatus memory_status() noexcept {
+  MEMORYSTATUS status{};
+  status.dwLength = sizeof status;
+  GlobalMemoryStatus(&status);
+  const auto bytes = [](SIZE_T count) { return static_cast<double>(count); };
+  return {.load_percent = static_cast<unsigned>(status.dwMemoryLoad),
+          .total_physical = bytes(status.dwTotalPhys),
+          .available_physical = bytes(status.dwAvailPhys),
+          .total_page_file = bytes(status.dwTotalPageFile),
+          .available_page_file = bytes(status.dwAvailPageFile),
+          .total_virtual = bytes(status.dwTotalVirtual),
+          .available_virtual = bytes(status.dwAvailVirtual)};
+}
+
+// The C runtime keeps no buffer for these, and the text mode is its own.
+File::~File() {
+  if (handle_ >= 0) _close(handle_);
+}
+void File::open_for_reading(const char* name) noexcept {
+  if (name != nullptr) handle_ = _open(name, _O_RDONLY | _O_BINARY);
+}
+void File::open_for_text(const char* name) noexcept {
+  if (name != nullptr) handle_ = _open(name, _O_WRONLY | _O_CREAT | _O_TRUNC | _O_TEXT, _S_IREAD | _S_IWRITE);
+}
+void File::open_for_overwriting(const char* name) noexcept {
+  if (name != nullptr) handle_ = _open(name, _O_WRONLY | _O_CREAT | _O_BINARY, _S_IREAD | _S_IWRITE | _S_IEXEC);
+}
+std::uint64_t File::size() const noexcept {
+  const __int64 size = _filelengthi64(handle_);
+  return size >= 0 ? static_cast<std::uint64_t>(size) : UINT64_MAX;
+}
+std::size_t File::read(void* buffer, std::size_t bytes) noexcept {
+  constexpr std::size_t kMost = std::size_t{1} << 26;
+  std::size_t done = 0;
+  while (handle_ >= 0 && done < bytes) {
+    const auto piece = static_cast<unsigned>(std::min(bytes - done, kMost));
+    const int got = _read(handle_, static_cast<char*>(buffer) + done, piece);
+    if (got <= 0) break;
+    done += static_cast<std::size_t>(got);
+  }
+  return done;
+}
+bool File::write(const void* buffer, std::size_t bytes) noexcept {
+  constexpr std::size_t kMost = std::size_t{1} << 26;
+  std::size_t done = 0;
+  while (handle_ >= 0 && done < bytes) {
+    const auto piece = static_cast<unsigned>(std::min(bytes - done, kMost));
+    const int put = _write(handle_, static_cast<const char*>(buffer) + done, piece);
+    if (put <= 0) break;
+    done += static_cast<std::size_t>(put);
+  }
+  return handle_ >= 0 && done == bytes;
 }
 
 bool read_environment(const char* name, char* buffer, std::size_t size) noexcept {

@@ -1,0 +1,112 @@
+/* TAUCS sparse matrices.
+ *
+ * Compressed-column matrices in the record taucs_ccs_matrix (quorin/types.h), and dense vectors as bare arrays, of
+ * doubles (TAUCS_DOUBLE) or double complex numbers (TAUCS_DCOMPLEX). Every routine looks at the type in the matrix's
+ * flags or in its argument flags; if both are named, complex counts. TAUCS_SINGLE and the other types are no type for a
+ * matrix: routines that return a matrix then stop the process through the C runtime's assertion handler, and the others
+ * do nothing.
+ *
+ * Scalars are passed by value here and arrays by their address. A matrix that is returned belongs to the caller, who
+ * gives it back with taucs_ccs_free; no routine frees its input. Vectors and permutations come from the library's
+ * allocator, which is the C runtime's unless the host has put another one under the library, and are given back to
+ * that: free, or i_free_dll.
+ *
+ * Null (a status of -1 where a routine has one) means out of memory, a wrong structure, or a file that cannot be read.
+ * Messages go to taucs_printf, which drops them.
+ *
+ * Permutations are zero-based: perm[i] is the old index that moves to position i, and invperm[perm[i]] = i.
+ *
+ * Generated from exports/tables/taucs.table. Do not edit. */
+#ifndef QUORIN_TAUCS_H
+#define QUORIN_TAUCS_H
+
+#include "quorin/types.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ---- Matrices ---- */
+
+/* A new m-by-n matrix with room for nnz entries, whose arrays are not cleared, and with these flags; null without a
+   type or without memory. */
+QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_create(int32_t m, int32_t n, int32_t nnz, int32_t flags);
+
+/* Frees a matrix and its arrays; null does nothing. */
+QUORIN_API void QUORIN_CDECL taucs_ccs_free(taucs_ccs_matrix* A);
+
+/* A^T, rows ascending in each column. A stored triangle becomes the other one, with TAUCS_LOWER and TAUCS_UPPER
+   exchanged; nothing is conjugated. */
+QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_transpose(const taucs_ccs_matrix* A);
+
+/* P A P^T for a symmetric or Hermitian matrix whose lower triangle is stored; so is that of the result. Entry (i, j)
+   goes to (invperm[i], invperm[j]). -- perm: A.n; invperm: A.n */
+QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_permute_symmetrically(const taucs_ccs_matrix* A,
+                                                                          const int32_t* perm, const int32_t* invperm);
+
+/* Row i becomes row perm[i]. Matrices of doubles only; others stay as they are. -- perm: A.m */
+QUORIN_API void QUORIN_CDECL taucs_ccs_permute_rows_inplace(taucs_ccs_matrix* A, const int32_t* perm);
+
+/* Cuts a lower-stored matrix behind its first p columns: L, n-by-p, takes these as they are, as a general matrix
+   flagged TAUCS_LOWER; R, of order n-p and with A's flags, takes the other columns, renumbered from zero. Both are null if
+   there is no memory, or for p < 0 or p > n. -- L: out; R: out */
+QUORIN_API void QUORIN_CDECL taucs_ccs_split(const taucs_ccs_matrix* A, taucs_ccs_matrix** L, taucs_ccs_matrix** R,
+                                             int32_t p);
+
+/* b <- A x; symmetric and Hermitian matrices act as the full matrix. x has n elements, of b the first n are set, and
+   beyond them those in whose rows A has entries: b needs max(m, n). */
+QUORIN_API void QUORIN_CDECL taucs_ccs_times_vec(const taucs_ccs_matrix* A, const void* x, void* b);
+
+/* B <- A X, as taucs_ccs_times_vec for each of the columns, which are n elements apart; for m <= n. */
+QUORIN_API void QUORIN_CDECL taucs_ccs_times_vec_many(const taucs_ccs_matrix* A, int32_t count, const void* X, void* B);
+
+/* For a symmetric or Hermitian lower-stored A = D + N + P (diagonal, off-diagonal entries of non-positive and of
+   positive real part) the matrix M = [D+N, -P; -P, D+N] of order 2n, which has no positive off-diagonal entry: M [x; -x] =
+   [A x; -A x]. Null for another structure. */
+QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_augment_nonpositive_offdiagonals(const taucs_ccs_matrix* A);
+
+/* ---- Vectors ---- */
+
+/* A new vector of n elements, not cleared; null without a type or without memory. */
+QUORIN_API void* QUORIN_CDECL taucs_vec_create(int32_t n, int32_t flags);
+
+/* r <- a x + b y; a and b are real for complex vectors, too. r may be x or y. */
+QUORIN_API void QUORIN_CDECL taucs_vec_axpby(int32_t n, int32_t flags, double a, const void* x, double b, const void* y,
+                                             void* r);
+
+/* pv[i] <- v[p[i]]. -- p: n */
+QUORIN_API void QUORIN_CDECL taucs_vec_permute(int32_t n, int32_t flags, const void* v, void* pv, const int32_t* p);
+
+/* pv[p[i]] <- v[i]. -- p: n */
+QUORIN_API void QUORIN_CDECL taucs_vec_ipermute(int32_t n, int32_t flags, const void* v, void* pv, const int32_t* p);
+
+/* The Euclidean norm, without overflow or underflow on the way; NaN without a type. */
+QUORIN_API double QUORIN_CDECL taucs_vec_norm2(int32_t n, int32_t flags, const void* v);
+
+/* ---- Time, memory, text ---- */
+
+/* Keeps the name of a log file, cut to 511 characters, which nothing is ever written to; stderr, stdout and none change
+   nothing. To be called before any concurrent use. -- name: array */
+QUORIN_API void QUORIN_CDECL taucs_logfile(const char* name);
+
+/* Seconds since midnight, universal time, so that an interval across midnight is negative. */
+QUORIN_API double QUORIN_CDECL taucs_wtime(void);
+
+/* Always 0: processor time is not measured. */
+QUORIN_API double QUORIN_CDECL taucs_ctime(void);
+
+/* Bytes of physical memory; on 32-bit Windows never 4 GiB or more. */
+QUORIN_API double QUORIN_CDECL taucs_system_memory_size(void);
+
+/* Bytes that a computation may plan to use: the largest block that the allocator grants (found to one part in 64, and
+   given back at once), but not more than the physical memory that is free. */
+QUORIN_API double QUORIN_CDECL taucs_available_memory_size(void);
+
+/* Not supported: -1. */
+QUORIN_API int32_t QUORIN_CDECL taucs_maximize_stacksize(void);
+
+#ifdef __cplusplus
+}  /* extern "C" */
+#endif
+
+#endif

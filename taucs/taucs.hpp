@@ -1,0 +1,8 @@
+// The TAUCS family as the exports see it.
+#pragma once
+
+#include "taucs/matrix.hpp"
+#include "taucs/operations.hpp"
+#include "taucs/process.hpp"
+#include "taucs/products.hpp"
+#include "taucs/vectors.hpp"
