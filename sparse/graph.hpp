@@ -1,0 +1,78 @@
+// Patterns of sparse matrices, and their adjacency graphs.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <utility>
+
+#include "base/workspace.hpp"
+
+namespace quorin::sparse {
+
+enum class Outcome {
+  kDone,
+  kOutOfMemory,
+  kBadPattern,  // column starts that decrease or begin elsewhere than at 0, an index outside the matrix, not square
+  kTooLarge,    // more entries than the 32-bit indices can count
+};
+
+// The pattern of a rows x columns matrix in compressed columns, zero-based; borrowed. Column j has the rows
+// indices[starts[j]], ..., indices[starts[j + 1] - 1], in any order and perhaps more than once.
+struct Pattern {
+  int rows = 0;
+  int columns = 0;
+  const int* starts = nullptr;
+  const int* indices = nullptr;
+
+  int entries() const noexcept { return starts[columns]; }
+  std::span<const int> column(int j) const noexcept {
+    return {indices + starts[j], static_cast<std::size_t>(starts[j + 1] - starts[j])};
+  }
+  // kDone or kBadPattern. Time: O(columns + entries).
+  Outcome check() const noexcept;
+};
+
+// An undirected graph: each edge in the lists of both its ends, no vertex in its own list, lists ascending.
+class Graph {
+ public:
+  int size() const noexcept { return size_; }
+  // Twice the number of edges.
+  int directed_edges() const noexcept { return starts_[size()]; }
+  std::span<const int> neighbours(int v) const noexcept {
+    return {adjacency_.data() + starts_[v], static_cast<std::size_t>(degree(v))};
+  }
+  int degree(int v) const noexcept { return starts_[v + 1] - starts_[v]; }
+  const int* starts() const noexcept { return starts_.data(); }
+  const int* adjacency() const noexcept { return adjacency_.data(); }
+
+ private:
+  friend Outcome build_graph(const Pattern& pattern, Graph& graph) noexcept;
+  friend Outcome induced_subgraph(const Graph& graph, std::span<const int> vertices, std::span<int> number,
+                                  Graph& subgraph) noexcept;
+
+  int size_ = 0;
+  base::Workspace<int> starts_, adjacency_;
+};
+
+// The graph of A + A^T for a square A: of a symmetric matrix, whose triangle alone is stored, or of any other. The
+// diagonal and repetitions are dropped. Time: O(columns + entries).
+Outcome build_graph(const Pattern& pattern, Graph& graph) noexcept;
+
+// The graph on `vertices`, numbered as they stand in the list. number[v] must be v's position for vertices of the list
+// and negative for all others. Ascending only if the list is.
+Outcome induced_subgraph(const Graph& graph, std::span<const int> vertices, std::span<int> number,
+                         Graph& subgraph) noexcept;
+
+// An order of elimination and its inverse: permutation[k] is eliminated in step k, inverse[permutation[k]] = k.
+// Borrowed arrays of n.
+struct Ordering {
+  int* permutation;
+  int* inverse;
+
+  void place(int vertex, int step) const noexcept {
+    permutation[step] = vertex;
+    inverse[vertex] = step;
+  }
+};
+
+}  // namespace quorin::sparse
