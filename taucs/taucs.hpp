@@ -1,6 +1,7 @@
 // The TAUCS family as the exports see it.
 #pragma once
 
+#include "taucs/files.hpp"
 #include "taucs/matrix.hpp"
 #include "taucs/operations.hpp"
 #include "taucs/process.hpp"

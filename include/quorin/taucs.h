@@ -105,6 +105,48 @@ QUORIN_API double QUORIN_CDECL taucs_available_memory_size(void);
 /* Not supported: -1. */
 QUORIN_API int32_t QUORIN_CDECL taucs_maximize_stacksize(void);
 
+/* ---- Files ---- */
+
+/* Reads lines 'row column value' (complex: 'row column real imaginary'), one-based, until no further entry stands.
+   flags: the type and, for a symmetric matrix, TAUCS_SYMMETRIC or TAUCS_HERMITIAN: then entries above the diagonal are
+   dropped. Entries are not merged. In the result n is the largest row and m the largest column that was kept, the other
+   way round than elsewhere; colptr goes on to the larger of the two. -- filename: array */
+QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_read_ijv(const char* filename, int32_t flags);
+
+/* As taucs_ccs_read_ijv, with zero-based indices. -- filename: array */
+QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_read_ijv_zero_based(const char* filename, int32_t flags);
+
+/* Reads three integers (rows, columns, entries; not used), then entries as taucs_ccs_read_ijv does; there is no banner
+   and no comment. Entries off the diagonal become -1, whatever the file says. With TAUCS_SYMMETRIC, entries above the
+   diagonal move below it. -- filename: array */
+QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_read_mtx(const char* filename, int32_t flags);
+
+/* Reads a square matrix, zero-based: n, n+1 column pointers, row indices, values. With TAUCS_SYMMETRIC, a row above the
+   diagonal stops the process. -- filename: array */
+QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_read_ccs(const char* filename, int32_t flags);
+
+/* Reads m, n, flags, colptr, rowind, values as they stand in memory, integers of 32 bits, lowest byte first. --
+   filename: array */
+QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_read_binary(const char* filename);
+
+/* Reads a Harwell-Boeing file of an assembled matrix, in the formats I, F, E, D and G; Rutherford-Boeing files of the
+   same types, too. The entries of a pattern become 1. A real matrix is always double; to read a complex one without asking
+   for TAUCS_DCOMPLEX stops the process. -- filename: array */
+QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_read_hb(const char* filename, int32_t flags);
+
+/* Writes lines 'row column value', one-based, with 18 significant digits. In a symmetric matrix each entry off the
+   diagonal is followed by its mirror image; a Hermitian one is written as it is stored. Returns 0, or -1 if the file
+   cannot be opened or written. -- filename: array */
+QUORIN_API int32_t QUORIN_CDECL taucs_ccs_write_ijv(const taucs_ccs_matrix* A, const char* filename);
+
+/* Reads n elements as they stand in memory into a new vector. TAUCS_SINGLE and TAUCS_SCOMPLEX are types here, too. Null
+   for a file that is too short; zeros if it cannot be opened. -- filename: array */
+QUORIN_API void* QUORIN_CDECL taucs_vec_read_binary(int32_t n, int32_t flags, const char* filename);
+
+/* Writes over the first n elements of a file, which is made if there is none; the rest of a longer one stays. Returns
+   0, whatever happens. -- filename: array */
+QUORIN_API int32_t QUORIN_CDECL taucs_vec_write_binary(int32_t n, int32_t flags, const void* v, const char* filename);
+
 #ifdef __cplusplus
 }  /* extern "C" */
 #endif
