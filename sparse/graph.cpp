@@ -86,8 +86,8 @@ Outcome build_graph(const Pattern& pattern, Graph& graph) noexcept {
   for (int v = 0; v < n; ++v) {
     const int begin = starts[v];
     starts[v] = length;
-    length = static_cast<int>(std::copy(adjacency.data() + begin, adjacency.data() + ends[v], adjacency.data() + length) -
-                              adjacency.data());
+    length = static_cast<int>(
+        std::copy(adjacency.data() + begin, adjacency.data() + ends[v], adjacency.data() + length) - adjacency.data());
   }
   starts[n] = length;
   graph.size_ = n;

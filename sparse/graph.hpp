@@ -14,6 +14,7 @@ enum class Outcome {
   kOutOfMemory,
   kBadPattern,  // column starts that decrease or begin elsewhere than at 0, an index outside the matrix, not square
   kTooLarge,    // more entries than the 32-bit indices can count
+  kFailed,      // a library that we call gave up
 };
 
 // The pattern of a rows x columns matrix in compressed columns, zero-based; borrowed. Column j has the rows

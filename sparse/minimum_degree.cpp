@@ -6,11 +6,15 @@
 #include <span>
 
 #include "sparse/degree_lists.hpp"
+#include "sparse/elimination_tree.hpp"
 
 namespace quorin::sparse {
 namespace {
 
 using base::Workspace;
+
+// How many variables a pass eliminates.
+enum class Passes { kOfMany, kOfOne };
 
 // The quotient graph and the elimination on it. A node is a variable (not yet eliminated; those that cannot be told
 // apart are one, of the weight of all), an element (eliminated; its variables are a clique), or gone. A variable lists
@@ -21,7 +25,7 @@ class MinimumDegree {
   explicit MinimumDegree(const Graph& graph) noexcept;
   explicit operator bool() const noexcept { return storage_ && nodes_ && degrees_; }
 
-  void run(const Ordering& ordering) noexcept;
+  void run(Passes passes, const Ordering& ordering) noexcept;
 
  private:
   static constexpr int kNobody = DegreeLists::kNobody;
@@ -46,12 +50,8 @@ class MinimumDegree {
   bool is_alive(int node) const noexcept { return mark_[node] != 0; }
   int* list(int node) noexcept { return storage_.data() + start_[node]; }
   const int* list(int node) const noexcept { return storage_.data() + start_[node]; }
-  std::span<const int> variables_of(int p) const noexcept {
-    return {list(p), static_cast<std::size_t>(length_[p])};
-  }
-  std::span<const int> elements_of(int i) const noexcept {
-    return {list(i), static_cast<std::size_t>(elements_[i])};
-  }
+  std::span<const int> variables_of(int p) const noexcept { return {list(p), static_cast<std::size_t>(length_[p])}; }
+  std::span<const int> elements_of(int i) const noexcept { return {list(i), static_cast<std::size_t>(elements_[i])}; }
   void bury(int node) noexcept {
     mark_[node] = 0;
     length_[node] = 0;
@@ -66,6 +66,7 @@ class MinimumDegree {
 
   const Graph& graph_;
   const int n_;
+  const int most_neighbours_;  // of a vertex that takes part
   Workspace<int> storage_;
   Workspace<int> nodes_;  // the arrays below
   DegreeLists degrees_;
@@ -83,23 +84,27 @@ class MinimumDegree {
   int* next_equal_ = nullptr;   // variables with the same hash
   int* first_equal_ = nullptr;
   int* hash_ = nullptr;
-  int* pivots_ = nullptr;  // in the order of elimination
+  int* pivots_ = nullptr;   // in the order of elimination
   int* touched_ = nullptr;  // variables whose degrees changed in this pass
   int* next_member_ = nullptr;
   int* last_member_ = nullptr;
 
   int free_ = 0;  // the end of the lists
   int left_ = 0;  // the weight of all variables
-  int base_ = 2;
+  int base_ = 0;
   int longest_span_ = 0;
   int pivot_count_ = 0;
   int touched_count_ = 0;
 };
 
-MinimumDegree::MinimumDegree(const Graph& graph) noexcept : graph_(graph), n_(graph.size()), degrees_(n_) {
-  int** const arrays[] = {&start_,   &length_,      &elements_,   &weight_,      &span_,  &mark_,
-                          &degree_,  &direct_,      &outside_,    &direct_hash_, &next_equal_, &first_equal_,
-                          &hash_,    &pivots_,      &touched_,    &next_member_, &last_member_};
+MinimumDegree::MinimumDegree(const Graph& graph) noexcept
+    : graph_(graph),
+      n_(graph.size()),
+      most_neighbours_(std::max(16, static_cast<int>(10 * std::sqrt(n_)))),
+      degrees_(n_) {
+  int** const arrays[] = {&start_,  &length_, &elements_, &weight_,      &span_,       &mark_,
+                          &degree_, &direct_, &outside_,  &direct_hash_, &next_equal_, &first_equal_,
+                          &hash_,   &pivots_, &touched_,  &next_member_, &last_member_};
   const auto n = static_cast<std::size_t>(n_);
   const auto entries = static_cast<std::size_t>(graph.directed_edges());
   // With room for n more than the lists ever need together, a new element always fits; the rest saves compressions.
@@ -115,14 +120,19 @@ MinimumDegree::MinimumDegree(const Graph& graph) noexcept : graph_(graph), n_(gr
   }
 }
 
-void MinimumDegree::run(const Ordering& ordering) noexcept {
+void MinimumDegree::run(Passes passes, const Ordering& ordering) noexcept {
   load();
   while (left_ > 0) {
     const int pass = pivot_count_;
     touched_count_ = 0;
     // What is left in the list are no neighbours of the ones taken: those were taken out of it.
-    for (int p = degrees_.take_least(); p != kNobody; p = degrees_.take_another()) eliminate(p);
+    for (int p = degrees_.take_least(); p != kNobody;) {
+      eliminate(p);
+      p = passes == Passes::kOfMany ? degrees_.take_another() : kNobody;
+    }
     for (int k = pass; k < pivot_count_; ++k) update_degrees(pivots_[k]);
+    // The lists give out first what they got last. After a pass of many, the next begins where this one did.
+    if (passes == Passes::kOfMany) std::reverse(touched_, touched_ + touched_count_);
     for (int k = 0; k < touched_count_; ++k) relist(touched_[k]);
   }
   write(ordering);
@@ -130,9 +140,10 @@ void MinimumDegree::run(const Ordering& ordering) noexcept {
 
 // Vertices with many neighbours are left out, to be eliminated last: their lists would be read over and over.
 void MinimumDegree::load() noexcept {
-  const int most_neighbours = std::max(16, static_cast<int>(10 * std::sqrt(n_)));
+  free_ = left_ = longest_span_ = pivot_count_ = 0;
+  base_ = 2;
   for (int i = 0; i < n_; ++i) {
-    const bool takes_part = graph_.degree(i) <= most_neighbours;
+    const bool takes_part = graph_.degree(i) <= most_neighbours_;
     weight_[i] = mark_[i] = takes_part ? 1 : 0;
     left_ += weight_[i];
     elements_[i] = 0;
@@ -143,7 +154,7 @@ void MinimumDegree::load() noexcept {
     start_[i] = free_;
     if (is_variable(i)) {
       for (const int v : graph_.neighbours(i)) {
-        if (is_variable(v)) storage_[static_cast<std::size_t>(free_++)] = v;
+        if (is_variable(v)) storage_[free_++] = v;
       }
       degrees_.insert(i, free_ - start_[i]);
     }
@@ -396,9 +407,8 @@ void MinimumDegree::write(const Ordering& ordering) noexcept {
   // What was left out, the vertices with the fewest neighbours first.
   int* const postponed = touched_;
   int count = 0;
-  const int most_neighbours = std::max(16, static_cast<int>(10 * std::sqrt(n_)));
   for (int i = 0; i < n_; ++i) {
-    if (graph_.degree(i) > most_neighbours) postponed[count++] = i;
+    if (graph_.degree(i) > most_neighbours_) postponed[count++] = i;
   }
   std::stable_sort(postponed, postponed + count, [this](int a, int b) { return graph_.degree(a) < graph_.degree(b); });
   for (int k = 0; k < count; ++k) ordering.place(postponed[k], step++);
@@ -407,10 +417,20 @@ void MinimumDegree::write(const Ordering& ordering) noexcept {
 }  // namespace
 
 Outcome order_minimum_degree(const Graph& graph, const Ordering& ordering) noexcept {
-  if (graph.size() > std::numeric_limits<int>::max() / 8) return Outcome::kTooLarge;
+  const int n = graph.size();
+  if (n > std::numeric_limits<int>::max() / 8) return Outcome::kTooLarge;
   MinimumDegree work(graph);
-  if (!work) return Outcome::kOutOfMemory;
-  work.run(ordering);
+  Workspace<int> single(base::saturating_product(static_cast<std::size_t>(n), 2));
+  if (!work || !single) return Outcome::kOutOfMemory;
+  const Ordering by_one{single.data(), single.data() + n};
+  work.run(Passes::kOfMany, ordering);
+  work.run(Passes::kOfOne, by_one);
+  const std::int64_t entries = factor_entries(graph, ordering), entries_by_one = factor_entries(graph, by_one);
+  if (entries < 0 || entries_by_one < 0) return Outcome::kOutOfMemory;
+  if (entries_by_one < entries) {
+    std::copy_n(by_one.permutation, n, ordering.permutation);
+    std::copy_n(by_one.inverse, n, ordering.inverse);
+  }
   return Outcome::kDone;
 }
 
