@@ -11,6 +11,7 @@ namespace quorin::taucs {
 namespace {
 
 constexpr int kWidest = 100;
+constexpr int kTooLarge = 100000;
 
 char upper(char c) noexcept { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
@@ -37,18 +38,16 @@ class Reader {
     if (c != '\0') drop();
     return c;
   }
-  // A number without a sign; -1 if there is none or if it is too large.
+  // A number without a sign, saturated at kTooLarge; -1 if there is none.
   int take_number() noexcept {
     int number = -1;
     for (; peek() >= '0' && peek() <= '9'; drop()) {
       number = std::min(10 * std::max(number, 0) + (peek() - '0'), kTooLarge);
     }
-    return number < kTooLarge ? number : -1;
+    return number;
   }
 
  private:
-  static constexpr int kTooLarge = 100000;
-
   void drop() noexcept {
     text_.remove_prefix(1);
     skip_blanks();
@@ -82,8 +81,8 @@ bool FieldFormat::parse(std::string_view text) noexcept {
   if (reader.take('.')) decimals = reader.take_number();
   if (reader.take('E') && reader.take_number() < 0) return false;  // digits of the exponent
   constexpr std::string_view kKinds = "IFEDG";
-  return reader.take(')') && kKinds.find(kind) != std::string_view::npos && repeat > 0 && width > 0 &&
-         width <= kWidest && decimals >= 0 && decimals <= kWidest;
+  return reader.take(')') && kKinds.find(kind) != std::string_view::npos && repeat > 0 && repeat < kTooLarge &&
+         width > 0 && width <= kWidest && decimals >= 0 && decimals <= kWidest;
 }
 
 bool parse_field(std::string_view field, std::int32_t& number) noexcept {

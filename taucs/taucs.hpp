@@ -4,6 +4,7 @@
 #include "taucs/files.hpp"
 #include "taucs/matrix.hpp"
 #include "taucs/operations.hpp"
+#include "taucs/ordering.hpp"
 #include "taucs/process.hpp"
 #include "taucs/products.hpp"
 #include "taucs/vectors.hpp"

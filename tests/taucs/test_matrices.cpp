@@ -1,0 +1,292 @@
+// Matrices and vectors against dense arithmetic on whole numbers, where every order of summation gives the same result.
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <numeric>
+
+#include "tests/taucs/taucs_host.hpp"
+
+namespace taucs_test {
+namespace {
+
+static_assert(sizeof(void*) != 4 || sizeof(taucs_ccs_matrix) == 24);
+static_assert(offsetof(taucs_ccs_matrix, n) == 0 && offsetof(taucs_ccs_matrix, m) == 4 &&
+              offsetof(taucs_ccs_matrix, flags) == 8);
+
+constexpr int kStructures[] = {0, TAUCS_SYMMETRIC, TAUCS_HERMITIAN};
+constexpr int kSizes[] = {0, 1, 2, 9, 40};
+
+template <class T>
+class TypedMatrices : public testing::Test {
+ protected:
+  // Calls check(A) for general, symmetric and Hermitian square matrices.
+  template <class Check>
+  void for_square_matrices(Check check) {
+    for (const int structure : kStructures) {
+      for (const int n : kSizes) {
+        SCOPED_TRACE("structure " + std::to_string(structure) + ", n " + std::to_string(n));
+        check(*random_matrix<T>(n, n, structure, random_));
+      }
+    }
+  }
+  std::mt19937 random_{7};
+};
+using Types = testing::Types<double, Complex>;
+TYPED_TEST_SUITE(TypedMatrices, Types);
+
+template <class T>
+std::vector<T> product(const Dense<T>& A, const T* x, int length) {
+  std::vector<T> b(length);
+  for (int j = 0; j < A.n; ++j) {
+    for (int i = 0; i < A.m; ++i) b[i] += A.at(i, j) * x[j];
+  }
+  return b;
+}
+
+TYPED_TEST(TypedMatrices, Product) {
+  const auto check = [&](const taucs_ccs_matrix& A) {
+    const auto x = whole_vector<TypeParam>(A.n, this->random_);
+    std::vector<TypeParam> b(std::max(A.m, A.n) + 1, TypeParam{77});
+    // Of the rows beyond n only those with entries are the library's to clear.
+    for (int i = A.n; i < A.m; ++i) b[i] = TypeParam{};
+    taucs_ccs_times_vec(&A, x.data(), b.data());
+    EXPECT_EQ(b.back(), TypeParam{77});
+    b.pop_back();
+    EXPECT_EQ(b, product(Dense<TypeParam>(A), x.data(), std::max(A.m, A.n)));
+  };
+  this->for_square_matrices(check);
+  check(*random_matrix<TypeParam>(3, 20, 0, this->random_));
+  check(*random_matrix<TypeParam>(20, 3, 0, this->random_));
+  const Matrix tall = random_matrix<TypeParam>(20, 3, 0, this->random_);
+  const std::vector<TypeParam> x(3, TypeParam{1});
+  std::vector<TypeParam> once(20), twice(20);
+  taucs_ccs_times_vec(tall.get(), x.data(), once.data());
+  for (int i = 0; i < 2; ++i) taucs_ccs_times_vec(tall.get(), x.data(), twice.data());
+  EXPECT_EQ(once, twice) << "rows beyond n must not add up from call to call";
+}
+
+TYPED_TEST(TypedMatrices, ProductWithManyVectors) {
+  this->for_square_matrices([&](const taucs_ccs_matrix& A) {
+    constexpr int kCount = 3;
+    const auto X = whole_vector<TypeParam>(kCount * A.n, this->random_);
+    std::vector<TypeParam> B(X.size(), TypeParam{77});
+    taucs_ccs_times_vec_many(&A, kCount, X.data(), B.data());
+    for (int k = 0; k < kCount; ++k) {
+      const auto b = product(Dense<TypeParam>(A), X.data() + k * A.n, A.n);
+      EXPECT_TRUE(std::equal(b.begin(), b.end(), B.begin() + k * A.n)) << "column " << k;
+    }
+  });
+}
+
+TYPED_TEST(TypedMatrices, Transpose) {
+  const auto check = [](const taucs_ccs_matrix& A) {
+    const Matrix B(taucs_ccs_transpose(&A));
+    ASSERT_NE(B, nullptr);
+    const Dense<TypeParam> a(A), b(*B);
+    ASSERT_EQ(b.m, a.n);
+    ASSERT_EQ(b.n, a.m);
+    for (int j = 0; j < a.n; ++j) {
+      for (int i = 0; i < a.m; ++i) EXPECT_EQ(b.at(j, i), a.at(i, j));
+    }
+    for (int j = 0; j < B->n; ++j) {
+      EXPECT_TRUE(std::is_sorted(B->rowind + B->colptr[j], B->rowind + B->colptr[j + 1]));
+    }
+    const bool is_triangle = A.flags & TAUCS_LOWER;
+    EXPECT_EQ(B->flags, is_triangle ? (A.flags & ~TAUCS_LOWER) | TAUCS_UPPER : A.flags);
+  };
+  this->for_square_matrices(check);
+  check(*random_matrix<TypeParam>(3, 20, 0, this->random_));
+  check(*random_matrix<TypeParam>(20, 3, 0, this->random_));
+}
+
+TYPED_TEST(TypedMatrices, SymmetricPermutation) {
+  this->for_square_matrices([&](const taucs_ccs_matrix& A) {
+    std::vector<int> perm(A.n), invperm(A.n);
+    std::iota(perm.begin(), perm.end(), 0);
+    std::shuffle(perm.begin(), perm.end(), this->random_);
+    for (int i = 0; i < A.n; ++i) invperm[perm[i]] = i;
+    const Matrix B(taucs_ccs_permute_symmetrically(&A, perm.data(), invperm.data()));
+    ASSERT_EQ(B != nullptr, (A.flags & TAUCS_LOWER) != 0);
+    if (B == nullptr) return;
+    EXPECT_EQ(B->flags, A.flags);
+    const Dense<TypeParam> a(A), b(*B);
+    for (int j = 0; j < A.n; ++j) {
+      for (int i = 0; i < A.n; ++i) EXPECT_EQ(b.at(i, j), a.at(perm[i], perm[j]));
+      for (int k = B->colptr[j]; k < B->colptr[j + 1]; ++k) EXPECT_GE(B->rowind[k], j);
+    }
+  });
+}
+
+TYPED_TEST(TypedMatrices, Augmentation) {
+  this->for_square_matrices([&](const taucs_ccs_matrix& A) {
+    const Matrix M(taucs_ccs_augment_nonpositive_offdiagonals(&A));
+    ASSERT_EQ(M != nullptr, (A.flags & TAUCS_LOWER) != 0);
+    if (M == nullptr) return;
+    EXPECT_EQ(M->flags, A.flags);
+    ASSERT_EQ(M->n, 2 * A.n);
+    const Dense<TypeParam> a(A), augmented(*M);
+    for (int j = 0; j < A.n; ++j) {
+      for (int i = 0; i < A.n; ++i) {
+        const bool moves = i != j && std::real(a.at(i, j)) > 0;
+        EXPECT_EQ(augmented.at(i, j), moves ? TypeParam{} : a.at(i, j));
+        EXPECT_EQ(augmented.at(A.n + i, A.n + j), augmented.at(i, j));
+        EXPECT_EQ(augmented.at(A.n + i, j), moves ? -a.at(i, j) : TypeParam{});
+        EXPECT_EQ(augmented.at(i, A.n + j), augmented.at(A.n + i, j));
+      }
+    }
+  });
+}
+
+TYPED_TEST(TypedMatrices, SplitKeepsEveryEntry) {
+  for (const int structure : {TAUCS_SYMMETRIC, TAUCS_HERMITIAN}) {
+    const Matrix A = random_matrix<TypeParam>(12, 12, structure, this->random_);
+    for (const int p : {0, 5, 12}) {
+      taucs_ccs_matrix *left = nullptr, *right = nullptr;
+      taucs_ccs_split(A.get(), &left, &right, p);
+      const Matrix L(left), R(right);
+      ASSERT_TRUE(L != nullptr && R != nullptr);
+      EXPECT_EQ(L->flags, kType<TypeParam> | TAUCS_LOWER);
+      EXPECT_EQ(R->flags, A->flags);
+      ASSERT_EQ(L->m, 12);
+      ASSERT_EQ(L->n, p);
+      ASSERT_EQ(R->n, 12 - p);
+      A->flags = kType<TypeParam>;
+      R->flags = kType<TypeParam>;
+      const Dense<TypeParam> a(*A), l(*L), r(*R);
+      for (int j = 0; j < 12; ++j) {
+        for (int i = 0; i < 12; ++i) {
+          const TypeParam there = j < p ? l.at(i, j) : i < p ? TypeParam{} : r.at(i - p, j - p);
+          EXPECT_EQ(there, a.at(i, j));
+        }
+      }
+      A->flags = R->flags | structure | TAUCS_LOWER;
+    }
+    for (const int p : {-1, 13}) {
+      taucs_ccs_matrix *left = A.get(), *right = A.get();
+      taucs_ccs_split(A.get(), &left, &right, p);
+      EXPECT_TRUE(left == nullptr && right == nullptr);
+    }
+  }
+}
+
+TYPED_TEST(TypedMatrices, Vectors) {
+  for (const int n : {0, 1, 7, 8, 9, 100}) {
+    const auto x = whole_vector<TypeParam>(n, this->random_), y = whole_vector<TypeParam>(n, this->random_);
+    std::vector<int> p(n);
+    std::iota(p.begin(), p.end(), 0);
+    std::shuffle(p.begin(), p.end(), this->random_);
+    std::vector<TypeParam> permuted(n), back(n), sum = y;
+    taucs_vec_permute(n, kType<TypeParam>, x.data(), permuted.data(), p.data());
+    taucs_vec_ipermute(n, kType<TypeParam>, permuted.data(), back.data(), p.data());
+    EXPECT_EQ(back, x);
+    taucs_vec_axpby(n, kType<TypeParam>, 2.0, x.data(), -3.0, sum.data(), sum.data());
+    double squares = 0;
+    for (int i = 0; i < n; ++i) {
+      EXPECT_EQ(permuted[i], x[p[i]]);
+      EXPECT_EQ(sum[i], 2.0 * x[i] - 3.0 * y[i]);
+      squares += std::norm(x[i]);
+    }
+    EXPECT_DOUBLE_EQ(taucs_vec_norm2(n, kType<TypeParam>, x.data()), std::sqrt(squares));
+    auto* const made = static_cast<TypeParam*>(taucs_vec_create(n, kType<TypeParam>));
+    ASSERT_NE(made, nullptr);
+    std::copy(x.begin(), x.end(), made);
+    std::free(made);
+  }
+}
+
+TEST(Vectors, NormAtTheEndsOfTheRange) {
+  const auto norm = [](std::vector<double> v) {
+    return taucs_vec_norm2(static_cast<int>(v.size()), TAUCS_DOUBLE, v.data());
+  };
+  EXPECT_DOUBLE_EQ(norm({3e300, 4e300}), 5e300);
+  EXPECT_DOUBLE_EQ(norm({3e-300, 4e-300}), 5e-300);
+  EXPECT_DOUBLE_EQ(norm({3e-200, 4e200, 3e200}), 5e200);
+  EXPECT_DOUBLE_EQ(norm({1e-160, 1.0}), 1.0);
+  EXPECT_DOUBLE_EQ(norm({5e-324, 0.0}), 5e-324);
+  const double infinity = std::numeric_limits<double>::infinity();
+  EXPECT_EQ(norm({1.0, -infinity}), infinity);
+  EXPECT_TRUE(std::isnan(norm({1.0, std::nan("")})));
+  EXPECT_TRUE(std::isnan(norm({1e300, std::nan("")})));
+  EXPECT_TRUE(std::isnan(norm({1e-300, std::nan("")})));
+}
+
+TEST(Matrices, RowsAreRenumberedInPlace) {
+  std::mt19937 random(3);
+  const Matrix A = random_matrix<double>(6, 4, 0, random);
+  const Dense<double> before(*A);
+  const int perm[] = {2, 0, 1, 5, 4, 3};
+  taucs_ccs_permute_rows_inplace(A.get(), perm);
+  const Dense<double> after(*A);
+  for (int j = 0; j < 4; ++j) {
+    for (int i = 0; i < 6; ++i) EXPECT_EQ(after.at(perm[i], j), before.at(i, j));
+  }
+}
+
+TEST(Matrices, CreationNeedsATypeAndMemory) {
+  for (const int flags : {0, int{TAUCS_SINGLE}, TAUCS_SCOMPLEX | TAUCS_SYMMETRIC, int{TAUCS_INT}}) {
+    EXPECT_EQ(taucs_ccs_create(2, 2, 2, flags), nullptr);
+    EXPECT_EQ(taucs_vec_create(2, flags), nullptr);
+  }
+  EXPECT_EQ(taucs_ccs_create(2, -1, 2, TAUCS_DOUBLE), nullptr);
+  EXPECT_EQ(taucs_ccs_create(2, 2, -1, TAUCS_DOUBLE), nullptr);
+  EXPECT_EQ(taucs_vec_create(-1, TAUCS_DOUBLE), nullptr);
+  if (sizeof(void*) == 4) {  // more than there are addresses
+    const int most = std::numeric_limits<int>::max();
+    EXPECT_EQ(taucs_ccs_create(2, 2, most, TAUCS_DOUBLE), nullptr);
+    EXPECT_EQ(taucs_ccs_create(2, most, 2, TAUCS_DOUBLE), nullptr);
+    EXPECT_EQ(taucs_vec_create(most, TAUCS_DCOMPLEX), nullptr);
+  }
+  const Matrix A(taucs_ccs_create(3, 2, 0, TAUCS_DCOMPLEX | TAUCS_PATTERN));
+  ASSERT_NE(A, nullptr);
+  EXPECT_EQ(A->m, 3);
+  EXPECT_EQ(A->n, 2);
+  EXPECT_EQ(A->flags, TAUCS_DCOMPLEX | TAUCS_PATTERN);
+  taucs_ccs_free(nullptr);
+}
+
+TEST(Services, AnswerAsPublished) {
+  EXPECT_EQ(taucs_ctime(), 0.0);
+  EXPECT_EQ(taucs_maximize_stacksize(), -1);
+  const double now = taucs_wtime();
+  EXPECT_TRUE(now >= 0 && now < 86400);
+  const auto utc = static_cast<double>(std::time(nullptr) % 86400);
+  EXPECT_LT(std::remainder(now - utc, 86400), 3);
+  EXPECT_GT(std::remainder(now - utc, 86400), -3);
+  const double total = taucs_system_memory_size(), available = taucs_available_memory_size();
+  EXPECT_GT(total, 64e6);
+  EXPECT_GT(available, 0);
+  EXPECT_LE(available, total);
+  for (const std::string& name : {std::string("stdout"), std::string("taucs.log"), std::string(5000, 'x')}) {
+    taucs_logfile(name.c_str());
+  }
+}
+
+#if UINTPTR_MAX == UINT32_MAX
+// Arrays of 32-bit hosts may lie at any multiple of 4.
+TEST(Vectors, AlignedToFourBytesOnly) {
+  constexpr int kN = 37;
+  alignas(16) char memory[4][16 * kN + 16] = {};
+  int p[kN];
+  std::iota(p, p + kN, 0);
+  for (const int offset : {4, 8, 12}) {
+    for (const int flags : {int{TAUCS_DOUBLE}, int{TAUCS_DCOMPLEX}}) {
+      const int parts = flags == TAUCS_DOUBLE ? kN : 2 * kN;
+      char *x = memory[0] + offset, *y = memory[1] + offset, *r = memory[2] + offset;
+      for (int i = 0; i < parts; ++i) {
+        const double number = i;
+        std::memcpy(x + 8 * i, &number, 8);
+        std::memcpy(y + 8 * i, &number, 8);
+      }
+      taucs_vec_axpby(kN, flags, 2.0, x, -1.0, y, r);
+      EXPECT_EQ(std::memcmp(r, x, 8 * parts), 0);
+      taucs_vec_permute(kN, flags, x, r, p);
+      taucs_vec_ipermute(kN, flags, r, y, p);
+      EXPECT_EQ(std::memcmp(y, x, 8 * parts), 0);
+      EXPECT_DOUBLE_EQ(taucs_vec_norm2(kN, flags, x), std::sqrt((parts - 1.0) * parts * (2.0 * parts - 1) / 6));
+    }
+  }
+}
+#endif
+
+}  // namespace
+}  // namespace taucs_test

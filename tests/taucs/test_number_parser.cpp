@@ -1,0 +1,198 @@
+// Numbers against the C library's scanf, which is the definition of what a file says.
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <clocale>
+#include <cmath>
+#include <cstdio>
+#include <cstring>
+#include <random>
+#include <string>
+
+#include "taucs/fixed_fields.hpp"
+#include "taucs/number_parser.hpp"
+
+namespace quorin::taucs {
+namespace {
+
+// What scanf makes of a text: whether it is a number, its bits, how many characters it took.
+struct Reading {
+  bool is_number = false;
+  std::uint64_t bits = 0;
+  long length = 0;
+  bool operator==(const Reading&) const = default;
+};
+
+std::uint64_t bits_of(double value) {
+  return std::isnan(value) ? 1 : std::bit_cast<std::uint64_t>(value);  // the sign and payload of a NaN are free
+}
+
+template <class Number>
+Reading scanned(const std::string& text, const char* format) {
+  Number number{};
+  int length = 0;
+  if (std::sscanf(text.c_str(), format, &number, &length) != 1) return {};
+  return {true, bits_of(number), length};
+}
+
+template <class Number>
+Reading parsed(const std::string& text) {
+  Number number{};
+  const char* const stop = parse_number(text.data(), text.data() + text.size(), number);
+  if (stop == nullptr) return {};
+  return {true, bits_of(number), static_cast<long>(stop - text.data())};
+}
+
+void expect_same(const std::string& text) {
+  EXPECT_EQ(parsed<double>(text), scanned<double>(text, "%lg%n")) << '"' << text << '"';
+}
+
+TEST(NumberParser, ReadsDoublesAsScanfDoes) {
+  std::mt19937_64 random(11);
+  char text[400];
+  for (int k = 0; k < 200000; ++k) {
+    const double any = std::bit_cast<double>(random());
+    const double usual = std::ldexp(static_cast<double>(random() >> 11), -40 - static_cast<int>(random() % 20));
+    const double number = k % 2 == 0 && std::isfinite(any) ? any : usual;
+    constexpr const char* kFormats[] = {"%.17e", "%.16g", "%.15g", "%g", "%.5f", "%.0e", "%.25e", "%+.3E"};
+    std::snprintf(text, sizeof text, kFormats[random() % std::size(kFormats)], std::min(number, 1e200));
+    const double expected = std::strtod(text, nullptr);
+    const Reading reading = parsed<double>(text);
+    ASSERT_EQ(reading.bits, bits_of(expected)) << text;
+    ASSERT_EQ(reading.length, static_cast<long>(std::strlen(text))) << text;
+  }
+}
+
+TEST(NumberParser, StopsWhereScanfStops) {
+  for (const char* const text : {"1",
+                                 "-1",
+                                 "+7",
+                                 "1.",
+                                 ".5",
+                                 "-.5e1",
+                                 "1.e3",
+                                 ".",
+                                 "-",
+                                 "+",
+                                 "",
+                                 "e5",
+                                 "1e5x",
+                                 "1,5",
+                                 "1.5.5",
+                                 "007",
+                                 "-0",
+                                 "0e0",
+                                 "0e999999",
+                                 "1e400",
+                                 "-1e400",
+                                 "1e-400",
+                                 "4.9e-324",
+                                 "2e-324",
+                                 "1e99999999999999999999",
+                                 "1e-99999999999999999999",
+                                 "inf",
+                                 "-INF",
+                                 "infinity",
+                                 "nan",
+                                 "1x",
+                                 "--1",
+                                 "+-1",
+                                 "1.7976931348623157e308",
+                                 "1.7976931348623159e308",
+                                 "2.2250738585072011e-308",
+                                 "9007199254740993",
+                                 "9007199254740992.9999999999999999",
+                                 "123456789012345678901234567890",
+                                 "0.000000000000000000000000000000000000001",
+                                 "8.5e22",
+                                 "1e23",
+                                 "8388608.5",
+                                 "100000000000000016777215",
+                                 "100000000000000016777216",
+                                 "5e-1 7"}) {
+    expect_same(text);
+  }
+  const std::string zeros(5000, '0');
+  expect_same("0." + zeros + "1e5001");
+  expect_same("1" + zeros + "e-5000");
+  expect_same("0." + zeros + "1");
+  expect_same("1" + zeros);
+  // Incomplete numbers are none; what the C library of old makes of these is its own affair.
+  for (const char* const text : {"1e", "1e+", "1e-x", "in", "infin", "na", "nan(", "0x", "0xg", "0x1p", "0x-1"}) {
+    EXPECT_FALSE(parsed<double>(text).is_number) << text;
+  }
+  EXPECT_EQ(parsed<double>("0x1.8p3"), (Reading{true, bits_of(12.0), 7}));
+  EXPECT_EQ(parsed<double>("-0xAx"), (Reading{true, bits_of(-10.0), 4}));
+  EXPECT_EQ(parsed<double>("nan(12)3"), (Reading{true, bits_of(NAN), 7}));
+  EXPECT_EQ(parsed<double>("0x1p99999"), (Reading{true, bits_of(HUGE_VAL), 9}));
+}
+
+TEST(NumberParser, ReadsIntegersAsScanfDoes) {
+  for (const char* const text :
+       {"0", "-0", "+5", "12 3", "-12x", "2147483647", "-2147483648", "007", "1.5", "", "x", "+", "-", "+-1"}) {
+    EXPECT_EQ(parsed<int>(text), scanned<int>(text, "%d%n")) << '"' << text << '"';
+  }
+  EXPECT_FALSE(parsed<int>("2147483648").is_number);
+  EXPECT_FALSE(parsed<int>("99999999999999999999").is_number);
+}
+
+TEST(NumberParser, KnowsNoLocale) {
+  const std::string before = std::setlocale(LC_ALL, nullptr);
+  for (const char* const name : {"de_DE.UTF-8", "German_Germany.1252", "fr_FR.UTF-8"}) std::setlocale(LC_ALL, name);
+  EXPECT_EQ(parsed<double>("1.5"), (Reading{true, bits_of(1.5), 3}));
+  EXPECT_EQ(parsed<double>("1.2345678901234567891e40").bits, bits_of(1.2345678901234567891e40));
+  std::setlocale(LC_ALL, before.c_str());
+}
+
+TEST(FixedFields, DescriptorsOfFortran) {
+  const auto is = [](const char* text, char kind, int repeat, int width, int decimals, int scale) {
+    FieldFormat format;
+    return format.parse(text) && format.kind == kind && format.repeat == repeat && format.width == width &&
+           format.decimals == decimals && format.scale == scale;
+  };
+  EXPECT_TRUE(is("(16I5)", 'I', 16, 5, 0, 0));
+  EXPECT_TRUE(is(" ( 4e20.12 ) ", 'E', 4, 20, 12, 0));
+  EXPECT_TRUE(is("(1P,3D26.17E3)", 'D', 3, 26, 17, 1));
+  EXPECT_TRUE(is("(1P5E16.8)", 'E', 5, 16, 8, 1));
+  EXPECT_TRUE(is("(-2PF10.3)", 'F', 1, 10, 3, -2));
+  EXPECT_TRUE(is("(G25.16)", 'G', 1, 25, 16, 0));
+  FieldFormat format;
+  for (const char* const text : {"", "(", "()", "(I)", "(0I5)", "(5I0)", "(5I5", "5I5)", "(5A5)", "(-3I5)", "(5I1000)",
+                                 "(99999999999I5)", "(1X,I5)", "(5E10.)", "(PI5)"}) {
+    EXPECT_FALSE(format.parse(text)) << text;
+  }
+}
+
+TEST(FixedFields, NumbersOfFortran) {
+  struct Case {
+    const char* format;
+    const char* field;
+    double expected;
+  };
+  for (const Case& c : {Case{"(E12.4)", "  1.5E+02 ", 150},
+                        {"(E12.4)", "1.5D2", 150},
+                        {"(E12.4)", "1.5-3", 1.5e-3},
+                        {"(E12.4)", "-1.5+3", -1500},
+                        {"(F10.3)", "   12345", 12.345},
+                        {"(F10.3)", "12.5", 12.5},
+                        {"(2PF10.3)", "12.5", 0.125},
+                        {"(1PE10.3)", "1.25E1", 12.5},
+                        {"(I10)", "  -42", -42},
+                        {"(E10.2)", "1234E2", 1234},
+                        {"(D25.16)", "0.1000000000000000D+00", 0.1}}) {
+    FieldFormat format;
+    double number = 0;
+    ASSERT_TRUE(format.parse(c.format));
+    EXPECT_TRUE(parse_field(c.field, format, number) && number == c.expected) << c.format << ' ' << c.field;
+  }
+  FieldFormat format;
+  ASSERT_TRUE(format.parse("(E12.4)"));
+  double number = 0;
+  for (const char* const field :
+       {"", "   ", "1.5E", "E5", "1.5E+", "1 5", "abc", "1.5F2", "-", ".", "1.2.3", "inf", "1E99999999999"}) {
+    EXPECT_FALSE(parse_field(field, format, number)) << field;
+  }
+}
+
+}  // namespace
+}  // namespace quorin::taucs
