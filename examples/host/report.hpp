@@ -59,5 +59,6 @@ void least_squares_rows(const Library& library, Report& report);
 void slap_rows(const Library& library, Report& report);
 void amos_rows(const Library& library, Report& report);
 void umfpack_rows(const Library& library, Report& report);
+void taucs_rows(const Library& library, Report& report);
 
 }  // namespace demo

@@ -1,6 +1,8 @@
 // Matrices and vectors against dense arithmetic on whole numbers, where every order of summation gives the same result.
 #include <cmath>
+#include <cstddef>
 #include <cstring>
+#include <ctime>
 #include <limits>
 #include <numeric>
 
@@ -252,10 +254,13 @@ TEST(Services, AnswerAsPublished) {
   const auto utc = static_cast<double>(std::time(nullptr) % 86400);
   EXPECT_LT(std::remainder(now - utc, 86400), 3);
   EXPECT_GT(std::remainder(now - utc, 86400), -3);
-  const double total = taucs_system_memory_size(), available = taucs_available_memory_size();
+  const double total = taucs_system_memory_size();
   EXPECT_GT(total, 64e6);
-  EXPECT_GT(available, 0);
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)  // these touch what is only reserved
+  const double available = taucs_available_memory_size();
+  EXPECT_GT(available, 1e6);
   EXPECT_LE(available, total);
+#endif
   for (const std::string& name : {std::string("stdout"), std::string("taucs.log"), std::string(5000, 'x')}) {
     taucs_logfile(name.c_str());
   }
