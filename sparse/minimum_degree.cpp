@@ -5,6 +5,8 @@
 #include <limits>
 #include <span>
 
+#include "base/parallel.hpp"
+#include "base/thread_settings.hpp"
 #include "sparse/degree_lists.hpp"
 #include "sparse/elimination_tree.hpp"
 
@@ -12,6 +14,9 @@ namespace quorin::sparse {
 namespace {
 
 using base::Workspace;
+
+// From this size on, two threads are worth their start.
+constexpr int kLeastForThreads = 2000;
 
 // How many variables a pass eliminates.
 enum class Passes { kOfMany, kOfOne };
@@ -91,7 +96,7 @@ class MinimumDegree {
 
   int free_ = 0;  // the end of the lists
   int left_ = 0;  // the weight of all variables
-  int base_ = 0;
+  int base_ = 2;
   int longest_span_ = 0;
   int pivot_count_ = 0;
   int touched_count_ = 0;
@@ -140,8 +145,6 @@ void MinimumDegree::run(Passes passes, const Ordering& ordering) noexcept {
 
 // Vertices with many neighbours are left out, to be eliminated last: their lists would be read over and over.
 void MinimumDegree::load() noexcept {
-  free_ = left_ = longest_span_ = pivot_count_ = 0;
-  base_ = 2;
   for (int i = 0; i < n_; ++i) {
     const bool takes_part = graph_.degree(i) <= most_neighbours_;
     weight_[i] = mark_[i] = takes_part ? 1 : 0;
@@ -419,17 +422,25 @@ void MinimumDegree::write(const Ordering& ordering) noexcept {
 Outcome order_minimum_degree(const Graph& graph, const Ordering& ordering) noexcept {
   const int n = graph.size();
   if (n > std::numeric_limits<int>::max() / 8) return Outcome::kTooLarge;
-  MinimumDegree work(graph);
-  Workspace<int> single(base::saturating_product(static_cast<std::size_t>(n), 2));
-  if (!work || !single) return Outcome::kOutOfMemory;
-  const Ordering by_one{single.data(), single.data() + n};
-  work.run(Passes::kOfMany, ordering);
-  work.run(Passes::kOfOne, by_one);
-  const std::int64_t entries = factor_entries(graph, ordering), entries_by_one = factor_entries(graph, by_one);
-  if (entries < 0 || entries_by_one < 0) return Outcome::kOutOfMemory;
-  if (entries_by_one < entries) {
-    std::copy_n(by_one.permutation, n, ordering.permutation);
-    std::copy_n(by_one.inverse, n, ordering.inverse);
+  MinimumDegree of_many(graph), of_one(graph);
+  Workspace<int> arrays(base::saturating_product(static_cast<std::size_t>(n), 2));
+  if (!of_many || !of_one || !arrays) return Outcome::kOutOfMemory;
+  const Ordering second{arrays.data(), arrays.data() + n};
+  std::int64_t entries[2];
+  const int threads = n < kLeastForThreads ? 1 : base::region_threads(base::Domain::kSparseDirect);
+  base::parallel_for(2, threads, [&](int trial) {
+    if (trial == 0) {
+      of_many.run(Passes::kOfMany, ordering);
+      entries[0] = factor_entries(graph, ordering);
+    } else {
+      of_one.run(Passes::kOfOne, second);
+      entries[1] = factor_entries(graph, second);
+    }
+  });
+  if (entries[0] < 0 || entries[1] < 0) return Outcome::kOutOfMemory;
+  if (entries[1] < entries[0]) {
+    std::copy_n(second.permutation, n, ordering.permutation);
+    std::copy_n(second.inverse, n, ordering.inverse);
   }
   return Outcome::kDone;
 }

@@ -9,9 +9,8 @@
 
 namespace quorin::sparse {
 
-// Nested dissection by METIS with its default options. Vertices are numbered as METIS_NodeND does. Two calls at a time
-// wait for each other. While METIS works, the process's handlers for SIGABRT and SIGTERM are METIS's.
-// kOutOfMemory; kFailed for any other error of METIS.
+// Nested dissection by METIS with its default options, as METIS_NodeND does it; the identity for a graph without edges.
+// Of several calls at a time, one works and the others wait. kOutOfMemory; kFailed for any other error of METIS.
 Outcome order_metis(const Graph& graph, const Ordering& ordering) noexcept;
 
 // Approximate minimum degree by AMD with its default settings, on the graph of A + A^T for a square pattern.

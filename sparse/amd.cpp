@@ -1,45 +1,15 @@
-// The orderings of the libraries that we link.
+// The orderings of AMD and COLAMD.
 #include <amd.h>
 #include <colamd.h>
-#include <metis.h>
 
 #include <algorithm>
-#include <mutex>
-#include <type_traits>
+#include <limits>
 
-#include "platform/platform.hpp"
 #include "sparse/orderings.hpp"
 
 namespace quorin::sparse {
 
 using base::Workspace;
-
-static_assert(std::is_same_v<idx_t, int>);
-
-namespace {
-
-// METIS keeps its heap's bookkeeping and its jump target in global variables.
-constinit platform::Mutex metis_lock;
-
-}  // namespace
-
-// An allocation that fails inside of METIS raises a signal that METIS itself catches and returns as METIS_ERROR_MEMORY.
-Outcome order_metis(const Graph& graph, const Ordering& ordering) noexcept {
-  if (graph.size() == 0) return Outcome::kDone;
-  // METIS has no const; it reads these.
-  int n = graph.size();
-  int* const starts = const_cast<int*>(graph.starts());
-  int* const adjacency = const_cast<int*>(graph.adjacency());
-  const std::lock_guard guard(metis_lock);
-  switch (METIS_NodeND(&n, starts, adjacency, nullptr, nullptr, ordering.permutation, ordering.inverse)) {
-    case METIS_OK:
-      return Outcome::kDone;
-    case METIS_ERROR_MEMORY:
-      return Outcome::kOutOfMemory;
-    default:
-      return Outcome::kFailed;
-  }
-}
 
 Outcome order_amd(const Pattern& pattern, const Ordering& ordering, int& code) noexcept {
   code = 0;
@@ -63,7 +33,8 @@ Outcome order_colamd(const Pattern& pattern, const Ordering& ordering) noexcept 
   if (length == 0 || length > static_cast<std::size_t>(std::numeric_limits<int>::max())) return Outcome::kTooLarge;
   Workspace<int> entries(length), starts(static_cast<std::size_t>(n) + 1);
   if (!entries || !starts) return Outcome::kOutOfMemory;
-  std::copy_n(pattern.indices, pattern.entries(), entries.data());
+  // Zeros in the room behind: where entries are repeated, COLAMD reads a part of it that it has not written.
+  std::fill(std::copy_n(pattern.indices, pattern.entries(), entries.begin()), entries.end(), 0);
   std::copy_n(pattern.starts, starts.size(), starts.data());
   int stats[COLAMD_STATS];
   if (!colamd(pattern.rows, n, static_cast<int>(length), entries.data(), starts.data(), nullptr, stats)) {
