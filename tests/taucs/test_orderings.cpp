@@ -1,0 +1,205 @@
+// Orderings by name: which matrices each takes, that METIS and AMD answer as when called directly, and the fill.
+#include <amd.h>
+#include <metis.h>
+
+#include <set>
+#include <thread>
+
+#include "tests/taucs/taucs_host.hpp"
+
+namespace taucs_test {
+namespace {
+
+struct Ordering {
+  Ordering(const taucs_ccs_matrix* A, const char* name) {
+    // Both are set in any case.
+    perm = inverse = reinterpret_cast<int*>(this);
+    taucs_ccs_order(A, &perm, &inverse, name);
+  }
+  Ordering(const Ordering&) = delete;
+  Ordering& operator=(const Ordering&) = delete;
+  ~Ordering() {
+    std::free(perm);
+    std::free(inverse);
+  }
+
+  bool is_null() const { return perm == nullptr && inverse == nullptr; }
+  bool is_valid(int n) const {
+    if (perm == nullptr || inverse == nullptr) return false;
+    std::set<int> indices;
+    for (int k = 0; k < n; ++k) {
+      if (perm[k] < 0 || perm[k] >= n || inverse[perm[k]] != k) return false;
+      indices.insert(perm[k]);
+    }
+    return static_cast<int>(indices.size()) == n;
+  }
+  std::vector<int> indices(int n) const { return {perm, perm + n}; }
+
+  int *perm, *inverse;
+};
+
+Matrix pattern(int m, int flags, const std::vector<std::vector<int>>& columns) {
+  int nnz = 0;
+  for (const auto& column : columns) nnz += static_cast<int>(column.size());
+  Matrix A(taucs_ccs_create(m, static_cast<int>(columns.size()), nnz, flags));
+  A->colptr[0] = 0;
+  for (int j = 0, k = 0; j < A->n; ++j) {
+    for (const int i : columns[j]) A->rowind[k++] = i;
+    A->colptr[j + 1] = k;
+  }
+  return A;
+}
+
+constexpr int kLowerSymmetric = TAUCS_DOUBLE | TAUCS_SYMMETRIC | TAUCS_LOWER;
+
+// The five-point (in space, seven-point) pattern of a grid.
+Matrix grid(int a, int b, int c, int flags = kLowerSymmetric) {
+  std::vector<std::vector<int>> columns;
+  for (int v = 0; v < a * b * c; ++v) {
+    columns.push_back({v});
+    if ((v + 1) % a != 0) columns.back().push_back(v + 1);
+    if (v / a % b != b - 1) columns.back().push_back(v + a);
+    if (v / (a * b) != c - 1) columns.back().push_back(v + a * b);
+  }
+  return pattern(a * b * c, flags, columns);
+}
+
+const char* const kSymmetricOrderings[] = {"camd", "metis", "genmmd", "tree"};
+
+TEST(Orderings, TakeTheMatricesThatTheyAreFor) {
+  const Matrix symmetric = grid(7, 5, 1), hermitian = grid(7, 5, 1, TAUCS_DCOMPLEX | TAUCS_HERMITIAN | TAUCS_LOWER);
+  const Matrix general = grid(7, 5, 1, TAUCS_DOUBLE),
+               upper = grid(7, 5, 1, TAUCS_DOUBLE | TAUCS_SYMMETRIC | TAUCS_UPPER);
+  for (const char* name : kSymmetricOrderings) {
+    EXPECT_TRUE(Ordering(symmetric.get(), name).is_valid(35)) << name;
+    EXPECT_TRUE(Ordering(hermitian.get(), name).is_valid(35)) << name;
+    EXPECT_TRUE(Ordering(general.get(), name).is_null()) << name;
+    EXPECT_TRUE(Ordering(upper.get(), name).is_null()) << name;
+  }
+  for (const taucs_ccs_matrix* A : {symmetric.get(), hermitian.get(), upper.get()}) {
+    EXPECT_TRUE(Ordering(A, "colamd").is_null());
+  }
+  EXPECT_TRUE(Ordering(general.get(), "colamd").is_valid(35));
+  for (const taucs_ccs_matrix* A : {symmetric.get(), hermitian.get(), general.get(), upper.get()}) {
+    EXPECT_TRUE(Ordering(A, "random").is_valid(35));
+    const Ordering identity(A, "identity");
+    for (int i = 0; i < 35; ++i) EXPECT_TRUE(identity.perm[i] == i && identity.inverse[i] == i);
+    for (const char* name : {"amd", "amdbar", "md", "METIS", "Metis", "metis ", "", "meti", "genmmd2", "COLAMD"}) {
+      EXPECT_TRUE(Ordering(A, name).is_null()) << name;
+    }
+  }
+  EXPECT_TRUE(Ordering(nullptr, "identity").is_null());
+  EXPECT_TRUE(Ordering(symmetric.get(), nullptr).is_null());
+}
+
+TEST(Orderings, OfMatricesAtTheEdge) {
+  const Matrix matrices[] = {
+      pattern(0, kLowerSymmetric, {}),
+      pattern(1, kLowerSymmetric, {{}}),
+      pattern(1, kLowerSymmetric, {{0, 0}}),
+      pattern(500, kLowerSymmetric, std::vector<std::vector<int>>(500)),
+      // Unsorted, repeated, empty, and with entries above the diagonal.
+      pattern(6, kLowerSymmetric, {{5, 0, 5, 2}, {}, {4, 2, 0}, {3, 3}, {}, {1, 5}}),
+  };
+  for (const Matrix& A : matrices) {
+    for (const char* name : {"camd", "metis", "genmmd", "tree", "random", "identity"}) {
+      EXPECT_TRUE(Ordering(A.get(), name).is_valid(A->n)) << name << ' ' << A->n;
+    }
+  }
+  const Matrix rectangular[] = {pattern(2, TAUCS_DOUBLE, {{0}, {}, {1, 0}, {1}, {1, 1, 0}}),
+                                pattern(7, TAUCS_DCOMPLEX, {{6, 2}, {}, {0, 1, 2, 3, 4, 5, 6}}),
+                                pattern(3, TAUCS_DOUBLE, {})};
+  for (const Matrix& A : rectangular) {
+    for (const char* name : {"colamd", "random", "identity"}) {
+      EXPECT_TRUE(Ordering(A.get(), name).is_valid(A->n)) << name << ' ' << A->n;
+    }
+  }
+}
+
+TEST(Orderings, RefusePatternsThatAreNone) {
+  std::vector<Matrix> matrices;
+  matrices.push_back(pattern(2, kLowerSymmetric, {{0}, {2}}));
+  matrices.push_back(pattern(2, kLowerSymmetric, {{0, -1}, {1}}));
+  matrices.push_back(pattern(3, kLowerSymmetric, {{0}, {1}}));
+  matrices.push_back(pattern(2, kLowerSymmetric, {{0}, {1}}));
+  matrices.back()->colptr[1] = 3;
+  for (Matrix& A : matrices) {
+    for (const char* name : kSymmetricOrderings) EXPECT_TRUE(Ordering(A.get(), name).is_null()) << name;
+    A->flags = TAUCS_DOUBLE;
+    EXPECT_TRUE(A->m != A->n || Ordering(A.get(), "colamd").is_null());
+  }
+}
+
+// METIS and AMD, called here.
+TEST(Orderings, OfTheDependenciesAreTheirs) {
+  for (const Matrix& A : {grid(100, 90, 1), grid(316, 316, 1), grid(46, 46, 46), grid(9, 8, 7)}) {
+    int n = A->n;
+    std::vector<int> theirs(n), inverse(n);
+    ASSERT_EQ(amd_order(n, A->colptr, A->rowind, theirs.data(), nullptr, nullptr), AMD_OK);
+    EXPECT_EQ(Ordering(A.get(), "camd").indices(n), theirs);
+
+    std::vector<std::set<int>> neighbours(n);
+    for (int j = 0; j < n; ++j) {
+      for (int k = A->colptr[j]; k < A->colptr[j + 1]; ++k) {
+        if (const int i = A->rowind[k]; i != j) neighbours[i].insert(j), neighbours[j].insert(i);
+      }
+    }
+    std::vector<int> starts = {0}, adjacency;
+    for (const auto& list : neighbours) {
+      adjacency.insert(adjacency.end(), list.begin(), list.end());
+      starts.push_back(static_cast<int>(adjacency.size()));
+    }
+    ASSERT_EQ(METIS_NodeND(&n, starts.data(), adjacency.data(), nullptr, nullptr, theirs.data(), inverse.data()),
+              METIS_OK);
+    const Ordering metis(A.get(), "metis");
+    EXPECT_EQ(metis.indices(n), theirs);
+    EXPECT_TRUE(metis.is_valid(n));
+  }
+}
+
+// Of the factor in this order, by elimination on sets: for small matrices.
+std::size_t factor_entries(const taucs_ccs_matrix& A, const Ordering& ordering) {
+  std::vector<std::set<int>> below(A.n);
+  for (int j = 0; j < A.n; ++j) {
+    for (int k = A.colptr[j]; k < A.colptr[j + 1]; ++k) {
+      const auto [first, last] = std::minmax(ordering.inverse[j], ordering.inverse[A.rowind[k]]);
+      if (first != last) below[first].insert(last);
+    }
+  }
+  std::size_t entries = below.size();
+  for (const auto& column : below) {
+    entries += column.size();
+    if (!column.empty()) below[*column.begin()].insert(std::next(column.begin()), column.end());
+  }
+  return entries;
+}
+
+TEST(Orderings, KeepFactorsSparse) {
+  const Matrix plane = grid(30, 30, 1), space = grid(10, 9, 11), path = grid(400, 1, 1);
+  for (const taucs_ccs_matrix* A : {plane.get(), space.get()}) {
+    const auto of_camd = static_cast<double>(factor_entries(*A, Ordering(A, "camd")));
+    EXPECT_LE(factor_entries(*A, Ordering(A, "genmmd")), 1.1 * of_camd);
+    EXPECT_LE(factor_entries(*A, Ordering(A, "tree")), 1.1 * of_camd);
+    EXPECT_GE(factor_entries(*A, Ordering(A, "random")), 1.5 * of_camd);
+  }
+  EXPECT_EQ(factor_entries(*path, Ordering(path.get(), "tree")), 400U + 399U);
+}
+
+TEST(Orderings, AreTheSameFromSeveralThreads) {
+  const Matrix A = grid(60, 50, 1);
+  for (const char* name : {"metis", "genmmd", "camd", "random"}) {
+    const std::vector<int> expected = Ordering(A.get(), name).indices(A->n);
+    std::vector<std::vector<int>> computed(4);
+    std::vector<std::thread> threads;
+    for (auto& indices : computed) {
+      threads.emplace_back([&] {
+        for (int k = 0; k < 3; ++k) indices = Ordering(A.get(), name).indices(A->n);
+      });
+    }
+    for (std::thread& thread : threads) thread.join();
+    for (const auto& indices : computed) EXPECT_EQ(indices, expected) << name;
+  }
+}
+
+}  // namespace
+}  // namespace taucs_test
