@@ -123,6 +123,7 @@ Libraries find_product(const Symbols& in) {
                    .mask = in["vspackm"],
                    .unpack_mask = in["vsunpackm"]},
           .slap = find_slap(in),
+          .taucs = {.ccs_order = in["taucs_ccs_order"]},
           .peer = std::nullopt,
           .peer_description = {}};
 }

@@ -12,6 +12,7 @@
 #include "quorin/rci.h"
 #include "quorin/signal.h"
 #include "quorin/slap.h"
+#include "quorin/taucs.h"
 #include "quorin/umfpack.h"
 
 namespace quorin::bench {
@@ -114,6 +115,10 @@ struct Slap {
   decltype(&::SSILUR) ssilur;
 };
 
+struct Taucs {
+  decltype(&::taucs_ccs_order) ccs_order;
+};
+
 struct Libraries {
   Blas product;
   IndexForms index_forms;
@@ -124,6 +129,7 @@ struct Libraries {
   Umfpack umfpack;
   Pack pack;
   Slap slap;
+  Taucs taucs;
   std::optional<Blas> peer;
   std::string peer_description;
 };

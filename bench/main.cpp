@@ -139,6 +139,7 @@ void run(int argc, char** argv) {
   add_umfpack_rows(suite);
   add_pack_rows(suite);
   add_slap_rows(suite);
+  add_ordering_rows(suite);
 
   std::ofstream file;
   if (!options.out.empty()) {

@@ -16,7 +16,7 @@ from dataclasses import dataclass, field
 PRODUCT, INDEX, LIMIT = "quorin", "index", "limit"
 TITLES = {
     "openblas": "OpenBLAS", "lapack": "LAPACK", "eigen": "Eigen", "boost": "Boost.Math", "gsl": "GSL", "umfpack": "UMFPACK",
-    "loop": "a loop",
+    "loop": "a loop", "amd": "AMD",
 }
 
 # What a section of the results answers. A section without an entry here is shown under its own name.
@@ -28,6 +28,12 @@ SECTIONS = {
         "The peer is the published LAPACK over the stock OpenBLAS, on as many threads. Singular values, symmetric eigenvalues and right"
         " eigenvectors of general matrices, all with vectors. Operations are nominal, in n^3: sgetrf 2/3, cgetrf 8/3, spotrf 1/3,"
         " sgeqrf 4/3, ssyevr 10/3, cheevr 40/3, sgesdd 20/3, sgeev 25.",
+    ),
+    "orderings": (
+        "Orderings",
+        "`taucs_ccs_order` on finite differences in square grids (five points) and cubic ones (seven) with n unknowns, against"
+        " `amd_order` called directly. genmmd orders twice, on two threads if it may, and keeps the better order."
+        " \"Fill\" is the number of entries of the factor.",
     ),
     "signal": (
         "Filter design and Toeplitz systems",
