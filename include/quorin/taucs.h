@@ -110,8 +110,8 @@ QUORIN_API int32_t QUORIN_CDECL taucs_maximize_stacksize(void);
 /* A permutation that keeps factors sparse, and its inverse, in new arrays of n. name, exactly: metis, genmmd, camd or
    tree for symmetric and Hermitian matrices whose lower triangle is stored; colamd for others, whose columns it orders;
    random (the same one for the same n) or identity for any. Both arrays are null for any other name (amd, amdbar and md
-   among them), for a matrix of another structure or with an index outside of it, and without memory. -- perm: out;
-   invperm: out; name: array */
+   among them), for a matrix of another structure or with an index outside of it, and without memory; but colamd stops the
+   process if there is none for the two arrays. -- perm: out; invperm: out; name: array */
 QUORIN_API void QUORIN_CDECL taucs_ccs_order(const taucs_ccs_matrix* A, int32_t** perm, int32_t** invperm,
                                              const char* name);
 
