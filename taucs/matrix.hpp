@@ -32,6 +32,10 @@ concept Element = std::same_as<T, double> || std::same_as<T, std::complex<double
 template <Element T>
 inline constexpr std::int32_t kTypeFlag = std::same_as<T, double> ? kDouble : kDcomplex;
 
+/// Real numbers in an element; a complex one is laid out as its two parts.
+template <Element T>
+inline constexpr std::size_t kParts = std::same_as<T, double> ? 1 : 2;
+
 // An m-by-n matrix. Column j has the entries colptr[j], ..., colptr[j+1] - 1 of rowind (zero-based) and values, in any
 // order; colptr[0] = 0. A symmetric or Hermitian matrix holds one triangle with its diagonal.
 struct CcsMatrix {

@@ -68,7 +68,7 @@ double system_memory_size() noexcept {
 
 double available_memory_size() noexcept {
   const double available = platform::memory_status().available_physical;
-  constexpr auto kAddressable = static_cast<double>(std::numeric_limits<std::size_t>::max() / 2);
+  constexpr double kAddressable = static_cast<double>(std::numeric_limits<std::size_t>::max()) / 2;
   const double granted = largest_block(std::min(available, kAddressable));
   print("taucs_avail_memory_size: malloc test=%.0lf MB sys test=%.0lf MB\n", granted / kMegabyte,
         available / kMegabyte);

@@ -98,9 +98,8 @@ bool read_values(TextScanner& text, const Header& header, T* values) noexcept {
     std::fill_n(values, count, T{1.0});
     return true;
   }
-  constexpr std::size_t kParts = sizeof(T) / sizeof(double);  // std::complex is laid out as its two parts
   auto* const parts = reinterpret_cast<double*>(values);
-  return read_section<double>(text, header.values, kParts * count,
+  return read_section<double>(text, header.values, kParts<T> * count,
                               [&](std::size_t k, double number) { parts[k] = number; });
 }
 

@@ -78,7 +78,7 @@ double vec_norm2(std::int32_t n, std::int32_t flags, const void* v) noexcept {
   double norm = std::numeric_limits<double>::quiet_NaN();
   dispatch(flags, [&]<class T>() {
     // A complex vector's norm is that of its parts.
-    const std::size_t count = n > 0 ? static_cast<std::size_t>(n) * (sizeof(T) / sizeof(double)) : 0;
+    const std::size_t count = n > 0 ? static_cast<std::size_t>(n) * kParts<T> : 0;
     norm = norm2(count, static_cast<const double*>(v));
   });
   return norm;

@@ -144,7 +144,8 @@ double seconds_of_day() noexcept {
   constexpr std::time_t kDay = 86400;
   timespec now{};
   clock_gettime(CLOCK_REALTIME, &now);
-  return static_cast<double>(now.tv_sec % kDay) + static_cast<double>(now.tv_nsec / 1000000) * 0.001;
+  const long milliseconds = now.tv_nsec / 1000000;
+  return static_cast<double>(now.tv_sec % kDay) + static_cast<double>(milliseconds) * 0.001;
 }
 
 MemoryStatus memory_status() noexcept {

@@ -5,6 +5,7 @@
 #include <clocale>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <random>
 #include <string>
@@ -32,6 +33,8 @@ Reading scanned(const std::string& text, const char* format) {
   Number number{};
   int length = 0;
   if (std::sscanf(text.c_str(), format, &number, &length) != 1) return {};
+  // The scanf of some C libraries rounds twice; their strtod does not.
+  if constexpr (std::is_same_v<Number, double>) number = std::strtod(text.c_str(), nullptr);
   return {true, bits_of(number), length};
 }
 

@@ -25,8 +25,7 @@ TEST_F(Stops, FilesWithoutAType) {
 }
 
 TEST_F(Stops, SymmetricFileWithAnUpperTriangle) {
-  EXPECT_DEATH(taucs_ccs_read_ccs(file_.name(), TAUCS_DOUBLE | TAUCS_SYMMETRIC),
-               "i >= j.*taucs_ccs_io|taucs_ccs_io.*i >= j");
+  EXPECT_DEATH(taucs_ccs_read_ccs(file_.name(), TAUCS_DOUBLE | TAUCS_SYMMETRIC), "i >= j");
   const Matrix A(taucs_ccs_read_ccs(file_.name(), TAUCS_DOUBLE));
   EXPECT_NE(A, nullptr);
 }
