@@ -11,8 +11,8 @@
 #include "quorin/services.h"
 #include "quorin/signal.h"
 #include "quorin/slap.h"
+#include "quorin/taucs.h"
 #include "quorin/trust_region.h"
 #include "quorin/umfpack.h"
-#include "quorin/taucs.h"
 
 #endif
