@@ -140,6 +140,7 @@ void run(int argc, char** argv) {
   add_pack_rows(suite);
   add_slap_rows(suite);
   add_ordering_rows(suite);
+  add_taucs_file_rows(suite);
 
   std::ofstream file;
   if (!options.out.empty()) {

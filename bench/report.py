@@ -80,6 +80,11 @@ SECTIONS = {
         " others, with a diagonal or IncompleteLUT of about as many entries. They have no counterpart for the iterations of"
         " SSJAC, SSGS and SSILUR.",
     ),
+    "taucs_files": (
+        "Matrix files",
+        "One thread. A text file of n entries made a matrix of n / 10 columns, against a loop of the C library's `fscanf` that"
+        " keeps the same numbers and makes no matrix of them.",
+    ),
 }
 
 

@@ -135,5 +135,6 @@ void add_umfpack_rows(Suite& suite);
 void add_pack_rows(Suite& suite);
 void add_slap_rows(Suite& suite);
 void add_ordering_rows(Suite& suite);
+void add_taucs_file_rows(Suite& suite);
 
 }  // namespace quorin::bench
