@@ -9,7 +9,7 @@ void sgesdd_(void);
 void sgeev_(void);
 
 __declspec(dllexport) void (*const lapack_routines[])(void) = {sgetrf_, cgetrf_, spotrf_, sgeqrf_,
-                                                              ssyevr_, cheevr_, sgesdd_, sgeev_};
+                                                               ssyevr_, cheevr_, sgesdd_, sgeev_};
 
 void xerbla_(const char* name, const int* info);
 void xerbla_(const char* name, const int* info) {

@@ -7,7 +7,8 @@
 
 namespace quorin::jacobi {
 
-/// Computes f (m entries) at x (n entries), which it leaves as it is. Called with the addresses of m and n, in this order.
+/// Computes f (m entries) at x (n entries), which it leaves as it is. Called with the addresses of m and n, in this
+/// order.
 using Function = void (*)(int* m, int* n, float* x, float* f);
 using FunctionWithData = void (*)(int* m, int* n, float* x, float* f, void* user_data);
 
@@ -23,8 +24,8 @@ int solve(void** handle, const float* f1, const float* f2, int* request);
 /// *handle <- null, and its memory is free. 1502: no such handle.
 int destroy(void** handle);
 
-/// The whole computation; x is as before at the end, and `user_data` goes through to fcn. 1502: as init; 1503: no memory
-/// for the two values of F.
+/// The whole computation; x is as before at the end, and `user_data` goes through to fcn. 1502: as init; 1503: no
+/// memory for the two values of F.
 int differentiate(Function fcn, const int* n, const int* m, float* fjac, float* x, const float* eps);
 int differentiate_with_data(FunctionWithData fcn, const int* n, const int* m, float* fjac, float* x, const float* eps,
                             void* user_data);

@@ -25,8 +25,8 @@ struct Box {
 ///
 /// Bounds are handled by active sets: minimize over the free variables, go towards the minimum as far as the box
 /// allows, freeze the variable that stops the step there, and minimize over the others. Each pass lowers the model. The
-/// result is at least as good as the generalized Cauchy point, from which the passes start anew if it is not; that makes
-/// the iteration converge (Conn, Gould, Toint, Trust-Region Methods, SIAM 2000, sections 12.1 and 12.2). Without
+/// result is at least as good as the generalized Cauchy point, from which the passes start anew if it is not; that
+/// makes the iteration converge (Conn, Gould, Toint, Trust-Region Methods, SIAM 2000, sections 12.1 and 12.2). Without
 /// bounds this is the damped step.
 class BoxStep {
  public:

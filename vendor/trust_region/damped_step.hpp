@@ -14,9 +14,9 @@ struct StepLimits {
   double tolerance;  // | ||D s|| - radius | <= tolerance * radius
 };
 
-/// Minimizes ||A s + b|| over ||D s|| <= radius, D diagonal and positive: the Gauss-Newton step if that is short enough,
-/// else s(lambda) with (A^T A + lambda D^2) s = -A^T b, lambda by Newton's method on ||D s(lambda)|| with safeguards.
-/// If columns depend on each other, the least damping that gives a bounded step takes the place of none.
+/// Minimizes ||A s + b|| over ||D s|| <= radius, D diagonal and positive: the Gauss-Newton step if that is short
+/// enough, else s(lambda) with (A^T A + lambda D^2) s = -A^T b, lambda by Newton's method on ||D s(lambda)|| with
+/// safeguards. If columns depend on each other, the least damping that gives a bounded step takes the place of none.
 ///
 /// J. J. More, The Levenberg-Marquardt algorithm: implementation and theory, Lecture Notes in Mathematics 630 (1978),
 /// sections 3 and 5.

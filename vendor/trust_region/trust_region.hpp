@@ -10,11 +10,11 @@
 
 namespace quorin::trust_region {
 
-/// *handle <- a run for n variables and m residuals; null if the status is not 1501. `x` (n) stays the host's: the solver
-/// reads the start from it at its first call and writes to it at each later one, until the handle is deleted. `eps` (6) and
-/// all others are copied. 1502: a null address, n < 1, m < n, a limit below 1, an eps or rs that is negative or NaN, x
-/// not finite; 1503: no memory. rs is the radius of the first region, relative to the scaled length of x: 0 stands for
-/// 100, others are brought into [0.1, 100].
+/// *handle <- a run for n variables and m residuals; null if the status is not 1501. `x` (n) stays the host's: the
+/// solver reads the start from it at its first call and writes to it at each later one, until the handle is deleted.
+/// `eps` (6) and all others are copied. 1502: a null address, n < 1, m < n, a limit below 1, an eps or rs that is
+/// negative or NaN, x not finite; 1503: no memory. rs is the radius of the first region, relative to the scaled length
+/// of x: 0 stands for 100, others are brought into [0.1, 100].
 int init(void** handle, const int* n, const int* m, float* x, const float* eps, const int* iter1, const int* iter2,
          const float* rs);
 
@@ -24,8 +24,8 @@ int init_bounded(void** handle, const int* n, const int* m, float* x, const floa
                  const float* eps, const int* iter1, const int* iter2, const float* rs);
 
 /// One leg. *request: 1 fvec (m) <- F(x); 2 fjac (m x n, column-major) <- dF/dx; negative: the run has ended, x is the
-/// best point found and fvec its F. -1 limit of iterations; -2 region smaller than eps(1); -3 ||F|| < eps(2); -4 a column
-/// of J shorter than eps(3); -5 ||s|| < eps(4); -6 ||F|| - ||F + J s|| < eps(5), or no step in floats lowers it.
+/// best point found and fvec its F. -1 limit of iterations; -2 region smaller than eps(1); -3 ||F|| < eps(2); -4 a
+/// column of J shorter than eps(3); -5 ||s|| < eps(4); -6 ||F|| - ||F + J s|| < eps(5), or no step in floats lowers it.
 /// 1502: no such handle, a null address, or the first F or Jacobian is not finite (the request is then -1).
 int solve(void** handle, float* fvec, const float* fjac, int* request);
 int solve_bounded(void** handle, float* fvec, const float* fjac, int* request);
