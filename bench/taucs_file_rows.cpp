@@ -60,7 +60,7 @@ void scan(const char* name, int count) {
 
 void add_rows(Suite& suite, const char* operation, const char* format, int count) {
   // A guess at the work, to plan how often to measure.
-  const Row row{"taucs_files", operation, count, 1, 500.0 * count, Unit::kTime};
+  const Row row{"taucs_files", operation, count, 1, 10000.0 * count, Unit::kTime};
   suite.measure(row, "quorin", [&taucs = suite.libraries().taucs, format, count] {
     return [&taucs, count, file = std::make_shared<EntryFile>(format, count)] {
       taucs_ccs_matrix* const A = taucs.ccs_read_ijv(file->name(), TAUCS_DOUBLE);

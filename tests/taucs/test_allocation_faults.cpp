@@ -82,9 +82,10 @@ TEST_F(Campaign, NothingIsLeftBehind) {
                {"taucs_ccs_read_ijv_zero_based", triplets},
                {"taucs_ccs_read_mtx", "1 1 1\n" + triplets},
                {"taucs_ccs_read_ccs", "2 0 1 2 0 1 1.5 2.5"}};
-  for (const auto& [name, content] : texts) {
-    const TemporaryFile file(content);
-    run(name, [&] { return std::vector{find<decltype(taucs_ccs_read_ijv)>(name)(file.name(), TAUCS_DOUBLE)}; });
+  for (const auto& text : texts) {
+    const TemporaryFile file(text.content);
+    run(text.name,
+        [&] { return std::vector{find<decltype(taucs_ccs_read_ijv)>(text.name)(file.name(), TAUCS_DOUBLE)}; });
   }
   const std::string hb = std::string(QUORIN_MATRICES_DIR) + "/cholmod/bcsstk01.rsa";
   run("hb",

@@ -1,6 +1,7 @@
 // Files as hosts have them: what the formats say, numbers that come back, and files that are not what they claim.
 #include <clocale>
 #include <cstring>
+#include <utility>
 
 #include "tests/taucs/taucs_host.hpp"
 
@@ -152,7 +153,7 @@ TEST(HarwellBoeing, TypesAndStructures) {
     return read(taucs_ccs_read_hb, harwell_boeing(type, sizes, formats, body), flags);
   };
   const auto record = [](int flags, std::vector<double> values) {
-    return Record{2, 2, flags, {0, 2, 3}, {0, 1, 1}, values};
+    return Record{2, 2, flags, {0, 2, 3}, {0, 1, 1}, std::move(values)};
   };
   expect_record(hb("RSA", real, TAUCS_DOUBLE), record(TAUCS_DOUBLE | kSymmetricLower, {1, -20, 300}));
   expect_record(hb("rua", real, TAUCS_DOUBLE), record(TAUCS_DOUBLE, {1, -20, 300}));
