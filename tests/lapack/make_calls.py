@@ -70,16 +70,22 @@ def row(routine: model.Routine, argument: model.Argument) -> str:
     )
 
 
+def arguments(routine: model.Routine) -> str:
+    rows = ",\n    ".join(row(routine, argument) for argument in routine.arguments)
+    return f"constexpr Argument k_{routine.name}[] = {{\n    {rows}}};\n"
+
+
 def call(routine: model.Routine) -> str:
-    rows = ",\n     ".join(row(routine, argument) for argument in routine.arguments)
-    functions = f"address(&{routine.name}), address(&{routine.index_name})"
-    return f'    {{"{routine.name}", {functions},\n    {{{rows}}}}},\n'
+    name = routine.name
+    return f'    {{"{name}", address(&{name}), address(&{routine.index_name}), k_{name}}},\n'
 
 
 def main() -> None:
     table, out = Path(sys.argv[1]), Path(sys.argv[2])
     family = tables.parse({table: table.read_text()})[0]
-    out.write_text("".join(call(routine) for routine in family.routines))
+    tables_of_arguments = "".join(arguments(routine) for routine in family.routines)
+    calls = "".join(call(routine) for routine in family.routines)
+    out.write_text(f"{tables_of_arguments}\nconst Routine kRoutines[] = {{\n{calls}}};\n")
 
 
 if __name__ == "__main__":
