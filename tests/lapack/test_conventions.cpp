@@ -47,6 +47,10 @@ TEST(Bisection, ReadsItsBoundsThroughTheirPairs) {
 // Upper triangular matrices are their own Schur form, with the eigenvalues 1, -2, 3, -4, ...
 constexpr std::int32_t kOrder = 6;
 
+std::size_t place(int i, int j) {
+  return static_cast<std::size_t>(j) * std::size_t{kOrder} + static_cast<std::size_t>(i);
+}
+
 float eigenvalue(int i) { return static_cast<float>(i % 2 == 0 ? i + 1 : -(i + 1)); }
 
 template <class T>
@@ -54,7 +58,7 @@ std::vector<T> triangular(T (*from_real)(float)) {
   std::vector<T> a(kOrder * kOrder);
   for (int j = 0; j < kOrder; ++j) {
     for (int i = 0; i <= j; ++i) {
-      a[static_cast<std::size_t>(j * kOrder + i)] = from_real(i == j ? eigenvalue(j) : 0.25F);
+      a[place(i, j)] = from_real(i == j ? eigenvalue(j) : 0.25F);
     }
   }
   return a;
@@ -124,7 +128,7 @@ TEST_P(Selection, OfComplexEigenvalues) {
 TEST_P(Selection, OfRealPairs) {
   auto a = triangular(real);
   std::vector<float> b(kOrder * kOrder), re(kOrder), im(kOrder), beta(kOrder), left(kOrder * kOrder), right = left;
-  for (int i = 0; i < kOrder; ++i) b[static_cast<std::size_t>(i * kOrder + i)] = 2;
+  for (int i = 0; i < kOrder; ++i) b[place(i, i)] = 2;
   std::vector<float> work(500);
   sgges_Idx("V", "V", "S", negative_pair, &n, a.data(), 0, &n, b.data(), 0, &n, &sdim, re.data(), 0, im.data(), 0,
             beta.data(), 0, left.data(), 0, &n, right.data(), 0, &n, work.data(), 0, &lwork, bwork.data(), 0, &info);
@@ -134,7 +138,7 @@ TEST_P(Selection, OfRealPairs) {
 TEST_P(Selection, OfComplexPairs) {
   auto a = triangular(complex);
   std::vector<quorin_complex> b(kOrder * kOrder), alpha(kOrder), beta(kOrder), left(kOrder * kOrder), right = left;
-  for (int i = 0; i < kOrder; ++i) b[static_cast<std::size_t>(i * kOrder + i)] = {2, 0};
+  for (int i = 0; i < kOrder; ++i) b[place(i, i)] = {2, 0};
   std::vector<quorin_complex> work(500);
   std::vector<float> rwork(8 * kOrder), re;
   cgges_Idx("V", "V", "S", negative_complex_pair, &n, a.data(), 0, &n, b.data(), 0, &n, &sdim, alpha.data(), 0,
