@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 
 #include "tests/slap/slap_host.hpp"
 #include "tests/support/capture_output.hpp"
@@ -127,7 +128,7 @@ TEST_P(EverySolver, RepeatedEntriesAddUp) {
     EXPECT_TRUE(repeated.is_guarded);
     // The factors are those of the whole matrix; only A A^T has another diagonal.
     if (s().name != "SSDCGN") {
-      EXPECT_NEAR(repeated.iter, o.iter, 1 + o.iter / 10);
+      EXPECT_LE(std::abs(repeated.iter - o.iter), 1 + o.iter / 10);
     }
     if (s().preconditioner == Solver::Preconditioner::kCholesky) {
       for (int i = 0; i < p.a.n; ++i) {
@@ -137,7 +138,7 @@ TEST_P(EverySolver, RepeatedEntriesAddUp) {
     }
     if (!p.is_symmetric) return;
     const Outcome lower = run(s(), halves.lower(), b);
-    EXPECT_NEAR(lower.iter, repeated.iter, 1 + o.iter / 10);
+    EXPECT_LE(std::abs(lower.iter - repeated.iter), 1 + o.iter / 10);
     EXPECT_TRUE(lower.is_guarded);
   });
 }
