@@ -123,9 +123,9 @@ Libraries find_product(const Symbols& in) {
                    .mask = in["vspackm"],
                    .unpack_mask = in["vsunpackm"]},
           .slap = find_slap(in),
-          .taucs = {.ccs_order = in["taucs_ccs_order"],
-                    .ccs_read_ijv = in["taucs_ccs_read_ijv"],
-                    .ccs_free = in["taucs_ccs_free"]},
+          .taucs = {.ccs_read_ijv = in["taucs_ccs_read_ijv"],
+                    .ccs_free = in["taucs_ccs_free"],
+                    .ccs_order = in["taucs_ccs_order"]},
           .peer = std::nullopt,
           .peer_description = {}};
 }

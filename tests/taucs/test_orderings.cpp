@@ -191,6 +191,7 @@ TEST(Orderings, AreTheSameFromSeveralThreads) {
     const std::vector<int> expected = Ordering(A.get(), name).indices(A->n);
     std::vector<std::vector<int>> computed(4);
     std::vector<std::thread> threads;
+    threads.reserve(computed.size());
     for (auto& indices : computed) {
       threads.emplace_back([&] {
         for (int k = 0; k < 3; ++k) indices = Ordering(A.get(), name).indices(A->n);
