@@ -135,8 +135,8 @@ void expect_symmetric(const Design& d, const std::vector<double>& h) {
 }
 
 // J. H. McClellan, T. W. Parks, L. R. Rabiner, A computer program for designing optimum FIR linear phase digital
-// filters, IEEE Trans. Audio Electroacoust. 21 (1973) 506-526: low-pass and band-pass example. The program worked on a
-// grid of 16 points per coefficient, and rounded some steps to single precision.
+// filters, IEEE Trans. Audio Electroacoust. 21 (1973) 506-526: its examples, or their first coefficients. The program
+// worked on a grid of 16 points per coefficient, and rounded some steps to single precision.
 TEST(Equiripple, PublishedFiltersOnTheirGrid) {
   const struct {
     Design design;
@@ -149,6 +149,16 @@ TEST(Equiripple, PublishedFiltersOnTheirGrid) {
        {-0.57534121e-2, 0.99027198e-3, 0.75733545e-2, -0.65141192e-2, 0.13960525e-1, 0.22951469e-2, -0.19994067e-1,
         0.71369560e-2, -0.39657363e-1, 0.11260114e-1, 0.66233643e-1, -0.10497223e-1, 0.85136133e-1, -0.12024993,
         -0.29678577, 0.30410917}},
+      {{"five bands",
+        55,
+        {0, 0.05, 0.1, 0.15, 0.18, 0.25, 0.3, 0.36, 0.41, 0.5},
+        {0, 1, 0, 1, 0},
+        {10, 1, 3, 1, 20},
+        1,
+        -16},
+       {0.10662652e-2, 0.63777615e-2, 0.35755609e-2, -0.90677854e-2, -0.90906978e-2, 0.29155630e-2, 0.39637965e-2,
+        0.11172051e-1}},
+      {{"differentiator", 32, {0, 0.5}, {1}, {1}, 2, -16}, {-0.62713091e-3}},
   };
   for (const auto& p : published) {
     std::vector<double> h;
