@@ -116,6 +116,7 @@ struct Slap {
 };
 
 struct Taucs {
+  decltype(&::taucs_ccs_read_ccs) ccs_read_ccs;
   decltype(&::taucs_ccs_read_ijv) ccs_read_ijv;
   decltype(&::taucs_ccs_free) ccs_free;
   decltype(&::taucs_ccs_order) ccs_order;

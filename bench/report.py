@@ -83,7 +83,8 @@ SECTIONS = {
     "taucs_files": (
         "Matrix files",
         "One thread. A text file of n entries made a matrix of n / 10 columns, against a loop of the C library's `fscanf` that"
-        " keeps the same numbers and makes no matrix of them.",
+        " keeps the same numbers and makes no matrix of them. What the format ccs holds need not be sorted: there the ratio"
+        " is that of the numbers alone.",
     ),
 }
 

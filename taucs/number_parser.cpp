@@ -2,36 +2,35 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <charconv>
 #include <cmath>
 #include <limits>
 #include <string_view>
 
+#include "taucs/decimal.hpp"
+
 namespace quorin::taucs {
 namespace {
 
-constexpr std::array<double, 23> kPowersOfTen{1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
-                                              1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
-constexpr std::int64_t kMostExact = std::int64_t{1} << 53;
-constexpr int kMostDigits = 18;  // that cannot overflow 63 bits
 constexpr int kExponentLimit = 1 << 24;
 
 bool is_digit(char c) noexcept { return static_cast<unsigned char>(c - '0') < 10; }
 char lower(char c) noexcept { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 bool is_letter_at(const char* p, const char* end, char letter) noexcept { return p != end && lower(*p) == letter; }
 
-// The sign, if there is one.
+// The sign, if there is one. Signs come at random, so nothing branches on them.
 bool take_sign(const char*& p, const char* end) noexcept {
-  const bool is_negative = p != end && *p == '-';
-  if (is_negative || (p != end && *p == '+')) ++p;
-  return is_negative;
+  const char c = p != end ? *p : '0';
+  p += static_cast<int>(c == '-') | static_cast<int>(c == '+');
+  return c == '-';
 }
 
-// Decimal digits are appended to `number`, which wraps when there are too many.
-const char* take_digits(const char* p, const char* end, std::uint64_t& number) noexcept {
-  for (; p != end && is_digit(*p); ++p) number = 10 * number + static_cast<std::uint64_t>(*p - '0');
-  return p;
+double with_sign(double value, bool is_negative) noexcept {
+  return std::bit_cast<double>(std::bit_cast<std::uint64_t>(value) ^ (std::uint64_t{is_negative} << 63));
 }
+
+const char* skip_digits(const char* p, const char* end) noexcept { return std::find_if_not(p, end, is_digit); }
 
 // The exponent behind its letter, saturated; false if it has no digits.
 bool take_exponent(const char*& p, const char* end, int& exponent) noexcept {
@@ -95,40 +94,79 @@ const char* parse_hexadecimal(const char* p, const char* end, double& value) noe
   return result.ptr;
 }
 
+// Any number without a sign.
 const char* parse_unsigned(const char* const begin, const char* end, double& value) noexcept {
-  std::uint64_t digits = 0;
-  int exponent = 0;
-  const char* p = take_digits(begin, end, digits);
+  const char* p = skip_digits(begin, end);
   auto count = p - begin;
-  if (count == 1 && digits == 0 && is_letter_at(p, end, 'x')) return parse_hexadecimal(p + 1, end, value);
+  if (count == 1 && *begin == '0' && is_letter_at(p, end, 'x')) return parse_hexadecimal(p + 1, end, value);
   if (p != end && *p == '.') {
     const char* const first = ++p;
-    p = take_digits(first, end, digits);
+    p = skip_digits(first, end);
     count += p - first;
-    exponent = static_cast<int>(std::max<std::ptrdiff_t>(first - p, -kExponentLimit));
   }
   if (count == 0) return parse_word(begin, end, value);
-  if (is_letter_at(p, end, 'e')) {
-    int written = 0;
-    if (!take_exponent(++p, end, written)) return nullptr;
-    exponent += written;
-  }
-  const auto whole = static_cast<std::int64_t>(digits);
-  if (count > kMostDigits || whole > kMostExact || std::abs(exponent) >= static_cast<int>(kPowersOfTen.size())) {
-    value = convert(begin, p);
-  } else {
-    const double power = kPowersOfTen[static_cast<std::size_t>(std::abs(exponent))];
-    value = exponent < 0 ? static_cast<double>(whole) / power : static_cast<double>(whole) * power;
-  }
+  int exponent = 0;
+  if (is_letter_at(p, end, 'e') && !take_exponent(++p, end, exponent)) return nullptr;
+  value = convert(begin, p);
   return p;
+}
+
+// Appends the digits at p to `number`, but no more than 24. Where they end, eight characters must be there to look at.
+[[gnu::always_inline]] inline int append_digits(const char*& p, std::uint64_t& number) noexcept {
+  constexpr std::array<std::uint32_t, 9> kPowers{1, 10, 100, 1000, 10000, 100000, 1000000, 10000000, 100000000};
+  int count = 0;
+  for (bool is_full = true; is_full && count < 24;) {
+    const Digits digits = leading_digits(p);
+    number = number * kPowers[static_cast<std::size_t>(digits.count)] + digits.value;
+    p += digits.count;
+    count += digits.count;
+    is_full = digits.count == 8;
+  }
+  return count;
+}
+
+// A number as files have it, of up to 19 digits; null for any other. Looks at no more than kUsualText characters.
+constexpr std::ptrdiff_t kUsualText = 3 * 24 + 3 + 8;
+const char* parse_usual(const char* p, double& value) noexcept {
+  constexpr int kMostDigits = 19;  // that 64 bits hold
+  std::uint64_t number = 0;
+  int count = append_digits(p, number);
+  if (*p <= ' ' && count > 0 && count < 10) {  // most are indices
+    value = static_cast<std::int32_t>(number);
+    return p;
+  }
+  int exponent = 0;
+  if (*p == '.') {
+    const int places = append_digits(++p, number);
+    count += places;
+    exponent = -places;
+  }
+  if (count == 0 || count > kMostDigits || lower(*p) == 'x') return nullptr;
+  if (lower(*p) == 'e') {
+    const bool is_negative = *++p == '-';
+    p += is_negative || *p == '+' ? 1 : 0;
+    std::uint64_t written = 0;
+    const int size = append_digits(p, written);
+    if (size == 0 || size > 8) return nullptr;
+    exponent += is_negative ? -static_cast<int>(written) : static_cast<int>(written);
+  }
+  return scale_by_power_of_ten(number, exponent, value) ? p : nullptr;
 }
 
 }  // namespace
 
 const char* parse_number(const char* begin, const char* end, double& value) noexcept {
   const bool is_negative = take_sign(begin, end);
-  const char* const stop = parse_unsigned(begin, end, value);
-  if (is_negative) value = -value;
+  const char* stop = nullptr;
+  if (end - begin >= kUsualText) {
+    stop = parse_usual(begin, value);
+  } else {
+    std::array<char, kUsualText> text{};  // no digits behind the end
+    std::copy(begin, end, text.data());
+    if (const char* const last = parse_usual(text.data(), value)) stop = begin + (last - text.data());
+  }
+  if (stop == nullptr) stop = parse_unsigned(begin, end, value);
+  value = with_sign(value, is_negative);
   return stop;
 }
 

@@ -8,8 +8,7 @@ namespace quorin::taucs {
 /// Reads the number at the start of [begin, end), where no blank stands, as "%lg" does: correctly rounded, with
 /// infinities, NaNs and hexadecimal digits; an overflow is infinite. Returns the position behind it, or null if there
 /// is none (or one that is not complete, such as "1e+").
-/// For up to 19 digits that fit 53 bits, and powers of ten up to 22, one rounded operation on exact operands is enough:
-/// W. D. Clinger, How to read floating point numbers accurately, PLDI (1990) 92-101. All others go to std::from_chars.
+/// Up to 19 digits and powers of ten up to 22 are rounded here (decimal.hpp), all others by std::from_chars.
 const char* parse_number(const char* begin, const char* end, double& value) noexcept;
 
 /// The same for "%d"; a number that does not fit is none.

@@ -17,13 +17,6 @@ bool TextScanner::refill() noexcept {
   return added > 0;
 }
 
-void TextScanner::skip_blanks() noexcept {
-  const auto is_blank = [](char c) { return c == ' ' || (c >= '\t' && c <= '\r'); };
-  do {
-    while (position_ != end_ && is_blank(*position_)) ++position_;
-  } while (position_ == end_ && refill());
-}
-
 bool TextScanner::next_line(std::string_view& line) noexcept {
   const char* stop = std::find(position_, end_, '\n');
   if (stop == end_ && refill()) stop = std::find(position_, end_, '\n');

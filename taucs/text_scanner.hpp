@@ -50,7 +50,12 @@ class TextScanner {
   static constexpr std::size_t kSize = std::size_t{1} << 16;
   static constexpr std::ptrdiff_t kLongNumber = 512;
 
-  void skip_blanks() noexcept;
+  static bool is_blank(char c) noexcept { return c == ' ' || (c >= '\t' && c <= '\r'); }
+  void skip_blanks() noexcept {
+    do {
+      while (position_ != end_ && is_blank(*position_)) ++position_;
+    } while (position_ == end_ && refill());
+  }
   // Moves what is left to the front and fills the rest of the buffer; whether anything was added.
   bool refill() noexcept;
 

@@ -2,11 +2,12 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <utility>
 
-#include "base/allocator.hpp"
 #include "base/workspace.hpp"
 #include "taucs/dispatch.hpp"
 #include "taucs/matrix.hpp"
@@ -14,27 +15,7 @@
 
 namespace quorin::taucs {
 
-// An array that grows without moving constructors or exceptions.
-template <class T>
-class GrowingArray {
- public:
-  GrowingArray() = default;
-  GrowingArray(const GrowingArray&) = delete;
-  GrowingArray& operator=(const GrowingArray&) = delete;
-  ~GrowingArray() { base::release(data_); }
-
-  bool grow(std::size_t count) noexcept {
-    void* const memory = base::reallocate(data_, base::saturating_product(count, sizeof(T)));
-    if (memory != nullptr) data_ = static_cast<T*>(memory);
-    return memory != nullptr;
-  }
-  T& operator[](std::int32_t i) noexcept { return data_[i]; }
-  const T& operator[](std::int32_t i) const noexcept { return data_[i]; }
-
- private:
-  T* data_ = nullptr;
-};
-
+/// Entries stay where they were put: a new block holds what a larger capacity adds.
 template <Element T>
 class Triplets {
  public:
@@ -44,9 +25,7 @@ class Triplets {
   /// Adds an entry with one-based indices; false if there is no memory.
   bool add(std::int32_t row, std::int32_t column, T value) noexcept {
     if (count_ == capacity_ && !grow()) return false;
-    rows_[count_] = row;
-    columns_[count_] = column;
-    values_[count_] = value;
+    *next_++ = {row, column, value};
     ++count_;
     row_count_ = std::max(row_count_, row);
     column_count_ = std::max(column_count_, column);
@@ -64,7 +43,7 @@ class Triplets {
       return nullptr;
     }
     std::fill_n(next.data(), next.size(), 0);
-    for (std::int32_t k = 0; k < count_; ++k) ++next.data()[columns_[k] - 1];
+    for_each([&](const Entry& entry) { ++next.data()[entry.column - 1]; });
     std::int32_t sum = 0;
     for (std::int32_t j = 0; j <= longest; ++j) {
       A->colptr[j] = sum;
@@ -73,11 +52,11 @@ class Triplets {
     }
     if (sum != count_) platform::fail_assertion("k == nnz", kFilesSource, __LINE__);
     T* const values = A->elements<T>();
-    for (std::int32_t k = 0; k < count_; ++k) {
-      const std::int32_t place = next.data()[columns_[k] - 1]++;
-      A->rowind[place] = rows_[k] - 1;
-      values[place] = values_[k];
-    }
+    for_each([&](const Entry& entry) {
+      const std::int32_t place = next.data()[entry.column - 1]++;
+      A->rowind[place] = entry.row - 1;
+      values[place] = entry.value;
+    });
     A->n = row_count_;
     A->m = column_count_;
     A->flags |= structure;
@@ -85,23 +64,46 @@ class Triplets {
   }
 
  private:
+  struct Entry {
+    std::int32_t row, column;
+    T value;
+  };
+
+  static constexpr std::int32_t kFirstCapacity = 10000;
+  static constexpr std::size_t kMostBlocks = 64;  // 57 hold as many entries as an index can count
+
   bool grow() noexcept {
-    constexpr std::int32_t kFirst = 10000, kMost = std::numeric_limits<std::int32_t>::max();
-    const double wanted = capacity_ == 0 ? kFirst : 1.25 * capacity_;
-    const auto count = static_cast<std::int32_t>(std::min<double>(wanted, kMost));
-    print("taucs_ccs_read_%s: allocating %d ijv's\n", reader_, count);
-    const auto size = static_cast<std::size_t>(count);
-    if (count == capacity_ || !rows_.grow(size) || !columns_.grow(size) || !values_.grow(size)) {
+    constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+    const double wanted = capacity_ == 0 ? kFirstCapacity : 1.25 * capacity_;
+    const auto capacity = static_cast<std::int32_t>(std::min<double>(wanted, kMost));
+    print("taucs_ccs_read_%s: allocating %d ijv's\n", reader_, capacity);
+    base::Workspace<Entry> block;
+    if (capacity > capacity_) block = base::Workspace<Entry>(static_cast<std::size_t>(capacity - capacity_));
+    if (!block) {
       print("taucs_ccs_read_%s: out of memory\n", reader_);
       return false;
     }
-    capacity_ = count;
+    next_ = block.data();
+    blocks_[block_count_++] = std::move(block);
+    capacity_ = capacity;
     return true;
   }
 
+  // In the order in which they came.
+  template <class Visit>
+  void for_each(Visit visit) const noexcept {
+    std::size_t left = static_cast<std::size_t>(count_);
+    for (const base::Workspace<Entry>& block : blocks_) {
+      const std::size_t size = std::min(block.size(), left);
+      std::for_each_n(block.data(), size, visit);
+      left -= size;
+    }
+  }
+
   const char* reader_;
-  GrowingArray<std::int32_t> rows_, columns_;
-  GrowingArray<T> values_;
+  std::array<base::Workspace<Entry>, kMostBlocks> blocks_;
+  std::size_t block_count_ = 0;
+  Entry* next_ = nullptr;
   std::int32_t count_ = 0, capacity_ = 0;
   std::int32_t row_count_ = 0, column_count_ = 0;
 };

@@ -66,6 +66,24 @@ TEST(NumberParser, ReadsDoublesAsScanfDoes) {
   }
 }
 
+// As good as half-way between two doubles, where the last digit and the rule for ties decide.
+TEST(NumberParser, RoundsTiesToEven) {
+  std::mt19937_64 random(12);
+  for (int k = 0; k < 3000; ++k) {
+    const std::uint64_t below = (random() >> 11 | std::uint64_t{1} << 52) << (k % 4);
+    const std::uint64_t tie = 2 * below + (std::uint64_t{1} << (k % 4));
+    for (const std::uint64_t whole : {tie - 1, tie, tie + 1}) {
+      const std::string digits = std::to_string(whole);
+      for (const std::string& text :
+           {digits, digits + "0e-1", digits + "000e-3", digits + ".000", digits + "e2", digits + "e-19",
+            digits.substr(0, 1) + "." + digits.substr(1) + "e+" + std::to_string(digits.size() - 1),
+            "0." + digits + "e" + std::to_string(digits.size())}) {
+        ASSERT_EQ(parsed<double>(text).bits, bits_of(std::strtod(text.c_str(), nullptr))) << text;
+      }
+    }
+  }
+}
+
 TEST(NumberParser, StopsWhereScanfStops) {
   for (const char* const text : {"1",
                                  "-1",
