@@ -207,6 +207,21 @@ Combination continued_h(Complex z, const Request& request) {
   return c;
 }
 
+// I and J, which are powers at zero. `express` writes the function at z, Im z >= 0, as a multiple of I(w).
+template <class Express>
+void power_at_zero(Complex z_in, const Request& request, const Result& result, Express express) {
+  if (!accept(z_in, request, false, false, result)) return;
+  if (z_in == 0.0) return value_at_zero(request, result.cy);
+  Combination c;
+  const Complex z = upper_half(z_in, c.mirrored);
+  c.unscaled = request.kode == 1;
+  c.real = is_positive_real(z);
+  express(z, c);
+  c.i.used = true;
+  c.i.factor = exponential(c.unscaled ? c.w : Complex{0.0, c.w.imag()});
+  Evaluation(c, request, result).run();
+}
+
 }  // namespace
 
 void besh(Complex z_in, double fnu, int kode, int m, int n, Complex* cy, int* nz, int* ierr) {
@@ -231,39 +246,24 @@ void besh(Complex z_in, double fnu, int kode, int m, int n, Complex* cy, int* nz
 }
 
 void besi(Complex z_in, double fnu, int kode, int n, Complex* cy, int* nz, int* ierr) {
-  const Request request{fnu, kode, n};
-  const Result result{cy, nz, ierr};
-  if (!accept(z_in, request, false, false, result)) return;
-  if (z_in == 0.0) return value_at_zero(request, cy);
-  Combination c;
-  const Complex z = upper_half(z_in, c.mirrored);
-  const bool left = z.real() < 0.0;
-  c.w = left ? -z : z;
-  c.unscaled = kode == 1;
-  c.real = is_positive_real(z);
-  c.i.used = true;
-  c.i.factor = exponential(c.unscaled ? c.w : Complex{0.0, c.w.imag()});
-  if (left) {
-    // I(w e^{i pi}) = e^{i pi nu} I(w)
-    c.i.coefficient = half_turns(fnu);
-    c.i.step = 2;
-  }
-  Evaluation(c, request, result).run();
+  power_at_zero(z_in, {fnu, kode, n}, {cy, nz, ierr}, [fnu](Complex z, Combination& c) {
+    const bool left = z.real() < 0.0;
+    c.w = left ? -z : z;
+    if (left) {
+      // I(w e^{i pi}) = e^{i pi nu} I(w)
+      c.i.coefficient = half_turns(fnu);
+      c.i.step = 2;
+    }
+  });
 }
 
 void besj(Complex z_in, double fnu, int kode, int n, Complex* cy, int* nz, int* ierr) {
-  const Request request{fnu, kode, n};
-  const Result result{cy, nz, ierr};
-  if (!accept(z_in, request, false, false, result)) return;
-  if (z_in == 0.0) return value_at_zero(request, cy);
-  Combination c;
-  const Complex z = upper_half(z_in, c.mirrored);
-  c.w = minus_i_times(z);
-  c.unscaled = kode == 1;
-  c.real = is_positive_real(z);
-  // J(z) = e^{i pi nu/2} I(-iz)
-  c.i = {true, quarter_turns(fnu), 1, exponential(c.unscaled ? c.w : Complex{0.0, c.w.imag()})};
-  Evaluation(c, request, result).run();
+  power_at_zero(z_in, {fnu, kode, n}, {cy, nz, ierr}, [fnu](Complex z, Combination& c) {
+    // J(z) = e^{i pi nu/2} I(-iz)
+    c.w = minus_i_times(z);
+    c.i.coefficient = quarter_turns(fnu);
+    c.i.step = 1;
+  });
 }
 
 void besk(Complex z_in, double fnu, int kode, int n, Complex* cy, int* nz, int* ierr) {
