@@ -35,6 +35,9 @@ int first_extreme(int n, const T* x, int incx, Better better) {
 // loops say it, so such calls run them.
 bool repeats_an_element(int incx, int incy) { return incx == 0 || incy == 0; }
 
+// For a few elements the loop is done before the dependency has chosen its kernel.
+bool is_short(int n) { return 0 < n && n <= 8; }
+
 // Calls body(x_i, y_i) for i = 0..n-1 in the published order; a negative stride starts at the far end.
 template <class X, class Y, class Body>
 void for_each_pair(int n, X* x, int incx, Y* y, int incy, const Body& body) {
@@ -49,7 +52,7 @@ Complex to_complex(backend::ComplexResult z) { return {__real__ z, __imag__ z}; 
 
 template <Scalar T>
 void axpy(int n, T a, const T* x, int incx, T* y, int incy) {
-  if (repeats_an_element(incx, incy)) {
+  if (is_short(n) || repeats_an_element(incx, incy)) {
     if (a == T{}) return;
     return for_each_pair(n, x, incx, y, incy, [a](const T& xi, T& yi) { yi += product(a, xi); });
   }
@@ -58,7 +61,7 @@ void axpy(int n, T a, const T* x, int incx, T* y, int incy) {
 
 template <Scalar T>
 void copy(int n, const T* x, int incx, T* y, int incy) {
-  if (repeats_an_element(incx, incy)) {
+  if (is_short(n) || repeats_an_element(incx, incy)) {
     return for_each_pair(n, x, incx, y, incy, [](const T& xi, T& yi) { yi = xi; });
   }
   Routines<T>::copy(&n, x, &incx, y, &incy);
@@ -66,7 +69,7 @@ void copy(int n, const T* x, int incx, T* y, int incy) {
 
 template <Scalar T>
 void swap(int n, T* x, int incx, T* y, int incy) {
-  if (repeats_an_element(incx, incy)) {
+  if (is_short(n) || repeats_an_element(incx, incy)) {
     return for_each_pair(n, x, incx, y, incy, [](T& xi, T& yi) { std::swap(xi, yi); });
   }
   Routines<T>::swap(&n, x, &incx, y, &incy);
@@ -74,6 +77,11 @@ void swap(int n, T* x, int incx, T* y, int incy) {
 
 template <Scalar T>
 T dotu(int n, const T* x, int incx, const T* y, int incy) {
+  if (is_short(n)) {
+    T sum{};
+    for_each_pair(n, x, incx, y, incy, [&sum](T xi, T yi) { sum += product(xi, yi); });
+    return sum;
+  }
   if constexpr (kIsComplex<T>) {
     return to_complex(Routines<T>::dotu(&n, x, &incx, y, &incy));
   } else {
@@ -82,6 +90,11 @@ T dotu(int n, const T* x, int incx, const T* y, int incy) {
 }
 
 Complex dotc(int n, const Complex* x, int incx, const Complex* y, int incy) {
+  if (is_short(n)) {
+    Complex sum{};
+    for_each_pair(n, x, incx, y, incy, [&sum](Complex xi, Complex yi) { sum += product(std::conj(xi), yi); });
+    return sum;
+  }
   return to_complex(Routines<Complex>::dotc(&n, x, &incx, y, &incy));
 }
 

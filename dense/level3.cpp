@@ -9,6 +9,7 @@
 #include "dense/backend/buffers.hpp"
 #include "dense/backend/routines.hpp"
 #include "dense/partition.hpp"
+#include "dense/small_product.hpp"
 
 namespace quorin::dense {
 namespace {
@@ -229,6 +230,9 @@ void gemm(char transa, char transb, int m, int n, int k, T alpha, const T* a, in
                                   .require(13, ldc >= least_leading_dimension(m))
                                   .passed();
   if (!arguments_hold || m == 0 || n == 0 || ((alpha == T{} || k == 0) && beta == T{1})) return;
+  if (is_small_product<T>(m, n, k)) {
+    return small_product<T>(m, n, k, alpha, {transa, a, lda}, {transb, b, ldb}, beta, c, ldc);
+  }
   with_buffers<T>("GEMM", static_cast<double>(m) * n * k, [&](int threads) {
     const Grid grid = make_grid(m, n, threads);
     base::parallel_for(grid.rows * grid.columns, threads, [&](int cell) {
