@@ -29,6 +29,16 @@ CcsMatrix* read(std::string_view reader, const char* name) {
 
 }  // namespace
 
+// The linker leads the library's allocations here. A matrix that says it is larger than this gets no memory, or the
+// fuzzer would spend its time on clearing arrays.
+extern "C" {
+void* __real_malloc(std::size_t);
+void* __real_realloc(void*, std::size_t);
+constexpr std::size_t kMost = std::size_t{1} << 20;
+void* __wrap_malloc(std::size_t size) { return size > kMost ? nullptr : __real_malloc(size); }
+void* __wrap_realloc(void* block, std::size_t size) { return size > kMost ? nullptr : __real_realloc(block, size); }
+}
+
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
   static const char* const kReader = std::getenv("QUORIN_FUZZ_READER");
   static const int kFile = memfd_create("matrix", 0);
