@@ -2,6 +2,7 @@
 
 #include "dense/dense.hpp"
 #include "slap/iterations.hpp"
+#include "slap/legs.hpp"
 #include "slap/vector_updates.hpp"
 
 namespace quorin::slap {
@@ -14,7 +15,7 @@ struct BicgVectors {
 };
 
 // From r = b - A x and z = M^-1 r, with r as its own shadow.
-Leg run_leg(const System& system, Progress& progress, const BicgVectors& v) {
+Leg run_leg(const System<float>& system, Progress& progress, const BicgVectors& v) {
   const int n = system.n();
   dense::copy(n, v.r, 1, v.rr, 1);
   float old_zr = 1;  // the first direction needs none
@@ -44,13 +45,9 @@ Leg run_leg(const System& system, Progress& progress, const BicgVectors& v) {
 
 }  // namespace
 
-void biconjugate_gradients(const System& system, Progress& progress, float* vectors) {
+void biconjugate_gradients(const System<float>& system, Progress& progress, float* vectors) {
   const BicgVectors v(system.n(), vectors);
-  for (Leg leg = Leg::kFirst; leg != Leg::kOver; leg = run_leg(system, progress, v)) {
-    system.residual(v.r);
-    system.precondition(v.r, v.z);
-    if (progress.is_done_after(leg, system, v.r, v.z, v.p)) return;
-  }
+  run_legs(system, progress, v.r, v.z, v.p, [&] { return run_leg(system, progress, v); });
 }
 
 }  // namespace quorin::slap

@@ -4,7 +4,7 @@
 
 namespace quorin::slap {
 
-void conjugate_gradients(const System& system, Progress& progress, float* vectors) {
+void conjugate_gradients(const System<float>& system, Progress& progress, float* vectors) {
   const int n = system.n();
   float *const r = vectors, *const z = r + n, *const p = z + n;
   system.residual(r);

@@ -2,6 +2,7 @@
 
 #include "dense/dense.hpp"
 #include "slap/iterations.hpp"
+#include "slap/legs.hpp"
 #include "slap/vector_updates.hpp"
 
 namespace quorin::slap {
@@ -26,7 +27,7 @@ void turn(int n, bool is_first, float beta, const CgsVectors& w) {
 }
 
 // From r = b - A x.
-Leg run_leg(const System& system, Progress& progress, const CgsVectors& w) {
+Leg run_leg(const System<float>& system, Progress& progress, const CgsVectors& w) {
   const int n = system.n();
   dense::copy(n, w.r, 1, w.r0, 1);
   const float norm_r0 = dense::nrm2(n, w.r0, 1);
@@ -60,13 +61,9 @@ Leg run_leg(const System& system, Progress& progress, const CgsVectors& w) {
 
 }  // namespace
 
-void conjugate_gradients_squared(const System& system, Progress& progress, float* vectors) {
+void conjugate_gradients_squared(const System<float>& system, Progress& progress, float* vectors) {
   const CgsVectors w(system.n(), vectors);
-  for (Leg leg = Leg::kFirst; leg != Leg::kOver; leg = run_leg(system, progress, w)) {
-    system.residual(w.r);
-    if (progress.tests_preconditioned()) system.precondition(w.r, w.t);
-    if (progress.is_done_after(leg, system, w.r, w.t, w.v)) return;
-  }
+  run_legs(system, progress, w.r, w.t, w.v, [&] { return run_leg(system, progress, w); });
 }
 
 }  // namespace quorin::slap

@@ -5,34 +5,36 @@
 namespace quorin::slap {
 namespace {
 
-void multiply_full(const ColumnMatrix& matrix, const float* x, float* y) {
-  std::fill_n(y, matrix.n, 0.0F);
+template <class X, class Y>
+void add_full(const ColumnMatrix& matrix, Y factor, const X* x, Y* y) {
   for (int j = 0; j < matrix.n; ++j) {
-    const float xj = x[j];
+    const Y xj = factor * x[j];
     for (int k = matrix.begin(j), end = matrix.end(j); k < end; ++k) y[matrix.row(k)] += matrix.a[k] * xj;
   }
 }
 
-void multiply_full_transposed(const ColumnMatrix& matrix, const float* x, float* y) {
+template <class T>
+void multiply_full_transposed(const ColumnMatrix& matrix, const T* x, T* y) {
   for (int j = 0; j < matrix.n; ++j) {
-    float sum = 0;
+    T sum = 0;
     for (int k = matrix.begin(j), end = matrix.end(j); k < end; ++k) sum += matrix.a[k] * x[matrix.row(k)];
     y[j] = sum;
   }
 }
 
 // Entries above the diagonal, which should not be there, have no mirror image.
-void multiply_lower(const ColumnMatrix& matrix, const float* x, float* y) {
-  std::fill_n(y, matrix.n, 0.0F);
+template <class X, class Y>
+void add_lower(const ColumnMatrix& matrix, Y factor, const X* x, Y* y) {
   for (int j = 0; j < matrix.n; ++j) {
-    const float xj = x[j];
-    float sum = 0;
+    const Y xj = factor * x[j];
+    Y sum = 0;
     for (int k = matrix.begin(j), end = matrix.end(j); k < end; ++k) {
       const int i = matrix.row(k);
-      y[i] += matrix.a[k] * xj;
-      if (i > j) sum += matrix.a[k] * x[i];
+      const Y a = matrix.a[k];
+      y[i] += a * xj;
+      if (i > j) sum += a * x[i];
     }
-    y[j] += sum;
+    y[j] += factor * sum;
   }
 }
 
@@ -43,12 +45,26 @@ bool ColumnMatrix::is_sound() const {
   return std::all_of(ia, ia + nelt, [this](int i) { return i >= 1 && i <= n; });
 }
 
-void ColumnMatrix::multiply(const float* x, float* y) const {
-  is_lower ? multiply_lower(*this, x, y) : multiply_full(*this, x, y);
+template <class X, class Y>
+void ColumnMatrix::add_product(Y factor, const X* x, Y* y) const {
+  is_lower ? add_lower(*this, factor, x, y) : add_full(*this, factor, x, y);
 }
 
-void ColumnMatrix::multiply_transposed(const float* x, float* y) const {
-  is_lower ? multiply_lower(*this, x, y) : multiply_full_transposed(*this, x, y);
+template <class X, class Y>
+void ColumnMatrix::multiply(const X* x, Y* y) const {
+  std::fill_n(y, n, Y{0});
+  add_product(Y{1}, x, y);
 }
+
+template <class T>
+void ColumnMatrix::multiply_transposed(const T* x, T* y) const {
+  is_lower ? multiply(x, y) : multiply_full_transposed(*this, x, y);
+}
+
+template void ColumnMatrix::multiply(const float*, float*) const;
+template void ColumnMatrix::multiply(const float*, double*) const;  // b - A x in double
+template void ColumnMatrix::multiply_transposed(const float*, float*) const;
+template void ColumnMatrix::multiply_transposed(const double*, double*) const;
+template void ColumnMatrix::add_product(double, const double*, double*) const;
 
 }  // namespace quorin::slap

@@ -1,4 +1,4 @@
-// A sparse matrix in column format, and its products.
+// A sparse matrix in column format, and its products with vectors of any type, which are summed up in the result's.
 #pragma once
 
 namespace quorin::slap {
@@ -22,8 +22,13 @@ struct ColumnMatrix {
   bool is_sound() const;
 
   // y <- A x and y <- A^T x; y is not x.
-  void multiply(const float* x, float* y) const;
-  void multiply_transposed(const float* x, float* y) const;
+  template <class X, class Y>
+  void multiply(const X* x, Y* y) const;
+  template <class T>
+  void multiply_transposed(const T* x, T* y) const;
+  // y <- y + factor A x; y is not x.
+  template <class X, class Y>
+  void add_product(Y factor, const X* x, Y* y) const;
 };
 
 // Calls visit(i, j, a) with zero-based indices for every stored entry, column by column.

@@ -2,11 +2,7 @@
 
 #include <algorithm>
 
-#include "slap/triangular_rows.hpp"
-
 namespace quorin::slap {
-
-void Diagonal::solve(const float* r, float* z) const { scale_into(n_, inverse_, r, z); }
 
 void invert_diagonal(const ColumnMatrix& matrix, float* inverse) {
   for (int j = 0; j < matrix.n; ++j) {

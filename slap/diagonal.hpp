@@ -3,14 +3,16 @@
 
 #include "slap/column_matrix.hpp"
 #include "slap/preconditioner.hpp"
+#include "slap/triangular_rows.hpp"
 
 namespace quorin::slap {
 
 // M = the diagonal that the inverse of is given.
-class Diagonal final : public Preconditioner {
+template <class T>
+class Diagonal final : public Preconditioner<T> {
  public:
   Diagonal(int n, const float* inverse) : n_(n), inverse_(inverse) {}
-  void solve(const float* r, float* z) const override;
+  void solve(const T* r, T* z) const override { scale_into(n_, inverse_, r, z); }
 
  private:
   int n_;

@@ -90,18 +90,18 @@ StoppingArguments stopping_arguments(const Call& call) {
   return stopping;
 }
 
-void iterate(const Call& call, const System& system, WorkArrays& work) {
-  float* const vectors = work.reals(iteration_reals(call));
-  work.set_header(9, work.next_integer());
-  work.set_header(10, work.next_real());
-  Progress progress(stopping_arguments(call));
+void run(const Call&, const System<double>& system, Progress& progress, float* vectors) {
+  normal_equations(system, progress, vectors);
+}
+
+void run(const Call& call, const System<float>& system, Progress& progress, float* vectors) {
   // More directions than iterations are not needed, whatever the host has room for.
   const int most = std::max(call.stopping.itmax, 1);
   switch (call.method.iteration) {
     case Iteration::kCg:
       return conjugate_gradients(system, progress, vectors);
     case Iteration::kCgNormal:
-      return normal_equations(system, progress, vectors);
+      return;  // runs in double
     case Iteration::kBicg:
       return biconjugate_gradients(system, progress, vectors);
     case Iteration::kCgs:
@@ -115,9 +115,15 @@ void iterate(const Call& call, const System& system, WorkArrays& work) {
   }
 }
 
-void iterate(const Call& call, const ColumnMatrix& matrix, const Preconditioner& preconditioner,
-             const Preconditioner& transposed, WorkArrays& work) {
-  iterate(call, System{matrix, preconditioner, transposed, call.b, call.x}, work);
+// T is the type that the iteration computes in.
+template <class T>
+void iterate(const Call& call, const ColumnMatrix& matrix, const Preconditioner<T>& preconditioner,
+             const Preconditioner<T>& transposed, WorkArrays& work) {
+  float* const vectors = work.reals(iteration_reals(call));
+  work.set_header(9, work.next_integer());
+  work.set_header(10, work.next_real());
+  Progress progress(stopping_arguments(call));
+  run(call, System<T>{matrix, preconditioner, transposed, call.b, call.x}, progress, vectors);
 }
 
 void solve_with_diagonal(const Call& call, const ColumnMatrix& matrix) {
@@ -126,11 +132,12 @@ void solve_with_diagonal(const Call& call, const ColumnMatrix& matrix) {
   float* const inverse = work.reals(call.n);
   if (call.method.iteration == Iteration::kCgNormal) {
     invert_row_squares(matrix, inverse);
-  } else {
-    invert_diagonal(matrix, inverse);
+    const Diagonal<double> diagonal(call.n, inverse);
+    return iterate<double>(call, matrix, diagonal, diagonal, work);
   }
-  const Diagonal diagonal(call.n, inverse);
-  iterate(call, matrix, diagonal, diagonal, work);
+  invert_diagonal(matrix, inverse);
+  const Diagonal<float> diagonal(call.n, inverse);
+  iterate<float>(call, matrix, diagonal, diagonal, work);
 }
 
 // A strict triangle with room for `count` entries, and the header words where its columns, starts and values are.
@@ -153,7 +160,7 @@ void solve_with_lower_triangle(const Call& call, const ColumnMatrix& matrix) {
   const TriangularRows rows = claim_rows(call, count, {2, 3, 4}, work);
   work.set_header(5, work.next_real());
   const LowerTriangle triangle(matrix, rows, work.reals(call.n));
-  iterate(call, matrix, triangle, triangle, work);
+  iterate<float>(call, matrix, triangle, triangle, work);
 }
 
 void solve_with_incomplete_cholesky(const Call& call, const ColumnMatrix& matrix) {
@@ -170,7 +177,7 @@ void solve_with_incomplete_cholesky(const Call& call, const ColumnMatrix& matrix
     if (!factor_cholesky(matrix, count, l, inverse, scratch)) *call.stopping.ierr = kFactorizationBreakdown;
   }
   const IncompleteCholesky cholesky(l, inverse);
-  iterate(call, matrix, cholesky, cholesky, work);
+  iterate<float>(call, matrix, cholesky, cholesky, work);
 }
 
 void solve_with_incomplete_lu(const Call& call, const ColumnMatrix& matrix) {
@@ -184,9 +191,9 @@ void solve_with_incomplete_lu(const Call& call, const ColumnMatrix& matrix) {
   factor_ldu(matrix, factors, work.integers(2 * std::int64_t{call.n}));
   if (call.method.iteration == Iteration::kCgNormal) {
     const NormalIncompleteLu lu(factors);
-    return iterate(call, matrix, lu, lu, work);
+    return iterate<double>(call, matrix, lu, lu, work);
   }
-  iterate(call, matrix, IncompleteLu(factors), TransposedIncompleteLu(factors), work);
+  iterate<float>(call, matrix, IncompleteLu(factors), TransposedIncompleteLu(factors), work);
 }
 
 bool has_bad_sizes(const Call& call) {

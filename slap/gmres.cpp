@@ -16,7 +16,7 @@ enum class Side { kLeft, kRight };
 // upper triangular.
 class Cycle {
  public:
-  Cycle(const System& system, Side side, int length, float* memory)
+  Cycle(const System<float>& system, Side side, int length, float* memory)
       : system_(system),
         side_(side),
         n_(system.n()),
@@ -115,7 +115,7 @@ class Cycle {
     return true;
   }
 
-  const System& system_;
+  const System<float>& system_;
   Side side_;
   int n_;
   float *v_, *z_, *r_, *cosines_, *sines_, *g_;
@@ -136,7 +136,7 @@ CycleEnd run_cycle(Cycle& cycle, int length, Progress& progress) {
 
 }  // namespace
 
-void minimal_residuals(const System& system, int length, Progress& progress, float* vectors) {
+void minimal_residuals(const System<float>& system, int length, Progress& progress, float* vectors) {
   Cycle cycle(system, progress.tests_preconditioned() ? Side::kLeft : Side::kRight, length, vectors);
   if (!progress.start_tests(system, cycle.scratch())) return;
   CycleEnd end = CycleEnd::kRestart;

@@ -10,7 +10,7 @@
 
 namespace quorin::slap {
 
-class IncompleteCholesky final : public Preconditioner {
+class IncompleteCholesky final : public Preconditioner<float> {
  public:
   // The factors as they stand in memory.
   IncompleteCholesky(const TriangularRows& l, const float* inverse) : l_(l), inverse_(inverse) {}

@@ -103,16 +103,23 @@ void factor_ldu(const ColumnMatrix& matrix, const LduFactors& factors, int* plac
   }
 }
 
-void LduFactors::solve(const float* r, float* z) const {
+template <class T>
+void LduFactors::solve(const T* r, T* z) const {
   solve_lower(l, r, z);
   solve_upper(u, inverse, z, z);
 }
 
-void LduFactors::solve_transposed(const float* r, float* z) const {
+template <class T>
+void LduFactors::solve_transposed(const T* r, T* z) const {
   if (z != r) std::copy_n(r, l.n, z);
   solve_upper_transposed(u, z);
   scale_into(l.n, inverse, z, z);
   solve_lower_transposed(l, z);
 }
+
+template void LduFactors::solve(const float*, float*) const;
+template void LduFactors::solve(const double*, double*) const;
+template void LduFactors::solve_transposed(const float*, float*) const;
+template void LduFactors::solve_transposed(const double*, double*) const;
 
 }  // namespace quorin::slap

@@ -16,8 +16,10 @@ struct LduFactors {
   TriangularRows u;
 
   // z <- M^-1 r and z <- M^-T r; z may be r.
-  void solve(const float* r, float* z) const;
-  void solve_transposed(const float* r, float* z) const;
+  template <class T>
+  void solve(const T* r, T* z) const;
+  template <class T>
+  void solve_transposed(const T* r, T* z) const;
 };
 
 // Entries of the strict triangles, with the mirror images that a lower triangle stands for.
@@ -30,7 +32,7 @@ TriangleSizes count_triangles(const ColumnMatrix& matrix);
 // `place`: n entries of scratch. A pivot of zero is replaced by the sum of magnitudes of its column.
 void factor_ldu(const ColumnMatrix& matrix, const LduFactors& factors, int* place);
 
-class IncompleteLu final : public Preconditioner {
+class IncompleteLu final : public Preconditioner<float> {
  public:
   explicit IncompleteLu(const LduFactors& factors) : factors_(factors) {}
   void solve(const float* r, float* z) const override { factors_.solve(r, z); }
@@ -39,7 +41,7 @@ class IncompleteLu final : public Preconditioner {
   LduFactors factors_;
 };
 
-class TransposedIncompleteLu final : public Preconditioner {
+class TransposedIncompleteLu final : public Preconditioner<float> {
  public:
   explicit TransposedIncompleteLu(const LduFactors& factors) : factors_(factors) {}
   void solve(const float* r, float* z) const override { factors_.solve_transposed(r, z); }
@@ -49,10 +51,10 @@ class TransposedIncompleteLu final : public Preconditioner {
 };
 
 // M M^T, for A A^T.
-class NormalIncompleteLu final : public Preconditioner {
+class NormalIncompleteLu final : public Preconditioner<double> {
  public:
   explicit NormalIncompleteLu(const LduFactors& factors) : factors_(factors) {}
-  void solve(const float* r, float* z) const override {
+  void solve(const double* r, double* z) const override {
     factors_.solve(r, z);
     factors_.solve_transposed(z, z);
   }

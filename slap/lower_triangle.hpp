@@ -7,7 +7,7 @@
 
 namespace quorin::slap {
 
-class LowerTriangle final : public Preconditioner {
+class LowerTriangle final : public Preconditioner<float> {
  public:
   // `rows` has room for count_lower(matrix) entries; inverse(n) receives D^-1, infinite where D is zero.
   LowerTriangle(const ColumnMatrix& matrix, const TriangularRows& rows, float* inverse);

@@ -37,7 +37,7 @@ void orthogonalise(int n, const Directions& directions, int k) {
 
 }  // namespace
 
-void orthomin(const System& system, int length, Progress& progress, float* vectors) {
+void orthomin(const System<float>& system, int length, Progress& progress, float* vectors) {
   const int n = system.n();
   float* const r = vectors;
   const Directions directions(n, length, r + n);
@@ -63,7 +63,7 @@ void orthomin(const System& system, int length, Progress& progress, float* vecto
     // So says the recurrence. Its residual drifts from the true one, which takes its place.
     system.residual(r);
     system.precondition(r, z);
-    if (progress.is_done_after(Leg::kClaimed, system, r, z, nullptr)) return;
+    if (progress.is_confirmed(progress.tested_norm(system, r, z))) return;
   }
 }
 

@@ -4,8 +4,8 @@
 #include <limits>
 
 #include "base/machine_constants.hpp"
-#include "dense/dense.hpp"
 #include "slap/iterations.hpp"
+#include "slap/vector_updates.hpp"
 
 namespace quorin::slap {
 
@@ -20,14 +20,16 @@ Progress::Progress(const StoppingArguments& arguments)
   }
 }
 
-bool Progress::start_tests(const System& system, float* scratch) {
+template <class T>
+bool Progress::start_tests(const System<T>& system, T* scratch) {
   switch (arguments_.itol) {
     case kResidual:
-      denominator_ = dense::nrm2(system.n(), system.b, 1);
+      denominator_ = norm(system.n(), system.b);
       return true;
     case kPreconditionedResidual:
-      system.precondition(system.b, scratch);
-      denominator_ = dense::nrm2(system.n(), scratch, 1);
+      std::copy_n(system.b, system.n(), scratch);
+      system.precondition(scratch, scratch);
+      denominator_ = norm(system.n(), scratch);
       return true;
     case kKnownSolution:
       denominator_ = 0;
@@ -58,16 +60,18 @@ bool Progress::is_confirmed(float norm) {
   return idle_claims_ >= 3 && error <= 2 * least_claimed_;
 }
 
-float Progress::tested_norm(const System& system, const float* r, const float* z) const {
-  const float* tested = tests_solution() ? system.x : tests_preconditioned() ? z : r;
-  return dense::nrm2(system.n(), tested, 1);
+template <class T>
+float Progress::tested_norm(const System<T>& system, const T* r, const T* z) const {
+  if (tests_solution()) return norm(system.n(), system.x);
+  return norm(system.n(), tests_preconditioned() ? z : r);
 }
 
-bool Progress::is_done_after(Leg leg, const System& system, const float* r, const float* z, float* scratch) {
+template <class T>
+bool Progress::is_done_after(Leg leg, const System<T>& system, const T* r, const T* z, T* scratch) {
   if (leg == Leg::kOver) return true;
   if (leg == Leg::kFirst && !start_tests(system, scratch)) return true;
-  const float norm = tested_norm(system, r, z);
-  return leg == Leg::kClaimed ? is_confirmed(norm) : has_converged(norm);
+  const float tested = tested_norm(system, r, z);
+  return leg == Leg::kClaimed ? is_confirmed(tested) : has_converged(tested);
 }
 
 bool Progress::next() {
@@ -80,5 +84,12 @@ bool Progress::next() {
   *arguments_.ierr = kNotConverged;
   return false;
 }
+
+// What iterations in single precision need, and the one in double.
+template bool Progress::start_tests(const System<float>&, float*);
+template float Progress::tested_norm(const System<float>&, const float*, const float*) const;
+template float Progress::tested_norm(const System<double>&, const double*, const double*) const;
+template bool Progress::is_done_after(Leg, const System<float>&, const float*, const float*, float*);
+template bool Progress::is_done_after(Leg, const System<double>&, const double*, const double*, double*);
 
 }  // namespace quorin::slap

@@ -19,6 +19,7 @@ enum StoppingTest : int {
   kKnownSolution = 11,          // ||x - s|| / ||s||, and s is zero in this library: infinite, or a NaN
 };
 
+template <class T>
 struct System;
 
 // The host's arguments that have to do with stopping.
@@ -45,10 +46,12 @@ class Progress {
   explicit Progress(const StoppingArguments& arguments);
 
   // Fixes the denominator of the test; `scratch` has n entries. False: the test is unknown, and that is the end.
-  bool start_tests(const System& system, float* scratch);
+  template <class T>
+  bool start_tests(const System<T>& system, T* scratch);
 
   // What the test is about: the norm of r, of z = M^-1 r (read only if tests_preconditioned()), or of the error.
-  float tested_norm(const System& system, const float* r, const float* z) const;
+  template <class T>
+  float tested_norm(const System<T>& system, const T* r, const T* z) const;
 
   // The test of a residual that was computed as b - A x.
   bool has_converged(float norm);
@@ -58,7 +61,8 @@ class Progress {
   // rounding keeps it there, and ERR tells where.
   bool is_confirmed(float norm);
   // Whether nothing is left to do after a leg (or before the first, which starts the tests), r being computed anew.
-  bool is_done_after(Leg leg, const System& system, const float* r, const float* z, float* scratch);
+  template <class T>
+  bool is_done_after(Leg leg, const System<T>& system, const T* r, const T* z, T* scratch);
 
   // Goes to the next iteration; false when none is left.
   bool next();

@@ -3,12 +3,7 @@
 
 namespace quorin::slap {
 
-void System::residual(float* r) const {
-  matrix.multiply(x, r);
-  for (int i = 0; i < matrix.n; ++i) r[i] = b[i] - r[i];
-}
-
-void refinement(const System& system, Progress& progress, float* vectors) {
+void refinement(const System<float>& system, Progress& progress, float* vectors) {
   const int n = system.n();
   float *const r = vectors, *const z = r + n;
   system.residual(r);

@@ -18,19 +18,53 @@ struct TriangularRows {
   int column(int k) const { return columns[k] - 1; }
 };
 
+// Row i of (I + T) z = S r, from its right side and the entries of z that are known.
+template <class T>
+T solve_row(const TriangularRows& t, int i, T right, const T* z) {
+  for (int k = t.begin(i), end = t.end(i); k < end; ++k) right -= t.values[k] * z[t.column(k)];
+  return right;
+}
+
+// Takes z(i) out of the equations of (I + T)^T that it is in.
+template <class T>
+void eliminate(const TriangularRows& t, int i, T* z) {
+  const T zi = z[i];
+  for (int k = t.begin(i), end = t.end(i); k < end; ++k) z[t.column(k)] -= t.values[k] * zi;
+}
+
 // In all of these z may be r.
 //
 // z <- (I + L)^-1 r
-void solve_lower(const TriangularRows& l, const float* r, float* z);
+template <class T>
+void solve_lower(const TriangularRows& l, const T* r, T* z) {
+  for (int i = 0; i < l.n; ++i) z[i] = solve_row(l, i, r[i], z);
+}
+
 // z <- (I + L)^-1 S r with a diagonal S; likewise for U.
-void solve_lower(const TriangularRows& l, const float* scale, const float* r, float* z);
-void solve_upper(const TriangularRows& u, const float* scale, const float* r, float* z);
+template <class T>
+void solve_lower(const TriangularRows& l, const float* scale, const T* r, T* z) {
+  for (int i = 0; i < l.n; ++i) z[i] = solve_row(l, i, scale[i] * r[i], z);
+}
+template <class T>
+void solve_upper(const TriangularRows& u, const float* scale, const T* r, T* z) {
+  for (int i = u.n - 1; i >= 0; --i) z[i] = solve_row(u, i, scale[i] * r[i], z);
+}
+
 // z <- (I + L)^-T z and z <- (I + U)^-T z
-void solve_lower_transposed(const TriangularRows& l, float* z);
-void solve_upper_transposed(const TriangularRows& u, float* z);
+template <class T>
+void solve_lower_transposed(const TriangularRows& l, T* z) {
+  for (int i = l.n - 1; i >= 0; --i) eliminate(l, i, z);
+}
+template <class T>
+void solve_upper_transposed(const TriangularRows& u, T* z) {
+  for (int i = 0; i < u.n; ++i) eliminate(u, i, z);
+}
 
 // z <- S r
-void scale_into(int n, const float* scale, const float* r, float* z);
+template <class T>
+void scale_into(int n, const float* scale, const T* r, T* z) {
+  for (int i = 0; i < n; ++i) z[i] = scale[i] * r[i];
+}
 
 // Collects rows from entries that come in any order: count all of them, start, add each again, finish. Entries beyond
 // `capacity` are left out, those of late rows first. Within a row the order is that of the additions. No other memory

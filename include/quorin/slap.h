@@ -30,8 +30,9 @@
  * NSAVE(NSAVE+3), 30. SSICCG, SSICCGC, with NL = NELT for ISYM not 0, else (NELT+N)/2: NL + 5N, NL + N + 11. SSGS, with
  * the diagonal in NL: NL + 3N + 1, NL + N + 11. SSILUR: NL + NU + 4N, NL + NU + 4N + 12. SSLUBC, SSLUCN, SSLUCS: NL +
  * NU + 8N, NL + NU + 4N + 12. SSLUOM: NL + NU + 4N + NSAVE(3N+1), NL + NU + 4N + 12. SSLUGM: 1 + N(NSAVE+6) +
- * NSAVE(NSAVE+3) + NL + NU, NL + NU + 4N + 32. On return IWORK(9) and IWORK(10) are the places behind what is used in
- * IWORK and RWORK.
+ * NSAVE(NSAVE+3) + NL + NU, NL + NU + 4N + 32. SSDCGN and SSLUCN compute in double precision and keep doubles in RWORK,
+ * which needs no other alignment than that of floats all the same. On return IWORK(9) and IWORK(10) are the places
+ * behind what is used in IWORK and RWORK.
  *
  * Diagonal preconditioners take the first entry of each column; a zero there makes the result useless, and is not
  * reported otherwise. The incomplete factorizations keep the pattern of A and replace pivots that will not do, so that

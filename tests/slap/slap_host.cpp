@@ -200,7 +200,7 @@ std::vector<T> copy(Guarded<T>& array) {
 struct Call {
   Call(const Triads& a, const Options& given, const Floats& start, Lengths size)
       : options(given),
-        rwork(static_cast<std::size_t>(std::max(size.reals, 0)), std::nanf("")),
+        rwork(static_cast<std::size_t>(std::max(size.reals, 0)), std::nanf(""), given.shifted ? sizeof(float) : 0),
         iwork(static_cast<std::size_t>(std::max(size.integers, 0)), -777),
         lenw(size.reals),
         leniw(size.integers) {

@@ -51,6 +51,7 @@ struct Options {
   int ifact = 1;
   bool index_form = false;
   int iunit = 0;
+  bool shifted = false;  // the reals begin between two multiples of 8
 };
 
 struct Solver {

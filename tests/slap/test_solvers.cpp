@@ -168,6 +168,21 @@ TEST(Solvers, CholeskyFactorsAreUsedAgain) {
   }
 }
 
+// Hosts align work arrays to four bytes only; these two have doubles in them.
+TEST(Solvers, DoublesLieWhereTheWorkArrayLetsThem) {
+  std::mt19937 random(47);
+  for (int n = 1; n <= 6; ++n) {
+    const Triads a = random_dominant(n, 0.5, 1.2, false, random);
+    const Floats b = right_hand_side(a, random_solution(n, random));
+    for (const char* name : {"SSDCGN", "SSLUCN"}) {
+      const Outcome o = run(solver(name), a, b), shifted = run(solver(name), a, b, {.shifted = true});
+      EXPECT_EQ(o.ierr, 0) << name << ", order " << n;
+      EXPECT_EQ(shifted.x, o.x) << name << ", order " << n;
+      EXPECT_TRUE(o.is_guarded && shifted.is_guarded) << name << ", order " << n;
+    }
+  }
+}
+
 TEST(Solvers, HeadersTellWhereThingsAre) {
   std::mt19937 random(45);
   const Triads a = grid(5, 0);
