@@ -18,18 +18,28 @@ struct TriangularRows {
   int column(int k) const { return columns[k] - 1; }
 };
 
-// Row i of (I + T) z = S r, from its right side and the entries of z that are known.
+// Row i of (I + T) z = S r, from its right side and the entries of z that are known. `last` is z(j), found just before:
+// each row waits for that, and the way through memory would take longer than the arithmetic.
 template <class T>
-T solve_row(const TriangularRows& t, int i, T right, const T* z) {
-  for (int k = t.begin(i), end = t.end(i); k < end; ++k) right -= t.values[k] * z[t.column(k)];
+T solve_row(const TriangularRows& t, int i, T right, const T* z, int j, T last) {
+  for (int k = t.begin(i), end = t.end(i); k < end; ++k) {
+    const int column = t.column(k);
+    right -= t.values[k] * (column == j ? last : z[column]);
+  }
   return right;
 }
 
-// Takes z(i) out of the equations of (I + T)^T that it is in.
+// Takes z(i), which is given, out of the equations of (I + T)^T that it is in. Returns z(j), the next to be known.
 template <class T>
-void eliminate(const TriangularRows& t, int i, T* z) {
-  const T zi = z[i];
-  for (int k = t.begin(i), end = t.end(i); k < end; ++k) z[t.column(k)] -= t.values[k] * zi;
+T eliminate(const TriangularRows& t, int i, T zi, T* z, int j) {
+  T next = z[j];
+  for (int k = t.begin(i), end = t.end(i); k < end; ++k) {
+    const int column = t.column(k);
+    const T rest = z[column] - t.values[k] * zi;
+    z[column] = rest;
+    if (column == j) next = rest;
+  }
+  return next;
 }
 
 // In all of these z may be r.
@@ -37,27 +47,32 @@ void eliminate(const TriangularRows& t, int i, T* z) {
 // z <- (I + L)^-1 r
 template <class T>
 void solve_lower(const TriangularRows& l, const T* r, T* z) {
-  for (int i = 0; i < l.n; ++i) z[i] = solve_row(l, i, r[i], z);
+  T last = 0;
+  for (int i = 0; i < l.n; ++i) z[i] = last = solve_row(l, i, r[i], z, i - 1, last);
 }
 
 // z <- (I + L)^-1 S r with a diagonal S; likewise for U.
 template <class T>
 void solve_lower(const TriangularRows& l, const float* scale, const T* r, T* z) {
-  for (int i = 0; i < l.n; ++i) z[i] = solve_row(l, i, scale[i] * r[i], z);
+  T last = 0;
+  for (int i = 0; i < l.n; ++i) z[i] = last = solve_row(l, i, scale[i] * r[i], z, i - 1, last);
 }
 template <class T>
 void solve_upper(const TriangularRows& u, const float* scale, const T* r, T* z) {
-  for (int i = u.n - 1; i >= 0; --i) z[i] = solve_row(u, i, scale[i] * r[i], z);
+  T last = 0;
+  for (int i = u.n - 1; i >= 0; --i) z[i] = last = solve_row(u, i, scale[i] * r[i], z, i + 1, last);
 }
 
 // z <- (I + L)^-T z and z <- (I + U)^-T z
 template <class T>
 void solve_lower_transposed(const TriangularRows& l, T* z) {
-  for (int i = l.n - 1; i >= 0; --i) eliminate(l, i, z);
+  T zi = z[l.n - 1];
+  for (int i = l.n - 1; i > 0; --i) zi = eliminate(l, i, zi, z, i - 1);
 }
 template <class T>
 void solve_upper_transposed(const TriangularRows& u, T* z) {
-  for (int i = 0; i < u.n; ++i) eliminate(u, i, z);
+  T zi = z[0];
+  for (int i = 0; i < u.n - 1; ++i) zi = eliminate(u, i, zi, z, i + 1);
 }
 
 // z <- S r
