@@ -5,19 +5,22 @@
 namespace quorin::slap {
 namespace {
 
+// In these k runs through all entries: columns follow each other, and most are so short that their ends matter.
 template <class X, class Y>
 void add_full(const ColumnMatrix& matrix, Y factor, const X* x, Y* y) {
+  int k = 0;
   for (int j = 0; j < matrix.n; ++j) {
     const Y xj = factor * x[j];
-    for (int k = matrix.begin(j), end = matrix.end(j); k < end; ++k) y[matrix.row(k)] += matrix.a[k] * xj;
+    for (const int end = matrix.end(j); k < end; ++k) y[matrix.row(k)] += matrix.a[k] * xj;
   }
 }
 
 template <class T>
 void multiply_full_transposed(const ColumnMatrix& matrix, const T* x, T* y) {
+  int k = 0;
   for (int j = 0; j < matrix.n; ++j) {
     T sum = 0;
-    for (int k = matrix.begin(j), end = matrix.end(j); k < end; ++k) sum += matrix.a[k] * x[matrix.row(k)];
+    for (const int end = matrix.end(j); k < end; ++k) sum += matrix.a[k] * x[matrix.row(k)];
     y[j] = sum;
   }
 }
@@ -25,10 +28,11 @@ void multiply_full_transposed(const ColumnMatrix& matrix, const T* x, T* y) {
 // Entries above the diagonal, which should not be there, have no mirror image.
 template <class X, class Y>
 void add_lower(const ColumnMatrix& matrix, Y factor, const X* x, Y* y) {
+  int k = 0;
   for (int j = 0; j < matrix.n; ++j) {
     const Y xj = factor * x[j];
     Y sum = 0;
-    for (int k = matrix.begin(j), end = matrix.end(j); k < end; ++k) {
+    for (const int end = matrix.end(j); k < end; ++k) {
       const int i = matrix.row(k);
       const Y a = matrix.a[k];
       y[i] += a * xj;

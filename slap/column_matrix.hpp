@@ -18,7 +18,8 @@ struct ColumnMatrix {
   int end(int j) const { return ja[j + 1] - 1; }
   int row(int k) const { return ia[k] - 1; }
 
-  // Columns follow each other within the arrays, and rows lie within the matrix. Nothing else here checks.
+  // Columns follow each other from the first entry to the last, and rows lie within the matrix. Nothing else here
+  // checks that, and products rely on it.
   bool is_sound() const;
 
   // y <- A x and y <- A^T x; y is not x.
