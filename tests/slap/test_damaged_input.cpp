@@ -12,13 +12,7 @@ namespace {
 
 constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
 
-Options few_iterations(int itol) {
-  Options options;
-  options.itmax = 5;
-  options.nsave = 3;
-  options.itol = itol;
-  return options;
-}
+Options few_iterations(int itol) { return {.itol = itol, .itmax = 5, .nsave = 3}; }
 
 void expect_survival(const Triads& t, const Floats& b, const std::string& what) {
   for (const Solver& s : solvers()) {
@@ -108,16 +102,12 @@ TEST(DamagedInput, ZeroAndAbsentDiagonals) {
 // An unsymmetric pattern has more entries below the diagonal than the incomplete Cholesky's arrays hold: then the
 // factors leave some out.
 TEST(DamagedInput, CholeskyOfAnUnsymmetricPattern) {
-  std::mt19937 random(63);
   Triads t;
   t.n = 40;
   for (int j = 1; j <= 40; ++j) {
     for (int i = j; i <= 40; ++i) t.add(i, j, i == j ? 50 : 1);
   }
-  const Outcome o = run(solver("SSICCG"), t, Floats(40, 1.0F), few_iterations(1));
-  EXPECT_TRUE(o.is_guarded);
-  const Outcome reused = run_reusing(t, Floats(40, 1.0F), few_iterations(1));
-  EXPECT_TRUE(reused.is_guarded);
+  EXPECT_TRUE(run(solver("SSICCG"), t, Floats(40, 1.0F), few_iterations(1)).is_guarded);
 }
 
 }  // namespace

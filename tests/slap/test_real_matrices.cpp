@@ -57,11 +57,7 @@ TEST(RealMatrices, ScaledSystems) {
     ASSERT_EQ(a.n, c.size) << c.name;
     const Floats b = right_hand_side(a, Doubles(a.n, 1.0));
     for (const char* name : c.solvers) {
-      Options options;
-      options.tol = 1e-3F;
-      options.itmax = 3000;
-      options.nsave = 30;
-      const Outcome o = run(solver(name), a, b, options);
+      const Outcome o = run(solver(name), a, b, {.tol = 1e-3F, .itmax = 3000, .nsave = 30});
       EXPECT_EQ(o.ierr, 0) << c.name << ", " << name << ", " << o.iter << " iterations, " << o.err;
       EXPECT_NEAR(relative_residual(a, b, o.x), o.err, 2e-4) << c.name << ", " << name;
       EXPECT_TRUE(o.is_guarded);

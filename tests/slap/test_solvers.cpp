@@ -96,16 +96,13 @@ TEST_P(EverySolver, TakesEveryStorageOfAMatrix) {
 
 TEST_P(EverySolver, PreconditionedTestAndIndexForm) {
   for_each_problem([&](const Problem& p, const Floats& b) {
-    Options options;
-    options.itol = 2;
-    const Outcome o = run(s(), p.a, b, options);
+    const Outcome o = run(s(), p.a, b, {.itol = 2});
     EXPECT_EQ(o.ierr, 0);
     EXPECT_LE(o.err, o.tol);
     // M is not far from A in any of these (from A A^T in two, where squares of the condition count).
     EXPECT_LE(relative_residual(p.a, b, o.x), 0.02);
     if (!s().has_index_form()) return;
-    options.index_form = true;
-    const Outcome indexed = run(s(), p.a, b, options);
+    const Outcome indexed = run(s(), p.a, b, {.itol = 2, .index_form = true});
     EXPECT_EQ(indexed.x, o.x);
     EXPECT_EQ(indexed.iter, o.iter);
     EXPECT_EQ(indexed.matrix.ja, o.matrix.ja);
@@ -144,12 +141,12 @@ TEST_P(EverySolver, RepeatedEntriesAddUp) {
 }
 
 TEST_P(EverySolver, PrintsNothing) {
-  const quorin::test::CapturedOutput output;
-  Options options;
-  options.iunit = 6;
-  for_each_problem([&](const Problem& p, const Floats& b) { run(s(), p.a, b, options); });
-  options.itol = 5;
-  for_each_problem([&](const Problem& p, const Floats& b) { run(s(), p.a, b, options); });
+  const std::string text = quorin::test::captured([&] {
+    for_each_problem([&](const Problem& p, const Floats& b) {
+      for (const int itol : {1, 5}) run(s(), p.a, b, {.itol = itol, .iunit = 6});
+    });
+  });
+  EXPECT_EQ(text, "");
 }
 
 TEST(Solvers, CholeskyFactorsAreUsedAgain) {
@@ -159,9 +156,7 @@ TEST(Solvers, CholeskyFactorsAreUsedAgain) {
     const Floats c = right_hand_side(a, random_solution(a.n, random));
     const Outcome first = run_reusing(a, b, {});
     EXPECT_EQ(first.x, run(solver("SSICCG"), a, b).x);
-    Options options;
-    options.ifact = 0;
-    const Outcome second = run_reusing(first.matrix, c, options, &first);
+    const Outcome second = run_reusing(first.matrix, c, {.ifact = 0}, &first);
     EXPECT_EQ(second.x, run(solver("SSICCG"), a, c).x);
     EXPECT_TRUE(first.is_guarded && second.is_guarded);
     EXPECT_EQ(second.iwork, first.iwork);
@@ -216,16 +211,25 @@ TEST(Solvers, SinglePrecisionIsNotTakenOnTrust) {
     for (int i = 0; i < a.n; ++i) b[i] = static_cast<float>(1 + std::sin(0.001 * i));
     for (const Solver& s : solvers()) {
       if (s.iteration == Iteration::kCg || s.iteration == Iteration::kRefinement) continue;
-      const Outcome o = run(s, a, b, {.itmax = s.iteration == Iteration::kNormal ? 5000 : 700});
+      const Outcome o = run(s, a, b, {.itmax = s.iteration == Iteration::kNormal ? 2000 : 700});
       EXPECT_EQ(o.ierr, 0) << s.name;
       EXPECT_LE(o.err, o.tol) << s.name;
       EXPECT_NEAR(relative_residual(a, b, o.x), o.err, 0.15 * o.err) << s.name << ", wind " << wind;
-      // No single-precision x is that good: the run ends all the same, and ERR says how good it is.
-      if (wind != 0.0 || s.iteration == Iteration::kNormal) continue;
-      const Outcome most = run(s, grid(100, 0), Floats(10000, 1.0F), {.tol = 0, .itmax = 20000});
-      EXPECT_EQ(most.ierr, 4) << s.name;
-      EXPECT_NEAR(relative_residual(grid(100, 0), Floats(10000, 1.0F), most.x), most.err, 0.15 * most.err) << s.name;
     }
+  }
+}
+
+// No single-precision x is that good: the run ends all the same with one that is nearly as good as any, and ERR says
+// how good it is.
+TEST(Solvers, ATaskThatIsTooHardComesToAnEnd) {
+  const Triads a = grid(100, 0);
+  const Floats b(a.n, 1.0F);
+  for (const Solver& s : solvers()) {
+    if (s.iteration == Iteration::kCg || s.iteration == Iteration::kRefinement) continue;
+    const Outcome o = run(s, a, b, {.tol = 0, .itmax = 20000});
+    EXPECT_EQ(o.ierr, 4) << s.name;
+    EXPECT_LE(o.err, 2e-4) << s.name;
+    EXPECT_NEAR(relative_residual(a, b, o.x), o.err, 0.15 * o.err) << s.name;
   }
 }
 
@@ -239,25 +243,23 @@ TEST(Solvers, GmresAndOrthominAgreeWhereTheyAreTheSame) {
     const Solver& orthomin = solver(is_diagonal ? "SSDOMN" : "SSLUOM");
     const Triads a = grid(14, 3);
     const Floats b = right_hand_side(a, random_solution(a.n, random));
-    Options options;
-    options.nsave = 150;
-    const Outcome g = run(gmres, a, b, options), o = run(orthomin, a, b, options);
+    const Outcome g = run(gmres, a, b, {.nsave = 150}), o = run(orthomin, a, b, {.nsave = 150});
     EXPECT_EQ(g.ierr, 0);
     EXPECT_EQ(o.ierr, 0);
     EXPECT_LT(g.iter, 150);
     EXPECT_NEAR(g.iter, o.iter, 1) << family;
     // Of a symmetric A with a constant diagonal, Orthomin needs but one direction.
     const Triads symmetric = grid(14, 0);
-    options.nsave = is_diagonal ? 1 : 150;
-    EXPECT_NEAR(run(orthomin, symmetric, b, options).iter, run(gmres, symmetric, b, {.nsave = 150}).iter, 2) << family;
-    options.nsave = 0;
-    const Outcome forgetful = run(orthomin, a, b, options);
+    const int directions = is_diagonal ? 1 : 150;
+    EXPECT_NEAR(run(orthomin, symmetric, b, {.nsave = directions}).iter, run(gmres, symmetric, b, {.nsave = 150}).iter,
+                2)
+        << family;
+    const Outcome forgetful = run(orthomin, a, b, {.nsave = 0});
     EXPECT_EQ(forgetful.ierr, 0);
     EXPECT_GT(forgetful.iter, o.iter);
     EXPECT_TRUE(forgetful.is_guarded);
     if (is_diagonal) continue;
-    options.nsave = 1;
-    EXPECT_NEAR(run(gmres, a, b, options).iter, forgetful.iter, 1);
+    EXPECT_NEAR(run(gmres, a, b, {.nsave = 1}).iter, forgetful.iter, 1);
   }
 }
 

@@ -37,11 +37,8 @@ TEST(Status, BadSizesTouchNothing) {
     }
   }
   for (const auto& [name, least] : {std::pair("SSDGMR", 2), {"SSLUGM", 1}, {"SSDOMN", 0}, {"SSLUOM", 0}}) {
-    Options options;
-    options.nsave = least;
-    EXPECT_EQ(run(solver(name), good, {1, 2}, options).ierr, 0) << name;
-    options.nsave = least - 1;
-    const Outcome o = run(solver(name), good, {1, 2}, options);
+    EXPECT_EQ(run(solver(name), good, {1, 2}, {.nsave = least}).ierr, 0) << name;
+    const Outcome o = run(solver(name), good, {1, 2}, {.nsave = least - 1});
     EXPECT_EQ(o.ierr, 3) << name;
     EXPECT_EQ(o.matrix.a, good.a);
   }
@@ -50,9 +47,7 @@ TEST(Status, BadSizesTouchNothing) {
 TEST(Status, UnknownTests) {
   for (const Solver& s : solvers()) {
     for (const int itol : {5, -1, 3, 12, 0}) {
-      Options options;
-      options.itol = itol;
-      const Outcome o = run(s, two_by_two(4, 1, 1, 4), {1, 2}, options, {7, 8});
+      const Outcome o = run(s, two_by_two(4, 1, 1, 4), {1, 2}, {.itol = itol}, {7, 8});
       if (itol == 0 && s.iteration == Iteration::kGmres) {
         EXPECT_EQ(o.ierr, 0);
         continue;
@@ -63,10 +58,7 @@ TEST(Status, UnknownTests) {
       EXPECT_EQ(o.x, (Floats{7, 8}));
       EXPECT_EQ(o.matrix.ja[2], 5) << "the matrix is converted all the same";
     }
-    Options options;
-    options.itol = 11;
-    options.itmax = 3;
-    const Outcome o = run(s, two_by_two(4, 1, 1, 4), {1, 2}, options);
+    const Outcome o = run(s, two_by_two(4, 1, 1, 4), {1, 2}, {.itol = 11, .itmax = 3});
     EXPECT_TRUE(o.ierr == 2 || o.ierr == 5 || o.ierr == 6) << s.name << " has no solution to compare with";
     EXPECT_FALSE(o.err <= 1e30F);
   }
@@ -77,15 +69,12 @@ TEST(Status, TolerancesBelowTheFloorAreRaised) {
   const Floats b(36, 1.0F);
   for (const Solver& s : solvers()) {
     for (const float tol : {0.0F, -1.0F, 2.9e-5F}) {
-      Options options;
-      options.tol = tol;
-      const Outcome o = run(s, a, b, options);
+      const Outcome o = run(s, a, b, {.tol = tol});
       EXPECT_EQ(o.tol, std::ldexp(500.0F, -24)) << s.name;
       EXPECT_EQ(o.ierr, 4) << s.name;
       EXPECT_LE(o.err, o.tol);
       EXPECT_GT(o.iter, 0) << "the iteration ran";
-      options.itmax = 1;
-      EXPECT_EQ(run(s, a, b, options).ierr, 2) << s.name;
+      EXPECT_EQ(run(s, a, b, {.tol = tol, .itmax = 1}).ierr, 2) << s.name;
     }
   }
 }
@@ -95,16 +84,14 @@ TEST(Status, LimitsOfIterations) {
   const Floats b(36, 1.0F), exact = run(solver("SSICCG"), a, b).x;
   for (const Solver& s : solvers()) {
     for (const int itmax : {2, 1, 0, -4}) {
-      Options options;
-      options.itmax = itmax;
-      const Outcome o = run(s, a, b, options);
+      const Outcome o = run(s, a, b, {.itmax = itmax});
       EXPECT_EQ(o.ierr, 2) << s.name;
       EXPECT_EQ(o.iter, itmax + 1) << s.name;
       if (itmax > 0) {
         EXPECT_NEAR(relative_residual(a, b, o.x), o.err, 1e-5) << s.name;
       }
       if (itmax < 0) continue;
-      const Outcome good = run(s, a, b, options, exact);
+      const Outcome good = run(s, a, b, {.itmax = itmax}, exact);
       EXPECT_EQ(good.ierr, 0) << s.name << ": a good start needs no iterations";
       EXPECT_EQ(good.iter, 0);
       EXPECT_EQ(good.x, exact);
