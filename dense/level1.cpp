@@ -5,6 +5,7 @@
 #include <cstddef>
 
 #include "dense/backend/routines.hpp"
+#include "dense/kernels.hpp"
 
 namespace quorin::dense {
 namespace {
@@ -35,8 +36,10 @@ int first_extreme(int n, const T* x, int incx, Better better) {
 // loops say it, so such calls run them.
 bool repeats_an_element(int incx, int incy) { return incx == 0 || incy == 0; }
 
-// For a few elements the loop is done before the dependency has chosen its kernel.
+// For a few elements the loop is done before a kernel has begun.
 bool is_short(int n) { return 0 < n && n <= 8; }
+
+bool are_contiguous(int incx, int incy) { return incx == 1 && incy == 1; }
 
 // Calls body(x_i, y_i) for i = 0..n-1 in the published order; a negative stride starts at the far end.
 template <class X, class Y, class Body>
@@ -52,10 +55,11 @@ Complex to_complex(backend::ComplexResult z) { return {__real__ z, __imag__ z}; 
 
 template <Scalar T>
 void axpy(int n, T a, const T* x, int incx, T* y, int incy) {
+  if (a == T{}) return;
   if (is_short(n) || repeats_an_element(incx, incy)) {
-    if (a == T{}) return;
     return for_each_pair(n, x, incx, y, incy, [a](const T& xi, T& yi) { yi += product(a, xi); });
   }
+  if (are_contiguous(incx, incy)) return kernels::axpy(n, a, x, y);
   Routines<T>::axpy(&n, &a, x, &incx, y, &incy);
 }
 
@@ -64,6 +68,10 @@ void copy(int n, const T* x, int incx, T* y, int incy) {
   if (is_short(n) || repeats_an_element(incx, incy)) {
     return for_each_pair(n, x, incx, y, incy, [](const T& xi, T& yi) { yi = xi; });
   }
+  if (are_contiguous(incx, incy)) {
+    std::copy(x, x + std::max(n, 0), y);
+    return;
+  }
   Routines<T>::copy(&n, x, &incx, y, &incy);
 }
 
@@ -71,6 +79,10 @@ template <Scalar T>
 void swap(int n, T* x, int incx, T* y, int incy) {
   if (is_short(n) || repeats_an_element(incx, incy)) {
     return for_each_pair(n, x, incx, y, incy, [](T& xi, T& yi) { std::swap(xi, yi); });
+  }
+  if (are_contiguous(incx, incy)) {
+    std::swap_ranges(x, x + std::max(n, 0), y);
+    return;
   }
   Routines<T>::swap(&n, x, &incx, y, &incy);
 }
@@ -82,6 +94,7 @@ T dotu(int n, const T* x, int incx, const T* y, int incy) {
     for_each_pair(n, x, incx, y, incy, [&sum](T xi, T yi) { sum += product(xi, yi); });
     return sum;
   }
+  if (are_contiguous(incx, incy)) return kernels::dot<false>(n, x, y);
   if constexpr (kIsComplex<T>) {
     return to_complex(Routines<T>::dotu(&n, x, &incx, y, &incy));
   } else {
@@ -95,11 +108,17 @@ Complex dotc(int n, const Complex* x, int incx, const Complex* y, int incy) {
     for_each_pair(n, x, incx, y, incy, [&sum](Complex xi, Complex yi) { sum += product(std::conj(xi), yi); });
     return sum;
   }
+  if (are_contiguous(incx, incy)) return kernels::dot<true>(n, x, y);
   return to_complex(Routines<Complex>::dotc(&n, x, &incx, y, &incy));
 }
 
 template <Scalar T>
 RealOf<T> nrm2(int n, const T* x, int incx) {
+  if (incx == 1) {
+    constexpr int kParts = kIsComplex<T> ? 2 : 1;
+    return static_cast<RealOf<T>>(
+        std::sqrt(kernels::sum_of_squares(std::ptrdiff_t{kParts} * n, reinterpret_cast<const float*>(x))));
+  }
   return Routines<T>::nrm2(&n, x, &incx);
 }
 
@@ -149,6 +168,7 @@ void rot(int n, T* x, int incx, T* y, int incy, RealOf<T> c, RealOf<T> s) {
       xi = rotated;
     });
   }
+  if (are_contiguous(incx, incy)) return kernels::rot(n, x, y, c, s);
   Routines<T>::rot(&n, x, &incx, y, &incy, &c, &s);
 }
 

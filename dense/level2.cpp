@@ -8,6 +8,8 @@
 #include "dense/argument_check.hpp"
 #include "dense/backend/buffers.hpp"
 #include "dense/backend/routines.hpp"
+#include "dense/kernels.hpp"
+#include "dense/matrix_vector.hpp"
 #include "dense/partition.hpp"
 
 namespace quorin::dense {
@@ -50,6 +52,26 @@ void run_parts(const char* operation, int total, int threads, const Part& part) 
   base::parallel_for(parts, buffers.granted(), [&](int i) { part(part_range(total, parts, i, kTile)); });
 }
 
+// Where the first entry of a strided vector stands.
+template <class Pointer>
+Pointer first_entry(Pointer x, int length, int inc) {
+  return inc > 0 ? x : x - static_cast<std::ptrdiff_t>(length - 1) * inc;
+}
+
+// y <- beta y; what y holds does not matter for beta = 0.
+template <Scalar T>
+void scale(int n, T beta, T* y, std::ptrdiff_t incy) {
+  if (beta == T{1}) return;
+  for (int i = 0; i < n; ++i, y += incy) *y = beta == T{} ? T{} : product(beta, *y);
+}
+
+// The same without buffers, for kernels of our own.
+template <class Part>
+void run_own_parts(int total, int threads, const Part& part) {
+  constexpr int kTile = 16;
+  base::parallel_for(threads, threads, [&](int i) { part(part_range(total, threads, i, kTile)); });
+}
+
 int threads_for_matrix(int m, int n) {
   const double elements = static_cast<double>(m) * n;
   if (elements < 2 * kElementsPerThread || base::in_parallel_region()) return 1;
@@ -60,8 +82,11 @@ template <Scalar T>
 using Triangular2 = backend::Triangular2<T>;
 
 template <Scalar T>
-void triangular(const char* operation, Triangular2<T>* routine, char uplo, char trans, char diag, int n, const T* a,
-                int lda, T* x, int incx) {
+using TriangularKernel = void(kernels::Triangle shape, int n, const T* a, int lda, T* x);
+
+template <Scalar T>
+void triangular(const char* operation, Triangular2<T>* routine, TriangularKernel<T>* kernel, char uplo, char trans,
+                char diag, int n, const T* a, int lda, T* x, int incx) {
   const bool arguments_hold = ArgumentCheck<T>(operation)
                                   .require(1, is_one_of(uplo, "UL"))
                                   .require(2, is_one_of(trans, "NTC"))
@@ -71,12 +96,16 @@ void triangular(const char* operation, Triangular2<T>* routine, char uplo, char 
                                   .require(8, incx != 0)
                                   .passed();
   if (!arguments_hold || n == 0) return;
+  if (incx == 1) {
+    return kernel({is_one_of(uplo, "U"), !is_one_of(trans, "N"), is_one_of(trans, "C"), is_one_of(diag, "U")}, n, a,
+                  lda, x);
+  }
   run_parts<T>(operation, 1, 1, [&](Range) { routine(&uplo, &trans, &diag, &n, a, &lda, x, &incx); });
 }
 
 template <Scalar T>
-void rank_one(const char* operation, backend::Ger<T>* routine, int m, int n, T alpha, const T* x, int incx, const T* y,
-              int incy, T* a, int lda) {
+void rank_one(const char* operation, backend::Ger<T>* routine, bool conjugate, int m, int n, T alpha, const T* x,
+              int incx, const T* y, int incy, T* a, int lda) {
   const bool arguments_hold = ArgumentCheck<T>(operation)
                                   .require(1, m >= 0)
                                   .require(2, n >= 0)
@@ -86,6 +115,13 @@ void rank_one(const char* operation, backend::Ger<T>* routine, int m, int n, T a
                                   .passed();
   if (!arguments_hold || m == 0 || n == 0 || alpha == T{}) return;
   const int threads = threads_for_matrix(m, n);
+  if (incx == 1) {
+    return run_own_parts(n, threads, [&](Range columns) {
+      kernels::add_outer_product(conjugate, m, columns.count, alpha, x,
+                                 first_entry(y, n, incy) + static_cast<std::ptrdiff_t>(columns.first) * incy, incy,
+                                 a + static_cast<std::ptrdiff_t>(columns.first) * lda, lda);
+    });
+  }
   if (n >= m) {
     run_parts<T>(operation, n, threads, [&](Range columns) {
       routine(&m, &columns.count, &alpha, x, &incx, slice(y, n, incy, columns), &incy,
@@ -114,6 +150,20 @@ void gemv(char trans, int m, int n, T alpha, const T* a, int lda, const T* x, in
   // Each part makes some entries of y, from rows of A or, transposed, from columns; a very long x comes in pieces.
   const bool transposed = !is_one_of(trans, "N");
   const int made = transposed ? n : m, summed = transposed ? m : n;
+  if ((transposed ? incx : incy) == 1) {
+    return run_own_parts(made, threads_for_matrix(m, n), [&](Range out) {
+      if (out.count == 0) return;
+      T* const part = first_entry(y, made, incy) + static_cast<std::ptrdiff_t>(out.first) * incy;
+      scale(out.count, beta, part, incy);
+      if (alpha == T{}) return;
+      if (transposed) {
+        kernels::add_transposed_product(is_one_of(trans, "C"), m, out.count, alpha,
+                                        a + static_cast<std::ptrdiff_t>(out.first) * lda, lda, x, part, incy);
+      } else {
+        kernels::add_product(out.count, n, alpha, a + out.first, lda, first_entry(x, n, incx), incx, part);
+      }
+    });
+  }
   const int pieces = part_count(summed, 1);
   run_parts<T>("GEMV", made, threads_for_matrix(m, n), [&](Range out) {
     for (int i = 0; i < pieces; ++i) {
@@ -129,12 +179,12 @@ void gemv(char trans, int m, int n, T alpha, const T* a, int lda, const T* x, in
 
 template <Scalar T>
 void trmv(char uplo, char trans, char diag, int n, const T* a, int lda, T* x, int incx) {
-  triangular<T>("TRMV", Routines<T>::trmv, uplo, trans, diag, n, a, lda, x, incx);
+  triangular<T>("TRMV", Routines<T>::trmv, kernels::multiply_by_triangle<T>, uplo, trans, diag, n, a, lda, x, incx);
 }
 
 template <Scalar T>
 void trsv(char uplo, char trans, char diag, int n, const T* a, int lda, T* x, int incx) {
-  triangular<T>("TRSV", Routines<T>::trsv, uplo, trans, diag, n, a, lda, x, incx);
+  triangular<T>("TRSV", Routines<T>::trsv, kernels::solve_triangle<T>, uplo, trans, diag, n, a, lda, x, incx);
 }
 
 template <Scalar T>
@@ -148,18 +198,23 @@ void hemv(char uplo, int n, T alpha, const T* a, int lda, const T* x, int incx, 
                                   .require(10, incy != 0)
                                   .passed();
   if (!arguments_hold || n == 0 || (alpha == T{} && beta == T{1})) return;
+  if (incx == 1 && incy == 1) {
+    scale(n, beta, y, 1);
+    if (alpha != T{}) kernels::add_hermitian_product(is_one_of(uplo, "U"), n, alpha, a, lda, x, y);
+    return;
+  }
   run_parts<T>(kOperation, 1, 1,
                [&](Range) { Routines<T>::hemv(&uplo, &n, &alpha, a, &lda, x, &incx, &beta, y, &incy); });
 }
 
 template <Scalar T>
 void geru(int m, int n, T alpha, const T* x, int incx, const T* y, int incy, T* a, int lda) {
-  rank_one<T>(named<T>("GER", "GERU"), Routines<T>::geru, m, n, alpha, x, incx, y, incy, a, lda);
+  rank_one<T>(named<T>("GER", "GERU"), Routines<T>::geru, false, m, n, alpha, x, incx, y, incy, a, lda);
 }
 
 template <Scalar T>
 void gerc(int m, int n, T alpha, const T* x, int incx, const T* y, int incy, T* a, int lda) {
-  rank_one<T>(named<T>("GER", "GERC"), Routines<T>::gerc, m, n, alpha, x, incx, y, incy, a, lda);
+  rank_one<T>(named<T>("GER", "GERC"), Routines<T>::gerc, true, m, n, alpha, x, incx, y, incy, a, lda);
 }
 
 template <Scalar T>
@@ -172,6 +227,7 @@ void her(char uplo, int n, RealOf<T> alpha, const T* x, int incx, T* a, int lda)
                                   .require(7, lda >= least_leading_dimension(n))
                                   .passed();
   if (!arguments_hold || n == 0 || alpha == 0) return;
+  if (incx == 1) return kernels::add_hermitian_square(is_one_of(uplo, "U"), n, alpha, x, a, lda);
   run_parts<T>(kOperation, 1, 1, [&](Range) { Routines<T>::her(&uplo, &n, &alpha, x, &incx, a, &lda); });
 }
 
@@ -186,6 +242,7 @@ void her2(char uplo, int n, T alpha, const T* x, int incx, const T* y, int incy,
                                   .require(9, lda >= least_leading_dimension(n))
                                   .passed();
   if (!arguments_hold || n == 0 || alpha == T{}) return;
+  if (incx == 1 && incy == 1) return kernels::add_hermitian_pair(is_one_of(uplo, "U"), n, alpha, x, y, a, lda);
   run_parts<T>(kOperation, 1, 1, [&](Range) { Routines<T>::her2(&uplo, &n, &alpha, x, &incx, y, &incy, a, &lda); });
 }
 

@@ -16,7 +16,7 @@ namespace quorin::test {
 namespace {
 
 struct Operands {
-  std::int32_t n = 150, one = 1;
+  std::int32_t n = 150, one = 1, two = 2;
   float alpha[2] = {2, 0}, beta[2] = {3, 0};
   std::vector<float> a = whole_numbers(size(), 5), b = whole_numbers(size(), 6);
 
@@ -81,24 +81,25 @@ const std::vector<Case>& cases() {
          m.symbol<decltype(cher2k)>("cher2k")("L", "N", &o.n, &o.n, as_complex(o.alpha), as_complex(o.a.data()), &o.n,
                                               as_complex(o.b.data()), &o.n, o.beta, as_complex(c), &o.n);
        }},
+      // Vectors of unit stride need no memory; others are copied.
       {"sgemv", "SGEMV",
        [](const HostModule& m, Operands& o, float* c) {
-         m.symbol<decltype(sgemv)>("sgemv")("T", &o.n, &o.n, o.alpha, o.a.data(), &o.n, o.b.data(), &o.one, o.beta, c,
+         m.symbol<decltype(sgemv)>("sgemv")("T", &o.n, &o.n, o.alpha, o.a.data(), &o.n, o.b.data(), &o.two, o.beta, c,
                                             &o.one);
        }},
       {"cgerc", "CGERC",
        [](const HostModule& m, Operands& o, float* c) {
-         m.symbol<decltype(cgerc)>("cgerc")(&o.n, &o.n, as_complex(o.alpha), as_complex(o.a.data()), &o.one,
+         m.symbol<decltype(cgerc)>("cgerc")(&o.n, &o.n, as_complex(o.alpha), as_complex(o.a.data()), &o.two,
                                             as_complex(o.b.data()), &o.one, as_complex(c), &o.n);
        }},
       {"ssymv", "SSYMV",
        [](const HostModule& m, Operands& o, float* c) {
-         m.symbol<decltype(ssymv)>("ssymv")("L", &o.n, o.alpha, o.a.data(), &o.n, o.b.data(), &o.one, o.beta, c,
+         m.symbol<decltype(ssymv)>("ssymv")("L", &o.n, o.alpha, o.a.data(), &o.n, o.b.data(), &o.two, o.beta, c,
                                             &o.one);
        }},
       {"strsv", "STRSV",
        [](const HostModule& m, Operands& o, float* c) {
-         m.symbol<decltype(strsv)>("strsv")("U", "N", "U", &o.n, o.triangle.data(), &o.n, c, &o.one);
+         m.symbol<decltype(strsv)>("strsv")("U", "N", "U", &o.n, o.triangle.data(), &o.n, c, &o.two);
        }},
   };
   return all;

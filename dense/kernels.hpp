@@ -1,0 +1,192 @@
+// Loops over vectors of unit stride, four floats at a time.
+//
+// The dependency's kernels for 32-bit processors add float by float here. These are written with the compiler's vector
+// types, in the width that SSE2 has. They read vectors where they lie: results do not depend on alignment.
+#pragma once
+
+#include <array>
+#include <complex>
+#include <cstddef>
+#include <cstring>
+
+#include "dense/backend/scalar.hpp"
+
+namespace quorin::dense::kernels {
+
+using Lanes = float __attribute__((vector_size(16)));
+
+// How many elements four lanes hold.
+template <Scalar T>
+inline constexpr int kElements = kIsComplex<T> ? 2 : 4;
+
+template <Scalar T>
+Lanes load(const T* x) noexcept {
+  Lanes lanes;
+  std::memcpy(&lanes, x, sizeof lanes);
+  return lanes;
+}
+
+template <Scalar T>
+void store(T* x, Lanes lanes) noexcept {
+  // Through floats: an array of complex numbers is one of floats as well.
+  std::memcpy(reinterpret_cast<float*>(x), &lanes, sizeof lanes);
+}
+
+// Real and imaginary parts in each other's places.
+inline Lanes exchanged(Lanes z) noexcept { return __builtin_shufflevector(z, z, 1, 0, 3, 2); }
+
+// Multiplies by one number.
+template <Scalar T>
+class Factor {
+ public:
+  explicit Factor(T s) noexcept : straight_(Lanes{} + std::real(s)), crossed_{} {
+    if constexpr (kIsComplex<T>) crossed_ = Lanes{-s.imag(), s.imag(), -s.imag(), s.imag()};
+  }
+  Lanes operator()(Lanes x) const noexcept {
+    if constexpr (kIsComplex<T>) {
+      return straight_ * x + crossed_ * exchanged(x);
+    } else {
+      return straight_ * x;
+    }
+  }
+
+ private:
+  Lanes straight_, crossed_;
+};
+
+// Adds products, lane by lane.
+template <Scalar T>
+class ProductSum {
+ public:
+  void add(Lanes x, Lanes y) noexcept {
+    straight_ += x * y;
+    if constexpr (kIsComplex<T>) crossed_ += x * exchanged(y);
+  }
+  void add(const ProductSum& other) noexcept {
+    straight_ += other.straight_;
+    crossed_ += other.crossed_;
+  }
+  // The sum of x y, or of conj(x) y.
+  template <bool kConjugate>
+  T value() const noexcept {
+    if constexpr (kIsComplex<T>) {
+      const float rr = straight_[0] + straight_[2], ii = straight_[1] + straight_[3];
+      const float ri = crossed_[0] + crossed_[2], ir = crossed_[1] + crossed_[3];
+      return kConjugate ? T{rr + ii, ri - ir} : T{rr - ii, ri + ir};
+    } else {
+      return (straight_[0] + straight_[1]) + (straight_[2] + straight_[3]);
+    }
+  }
+
+ private:
+  Lanes straight_{}, crossed_{};
+};
+
+template <bool kConjugate, Scalar T>
+T maybe_conjugate(T value) noexcept {
+  if constexpr (kConjugate && kIsComplex<T>) {
+    return std::conj(value);
+  } else {
+    return value;
+  }
+}
+
+template <Scalar T>
+T maybe_conjugate(bool conjugate, T value) noexcept {
+  return conjugate ? maybe_conjugate<true>(value) : value;
+}
+
+// y <- y + s x
+template <Scalar T>
+void axpy(std::ptrdiff_t n, T s, const T* x, T* y) noexcept {
+  constexpr int kStep = kElements<T>;
+  const Factor<T> times(s);
+  std::ptrdiff_t i = 0;
+  for (; i + 2 * kStep <= n; i += 2 * kStep) {
+    const Lanes first = load(y + i) + times(load(x + i));
+    const Lanes second = load(y + i + kStep) + times(load(x + i + kStep));
+    store(y + i, first);
+    store(y + i + kStep, second);
+  }
+  for (; i < n; ++i) y[i] += product(s, x[i]);
+}
+
+// x^T y or x^H y
+template <bool kConjugate, Scalar T>
+T dot(std::ptrdiff_t n, const T* x, const T* y) noexcept {
+  constexpr int kStep = kElements<T>, kSums = kIsComplex<T> ? 2 : 4;  // so many that additions overlap
+  std::array<ProductSum<T>, kSums> sums;
+  std::ptrdiff_t i = 0;
+  for (; i + kSums * kStep <= n; i += kSums * kStep) {
+    for (int k = 0; k < kSums; ++k) {
+      sums[static_cast<std::size_t>(k)].add(load(x + i + k * kStep), load(y + i + k * kStep));
+    }
+  }
+  T rest{};
+  for (; i < n; ++i) rest += product(maybe_conjugate<kConjugate>(x[i]), y[i]);
+  for (std::size_t k = 1; k < kSums; ++k) sums[0].add(sums[k]);
+  return sums[0].template value<kConjugate>() + rest;
+}
+
+template <Scalar T>
+T dot(bool conjugate, std::ptrdiff_t n, const T* x, const T* y) noexcept {
+  return conjugate ? dot<true>(n, x, y) : dot<false>(n, x, y);
+}
+
+// y <- y + s a, and returns a^H x: what a column of a Hermitian matrix does to both halves of a product.
+template <Scalar T>
+T axpy_and_dot(std::ptrdiff_t n, T s, const T* a, const T* x, T* y) noexcept {
+  constexpr int kStep = kElements<T>;
+  const Factor<T> times(s);
+  ProductSum<T> sum, other;
+  std::ptrdiff_t i = 0;
+  for (; i + 2 * kStep <= n; i += 2 * kStep) {
+    const Lanes first = load(a + i), second = load(a + i + kStep);
+    sum.add(first, load(x + i));
+    other.add(second, load(x + i + kStep));
+    store(y + i, load(y + i) + times(first));
+    store(y + i + kStep, load(y + i + kStep) + times(second));
+  }
+  T rest{};
+  for (; i < n; ++i) {
+    rest += product(maybe_conjugate<true>(a[i]), x[i]);
+    y[i] += product(s, a[i]);
+  }
+  sum.add(other);
+  return sum.template value<true>() + rest;
+}
+
+// x <- c x + s y and y <- c y - s x, for real c and s.
+template <Scalar T>
+void rot(std::ptrdiff_t n, T* x, T* y, RealOf<T> c, RealOf<T> s) noexcept {
+  constexpr int kStep = kElements<T>;
+  const Lanes all_c = Lanes{} + c, all_s = Lanes{} + s;
+  std::ptrdiff_t i = 0;
+  for (; i + kStep <= n; i += kStep) {
+    const Lanes xi = load(x + i), yi = load(y + i);
+    store(x + i, all_c * xi + all_s * yi);
+    store(y + i, all_c * yi - all_s * xi);
+  }
+  for (; i < n; ++i) {
+    const T rotated = c * x[i] + s * y[i];
+    y[i] = c * y[i] - s * x[i];
+    x[i] = rotated;
+  }
+}
+
+// Floats: their squares, and the sums of these, neither overflow nor underflow in double precision.
+inline double sum_of_squares(std::ptrdiff_t n, const float* x) noexcept {
+  constexpr int kSums = 8;
+  double sums[kSums] = {};
+  std::ptrdiff_t i = 0;
+  for (; i + kSums <= n; i += kSums) {
+    for (int k = 0; k < kSums; ++k) sums[k] += static_cast<double>(x[i + k]) * x[i + k];
+  }
+  for (; i < n; ++i) sums[0] += static_cast<double>(x[i]) * x[i];
+  for (int half = kSums / 2; half > 0; half /= 2) {
+    for (int k = 0; k < half; ++k) sums[k] += sums[k + half];
+  }
+  return sums[0];
+}
+
+}  // namespace quorin::dense::kernels
