@@ -33,6 +33,18 @@ void sger_(const std::int32_t*, const std::int32_t*, const float*, const float*,
            const std::int32_t*, float*, const std::int32_t*);
 void cgerc_(const std::int32_t*, const std::int32_t*, const Complex*, const Complex*, const std::int32_t*,
             const Complex*, const std::int32_t*, Complex*, const std::int32_t*);
+void ssymv_(const char*, const std::int32_t*, const float*, const float*, const std::int32_t*, const float*,
+            const std::int32_t*, const float*, float*, const std::int32_t*);
+void chemv_(const char*, const std::int32_t*, const Complex*, const Complex*, const std::int32_t*, const Complex*,
+            const std::int32_t*, const Complex*, Complex*, const std::int32_t*);
+void cher_(const char*, const std::int32_t*, const float*, const Complex*, const std::int32_t*, Complex*,
+           const std::int32_t*);
+void cher2_(const char*, const std::int32_t*, const Complex*, const Complex*, const std::int32_t*, const Complex*,
+            const std::int32_t*, Complex*, const std::int32_t*);
+void ctrmv_(const char*, const char*, const char*, const std::int32_t*, const Complex*, const std::int32_t*, Complex*,
+            const std::int32_t*);
+void ctrsv_(const char*, const char*, const char*, const std::int32_t*, const Complex*, const std::int32_t*, Complex*,
+            const std::int32_t*);
 void sgemm_(const char*, const char*, const std::int32_t*, const std::int32_t*, const std::int32_t*, const float*,
             const float*, const std::int32_t*, const float*, const std::int32_t*, const float*, float*,
             const std::int32_t*);

@@ -146,41 +146,84 @@ TEST_F(Threads, RankUpdatesOfOneTriangle) {
   }
 }
 
+// Kernels of our own where the vector along the columns has unit stride, the dependency's elsewhere.
 TEST_F(Threads, MatrixVectorOperations) {
-  const std::int32_t rows = 1100, columns = 900, incx = 2, incy = -3, lead = 1103;
-  const std::vector<float> big = random_vector(2UL * 1103 * 900), x = random_vector(2UL * 2 * 1100);
+  const std::int32_t rows = 2100, columns = 450, lead = 2103;
+  const std::vector<float> big = random_vector(2UL * 2103 * 450), x = random_vector(2UL * 2 * 2100),
+                           y = random_vector(2UL * 3 * 2100);
   const float small_alpha = 0.05F;
   const quorin_complex small_calpha{0.05F, 0.02F};
   const Complex small_zalpha{0.05F, 0.02F};
-  for (const char* trans : {"N", "T", "C"}) {
-    compare(
-        std::string("sgemv ") + trans, 3 * 1100,
-        [&](float* y) {
-          sgemv(trans, &rows, &columns, &small_alpha, big.data(), &lead, x.data(), &incx, &beta, y, &incy);
-        },
-        [&](float* y) {
-          sgemv_(trans, &rows, &columns, &small_alpha, big.data(), &lead, x.data(), &incx, &beta, y, &incy);
-        });
-    compare(
-        std::string("cgemv ") + trans, 2 * 3 * 1100,
-        [&](float* y) {
-          cgemv(trans, &rows, &columns, &small_calpha, c(big), &lead, c(x), &incx, &cbeta, c(y), &incy);
-        },
-        [&](float* y) {
-          cgemv_(trans, &rows, &columns, &small_zalpha, z(big), &lead, z(x), &incx, &zbeta, z(y), &incy);
-        });
+  struct Strides {
+    std::int32_t x, y;
+  };
+  for (const auto& [incx, incy] : {Strides{2, -3}, Strides{1, -3}, Strides{-2, 1}}) {
+    const std::string strides = ' ' + std::to_string(incx) + ' ' + std::to_string(incy);
+    for (const char* trans : {"N", "T", "C"}) {
+      compare(
+          std::string("sgemv ") + trans + strides, 3 * 2100,
+          [&](float* out) {
+            sgemv(trans, &rows, &columns, &small_alpha, big.data(), &lead, x.data(), &incx, &beta, out, &incy);
+          },
+          [&](float* out) {
+            sgemv_(trans, &rows, &columns, &small_alpha, big.data(), &lead, x.data(), &incx, &beta, out, &incy);
+          });
+      compare(
+          std::string("cgemv ") + trans + strides, 2 * 3 * 2100,
+          [&](float* out) {
+            cgemv(trans, &rows, &columns, &small_calpha, c(big), &lead, c(x), &incx, &cbeta, c(out), &incy);
+          },
+          [&](float* out) {
+            cgemv_(trans, &rows, &columns, &small_zalpha, z(big), &lead, z(x), &incx, &zbeta, z(out), &incy);
+          });
+    }
+    // Wider than high, and higher than wide.
+    for (const std::int32_t high : {400, 2100}) {
+      compare(
+          "sger" + strides, 2103UL * 450,
+          [&](float* out) { sger(&high, &columns, &alpha, x.data(), &incx, y.data(), &incy, out, &lead); },
+          [&](float* out) { sger_(&high, &columns, &alpha, x.data(), &incx, y.data(), &incy, out, &lead); });
+      compare(
+          "cgerc" + strides, 2UL * 2103 * 450,
+          [&](float* out) { cgerc(&high, &columns, &calpha, c(x), &incx, c(y), &incy, c(out), &lead); },
+          [&](float* out) { cgerc_(&high, &columns, &zalpha, z(x), &incx, z(y), &incy, z(out), &lead); });
+    }
   }
-  // Wider than high, and higher than wide.
-  for (const std::int32_t high : {800, 1100}) {
-    const auto y = random_vector(2UL * 3 * 1100);
+}
+
+TEST_F(Threads, MatrixVectorOperationsOfOneTriangle) {
+  const std::int32_t one = 1;
+  std::vector<float> t = a;  // with a dominant diagonal
+  for (float& value : t) value *= 0.01F;
+  for (std::size_t i = 0; i < 231; ++i) t[2 * (i * 231 + i)] += 2;
+  for (const char* uplo : {"U", "L"}) {
     compare(
-        "sger", 1103UL * 900,
-        [&](float* out) { sger(&high, &columns, &alpha, x.data(), &incx, y.data(), &incy, out, &lead); },
-        [&](float* out) { sger_(&high, &columns, &alpha, x.data(), &incx, y.data(), &incy, out, &lead); });
+        std::string("ssymv ") + uplo, kSize,
+        [&](float* y) { ssymv(uplo, &n, &alpha, a.data(), &ld, b.data(), &one, &beta, y, &one); },
+        [&](float* y) { ssymv_(uplo, &n, &alpha, a.data(), &ld, b.data(), &one, &beta, y, &one); });
     compare(
-        "cgerc", 2UL * 1103 * 900,
-        [&](float* out) { cgerc(&high, &columns, &calpha, c(x), &incx, c(y), &incy, c(out), &lead); },
-        [&](float* out) { cgerc_(&high, &columns, &zalpha, z(x), &incx, z(y), &incy, z(out), &lead); });
+        std::string("chemv ") + uplo, kSize,
+        [&](float* y) { chemv(uplo, &n, &calpha, c(a), &ld, c(b), &one, &cbeta, c(y), &one); },
+        [&](float* y) { chemv_(uplo, &n, &zalpha, z(a), &ld, z(b), &one, &zbeta, z(y), &one); });
+    compare(
+        std::string("cher ") + uplo, kSize, [&](float* x) { cher(uplo, &n, &alpha, c(b), &one, c(x), &ld); },
+        [&](float* x) { cher_(uplo, &n, &alpha, z(b), &one, z(x), &ld); });
+    compare(
+        std::string("cher2 ") + uplo, kSize,
+        [&](float* x) { cher2(uplo, &n, &calpha, c(a), &one, c(b), &one, c(x), &ld); },
+        [&](float* x) { cher2_(uplo, &n, &zalpha, z(a), &one, z(b), &one, z(x), &ld); });
+    for (const char* trans : {"N", "T", "C"}) {
+      compare(
+          std::string("ctrmv ") + uplo + trans, kSize,
+          [&](float* x) { ctrmv(uplo, trans, "N", &n, c(a), &ld, c(x), &one); },
+          [&](float* x) { ctrmv_(uplo, trans, "N", &n, z(a), &ld, z(x), &one); });
+      for (const char* diag : {"N", "U"}) {
+        compare(
+            std::string("ctrsv ") + uplo + trans + diag, kSize,
+            [&](float* x) { ctrsv(uplo, trans, diag, &n, c(t), &ld, c(x), &one); },
+            [&](float* x) { ctrsv_(uplo, trans, diag, &n, z(t), &ld, z(x), &one); });
+      }
+    }
   }
 }
 
