@@ -5,6 +5,7 @@
 #pragma once
 
 #include <array>
+#include <cmath>
 #include <complex>
 #include <cstddef>
 #include <cstring>
@@ -172,6 +173,52 @@ void rot(std::ptrdiff_t n, T* x, T* y, RealOf<T> c, RealOf<T> s) noexcept {
     y[i] = c * y[i] - s * x[i];
     x[i] = rotated;
   }
+}
+
+inline float magnitude(float x) noexcept { return std::abs(x); }
+inline float magnitude(std::complex<float> x) noexcept { return std::abs(x.real()) + std::abs(x.imag()); }
+
+// The magnitudes of the elements in four lanes; those of complex numbers stand there twice.
+template <Scalar T>
+Lanes magnitudes(Lanes x) noexcept {
+  const Lanes positive = x > -x ? x : -x;
+  if constexpr (kIsComplex<T>) {
+    return positive + exchanged(positive);
+  } else {
+    return positive;
+  }
+}
+
+// The first position for which no other element's magnitude is `better`, as in the published loop: a NaN is passed
+// over, but as the first element it is the answer. Blocks without a better magnitude are not looked at twice.
+template <Scalar T, class Better>
+std::ptrdiff_t first_extreme(std::ptrdiff_t n, const T* x, const Better& better) noexcept {
+  constexpr int kStep = kElements<T>, kBlock = 64;
+  float extreme = magnitude(x[0]);
+  std::ptrdiff_t position = 0, i = 0;
+  const auto scan = [&](std::ptrdiff_t end) {
+    for (; i < end; ++i) {
+      if (!better(magnitude(x[i]), extreme)) continue;
+      extreme = magnitude(x[i]);
+      position = i;
+    }
+  };
+  while (i + kBlock <= n) {
+    const Lanes known = Lanes{} + extreme;
+    Lanes best = known;
+    for (int k = 0; k < kBlock; k += kStep) {
+      const Lanes values = magnitudes<T>(load(x + i + k));
+      best = better(values, best) ? values : best;
+    }
+    const auto is_better = better(best, known);
+    if ((is_better[0] | is_better[1] | is_better[2] | is_better[3]) != 0) {
+      scan(i + kBlock);
+    } else {
+      i += kBlock;
+    }
+  }
+  scan(n);
+  return position;
 }
 
 // Floats: their squares, and the sums of these, neither overflow nor underflow in double precision.

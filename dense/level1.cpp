@@ -13,13 +13,13 @@ namespace {
 using Complex = std::complex<float>;
 using backend::Routines;
 
-float magnitude(float x) { return std::abs(x); }
-float magnitude(Complex x) { return std::abs(x.real()) + std::abs(x.imag()); }
+using kernels::magnitude;
 
 // The first position for which no other element is `better`; a NaN is better than nothing, as in the published loop.
 template <Scalar T, class Better>
 int first_extreme(int n, const T* x, int incx, Better better) {
   if (n < 1 || incx < 1) return 0;
+  if (incx == 1) return static_cast<int>(kernels::first_extreme(n, x, better)) + 1;
   int position = 0;
   RealOf<T> extreme = magnitude(x[0]);
   for (int i = 1; i < n; ++i) {

@@ -122,6 +122,18 @@ TEST(Level1, ExtremesTakeTheFirstOfEqualsAndThePublishedNorm) {
   EXPECT_EQ(isamax(&n, x.data(), &one), 2);
   EXPECT_EQ(isamin(&n, x.data(), &one), 4);
   EXPECT_EQ(isamax_Idx(&n, x.data() + 3, -3, &one), 2);
+  // The same in a vector that is looked at block by block.
+  std::vector<float> length(400, 2);
+  const std::int32_t complex_count = 200;
+  length[140] = kNaN;
+  length[261] = length[300] = -3;
+  length[266] = length[310] = 1;
+  const auto count = static_cast<std::int32_t>(length.size());
+  EXPECT_EQ(isamax(&count, length.data(), &one), 262);
+  EXPECT_EQ(isamin(&count, length.data(), &one), 267);
+  EXPECT_EQ(icamax(&complex_count, c(length), &one), 131);
+  length[0] = kNaN;
+  EXPECT_EQ(isamax(&count, length.data(), &one), 1);
   EXPECT_EQ(isamin_Idx(&n, x.data() + 9, -9, &one), 4);
   const quorin_complex pairs[] = {{3, 4}, {-5, 2.5F}, {0, 7.5F}, {0, 0}};
   const std::int32_t four = 4, half = 2;
