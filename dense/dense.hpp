@@ -7,6 +7,7 @@
 #include "dense/level1.hpp"
 #include "dense/level2.hpp"
 #include "dense/level3.hpp"
+#include "dense/orthogonal_factorization.hpp"
 
 namespace quorin::dense {
 

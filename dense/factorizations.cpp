@@ -9,6 +9,7 @@
 #include "dense/argument_check.hpp"
 #include "dense/lapack.hpp"
 #include "dense/level3.hpp"
+#include "dense/matrix.hpp"
 
 namespace quorin::dense {
 namespace {
@@ -16,38 +17,6 @@ namespace {
 // Below these orders, calls cost more than the loops here.
 constexpr int kSmallestLu = 16;
 constexpr int kSmallestCholesky = 24;
-
-template <Scalar T>
-class Matrix {
- public:
-  Matrix(T* elements, int lda) : elements_(elements), lda_(lda) {}
-  T* column(int j) const { return elements_ + static_cast<std::ptrdiff_t>(j) * lda_; }
-  T& operator()(int i, int j) const { return column(j)[i]; }
-  Matrix from(int i, int j) const { return {column(j) + i, lda_}; }
-  int lda() const { return lda_; }
-
- private:
-  T* elements_;
-  int lda_;
-};
-
-template <Scalar T>
-T conjugate(T x) {
-  if constexpr (kIsComplex<T>) {
-    return std::conj(x);
-  } else {
-    return x;
-  }
-}
-
-template <Scalar T>
-RealOf<T> real_part(T x) {
-  if constexpr (kIsComplex<T>) {
-    return x.real();
-  } else {
-    return x;
-  }
-}
 
 // The published measure of a pivot.
 template <Scalar T>
