@@ -215,7 +215,7 @@ void geqrf(int m, int n, T* a, int lda, T* tau, T* work, int lwork, std::int32_t
                .require(1, m >= 0)
                .require(2, n >= 0)
                .require(4, lda >= least_leading_dimension(m))
-               .require(7, is_query || lwork >= std::max(1, n))
+               .require(7, is_query || lwork >= (m > 0 ? std::max(1, n) : 1))
                .reported();
   if (*info != 0) return;
   const int k = std::min(m, n);

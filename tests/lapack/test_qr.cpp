@@ -1,0 +1,325 @@
+// The QR factorization of our own: R and reflectors as LAPACK's other routines and the published routine itself (both
+// of the dependency, on the reference BLAS) understand them. Errors are multiples of the unit roundoff (Higham,
+// Accuracy and Stability of Numerical Algorithms, 2nd ed., theorem 19.4).
+#include <algorithm>
+#include <cmath>
+#include <complex>
+#include <cstdint>
+#include <limits>
+#include <random>
+#include <type_traits>
+#include <vector>
+
+#include "quorin/lapack.h"
+#include "quorin/services.h"
+#include "tests/support/capture_output.hpp"
+#include "tests/support/failing_host.hpp"
+#include "tests/support/guarded.hpp"
+
+using Complex = std::complex<float>;
+
+extern "C" {
+// The reference finds the same wrong arguments, and need not say so.
+void xerbla_(const char*, const int*, std::size_t) {}
+
+void sgeqrf_(const int* m, const int* n, float* a, const int* lda, float* tau, float* work, const int* lwork,
+             int* info);
+void cgeqrf_(const int* m, const int* n, Complex* a, const int* lda, Complex* tau, Complex* work, const int* lwork,
+             int* info);
+void sormqr_(const char* side, const char* trans, const int* m, const int* n, const int* k, const float* a,
+             const int* lda, const float* tau, float* c, const int* ldc, float* work, const int* lwork, int* info,
+             std::size_t, std::size_t);
+void cunmqr_(const char* side, const char* trans, const int* m, const int* n, const int* k, const Complex* a,
+             const int* lda, const Complex* tau, Complex* c, const int* ldc, Complex* work, const int* lwork, int* info,
+             std::size_t, std::size_t);
+}
+
+namespace quorin::test {
+namespace {
+
+constexpr double kUnitRoundoff = 6e-8;
+
+const FailingHost& host() {
+  static const FailingHost loaded;
+  return loaded;
+}
+
+template <class T>
+class Qr : public testing::Test {
+ protected:
+  static constexpr bool kComplex = std::is_same_v<T, Complex>;
+  using Routine = std::conditional_t<kComplex, decltype(cgeqrf_), decltype(sgeqrf_)>;
+  using Wide = std::complex<double>;
+  static constexpr float kSpare = 77;
+
+  // Column-major, with spare rows that must keep their contents.
+  struct Matrix {
+    Matrix(int rows, int columns, int spare)
+        : m(rows), n(columns), lda(std::max(1, rows + spare)), a(at(0, columns), T(kSpare)) {}
+    std::size_t at(int i, int j) const {
+      return static_cast<std::size_t>(j) * static_cast<std::size_t>(lda) + static_cast<std::size_t>(i);
+    }
+    T& operator()(int i, int j) { return a[at(i, j)]; }
+    Wide wide(int i, int j) const { return Wide(a[at(i, j)]); }
+
+    int m, n, lda;
+    std::vector<T> a;
+  };
+
+  struct Factors {
+    explicit Factors(const Matrix& matrix)
+        : qr(matrix), k(std::min(matrix.m, matrix.n)), tau(static_cast<std::size_t>(k), T(kSpare)) {}
+    Matrix qr;
+    int k;
+    std::vector<T> tau;
+    T best = 0;
+    std::int32_t info = -99;
+  };
+
+  static Routine* ours() { return host().symbol<Routine>(kComplex ? "cgeqrf" : "sgeqrf"); }
+  static Routine* reference() {
+    if constexpr (kComplex) {
+      return cgeqrf_;
+    } else {
+      return sgeqrf_;
+    }
+  }
+
+  static Factors factor(Routine* geqrf, const Matrix& matrix, int lwork = 0) {
+    Factors f(matrix);
+    lwork = std::max({1, lwork, matrix.n});
+    Guarded<T> work(static_cast<std::size_t>(lwork), T{});
+    Guarded<T> tau(f.tau.size(), T(kSpare));
+    geqrf(&f.qr.m, &f.qr.n, f.qr.a.data(), &f.qr.lda, tau.data(), work.data(), &lwork, &f.info);
+    EXPECT_TRUE(work.intact() && tau.intact());
+    for (std::size_t i = 0; i < f.tau.size(); ++i) f.tau[i] = tau[i];
+    f.best = work[0];
+    return f;
+  }
+
+  T random_number() {
+    std::uniform_real_distribution<float> uniform(-1, 1);
+    const float re = uniform(generator_);
+    if constexpr (kComplex) {
+      return {re, uniform(generator_)};
+    } else {
+      return re;
+    }
+  }
+
+  Matrix random(int m, int n, int spare = 0) {
+    Matrix matrix(m, n, spare);
+    for (int j = 0; j < n; ++j) {
+      for (int i = 0; i < m; ++i) matrix(i, j) = random_number();
+    }
+    return matrix;
+  }
+
+  // C <- Q C or Q^H C
+  static void multiply(bool adjoint, const Factors& f, Matrix& c) {
+    std::vector<T> work(static_cast<std::size_t>(64 * c.n + 65 * 64));
+    const auto lwork = static_cast<int>(work.size());
+    int info = -1;
+    const auto call = [&](auto* routine, const char* trans) {
+      routine("L", trans, &c.m, &c.n, &f.k, f.qr.a.data(), &f.qr.lda, f.tau.data(), c.a.data(), &c.lda, work.data(),
+              &lwork, &info, 1, 1);
+    };
+    if constexpr (kComplex) {
+      call(cunmqr_, adjoint ? "C" : "N");
+    } else {
+      call(sormqr_, adjoint ? "T" : "N");
+    }
+    ASSERT_EQ(info, 0);
+  }
+
+  // Q^H (A x) = R x, and Q^H Q = I, both for random vectors.
+  void expect_factors(const Matrix& a, Factors& f) {
+    ASSERT_EQ(f.info, 0);
+    const double tolerance = (10 + a.m / 10.0) * kUnitRoundoff;
+    const Matrix x = random(a.n, 1), y = random(a.m, 1);
+    Matrix ax(a.m, 1, 0);
+    std::vector<Wide> rx(static_cast<std::size_t>(a.m));
+    double size = 0;
+    for (int i = 0; i < a.m; ++i) {
+      Wide sum = 0;
+      for (int j = 0; j < a.n; ++j) {
+        sum += a.wide(i, j) * x.wide(j, 0);
+        if (j >= i) rx[static_cast<std::size_t>(i)] += f.qr.wide(i, j) * x.wide(j, 0);
+        size += std::norm(a.wide(i, j));
+      }
+      if constexpr (kComplex) {
+        ax(i, 0) = T(sum);
+      } else {
+        ax(i, 0) = static_cast<T>(sum.real());
+      }
+    }
+    multiply(true, f, ax);
+    Matrix there_and_back = y;
+    multiply(true, f, there_and_back);
+    multiply(false, f, there_and_back);
+    double residual = 0, loss = 0;
+    for (int i = 0; i < a.m; ++i) {
+      residual += std::norm(ax.wide(i, 0) - rx[static_cast<std::size_t>(i)]);
+      loss += std::norm(there_and_back.wide(i, 0) - y.wide(i, 0));
+    }
+    EXPECT_LE(std::sqrt(residual), tolerance * std::sqrt(size) * std::sqrt(a.n));
+    EXPECT_LE(std::sqrt(loss), tolerance * std::sqrt(a.m));
+    for (int j = 0; j < f.k; ++j) EXPECT_EQ(f.qr.wide(j, j).imag(), 0);
+    for (int j = 0; j < a.n; ++j) {
+      for (int i = a.m; i < a.lda; ++i) EXPECT_EQ(f.qr(i, j), T(kSpare));
+    }
+  }
+
+  // The largest difference of R, V and tau.
+  static double difference(const Factors& f, const Factors& g) {
+    double worst = 0;
+    const auto see = [&](double value) { worst = value <= worst ? worst : value; };
+    for (std::size_t i = 0; i < f.qr.a.size(); ++i) see(std::abs(Wide(f.qr.a[i]) - Wide(g.qr.a[i])));
+    for (std::size_t i = 0; i < f.tau.size(); ++i) see(std::abs(Wide(f.tau[i]) - Wide(g.tau[i])));
+    return worst;
+  }
+
+  std::mt19937 generator_{11};
+};
+
+using Scalars = testing::Types<float, Complex>;
+TYPED_TEST_SUITE(Qr, Scalars);
+
+TYPED_TEST(Qr, GivesTheFactorsOfThePublishedRoutine) {
+  host().symbol<decltype(sMKL_Set_Num_Threads)>("sMKL_Set_Num_Threads")(4);
+  // One column or row, loops only, panels, blocks of one and of several panels, and blocks that end early.
+  const int shapes[][2] = {{1, 1},   {1, 40},    {40, 1},    {2, 2},     {7, 5},     {16, 90},  {17, 300},  {90, 33},
+                           {98, 97}, {100, 100}, {150, 113}, {113, 150}, {2000, 50}, {60, 400}, {331, 330}, {400, 321}};
+  int spare = 0;
+  for (const auto& [m, n] : shapes) {
+    SCOPED_TRACE(testing::Message() << m << " x " << n);
+    const auto a = this->random(m, n, spare++ % 4);
+    auto f = this->factor(this->ours(), a), with_room = this->factor(this->ours(), a, 64 * n);
+    this->expect_factors(a, f);
+    EXPECT_EQ(this->difference(f, with_room), 0);
+    EXPECT_LE(this->difference(f, this->factor(this->reference(), a)), 3e-5 * std::sqrt(std::max(m, n)));
+  }
+  const auto large = this->random(1010, 1003, 1);
+  auto f = this->factor(this->ours(), large);
+  this->expect_factors(large, f);
+}
+
+TYPED_TEST(Qr, FactorsWhatHasNoFullRank) {
+  using T = TypeParam;
+  for (const int n : {5, 120}) {
+    SCOPED_TRACE(n);
+    auto a = this->random(n + 3, n);
+    for (int i = 0; i < a.m; ++i) {
+      a(i, 0) = a(i, 2) = 0;
+      a(i, n - 1) = a(i, 1);
+      for (int j = 40; j < std::min(n, 60); ++j) a(i, j) = a(i, j - 20);
+    }
+    auto f = this->factor(this->ours(), a);
+    this->expect_factors(a, f);
+    EXPECT_EQ(f.tau[0], T{});
+
+    std::fill(a.a.begin(), a.a.end(), T{});
+    f = this->factor(this->ours(), a);
+    EXPECT_EQ(f.info, 0);
+    EXPECT_EQ(f.tau, std::vector<T>(f.tau.size()));
+    EXPECT_EQ(f.qr.a, a.a);
+  }
+}
+
+// Powers of two change R by that factor and the reflectors not at all, but for what is lost below the least float.
+TYPED_TEST(Qr, IsTheSameForTinyAndHugeMatrices) {
+  for (const int n : {12, 110}) {
+    const auto a = this->random(n + 10, n);
+    const auto plain = this->factor(this->ours(), a);
+    for (const int power : {-135, -126, -100, 60, 120}) {
+      SCOPED_TRACE(testing::Message() << n << ", 2^" << power);
+      auto scaled = a;
+      for (auto& x : scaled.a) x *= std::ldexp(1.0F, power);
+      auto f = this->factor(this->ours(), scaled);
+      for (int j = 0; j < n; ++j) {
+        for (int i = 0; i <= j; ++i) f.qr(i, j) *= std::ldexp(1.0F, -power / 2);
+        for (int i = 0; i <= j; ++i) f.qr(i, j) *= std::ldexp(1.0F, -power + power / 2);
+      }
+      EXPECT_LE(this->difference(f, plain), n * (5e-6 + std::ldexp(1.0, -149 - power)));
+    }
+  }
+}
+
+// alpha - beta overflows here, and the reflector does not.
+TYPED_TEST(Qr, DividesByMoreThanTheLargestFloat) {
+  auto a = this->random(2, 1);
+  a(0, 0) = 2e38F;
+  a(1, 0) = 1e38F;
+  auto f = this->factor(this->ours(), a);
+  EXPECT_NEAR(f.qr.wide(0, 0).real() / 1e38, -std::sqrt(5), 1e-6);
+  EXPECT_NEAR(f.qr.wide(1, 0).real(), std::sqrt(5) - 2, 1e-7);
+  EXPECT_NEAR(std::abs(f.tau[0]), 1 + 2 / std::sqrt(5), 1e-6);
+}
+
+TYPED_TEST(Qr, CarriesNotANumberToTheColumnsBehind) {
+  for (const auto& [n, bad] : {std::pair{9, 4}, {120, 70}}) {
+    const auto a = this->random(n, n);
+    const auto clean = this->factor(this->ours(), a);
+    auto spoilt = a;
+    spoilt(n - 1, bad) = std::numeric_limits<float>::quiet_NaN();
+    auto f = this->factor(this->ours(), spoilt);
+    EXPECT_EQ(f.info, 0);
+    for (int j = 0; j < n; ++j) {
+      const double diagonal = std::abs(f.qr.wide(j, j));
+      EXPECT_EQ(std::isnan(diagonal), j >= bad && j < n) << j;
+      if (j < bad) {
+        EXPECT_EQ(f.tau[static_cast<std::size_t>(j)], clean.tau[static_cast<std::size_t>(j)]);
+      }
+    }
+  }
+}
+
+TYPED_TEST(Qr, AnswersCallsWithoutWorkAsPublished) {
+  using T = TypeParam;
+  for (const int m : {-1, 0, 1, 40}) {
+    for (const int n : {-1, 0, 1, 5, 200}) {
+      for (const int lda : {0, 1, 40}) {
+        for (const int lwork : {-2, -1, 0, 1, 4, 200}) {
+          SCOPED_TRACE(testing::Message() << m << ' ' << n << ' ' << lda << ' ' << lwork);
+          std::vector<T> a(8000, T(1)), tau(200), work(200, T(this->kSpare)), expected = work;
+          std::int32_t info = -99, expected_info = -99;
+          this->reference()(&m, &n, a.data(), &lda, tau.data(), expected.data(), &lwork, &expected_info);
+          captured([&] { this->ours()(&m, &n, a.data(), &lda, tau.data(), work.data(), &lwork, &info); });
+          EXPECT_EQ(info, expected_info);
+          if (info != 0) {
+            EXPECT_EQ(work[0], T(this->kSpare));
+          } else if (lwork == -1 || std::min(m, n) == 0) {
+            EXPECT_EQ(work[0], expected[0]);
+          }
+        }
+      }
+    }
+  }
+}
+
+TYPED_TEST(Qr, DoesWithoutBlocksWhenMemoryFails) {
+  const auto free_buffers = host().symbol<decltype(sMKL_FreeBuffers)>("sMKL_FreeBuffers");
+  const auto a = this->random(140, 130);
+  for (const int failures : {1, 1000}) {
+    int k = 1, refused = 0;
+    for (bool failed = true; failed; ++k) {
+      free_buffers();
+      EXPECT_EQ(host().live_blocks(), 0);
+      std::vector<typename TestFixture::Factors> result;
+      failed =
+          host().run_failing(k, failures, [&] { captured([&] { result.push_back(this->factor(this->ours(), a)); }); });
+      if (result[0].info == -1000) {
+        ++refused;
+        EXPECT_EQ(result[0].qr.a, a.a);
+      } else {
+        this->expect_factors(a, result[0]);
+      }
+      ASSERT_LT(k, 100);
+    }
+    EXPECT_EQ(refused, 1) << "only without memory for products";
+    EXPECT_GT(k, 3) << "blocks take memory";
+  }
+}
+
+}  // namespace
+}  // namespace quorin::test
