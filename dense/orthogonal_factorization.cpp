@@ -45,10 +45,10 @@ double squared_magnitude(T x) {
 template <Scalar T>
 double squared_norm(int rows, const T* x) {
   constexpr int kStretch = 1024;
-  constexpr double kSmallest = 1e-24, kLargest = 1e37;
+  constexpr double kSmallest = 1e-24;
   double total = 0;
   for (int i = 0; i < rows; i += kStretch) total += sum_of_squares(std::min(kStretch, rows - i), x + i);
-  if (total > kSmallest && total < kLargest) return total;
+  if (total > kSmallest && std::isfinite(total)) return total;
   total = 0;
   for (int i = 0; i < rows; ++i) total += squared_magnitude(x[i]);
   return total;
@@ -92,8 +92,9 @@ void reflect(int rows, const T* v, T tau, Matrix<T> c) {
 template <Scalar T>
 void reflect_columns(int rows, int columns, const T* v, T tau, Matrix<T> c) {
   int k = 0;
-  for (; k + kColumnsAtOnce<T> <= columns; k += kColumnsAtOnce<T>)
+  for (; k + kColumnsAtOnce<T> <= columns; k += kColumnsAtOnce<T>) {
     reflect<kColumnsAtOnce<T>>(rows, v, tau, c.from(0, k));
+  }
   for (; k < columns; ++k) reflect<1>(rows, v, tau, c.from(0, k));
 }
 

@@ -231,7 +231,7 @@ TYPED_TEST(Qr, IsTheSameForTinyAndHugeMatrices) {
   for (const int n : {12, 110}) {
     const auto a = this->random(n + 10, n);
     const auto plain = this->factor(this->ours(), a);
-    for (const int power : {-135, -126, -100, 60, 120}) {
+    for (const int power : {-135, -126, -70, 60, 120}) {
       SCOPED_TRACE(testing::Message() << n << ", 2^" << power);
       auto scaled = a;
       for (auto& x : scaled.a) x *= std::ldexp(1.0F, power);
@@ -252,7 +252,7 @@ TYPED_TEST(Qr, DividesByMoreThanTheLargestFloat) {
   a(1, 0) = 1e38F;
   auto f = this->factor(this->ours(), a);
   EXPECT_NEAR(f.qr.wide(0, 0).real() / 1e38, -std::sqrt(5), 1e-6);
-  EXPECT_NEAR(f.qr.wide(1, 0).real(), std::sqrt(5) - 2, 1e-7);
+  EXPECT_NEAR(f.qr.wide(1, 0).real(), std::sqrt(5) - 2, 2e-8);
   EXPECT_NEAR(std::abs(f.tau[0]), 1 + 2 / std::sqrt(5), 1e-6);
 }
 
