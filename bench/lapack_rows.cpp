@@ -50,9 +50,10 @@ auto potrf_call(const Lapack& lapack, int n) {
   };
 }
 
-auto geqrf_call(const Lapack& lapack, int n) {
+template <class T, class Geqrf>
+auto geqrf_call(Geqrf* geqrf, int n) {
   const auto side = static_cast<std::size_t>(n);
-  return [geqrf = lapack.sgeqrf, p = Problem<float>(n), tau = Array<float>(side), work = Array<float>(64 * side)] {
+  return [geqrf, p = Problem<T>(n), tau = Array<T>(side), work = Array<T>(64 * side)] {
     const std::int32_t lwork = 64 * p.n;
     std::int32_t info = 0;
     geqrf(&p.n, &p.n, p.fresh(), &p.n, tau.data(), work.data(), &lwork, &info);
@@ -129,7 +130,9 @@ void add_lapack_rows(Suite& suite) {
       compare("sgetrf", 2.0 / 3 * cube, [](const Lapack& l, int m) { return getrf_call<float>(l.sgetrf, m); });
       compare("cgetrf", 8.0 / 3 * cube, [](const Lapack& l, int m) { return getrf_call<quorin_complex>(l.cgetrf, m); });
       compare("spotrf", 1.0 / 3 * cube, potrf_call);
-      compare("sgeqrf", 4.0 / 3 * cube, geqrf_call);
+      compare("sgeqrf", 4.0 / 3 * cube, [](const Lapack& l, int m) { return geqrf_call<float>(l.sgeqrf, m); });
+      compare("cgeqrf", 16.0 / 3 * cube,
+              [](const Lapack& l, int m) { return geqrf_call<quorin_complex>(l.cgeqrf, m); });
       compare("ssyevr", 10.0 / 3 * cube, syevr_call);
       compare("cheevr", 40.0 / 3 * cube, heevr_call);
       compare("sgesdd", 20.0 / 3 * cube, gesdd_call);

@@ -51,6 +51,7 @@ Lapack find_lapack(const Symbols& in) {
           .cgetrf = in["cgetrf"],
           .spotrf = in["spotrf"],
           .sgeqrf = in["sgeqrf"],
+          .cgeqrf = in["cgeqrf"],
           .ssyevr = in["ssyevr"],
           .cheevr = in["cheevr"],
           .sgesdd = in["sgesdd"],

@@ -22,6 +22,7 @@ struct Lapack {
   decltype(&::cgetrf) cgetrf;
   decltype(&::spotrf) spotrf;
   decltype(&::sgeqrf) sgeqrf;
+  decltype(&::cgeqrf) cgeqrf;
   decltype(&::ssyevr) ssyevr;
   decltype(&::cheevr) cheevr;
   decltype(&::sgesdd) sgesdd;

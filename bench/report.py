@@ -27,7 +27,7 @@ SECTIONS = {
         "LAPACK on square matrices of order n",
         "The peer is the published LAPACK over the stock OpenBLAS, on as many threads. Singular values, symmetric eigenvalues and right"
         " eigenvectors of general matrices, all with vectors. Operations are nominal, in n^3: sgetrf 2/3, cgetrf 8/3, spotrf 1/3,"
-        " sgeqrf 4/3, ssyevr 10/3, cheevr 40/3, sgesdd 20/3, sgeev 25.",
+        " sgeqrf 4/3, cgeqrf 16/3, ssyevr 10/3, cheevr 40/3, sgesdd 20/3, sgeev 25.",
     ),
     "orderings": (
         "Orderings",
