@@ -1,7 +1,6 @@
 // What the factorizations share: a view of a column-major matrix, and functions of real and complex scalars alike.
 #pragma once
 
-#include <cmath>
 #include <complex>
 #include <cstddef>
 

@@ -91,11 +91,7 @@ void reflect(int rows, const T* v, T tau, Matrix<T> c) {
 
 template <Scalar T>
 void reflect_columns(int rows, int columns, const T* v, T tau, Matrix<T> c) {
-  int k = 0;
-  for (; k + kColumnsAtOnce<T> <= columns; k += kColumnsAtOnce<T>) {
-    reflect<kColumnsAtOnce<T>>(rows, v, tau, c.from(0, k));
-  }
-  for (; k < columns; ++k) reflect<1>(rows, v, tau, c.from(0, k));
+  for_column_groups<T>(columns, [&](auto count, int k) { reflect<count>(rows, v, tau, c.from(0, k)); });
 }
 
 // One column after the other.
@@ -114,18 +110,15 @@ void factor_columns(int m, int n, Matrix<T> a, T* tau) {
 template <Scalar T>
 void form_small_t(int m, int n, Matrix<T> v, const T* tau, Matrix<T> t) {
   for (int j = 0; j < n; ++j) {
-    T overlap[kPanel] = {};
+    T overlap[kPanel] = {};  // V_0^H v_j
     const T* const vj = v.column(j) + j + 1;
-    int k = 0;
-    for (; k + kColumnsAtOnce<T> <= j; k += kColumnsAtOnce<T>) {
-      const auto sums = project<kColumnsAtOnce<T>>(m - j - 1, vj, v.from(j + 1, k));
-      std::copy(sums.begin(), sums.end(), overlap + k);
-    }
-    for (; k < j; ++k) overlap[k] = project<1>(m - j - 1, vj, v.from(j + 1, k))[0];
-    for (k = 0; k < j; ++k) overlap[k] = conjugate(overlap[k] + v(j, k));
+    for_column_groups<T>(j, [&](auto count, int k) {
+      const auto sums = project<count>(m - j - 1, vj, v.from(j + 1, k));
+      for (int i = 0; i < count; ++i) overlap[k + i] = conjugate(sums[i] + v(j, k + i));
+    });
     for (int i = 0; i < j; ++i) {
       T sum{};
-      for (k = i; k < j; ++k) sum += product(t(i, k), overlap[k]);
+      for (int k = i; k < j; ++k) sum += product(t(i, k), overlap[k]);
       t(i, j) = product(-tau[j], sum);
     }
     t(j, j) = tau[j];
