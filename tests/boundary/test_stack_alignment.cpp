@@ -160,6 +160,9 @@ const std::vector<Case>& cases() {
        [](Arena& s) -> Slots { return {"L", "U", "N", "U", &s.n, &s.m, s.alpha, s.a, &s.ld, s.b, &s.ld}; }},
       {"strsm_Idx", any(strsm_Idx),
        [](Arena& s) -> Slots { return {"L", "L", "N", "N", &s.n, &s.m, s.alpha, s.a, 0, &s.ld, s.b, 1, &s.ld}; }},
+      {"sgeqrf", any(sgeqrf), [](Arena& s) -> Slots { return {&s.m, &s.n, s.a, &s.ld, s.b, s.c, &s.ld, s.positions}; }},
+      {"cgeqrf_Idx", any(cgeqrf_Idx),
+       [](Arena& s) -> Slots { return {&s.m, &s.n, s.a, 1, &s.ld, s.b, 2, s.c, 3, &s.ld, s.positions}; }},
       {"sMKL_Domain_Set_Num_Threads", any(sMKL_Domain_Set_Num_Threads),
        [](Arena&) -> Slots {
          return {7, 3};
