@@ -5,7 +5,7 @@
 #include <cstddef>
 
 #include "dense/backend/routines.hpp"
-#include "dense/kernels.hpp"
+#include "dense/vector_kernels.hpp"
 
 namespace quorin::dense {
 namespace {
@@ -117,7 +117,7 @@ RealOf<T> nrm2(int n, const T* x, int incx) {
   if (incx == 1) {
     constexpr int kParts = kIsComplex<T> ? 2 : 1;
     return static_cast<RealOf<T>>(
-        std::sqrt(kernels::sum_of_squares(std::ptrdiff_t{kParts} * n, reinterpret_cast<const float*>(x))));
+        std::sqrt(kernels::sum_of_squares_in_double(std::ptrdiff_t{kParts} * n, reinterpret_cast<const float*>(x))));
   }
   return Routines<T>::nrm2(&n, x, &incx);
 }

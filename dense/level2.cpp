@@ -8,9 +8,9 @@
 #include "dense/argument_check.hpp"
 #include "dense/backend/buffers.hpp"
 #include "dense/backend/routines.hpp"
-#include "dense/kernels.hpp"
 #include "dense/matrix_vector.hpp"
 #include "dense/partition.hpp"
+#include "dense/vector_kernels.hpp"
 
 namespace quorin::dense {
 namespace {

@@ -3,18 +3,14 @@
 #include <algorithm>
 #include <array>
 #include <complex>
-#include <utility>
 
-#include "dense/kernels.hpp"
+#include "dense/column_kernels.hpp"
+#include "dense/vector_kernels.hpp"
 
 namespace quorin::dense::kernels {
 namespace {
 
 using Complex = std::complex<float>;
-
-// So many columns at a time share the loads of the vector beside them, and fit the eight registers of 32 bits.
-template <Scalar T>
-constexpr int kColumns = kIsComplex<T> ? 2 : 4;
 
 // So many rows at a time, whose vector stays in the first cache while columns pass.
 constexpr int kRows = 2048;
@@ -83,15 +79,12 @@ std::array<T, kCount> dot_columns(int m, const T* a, int lda, const T* x) noexce
 template <bool kConjugate, Scalar T>
 void add_transposed_product(int m, int n, T alpha, const T* a, int lda, const T* x, T* y,
                             std::ptrdiff_t incy) noexcept {
-  constexpr int kCount = kColumns<T>;
   for (int i = 0, rows = 0; i < m; i += rows) {
     rows = std::min(kRows, m - i);
-    int j = 0;
-    for (; j + kCount <= n; j += kCount) {
-      const auto sums = dot_columns<kConjugate, T, kCount>(rows, column(a, lda, j) + i, lda, x + i);
-      for (int k = 0; k < kCount; ++k) y[(j + k) * incy] += product(alpha, sums[static_cast<std::size_t>(k)]);
-    }
-    for (; j < n; ++j) y[j * incy] += product(alpha, dot<kConjugate>(rows, column(a, lda, j) + i, x + i));
+    for_column_groups<T>(n, [&](auto count, int j) {
+      const auto sums = dot_columns<kConjugate, T, count>(rows, column(a, lda, j) + i, lda, x + i);
+      for (std::size_t k = 0; k < count; ++k) y[(j + static_cast<int>(k)) * incy] += product(alpha, sums[k]);
+    });
   }
 }
 
@@ -99,16 +92,13 @@ void add_transposed_product(int m, int n, T alpha, const T* a, int lda, const T*
 
 template <Scalar T>
 void add_product(int m, int n, T alpha, const T* a, int lda, const T* x, std::ptrdiff_t incx, T* y) noexcept {
-  constexpr int kCount = kColumns<T>;
   for (int i = 0, rows = 0; i < m; i += rows) {
     rows = std::min(kRows, m - i);
-    int j = 0;
-    for (; j + kCount <= n; j += kCount) {
-      std::array<T, kCount> s;
-      for (int k = 0; k < kCount; ++k) s[static_cast<std::size_t>(k)] = product(alpha, x[(j + k) * incx]);
+    for_column_groups<T>(n, [&](auto count, int j) {
+      std::array<T, count> s;
+      for (std::size_t k = 0; k < count; ++k) s[k] = product(alpha, x[(j + static_cast<int>(k)) * incx]);
       add_columns(rows, column(a, lda, j) + i, lda, s, y + i);
-    }
-    for (; j < n; ++j) axpy(rows, product(alpha, x[j * incx]), column(a, lda, j) + i, y + i);
+    });
   }
 }
 
