@@ -82,8 +82,12 @@ void add_transposed_product(int m, int n, T alpha, const T* a, int lda, const T*
   for (int i = 0, rows = 0; i < m; i += rows) {
     rows = std::min(kRows, m - i);
     for_column_groups<T>(n, [&](auto count, int j) {
-      const auto sums = dot_columns<kConjugate, T, count>(rows, column(a, lda, j) + i, lda, x + i);
-      for (std::size_t k = 0; k < count; ++k) y[(j + static_cast<int>(k)) * incy] += product(alpha, sums[k]);
+      if constexpr (count == 1) {  // which has more sums than one
+        y[j * incy] += product(alpha, dot<kConjugate>(rows, column(a, lda, j) + i, x + i));
+      } else {
+        const auto sums = dot_columns<kConjugate, T, count>(rows, column(a, lda, j) + i, lda, x + i);
+        for (std::size_t k = 0; k < count; ++k) y[(j + static_cast<int>(k)) * incy] += product(alpha, sums[k]);
+      }
     });
   }
 }
