@@ -1,4 +1,5 @@
-// The incomplete factorizations called as a host does, and independent ones that keep their rows in maps.
+// The incomplete factorizations called as a host does, through the index forms, and independent ones that keep their
+// rows in maps.
 #pragma once
 
 #include <algorithm>
@@ -13,23 +14,19 @@
 namespace rci_test {
 
 struct Settings {
-  Settings() : ipar(128, 0), dpar(128, 0.0) {
-    dpar[30] = 1e-16;
-    dpar[31] = 1e-10;
-  }
-  Settings& replace(double threshold, double value) {
-    ipar[30] = 1;
+  // What becomes of a pivot below the threshold, which ILUT takes for the multiplier.
+  explicit Settings(double threshold = 1e-16, bool replaces = false, double value = 1e-10) : ipar(128), dpar(128) {
+    ipar[30] = replaces ? 1 : 0;
     dpar[30] = threshold;
     dpar[31] = value;
-    return *this;
   }
   std::vector<int> ipar;
   Vector dpar;
 };
 
 struct Ilu0 {
-  Ilu0(const Csr& A, const Settings& s = {}) : factors(A), values(A.a.size(), -7.0) {
-    DCSRILU0(&A.n, A.a.data(), A.ia.data(), A.ja.data(), values.data(), s.ipar.data(), s.dpar.data(), &ierr);
+  Ilu0(const Csr& A, const Settings& s = Settings()) : factors(A), values(A.a.size(), -7.0) {
+    call_index_form(sDCSRILU0_Idx, &A.n, A.a, A.ia, A.ja, values, s.ipar, s.dpar, &ierr);
     guarded = values.intact();
     for (std::size_t k = 0; k < A.a.size(); ++k) factors.a[k] = values[k];
   }
@@ -40,13 +37,12 @@ struct Ilu0 {
 };
 
 struct Ilut {
-  Ilut(const Csr& A, double tol, int fill, const Settings& s = {}) {
+  Ilut(const Csr& A, double tol, int fill, const Settings& s = Settings()) {
     const int p = std::max(0, std::min(fill, A.n - 1));
     const auto length = static_cast<std::size_t>((2 * p + 1) * A.n - p * (p + 1) + 1);
     Guarded<double> values(length, -7.0);
     Guarded<int> starts(A.n + 1, -7), columns(length, -7);
-    DCSRILUT(&A.n, A.a.data(), A.ia.data(), A.ja.data(), values.data(), starts.data(), columns.data(), &tol, &fill,
-             s.ipar.data(), s.dpar.data(), &ierr);
+    call_index_form(sDCSRILUT_Idx, &A.n, A.a, A.ia, A.ja, values, starts, columns, &tol, &fill, s.ipar, s.dpar, &ierr);
     guarded = values.intact() && starts.intact() && columns.intact();
     if (ierr < 0) return;
     factors.n = A.n;

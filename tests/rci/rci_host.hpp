@@ -1,18 +1,20 @@
-// Hosts as the documents describe them, for the tests of the iterative solvers: matrices in compressed rows, arrays
-// between guard words, and loops that answer requests and keep a record.
+// Hosts as the documents describe them, for the tests of the iterative solvers, and matrices in compressed rows.
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <functional>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 #include "quorin/rci.h"
 #include "tests/support/guarded.hpp"
+#include "tests/support/index_form.hpp"
 
 namespace rci_test {
 
@@ -53,6 +55,23 @@ inline Csr sparse(const Dense& m) {
     s.ia.push_back(static_cast<int>(s.a.size()) + 1);
   }
   return s;
+}
+
+// The matrices of the published examples.
+inline Csr spd4() { return sparse({{4, -1, -1, 0}, {-1, 4, 0, -1}, {-1, 0, 4, -1}, {0, -1, -1, 4}}); }
+inline Csr nonsymmetric5() {
+  return sparse({{1, 0, -1, 0, 0}, {-1, 1, 0, -1, 0}, {0, 1, -2, 0, 1}, {0, 0, -1, 2, -1}, {0, 0, 0, -1, -3}});
+}
+// Symmetric and indefinite; CG gets by.
+inline Csr indefinite8() {
+  return sparse({{7, 0, 1, 0, 0, 2, 7, 0},
+                 {0, -4, 8, 0, 2, 0, 0, 0},
+                 {1, 8, 1, 0, 0, 0, 0, 5},
+                 {0, 0, 0, 7, 0, 0, 9, 0},
+                 {0, 2, 0, 0, 5, 1, 5, 0},
+                 {2, 0, 0, 0, 1, -1, 0, 5},
+                 {7, 0, 0, 9, 5, 0, 11, 0},
+                 {0, 0, 5, 0, 0, 5, 0, 5}});
 }
 
 inline Dense dense(const Csr& s) {
@@ -127,62 +146,53 @@ inline Csr random_matrix(int n, double density, double dominance, bool symmetric
   return sparse(m);
 }
 
+using quorin::test::call_index_form;
 using quorin::test::Guarded;
 
 // Applies M^-1; `iteration` is ipar(4).
 using Preconditioner = std::function<void(int iteration, const double* in, double* out)>;
 
-// What a run did: its requests as a word of digits, the residual entry after each step, the status at the end.
-struct Record {
-  std::string requests;
-  Vector residuals;
-  int status = 0;
-};
-
-// Runs a solve with CG to its end.
-template <class Host>
-Record run_cg(Host& host, int most) {
-  Record record;
-  while (most-- > 0) {
-    const bool product_taken = host.request == 1;
-    record.status = host.step();
-    if (record.status > 0) record.requests += static_cast<char>('0' + record.status);
-    if (product_taken && record.status >= -1) record.residuals.push_back(host.dpar[4]);
-    if (!host.serve()) break;
+inline Preconditioner jacobi(const Csr& A) {
+  Vector diagonal(A.n);
+  for (int i = 0; i < A.n; ++i) {
+    for (int k = A.ia[i] - 1; k < A.ia[i + 1] - 1; ++k) diagonal[i] += A.ja[k] == i + 1 ? A.a[k] : 0.0;
   }
-  return record;
+  return [diagonal](int, const double* in, double* out) {
+    for (std::size_t i = 0; i < diagonal.size(); ++i) out[i] = in[i] / diagonal[i];
+  };
 }
 
-// One solve with CG. Arrays are as short as a plain run allows; options are set through ipar and dpar.
-class CgHost {
+// One solve, through the index forms. Work arrays are as short as a plain run allows and stand between guard words;
+// options are set through ipar and dpar.
+class Host {
  public:
-  CgHost(const Csr& matrix, const Vector& rhs, const Vector& start, bool preconditioned = false)
-      : A(matrix),
-        ipar(preconditioned ? 128 : 11, -77),
-        dpar(preconditioned ? 128 : 8, -7.7),
-        tmp(static_cast<std::size_t>(A.n) * (preconditioned ? 4 : 3), std::nan("")),
-        x(start),
-        b(rhs) {
-    DCG_INIT(&A.n, x.data(), b.data(), &request, ipar.data(), dpar.data(), tmp.data());
-    ipar[5] = ipar[6] = 0;  // no messages
-    if (preconditioned) ipar[10] = 1;
-  }
+  virtual ~Host() = default;
+  virtual int check() = 0;
+  // One leg; returns the request.
+  virtual int step() = 0;
+  virtual Vector solution() { return x; }
 
-  int check() {
-    DCG_CHECK(&A.n, x.data(), b.data(), &request, ipar.data(), dpar.data(), tmp.data());
-    return request;
-  }
-  int step() {
-    DCG(&A.n, x.data(), b.data(), &request, ipar.data(), dpar.data(), tmp.data());
-    return request;
-  }
   // Does what the last request asks. False when nothing is left to do.
   bool serve() {
-    double* column = tmp.data();
-    if (request == 1) A.multiply(column, column + A.n);
-    if (request == 3) precondition(ipar[3], column + 2 * A.n, column + 3 * A.n);
+    if (request == 1) A.multiply(source(), target());
+    if (request == 3) precondition(ipar[3], source(), target());
     if (request == 2) return !(satisfied && satisfied());
+    if (request == 4) return dpar[6] >= 1e-12;
     return request > 0;
+  }
+  // A leg and its answer, with a record.
+  bool advance() {
+    const bool product_taken = request == 1;
+    step();
+    if (request > 0) requests += static_cast<char>('0' + request);
+    if (product_taken && request >= -1) residuals.push_back(dpar[4]);
+    return serve();
+  }
+  // To the end. Returns the status.
+  int run(int most = 10000) {
+    while (most-- > 0 && advance()) {
+    }
+    return request;
   }
   // The automatic residual test alone.
   void test_residual(double relative) {
@@ -190,164 +200,131 @@ class CgHost {
     ipar[9] = 0;
     dpar[0] = relative;
   }
-  Record run(int most = 100000) { return run_cg(*this, most); }
-  int itercount() {
-    int count = -1;
-    DCG_GET(&A.n, x.data(), b.data(), &request, ipar.data(), dpar.data(), tmp.data(), &count);
-    return count;
-  }
+  double true_residual() { return residual_norm(A, b.data(), solution().data()); }
   bool intact() const { return ipar.intact() && dpar.intact() && tmp.intact(); }
 
   const Csr& A;
-  Guarded<int> ipar;
-  Guarded<double> dpar;
-  Guarded<double> tmp;
-  Vector x, b;
-  Preconditioner precondition;
-  std::function<bool()> satisfied;
-  int request = -1;
-};
-
-// One solve with CG for several right-hand sides.
-class ManyHost {
- public:
-  ManyHost(const Csr& matrix, const Vector& rhs, const Vector& start, bool preconditioned = false)
-      : A(matrix),
-        nrhs(static_cast<int>(rhs.size()) / A.n),
-        ipar(128 + 2 * nrhs, -77),
-        dpar(128 + 2 * nrhs, -7.7),
-        tmp(static_cast<std::size_t>(A.n) * (3 + nrhs), std::nan("")),
-        x(start),
-        b(rhs) {
-    init(nrhs, 1);
-    ipar[5] = ipar[6] = 0;  // no messages
-    if (preconditioned) ipar[10] = 1;
-  }
-
-  int init(int count, int method) {
-    DCGMRHS_INIT(&A.n, x.data(), &count, b.data(), &method, &request, ipar.data(), dpar.data(), tmp.data());
-    return request;
-  }
-  int check(int count) {
-    DCGMRHS_CHECK(&A.n, x.data(), &count, b.data(), &request, ipar.data(), dpar.data(), tmp.data());
-    return request;
-  }
-  int step() {
-    sDCGMRHS_Idx(&A.n, x.data(), 0, &nrhs, b.data(), 0, &request, ipar.data(), 0, dpar.data(), 0, tmp.data(), 0);
-    return request;
-  }
-  bool serve() {
-    double* column = tmp.data();
-    // Only a misled solver asks for a right-hand side that is not there.
-    if (request == 3 && (ipar[2] < 1 || ipar[2] > nrhs)) return false;
-    if (request == 1) A.multiply(column, column + A.n);
-    if (request == 3) precondition(ipar[3], column + (2 + ipar[2]) * A.n, column + 2 * A.n);
-    return request > 0;
-  }
-  void test_residual(double relative) {
-    ipar[8] = 1;
-    ipar[9] = 0;
-    dpar[0] = relative;
-  }
-  Record run(int most = 100000) { return run_cg(*this, most); }
-  std::vector<int> counts() {
-    std::vector<int> k(nrhs);
-    DCGMRHS_GET(&A.n, x.data(), &nrhs, b.data(), &request, ipar.data(), dpar.data(), tmp.data(), k.data());
-    return k;
-  }
-  bool intact() const { return ipar.intact() && dpar.intact() && tmp.intact(); }
-
-  const Csr& A;
-  int nrhs;
   Guarded<int> ipar;
   Guarded<double> dpar, tmp;
   Vector x, b;
   Preconditioner precondition;
+  std::function<bool()> satisfied;
   int request = -1;
-};
+  std::string requests;  // so far, as a word of digits
+  Vector residuals;      // dpar(5) after each product
 
-// One solve with FGMRES.
-class FgmresHost {
- public:
-  // `m`: cycle length (0: the default); without a preconditioner tmp ends before the preconditioned vectors.
-  FgmresHost(const Csr& matrix, const Vector& rhs, const Vector& start, int m = 0, bool preconditioned = false)
-      : A(matrix),
-        ipar(128, -77),
-        dpar(128, -7.7),
-        tmp(tmp_size(A.n, m, preconditioned), std::nan("")),
-        x(start),
-        b(rhs),
-        scratch(rhs) {
-    DFGMRES_INIT(&A.n, x.data(), b.data(), &request, ipar.data(), dpar.data(), tmp.data());
-    if (m > 0) ipar[14] = m;
+ protected:
+  Host(const Csr& matrix, const Vector& rhs, const Vector& start, std::size_t integers, std::size_t reals,
+       std::size_t work)
+      : A(matrix), ipar(integers, -77), dpar(reals, -7.7), tmp(work, std::nan("")), x(start), b(rhs) {}
+  void begin(bool preconditioned) {
     ipar[5] = ipar[6] = 0;  // no messages
     if (preconditioned) ipar[10] = 1;
   }
-
-  static std::size_t tmp_size(int n, int m, bool preconditioned) {
-    const int length = m > 0 ? m : std::min(150, n);
-    return static_cast<std::size_t>((preconditioned ? 2 * length + 1 : length + 1) * n + length * (length + 9) / 2 + 1);
-  }
-
-  int check() {
-    DFGMRES_CHECK(&A.n, x.data(), b.data(), &request, ipar.data(), dpar.data(), tmp.data());
+  template <class Form, class... More>
+  int call(Form* form, int n, More... more) {
+    call_index_form(form, &n, x, b, &request, ipar, dpar, tmp, more...);
     return request;
   }
-  int step() {
-    DFGMRES(&A.n, x.data(), b.data(), &request, ipar.data(), dpar.data(), tmp.data());
+  double* column(int index) { return tmp.data() + static_cast<std::ptrdiff_t>(index) * A.n; }
+  // Vectors of the last request.
+  virtual double* source() { return column(request == 1 ? 0 : 2); }
+  virtual double* target() { return column(request == 1 ? 1 : 3); }
+};
+
+class CgHost : public Host {
+ public:
+  CgHost(const Csr& matrix, const Vector& rhs, const Vector& start, bool preconditioned = false)
+      : Host(matrix, rhs, start, preconditioned ? 128 : 11, preconditioned ? 128 : 8,
+             rhs.size() * (preconditioned ? 4 : 3)) {
+    init(A.n);
+    begin(preconditioned);
+  }
+  int init(int n) { return call(sDCG_INIT_Idx, n); }
+  int check() override { return call(sDCG_CHECK_Idx, A.n); }
+  int step() override { return call(sDCG_Idx, A.n); }
+  int itercount() {
+    int count = -1;
+    call(sDCG_GET_Idx, A.n, &count);
+    return count;
+  }
+};
+
+// Several right-hand sides.
+class ManyHost : public Host {
+ public:
+  ManyHost(const Csr& matrix, const Vector& rhs, const Vector& start, bool preconditioned = false)
+      : Host(matrix, rhs, start, 128 + 2 * rhs.size() / matrix.n, 128 + 2 * rhs.size() / matrix.n,
+             static_cast<std::size_t>(3 * matrix.n) + rhs.size()),
+        nrhs(static_cast<int>(rhs.size()) / A.n) {
+    init(nrhs, 1);
+    begin(preconditioned);
+  }
+  int init(int count, int method) {
+    call_index_form(sDCGMRHS_INIT_Idx, &A.n, x, &count, b, &method, &request, ipar, dpar, tmp);
     return request;
   }
-  bool serve() {
-    const double* source = tmp.data() + ipar[21] - 1;
-    double* target = tmp.data() + ipar[22] - 1;
-    if (request == 1) A.multiply(source, target);
-    if (request == 3) precondition(ipar[3], source, target);
-    if (request == 2) return !(satisfied && satisfied());
-    if (request == 4) return dpar[6] >= 1e-12;
-    return request > 0;
+  int check() override { return call_with_count(sDCGMRHS_CHECK_Idx); }
+  int step() override { return call_with_count(sDCGMRHS_Idx); }
+  std::vector<int> counts() {
+    std::vector<int> k(nrhs);
+    call_with_count(sDCGMRHS_GET_Idx, k.data());
+    return k;
   }
-  Record run(int most = 100000) {
-    Record record;
-    int noted = -1;
-    while (most-- > 0) {
-      // The product of a restart comes with the number of a step that is noted already.
-      const int iteration = ipar[3];
-      const bool product_taken = request == 1 && iteration != noted;
-      if (product_taken) noted = iteration;
-      record.status = step();
-      if (record.status > 0) record.requests += static_cast<char>('0' + record.status);
-      if (product_taken && record.status >= -1) record.residuals.push_back(dpar[4]);
-      if (!serve()) break;
-    }
-    return record;
+
+  int nrhs;
+
+ private:
+  template <class Form, class... More>
+  int call_with_count(Form* form, More... more) {
+    call_index_form(form, &A.n, x, &nrhs, b, &request, ipar, dpar, tmp, more...);
+    return request;
   }
-  // The iterate, by GET into a scratch vector.
-  const Vector& trial() {
-    const int target = ipar[12];
-    ipar[12] = 1;
-    get(scratch);
-    ipar[12] = target;
-    return scratch;
+  double* source() override { return column(request == 1 ? 0 : 2 + ipar[2]); }
+  double* target() override { return column(request == 1 ? 1 : 2); }
+};
+
+class FgmresHost : public Host {
+ public:
+  // `m`: cycle length (0: the default); without a preconditioner tmp ends before the preconditioned vectors.
+  FgmresHost(const Csr& matrix, const Vector& rhs, const Vector& start, int m = 0, bool preconditioned = false)
+      : Host(matrix, rhs, start, 128, 128, tmp_size(matrix.n, m > 0 ? m : std::min(150, matrix.n), preconditioned)) {
+    init(A.n);
+    if (m > 0) ipar[14] = m;
+    begin(preconditioned);
   }
-  int get(Vector& into_b) {
+  int init(int n) { return call(sDFGMRES_INIT_Idx, n); }
+  int check() override { return call(sDFGMRES_CHECK_Idx, A.n); }
+  int step() override { return call(sDFGMRES_Idx, A.n); }
+  void test_residual(double relative) {
+    Host::test_residual(relative);
+    ipar[11] = 1;
+  }
+  // The iterate where ipar(13) says, b being `into`. Returns the status.
+  int get(Vector& into) {
     int status = -1;
     itercount = -1;
-    DFGMRES_GET(&A.n, x.data(), into_b.data(), &status, ipar.data(), dpar.data(), tmp.data(), &itercount);
+    call_index_form(sDFGMRES_GET_Idx, &A.n, x, into, &status, ipar, dpar, tmp, &itercount);
     return status;
   }
   int get() { return get(b); }
-  double true_residual() { return residual_norm(A, b.data(), trial().data()); }
-  bool intact() const { return ipar.intact() && dpar.intact() && tmp.intact(); }
+  // The iterate, by GET into a vector for it.
+  Vector solution() override {
+    Vector iterate(x.size());
+    const int target = std::exchange(ipar[12], 1);
+    get(iterate);
+    ipar[12] = target;
+    return iterate;
+  }
 
-  const Csr& A;
-  Guarded<int> ipar;
-  Guarded<double> dpar;
-  Guarded<double> tmp;
-  Vector x, b, scratch;
-  Preconditioner precondition;
-  std::function<bool()> satisfied;
-  int request = -1;
   int itercount = -1;
+
+ private:
+  static std::size_t tmp_size(int n, int m, bool preconditioned) {
+    return static_cast<std::size_t>((preconditioned ? 2 * m + 1 : m + 1) * n + m * (m + 9) / 2 + 1);
+  }
+  double* source() override { return tmp.data() + ipar[21] - 1; }
+  double* target() override { return tmp.data() + ipar[22] - 1; }
 };
 
 // out <- U^-1 L^-1 in, with L (unit diagonal) and U stored in one pattern.

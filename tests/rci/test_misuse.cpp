@@ -1,0 +1,220 @@
+// What the check routines say, what becomes of a run whose parameters or vectors are wrong, and the messages.
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cmath>
+#include <cstdio>
+#include <fstream>
+#include <limits>
+
+#include "tests/rci/ilu_oracle.hpp"
+#include "tests/rci/rci_host.hpp"
+
+namespace rci_test {
+namespace {
+
+constexpr double kNan = std::numeric_limits<double>::quiet_NaN(), kInfinity = HUGE_VAL;
+const Vector kRightHandSide{1, 2, 3, 4}, kZeros(4, 0.0);
+
+void expect_check_codes(Host& host) {
+  EXPECT_EQ(host.check(), 0);
+  host.ipar[4] = 0;
+  EXPECT_EQ(host.check(), -1001);
+  host.ipar[4] = 4;
+  for (const double tolerance : {-1.0, kNan}) {
+    host.dpar[0] = tolerance;
+    EXPECT_EQ(host.check(), -1001);
+    host.dpar[0] = 0.0;
+    host.dpar[1] = tolerance;
+    EXPECT_EQ(host.check(), -1001);
+    host.dpar[1] = 0.0;
+  }
+  host.ipar[7] = host.ipar[9] = 0;
+  EXPECT_EQ(host.step(), -11);
+  EXPECT_EQ(host.check(), -1011);
+  EXPECT_EQ(host.ipar[7], 1);
+  EXPECT_EQ(host.ipar[8], 1);
+  host.ipar[0] = 0;
+  EXPECT_EQ(host.check(), -1100);
+  EXPECT_LT(host.step(), 0);
+}
+
+TEST(CheckAndInit, Cg) {
+  const Csr A = spd4();
+  CgHost host(A, kRightHandSide, kZeros);
+  expect_check_codes(host);
+  EXPECT_EQ(host.init(0), -10000);
+  EXPECT_TRUE(host.intact());
+}
+
+TEST(CheckAndInit, CgMany) {
+  const Csr A = spd4();
+  ManyHost host(A, joined(kRightHandSide, kRightHandSide), joined(kZeros, kZeros));
+  EXPECT_EQ(host.init(0, 1), -10000);
+  EXPECT_EQ(host.init(2, 2), -10000);
+  expect_check_codes(host);
+  host.ipar[0] = 4;
+  host.nrhs = 0;
+  EXPECT_EQ(host.check(), -1100);
+  host.nrhs = 2;
+  host.ipar[4] = 1;
+  host.dpar[0] = 1e-20;
+  EXPECT_EQ(host.run(), -1);
+  EXPECT_EQ(host.counts()[0], 1);
+  for (const int right_hand_side : {0, 3, -1}) {
+    host.ipar[2] = right_hand_side;
+    EXPECT_EQ(host.step(), -11);
+  }
+  EXPECT_TRUE(host.intact());
+}
+
+TEST(CheckAndInit, Fgmres) {
+  const Csr A = nonsymmetric5();
+  FgmresHost host(A, Vector(5, 1.0), Vector(5, 0.0), 5);
+  const int starts[] = {31, 46, 51, 56, 62, 67};
+  for (std::size_t i = 0; i < 6; ++i) EXPECT_EQ(host.ipar[15 + i], starts[i]);
+  EXPECT_EQ(host.ipar[4], 5);
+  EXPECT_EQ(host.ipar[14], 5);
+  expect_check_codes(host);
+  host.ipar[0] = 5;
+  host.ipar[14] = 2;
+  EXPECT_EQ(host.check(), 0);
+  EXPECT_EQ(host.ipar[20], 28);
+  for (const int bad : {0, -3, INT_MAX}) {
+    host.ipar[14] = bad;
+    EXPECT_EQ(host.check(), -1100);
+    EXPECT_EQ(host.step(), -12);
+  }
+  EXPECT_EQ(host.init(-1), -10000);
+  EXPECT_TRUE(host.intact());
+}
+
+void fill_with_nan(int, const double*, double* out) { std::fill_n(out, 4, kNan); }
+
+TEST(Misuse, EndsARunOfCg) {
+  const Csr A = spd4();
+  const std::pair<std::size_t, double> norms[] = {{4, kNan},      {4, kInfinity}, {4, -1.0}, {5, kNan},
+                                                  {5, kInfinity}, {5, -1.0},      {5, 0.0}};
+  for (const auto& [entry, value] : norms) {
+    CgHost host(A, kRightHandSide, kZeros);
+    while (host.step() != 2) host.serve();
+    host.dpar[entry] = value;
+    EXPECT_EQ(host.step(), -10) << "dpar entry " << entry << " = " << value;
+  }
+  CgHost not_numbers(A, {1, kNan, 3, 4}, kZeros);
+  EXPECT_EQ(not_numbers.run(), -10);
+  for (const int stage : {0, -5, 99, INT_MAX}) {
+    CgHost host(A, kRightHandSide, kZeros);
+    host.ipar[2] = stage;
+    EXPECT_EQ(host.step(), -11);
+  }
+  CgHost bad_preconditioner(A, kRightHandSide, kZeros, true);
+  bad_preconditioner.precondition = fill_with_nan;
+  EXPECT_EQ(bad_preconditioner.run(), -2);
+}
+
+TEST(Misuse, EndsARunOfFgmres) {
+  const Csr A = nonsymmetric5();
+  const auto begun = [&](int calls) {
+    FgmresHost host(A, {-1, 1, 0, 3, 2}, Vector(5, 1.0), 3);
+    while (calls-- > 0) host.advance();
+    return host;
+  };
+  // Sizes, stage, step count and positions are those of the run, or the call refuses; GET likewise.
+  const std::pair<std::size_t, int> changes[] = {{0, 0},  {0, 6},  {2, 0},  {2, 77}, {2, -1}, {13, -1},
+                                                 {13, 4}, {14, 0}, {14, 2}, {15, 1}, {17, 9}, {20, 1000000}};
+  for (const auto& [entry, value] : changes) {
+    FgmresHost host = begun(4);
+    host.ipar[entry] = value;
+    EXPECT_EQ(host.step(), -12) << "ipar entry " << entry << " = " << value;
+    EXPECT_EQ(host.get(), -12) << "ipar entry " << entry << " = " << value;
+  }
+  for (const int calls : {1, 2, 3, 4, 5, 6}) {
+    FgmresHost host = begun(calls);
+    host.ipar[7] = host.ipar[8] = host.ipar[9] = 0;
+    EXPECT_EQ(host.step(), -11);
+  }
+  FgmresHost not_numbers(A, {1, 2, kNan, 0, 0}, Vector(5, 1.0));
+  EXPECT_EQ(not_numbers.run(), -10);
+  FgmresHost bad_preconditioner(A, {-1, 1, 0, 3, 2}, Vector(5, 1.0), 3, true);
+  bad_preconditioner.precondition = fill_with_nan;
+  EXPECT_EQ(bad_preconditioner.run(), -10);
+}
+
+// Whatever a host does to the parameters on the way, a run stays within its arrays. Sizes of CG cannot be checked,
+// those of FGMRES can. (The guard words and the sanitizers watch.)
+TEST(Misuse, AnyParametersLeaveARunWithinItsArrays) {
+  std::mt19937 random(99);
+  const int integers[] = {INT_MIN, -1, 0, 1, 2, 3, 7, 100, INT_MAX};
+  const double reals[] = {kNan, kInfinity, -1.0, 0.0, 1e300, 1e-300};
+  const auto pick = [&](const auto& values) { return values[random() % std::size(values)]; };
+  const Csr A = random_matrix(6, 0.67, 1.0, true, random);
+  const Vector b = random_vector(6, random), start = random_vector(6, random);
+  const auto corrupt = [&](Host&& host, std::size_t first, std::size_t entries) {
+    host.precondition = jacobi(A);
+    host.run(1 + static_cast<int>(random() % 20));
+    if (random() % 3 != 0) host.ipar[first + random() % (entries - first)] = pick(integers);
+    if (random() % 3 == 0) host.dpar[random() % 8] = pick(reals);
+    host.ipar[5] = host.ipar[6] = 0;
+    host.run(100);
+    host.solution();
+    EXPECT_TRUE(host.intact());
+  };
+  for (int trial = 0; trial < 3000; ++trial) {
+    corrupt(CgHost(A, b, start, true), 1, 11);
+    corrupt(ManyHost(A, joined(b, start), joined(start, b), true), 1, 132);
+    corrupt(FgmresHost(A, b, start, 3, true), 0, 23);
+  }
+}
+
+// Whether the file is there as `count` whole lines that all begin with `prefix` and say something. Removes it.
+bool has_lines(const char* file, int count, const std::string& prefix) {
+  std::ifstream stream(file);
+  bool good = stream.is_open();
+  for (std::string line; std::getline(stream, line); --count) {
+    good = good && !stream.eof() && line.starts_with(prefix) && line.size() >= prefix.size() + 10;
+  }
+  stream.close();
+  std::remove(file);
+  return good && count == 0;
+}
+
+// Whole lines in the family's files when ipar(2) is not 6, anew for each call, and nothing at all when switched off.
+TEST(Messages, Files) {
+  const char *log = "MKL_RCI_FGMRES_Log.txt", *factors = "MKL_PREC_log.txt";
+  const char *cg_errors = "dcg_errors.txt", *cg_warnings = "dcg_check_warnings.txt";
+  for (const char* file : {log, factors, cg_errors, cg_warnings}) std::remove(file);
+  const Csr A = nonsymmetric5(), without_diagonal = sparse({{0, 1}, {1, 0}});
+  FgmresHost host(A, Vector(5, 1.0), Vector(5, 1.0), 5);
+  host.ipar[1] = 0;
+  host.ipar[4] = 0;
+  host.dpar[0] = -1.0;
+  EXPECT_EQ(host.check(), -1001);
+  EXPECT_FALSE(std::ifstream(log).is_open());
+  host.ipar[6] = 1;
+  EXPECT_EQ(host.check(), -1001);
+  EXPECT_EQ(host.check(), -1001);
+  EXPECT_TRUE(has_lines(log, 2, "dfgmres_check: warning -1001: "));
+  host.ipar[5] = 1;
+  host.ipar[0] = 0;
+  EXPECT_EQ(host.check(), -1100);
+  EXPECT_TRUE(has_lines(log, 1, "dfgmres_check: error -1100: "));
+  CgHost cg(A, Vector(5, 1.0), Vector(5, 1.0));
+  cg.ipar[1] = 1;
+  cg.ipar[4] = -1;
+  cg.ipar[5] = cg.ipar[6] = 1;
+  cg.check();
+  cg.ipar[0] = 0;
+  cg.step();
+  EXPECT_TRUE(has_lines(cg_errors, 1, "dcg: error -11: "));
+  EXPECT_TRUE(has_lines(cg_warnings, 1, "dcg_check: warning -1001: "));
+  Settings s;
+  EXPECT_EQ(Ilu0(without_diagonal, s).ierr, -101);
+  EXPECT_FALSE(std::ifstream(factors).is_open());
+  s.ipar[5] = 1;
+  EXPECT_EQ(Ilu0(without_diagonal, s).ierr, -101);
+  EXPECT_TRUE(has_lines(factors, 1, "dcsrilu0: error -101: "));
+}
+
+}  // namespace
+}  // namespace rci_test
