@@ -103,6 +103,7 @@ TEST(Misuse, EndsARunOfCg) {
   }
   CgHost not_numbers(A, {1, kNan, 3, 4}, kZeros);
   EXPECT_EQ(not_numbers.run(), -10);
+  EXPECT_EQ(not_numbers.requests, "1");
   for (const int stage : {0, -5, 99, INT_MAX}) {
     CgHost host(A, kRightHandSide, kZeros);
     host.ipar[2] = stage;
@@ -129,6 +130,9 @@ TEST(Misuse, EndsARunOfFgmres) {
     EXPECT_EQ(host.step(), -12) << "ipar entry " << entry << " = " << value;
     EXPECT_EQ(host.get(), -12) << "ipar entry " << entry << " = " << value;
   }
+  FgmresHost full_cycle = begun(2);  // a product is due, for which a full cycle has no place
+  full_cycle.ipar[13] = 3;
+  EXPECT_EQ(full_cycle.step(), -12);
   for (const int calls : {1, 2, 3, 4, 5, 6}) {
     FgmresHost host = begun(calls);
     host.ipar[7] = host.ipar[8] = host.ipar[9] = 0;
