@@ -90,8 +90,7 @@ Matrix from_triplets(int n_row, int n_col, const Integers& Ti, const Integers& T
   std::map<std::pair<int, int>, std::complex<double>> entries;
   for (std::size_t k = 0; k < Ti.size(); ++k)
     entries[{Tj[k], Ti[k]}] += std::complex<double>(Tx[k], Tz.empty() ? 0.0 : Tz[k]);
-  Matrix A{
-      .name = {}, .n_row = n_row, .n_col = n_col, .Ap = Integers(size_of(n_col) + 1), .Ai = {}, .Ax = {}, .Az = {}};
+  Matrix A(n_row, n_col, Integers(size_of(n_col) + 1), {}, {});
   for (const auto& [place, value] : entries) {
     ++A.Ap[size_of(place.first) + 1];
     A.Ai.push_back(place.second);

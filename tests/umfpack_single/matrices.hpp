@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace umfpack_test {
@@ -21,14 +22,23 @@ inline Doubles widened(const Floats& values) { return {values.begin(), values.en
 
 // Complex if it has imaginary parts.
 struct Matrix {
-  std::string name;
-  int n_row = 0, n_col = 0;
-  Integers Ap{0}, Ai;
-  Doubles Ax, Az;
+  Matrix() = default;
+  Matrix(int rows, int columns, Integers starts, Integers indices, Doubles x, Doubles z = {})
+      : n_row(rows),
+        n_col(columns),
+        Ap(std::move(starts)),
+        Ai(std::move(indices)),
+        Ax(std::move(x)),
+        Az(std::move(z)) {}
 
   bool is_complex() const { return !Az.empty(); }
   int nz() const { return Ap.back(); }
   std::size_t order() const { return size_of(n_row); }
+
+  std::string name;
+  int n_row = 0, n_col = 0;
+  Integers Ap{0}, Ai;
+  Doubles Ax, Az;
 };
 
 // Sums entries of the same place.

@@ -43,7 +43,7 @@ TEST(Settings, AreObeyed) {
   for (const Case& c : cases) {
     SCOPED_TRACE("Control[" + std::to_string(c.control) + "] = " + std::to_string(c.value));
     Host host(A);
-    host.Control[size_of(c.control)] = c.value;
+    host.Control[c.control] = c.value;
     ASSERT_EQ(host.symbolic(), 0);
     const int status = host.numeric();
     if (status == -1) {  // too much asked for
@@ -54,7 +54,7 @@ TEST(Settings, AreObeyed) {
     ASSERT_EQ(status, 0);
     ASSERT_EQ(host.solve(0, b, b), 0);
     if (c.expected != -7) {
-      EXPECT_EQ(host.Info[size_of(c.info)], c.expected);
+      EXPECT_EQ(host.Info[c.info], c.expected);
     }
   }
 }

@@ -10,16 +10,14 @@ TEST(Threads, FactorAndSolveAtOnce) {
   constexpr int kOrder = 400, kRounds = 15;
   const Floats b(kOrder, 1);
   Host shared(random_matrix(kOrder, true, 9));
-  ASSERT_EQ(shared.symbolic(), 0);
-  ASSERT_EQ(shared.numeric(), 0);
+  shared.factorize();
   ASSERT_EQ(shared.solve(0, b, b), 0);
   const auto work = [&](bool is_complex) {
     const Matrix A = random_matrix(kOrder, is_complex);
     Floats first;
     for (int round = 0; round < kRounds; ++round) {
       Host host(A);
-      ASSERT_EQ(host.symbolic(), 0);
-      ASSERT_EQ(host.numeric(), 0);
+      host.factorize();
       ASSERT_EQ(host.solve(0, b, b), 0);
       if (round == 0) first = host.Xx;
       for (std::size_t i = 0; i < first.size(); ++i) ASSERT_NEAR(host.Xx[i], first[i], 1e-6);

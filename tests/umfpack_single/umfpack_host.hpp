@@ -1,37 +1,53 @@
-// A host of the float interface: calls the index forms of the family that a matrix belongs to, with bases that stand
-// three elements before the arrays.
+// A host of the float interface: calls the index forms of the family that a matrix belongs to.
 #pragma once
 
 #include <gtest/gtest.h>
 
 #include <array>
-#include <cstdint>
 
 #include "quorin/umfpack.h"
+#include "tests/support/index_form.hpp"
 #include "tests/umfpack_single/matrices.hpp"
 
 namespace umfpack_test {
 
-inline constexpr int kIndex = 3;
+// An argument that only the complex family has.
+template <class T>
+struct ComplexOnly {
+  T& argument;
+};
+template <class T>
+ComplexOnly<T> complex_only(T& argument) {
+  return {argument};
+}
 
-// The base from which the array begins at kIndex. A null array stays null as what the index form computes.
-template <class T>
-T* base(T* array) {
-  return reinterpret_cast<T*>(reinterpret_cast<std::uintptr_t>(array) - kIndex * sizeof(T));
+template <bool kIsComplex, class T>
+auto kept(T& argument) {
+  return std::tie(argument);
 }
-template <class T>
-T* base(std::vector<T>& array) {
-  return base(array.data());
+template <bool kIsComplex, class T>
+auto kept(ComplexOnly<T>& given) {
+  if constexpr (kIsComplex) {
+    return std::tie(given.argument);
+  } else {
+    return std::tuple();
+  }
 }
-template <class T>
-const T* base(const std::vector<T>& array) {
-  return base(array.data());
+
+// Calls the index form of a family.
+template <class Real, class Complex, class... Arguments>
+int call(bool is_complex, Real* real, Complex* complex, Arguments&&... arguments) {
+  const auto run = [](auto* form, auto kept_arguments) {
+    return std::apply([form](auto&... each) { return quorin::test::call_index_form(form, each...); }, kept_arguments);
+  };
+  return is_complex ? run(complex, std::tuple_cat(kept<true>(arguments)...))
+                    : run(real, std::tuple_cat(kept<false>(arguments)...));
 }
 
 // A matrix in floats, its objects, Control and Info. Frees what it made.
 struct Host {
   explicit Host(const Matrix& matrix) : A(matrix), Ax(rounded(A.Ax)), Az(rounded(A.Az)) {
-    umfpack_si_defaults_Idx(base(Control.data()), kIndex);
+    quorin::test::call_index_form(umfpack_si_defaults_Idx, Control);
   }
   Host(const Host&) = delete;
   Host& operator=(const Host&) = delete;
@@ -43,50 +59,34 @@ struct Host {
   }
 
   int symbolic() {
-    if (A.is_complex()) {
-      return umfpack_ci_symbolic_Idx(A.n_row, A.n_col, base(A.Ap), kIndex, base(A.Ai), kIndex, base(Ax), kIndex,
-                                     base(Az), kIndex, &Symbolic, base(Control.data()), kIndex, base(Info.data()),
-                                     kIndex);
-    }
-    return umfpack_si_symbolic_Idx(A.n_row, A.n_col, base(A.Ap), kIndex, base(A.Ai), kIndex, base(Ax), kIndex,
-                                   &Symbolic, base(Control.data()), kIndex, base(Info.data()), kIndex);
+    return call(A.is_complex(), umfpack_si_symbolic_Idx, umfpack_ci_symbolic_Idx, A.n_row, A.n_col, A.Ap, A.Ai, Ax,
+                complex_only(Az), &Symbolic, Control, Info);
   }
   int numeric() {
-    if (A.is_complex()) {
-      return umfpack_ci_numeric_Idx(base(A.Ap), kIndex, base(A.Ai), kIndex, base(Ax), kIndex, base(Az), kIndex,
-                                    Symbolic, &Numeric, base(Control.data()), kIndex, base(Info.data()), kIndex);
-    }
-    return umfpack_si_numeric_Idx(base(A.Ap), kIndex, base(A.Ai), kIndex, base(Ax), kIndex, Symbolic, &Numeric,
-                                  base(Control.data()), kIndex, base(Info.data()), kIndex);
+    return call(A.is_complex(), umfpack_si_numeric_Idx, umfpack_ci_numeric_Idx, A.Ap, A.Ai, Ax, complex_only(Az),
+                Symbolic, &Numeric, Control, Info);
+  }
+  void factorize() {
+    ASSERT_EQ(symbolic(), 0);
+    ASSERT_EQ(numeric(), 0);
   }
   int solve(int sys, const Floats& Bx, const Floats& Bz) {
-    Xx.assign(A.order(), 0);
-    Xz.assign(A.order(), 0);
-    if (A.is_complex()) {
-      return umfpack_ci_solve_Idx(sys, base(A.Ap), kIndex, base(A.Ai), kIndex, base(Ax), kIndex, base(Az), kIndex,
-                                  base(Xx), kIndex, base(Xz), kIndex, base(Bx), kIndex, base(Bz), kIndex, Numeric,
-                                  base(Control.data()), kIndex, base(Info.data()), kIndex);
-    }
-    return umfpack_si_solve_Idx(sys, base(A.Ap), kIndex, base(A.Ai), kIndex, base(Ax), kIndex, base(Xx), kIndex,
-                                base(Bx), kIndex, Numeric, base(Control.data()), kIndex, base(Info.data()), kIndex);
+    clear_solution();
+    return call(A.is_complex(), umfpack_si_solve_Idx, umfpack_ci_solve_Idx, sys, A.Ap, A.Ai, Ax, complex_only(Az), Xx,
+                complex_only(Xz), Bx, complex_only(Bz), Numeric, Control, Info);
   }
   // With work space of exactly the length that the interface asks for.
   int wsolve(int sys, const Floats& Bx, const Floats& Bz) {
-    const std::size_t n = A.order();
+    clear_solution();
     const bool refined = sys <= 2 && Control[7] >= 1;
-    Integers Wi(n);
-    Floats W((A.is_complex() ? (refined ? 10 : 4) : (refined ? 5 : 1)) * n);
-    Xx.assign(n, 0);
-    Xz.assign(n, 0);
-    if (A.is_complex()) {
-      return umfpack_ci_wsolve_Idx(sys, base(A.Ap), kIndex, base(A.Ai), kIndex, base(Ax), kIndex, base(Az), kIndex,
-                                   base(Xx), kIndex, base(Xz), kIndex, base(Bx), kIndex, base(Bz), kIndex, Numeric,
-                                   base(Control.data()), kIndex, base(Info.data()), kIndex, base(Wi), kIndex, base(W),
-                                   kIndex);
-    }
-    return umfpack_si_wsolve_Idx(sys, base(A.Ap), kIndex, base(A.Ai), kIndex, base(Ax), kIndex, base(Xx), kIndex,
-                                 base(Bx), kIndex, Numeric, base(Control.data()), kIndex, base(Info.data()), kIndex,
-                                 base(Wi), kIndex, base(W), kIndex);
+    Integers Wi(A.order());
+    Floats W((A.is_complex() ? (refined ? 10 : 4) : (refined ? 5 : 1)) * A.order());
+    return call(A.is_complex(), umfpack_si_wsolve_Idx, umfpack_ci_wsolve_Idx, sys, A.Ap, A.Ai, Ax, complex_only(Az), Xx,
+                complex_only(Xz), Bx, complex_only(Bz), Numeric, Control, Info, Wi, W);
+  }
+  void clear_solution() {
+    Xx.assign(A.order(), 0);
+    Xz.assign(A.order(), 0);
   }
 
   Matrix A;
