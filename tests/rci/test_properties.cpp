@@ -2,6 +2,7 @@
 // influence of one solve on another.
 #include <gtest/gtest.h>
 
+#include <initializer_list>
 #include <memory>
 #include <string_view>
 #include <thread>
@@ -112,7 +113,7 @@ TEST(Properties, CgMany) {
     const bool preconditioned = seed % 2 == 1, tested = seed % 3 == 1;
     ManyHost many(s.A, joined(s.b, s.start), joined(s.start, s.b), preconditioned);
     CgHost first(s.A, s.b, s.start, preconditioned), second(s.A, s.start, s.b, preconditioned);
-    for (Host* const host : {static_cast<Host*>(&many), static_cast<Host*>(&first), static_cast<Host*>(&second)}) {
+    for (Host* const host : std::initializer_list<Host*>{&many, &first, &second}) {
       host->precondition = jacobi(s.A);
       host->test_residual(1e-20);
       host->ipar[4] = 500;
@@ -134,7 +135,7 @@ TEST(Properties, PreconditionerSwitchedOnTheWay) {
     FgmresHost fgmres(general.A, general.b, general.start, 20, true);
     cg.dpar[0] = 1e-20;
     fgmres.dpar[0] = 1e-8;
-    for (Host* const host : {static_cast<Host*>(&cg), static_cast<Host*>(&fgmres)}) {
+    for (Host* const host : std::initializer_list<Host*>{&cg, &fgmres}) {
       host->precondition = jacobi(host->A);
       host->ipar[4] = 200;
       host->ipar[8] = 1;
