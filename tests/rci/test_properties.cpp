@@ -182,9 +182,11 @@ TEST(Properties, InterleavedSolvesEqualSeparateOnes) {
              at_once = begin_solves(positive, general);
   for (const auto& host : separate) host->run();
   std::vector<Host*> busy;
+  busy.reserve(in_turn.size());
   for (const auto& host : in_turn) busy.push_back(host.get());
   while (!busy.empty()) std::erase_if(busy, [](Host* host) { return !host->advance(); });
   std::vector<std::thread> threads;
+  threads.reserve(at_once.size());
   for (const auto& host : at_once) threads.emplace_back([&host] { host->run(); });
   for (std::thread& t : threads) t.join();
   for (std::size_t k = 0; k < separate.size(); ++k) {
