@@ -176,6 +176,14 @@ TEST(Refusals, PatternsThatAreNotTheAnalysedOne) {
     EXPECT_EQ(host.numeric(), -11) << c.value;
     EXPECT_EQ(host.Numeric, nullptr);
   }
+  // Sound patterns with as many entries in each column.
+  for (int j = 0; j < 30; ++j) {
+    const int last = A.Ap[j + 1] - 1;
+    if (A.Ai[last] == 29) continue;
+    make({&Matrix::Ai, size_of(last), A.Ai[last] + 1});
+    EXPECT_EQ(host.numeric(), -11) << "column " << j;
+    umfpack_zi_free_numeric(&host.Numeric);
+  }
   host.A = A;
   std::swap(host.A.Ai[0], host.A.Ai[1]);
   EXPECT_EQ(host.numeric(), -11) << "the same entries in another order";
