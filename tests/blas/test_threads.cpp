@@ -157,7 +157,8 @@ TEST_F(Threads, MatrixVectorOperations) {
   struct Strides {
     std::int32_t x, y;
   };
-  for (const auto& [incx, incy] : {Strides{2, -3}, Strides{1, -3}, Strides{-2, 1}}) {
+  for (const Strides& chosen : {Strides{2, -3}, Strides{1, -3}, Strides{-2, 1}}) {
+    const std::int32_t incx = chosen.x, incy = chosen.y;
     const std::string strides = ' ' + std::to_string(incx) + ' ' + std::to_string(incy);
     for (const char* trans : {"N", "T", "C"}) {
       compare(
