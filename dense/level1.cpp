@@ -114,7 +114,7 @@ Complex dotc(int n, const Complex* x, int incx, const Complex* y, int incy) {
 
 template <Scalar T>
 RealOf<T> nrm2(int n, const T* x, int incx) {
-  if (incx == 1) {
+  if (n > 0 && incx == 1) {
     constexpr int kParts = kIsComplex<T> ? 2 : 1;
     return static_cast<RealOf<T>>(
         std::sqrt(kernels::sum_of_squares_in_double(std::ptrdiff_t{kParts} * n, reinterpret_cast<const float*>(x))));
