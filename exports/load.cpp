@@ -2,8 +2,8 @@
 #include "base/allocator.hpp"
 #include "base/parallel.hpp"
 #include "dense/dense.hpp"
+#include "families/umfpack_single/umfpack_single.hpp"
 #include "platform/load_hooks.hpp"
-#include "umfpack_single/umfpack_single.hpp"
 
 // Frees what the C++ runtime keeps for exceptions, which it holds until the process ends otherwise; a library that is
 // loaded again and again must not leave it behind.

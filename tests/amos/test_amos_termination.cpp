@@ -2,12 +2,12 @@
 // used. So the methods are taken to the borders of their regions, and beyond, where they must own up.
 #include <gtest/gtest.h>
 
-#include "amos/finish.hpp"
-#include "amos/large_argument.hpp"
-#include "amos/limits.hpp"
-#include "amos/moderate_argument.hpp"
-#include "amos/power_series.hpp"
-#include "amos/sequences.hpp"
+#include "families/amos/finish.hpp"
+#include "families/amos/large_argument.hpp"
+#include "families/amos/limits.hpp"
+#include "families/amos/moderate_argument.hpp"
+#include "families/amos/power_series.hpp"
+#include "families/amos/sequences.hpp"
 
 namespace quorin::amos {
 namespace {

@@ -10,7 +10,7 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
-#include "taucs/taucs.hpp"
+#include "families/taucs/taucs.hpp"
 
 namespace {
 

@@ -1,0 +1,78 @@
+#include "families/jacobi/jacobi.hpp"
+
+#include <cmath>
+#include <cstddef>
+
+#include "base/handle_table.hpp"
+#include "base/workspace.hpp"
+#include "families/jacobi/central_differences.hpp"
+
+namespace quorin::jacobi {
+namespace {
+
+enum Status { kSuccess = 1501, kInvalidOption = 1502, kOutOfMemory = 1503 };
+
+constinit base::HandleTable<CentralDifferences> computations;
+
+bool are_valid(const int* n, const int* m, const float* x, const float* fjac, const float* eps) {
+  if (n == nullptr || m == nullptr || x == nullptr || fjac == nullptr || eps == nullptr) return false;
+  return *n >= 1 && *m >= 1 && *eps > 0.0F && std::isfinite(*eps);
+}
+
+// `evaluate(m, n, x, f)` is the host's function.
+template <class Evaluate>
+int differentiate_by(const Evaluate& evaluate, const int* n, const int* m, float* fjac, float* x, const float* eps) {
+  if (!are_valid(n, m, x, fjac, eps)) return kInvalidOption;
+  const auto columns = static_cast<std::size_t>(*n), rows = static_cast<std::size_t>(*m);
+  base::Workspace<float> values(base::saturating_product(2, rows));
+  if (!values) return kOutOfMemory;
+  float* const forward = values.data();
+  float* const backward = forward + rows;
+  CentralDifferences differences(columns, rows, x, fjac, *eps);
+  for (;;) {
+    const Request request = differences.advance(forward, backward);
+    if (request == kDone) return kSuccess;
+    int m_now = *m, n_now = *n;  // the host's function may not change ours
+    evaluate(&m_now, &n_now, x, request == kForward ? forward : backward);
+  }
+}
+
+}  // namespace
+
+int init(void** handle, const int* n, const int* m, float* x, float* fjac, const float* eps) {
+  if (handle == nullptr) return kInvalidOption;
+  *handle = nullptr;
+  if (!are_valid(n, m, x, fjac, eps)) return kInvalidOption;
+  *handle = computations.create(static_cast<std::size_t>(*n), static_cast<std::size_t>(*m), x, fjac, *eps);
+  return *handle == nullptr ? kOutOfMemory : kSuccess;
+}
+
+int solve(void** handle, const float* f1, const float* f2, int* request) {
+  if (handle == nullptr || f1 == nullptr || f2 == nullptr || request == nullptr) return kInvalidOption;
+  CentralDifferences* const differences = computations.find(*handle);
+  if (differences == nullptr) return kInvalidOption;
+  *request = differences->advance(f1, f2);
+  return kSuccess;
+}
+
+int destroy(void** handle) {
+  if (handle == nullptr || !computations.erase(*handle)) return kInvalidOption;
+  *handle = nullptr;
+  return kSuccess;
+}
+
+int differentiate(Function fcn, const int* n, const int* m, float* fjac, float* x, const float* eps) {
+  if (fcn == nullptr) return kInvalidOption;
+  return differentiate_by(fcn, n, m, fjac, x, eps);
+}
+
+int differentiate_with_data(FunctionWithData fcn, const int* n, const int* m, float* fjac, float* x, const float* eps,
+                            void* user_data) {
+  if (fcn == nullptr) return kInvalidOption;
+  const auto evaluate = [&](int* rows, int* columns, float* point, float* f) {
+    fcn(rows, columns, point, f, user_data);
+  };
+  return differentiate_by(evaluate, n, m, fjac, x, eps);
+}
+
+}  // namespace quorin::jacobi

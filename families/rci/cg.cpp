@@ -1,0 +1,39 @@
+// Conjugate gradients for one right-hand side. A plain run stays within ipar(1..11), dpar(1..8) and three columns of
+// tmp.
+#include <algorithm>
+
+#include "families/rci/cg_recurrence.hpp"
+#include "families/rci/rci.hpp"
+
+namespace quorin::rci {
+
+void cg_init(int n, const double*, const double*, int* request, int* ipar, double* dpar, double* tmp) {
+  *request = kNotCompleted;
+  if (n <= 0) return;
+  set_cg_defaults(n, Ipar(ipar), Dpar(dpar));
+  std::fill_n(tmp, n, 0.0);
+  *request = kFinished;
+}
+
+void cg_check(int, const double*, const double*, int* request, int* ipar, const double* dpar, const double*) {
+  *request = check_cg(true, Ipar(ipar), ConstDpar(dpar), Messages("dcg_check", kCgFiles, ConstIpar(ipar)));
+}
+
+void cg(int, double* x, const double* b, int* request, int* ipar, double* dpar, double* tmp) {
+  const Ipar parameters(ipar);
+  const int n = parameters.size();
+  *request = kEndlessLoop;
+  if (n > 0) {
+    const auto column = [=](int index) { return tmp + static_cast<std::ptrdiff_t>(index) * n; };
+    const CgVectors vectors{n, x, b, column(0), column(1), column(2), column(3)};
+    *request = advance_cg(vectors, parameters.stage(), parameters, Dpar(dpar));
+  }
+  report_cg(*request, Messages("dcg", kCgFiles, ConstIpar(ipar)));
+}
+
+void cg_get(int, const double*, const double*, const int*, const int* ipar, const double*, const double*,
+            int* itercount) {
+  *itercount = ConstIpar(ipar).iteration();
+}
+
+}  // namespace quorin::rci

@@ -1,0 +1,126 @@
+// ILU(0), row by row (Saad, algorithm 10.4, the IKJ variant).
+#include <algorithm>
+#include <cmath>
+
+#include "base/workspace.hpp"
+#include "families/rci/messages.hpp"
+#include "families/rci/rci.hpp"
+
+namespace quorin::rci {
+namespace {
+
+enum Ilu0Error : int {
+  kNoDiagonal = -101,
+  kZeroPivot = -102,
+  kSmallPivot = -103,
+  kNoMemory = -104,
+  kBadSize = -105,
+  kUnsortedColumns = -106,
+};
+
+// What to do with small pivots.
+struct PivotRule {
+  bool replace;
+  double threshold;
+  double replacement;
+
+  // Returns 0, or why the pivot will not do.
+  int apply(double& pivot) const {
+    if (!std::isfinite(pivot)) return kSmallPivot;
+    const bool small = std::fabs(pivot) < threshold;
+    if (replace && small) pivot = replacement;
+    if (pivot == 0.0) return kZeroPivot;
+    return small && !replace ? kSmallPivot : 0;
+  }
+};
+
+// Entries k of row i, 0-based.
+struct RowRange {
+  int begin;
+  int end;
+};
+
+RowRange row_of(const int* ia, int i) { return {ia[i] - 1, ia[i + 1] - 1}; }
+
+// Columns ascend within 1..n and the diagonal is there; `diagonal` receives its place.
+int check_row(int n, int i, RowRange row, const int* ja, int& diagonal) {
+  int previous = 0;
+  diagonal = -1;
+  if (row.begin < 0) return kUnsortedColumns;
+  for (int k = row.begin; k < row.end; ++k) {
+    if (ja[k] <= previous || ja[k] > n) return kUnsortedColumns;
+    previous = ja[k];
+    if (ja[k] == i + 1) diagonal = k;
+  }
+  return diagonal < 0 ? kNoDiagonal : 0;
+}
+
+int check_pattern(int n, const int* ia, const int* ja, int* diagonal) {
+  for (int i = 0; i < n; ++i) {
+    if (const int error = check_row(n, i, row_of(ia, i), ja, diagonal[i]); error != 0) return error;
+  }
+  return 0;
+}
+
+// Row i of the factors from rows above it. `place`, all zero between calls, maps a column to 1 + its place in row i.
+void eliminate_row(RowRange row, int pivot_place, const int* ia, const int* ja, const int* diagonal, int* place,
+                   double* b) {
+  for (int k = row.begin; k < row.end; ++k) place[ja[k] - 1] = k + 1;
+  for (int k = row.begin; k < pivot_place; ++k) {
+    const int above = ja[k] - 1;
+    const double multiplier = b[k] / b[diagonal[above]];
+    b[k] = multiplier;
+    for (int u = diagonal[above] + 1; u < ia[above + 1] - 1; ++u) {
+      if (const int target = place[ja[u] - 1]; target != 0) b[target - 1] -= multiplier * b[u];
+    }
+  }
+  for (int k = row.begin; k < row.end; ++k) place[ja[k] - 1] = 0;
+}
+
+int factorize(int n, const double* a, const int* ia, const int* ja, PivotRule rule, double* b) {
+  if (n <= 0) return kBadSize;
+  base::Workspace<int> diagonal(static_cast<std::size_t>(n)), place(static_cast<std::size_t>(n));
+  if (!diagonal || !place) return kNoMemory;
+  std::fill_n(place.data(), n, 0);
+  if (const int error = check_pattern(n, ia, ja, diagonal.data()); error != 0) return error;
+  for (int i = 0; i < n; ++i) {
+    const RowRange row = row_of(ia, i);
+    const int pivot_place = diagonal.data()[i];
+    if (a != b) std::copy(a + row.begin, a + row.end, b + row.begin);
+    eliminate_row(row, pivot_place, ia, ja, diagonal.data(), place.data(), b);
+    if (const int error = rule.apply(b[pivot_place]); error != 0) return error;
+  }
+  return 0;
+}
+
+void report(int error, Messages messages) {
+  switch (error) {
+    case kNoDiagonal:
+      return messages.error(error, "a diagonal entry is absent from the matrix");
+    case kZeroPivot:
+      return messages.error(error, "a pivot is zero");
+    case kSmallPivot:
+      return messages.error(error, "a pivot is too small, or not finite");
+    case kNoMemory:
+      return messages.error(error, "not enough memory for work arrays");
+    case kBadSize:
+      return messages.error(error, "the size of the matrix is not positive");
+    case kUnsortedColumns:
+      return messages.error(error, "the columns of a row do not ascend, or are outside the matrix");
+    default:
+      return;
+  }
+}
+
+}  // namespace
+
+void ilu0(int n, const double* a, const int* ia, const int* ja, double* bilu0, const int* ipar, const double* dpar,
+          int* ierr) {
+  const ConstIpar integers(ipar);
+  const ConstDpar reals(dpar);
+  const PivotRule rule{integers.replace_pivots() != 0, std::fabs(reals.pivot_threshold()), reals.replacement_pivot()};
+  *ierr = factorize(n, a, ia, ja, rule, bilu0);
+  report(*ierr, Messages("dcsrilu0", kIluFiles, integers));
+}
+
+}  // namespace quorin::rci

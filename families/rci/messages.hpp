@@ -1,0 +1,50 @@
+// What the solvers tell in words, when the host wants it: whole lines, to the screen or to a file of the family.
+#pragma once
+
+#include "families/rci/parameters.hpp"
+
+namespace quorin::rci {
+
+/// The messages of one call of `routine`. Errors and warnings each have a switch in ipar and a file for hosts that do
+/// not want them on the screen; the first line of a call that goes to a file makes that file anew.
+class Messages {
+ public:
+  /// Files for the errors and the warnings of a family of routines.
+  struct Files {
+    const char* errors;
+    const char* warnings;
+  };
+
+  Messages(const char* routine, Files files, ConstIpar ipar)
+      : routine_(routine),
+        files_(files),
+        to_screen_(ipar.message_destination() == kScreen),
+        errors_wanted_(ipar.print_errors() != 0),
+        warnings_wanted_(ipar.print_warnings() != 0) {}
+
+  /// `code` is what the routine returns; 0 is left out of the text.
+  void error(int code, const char* text) {
+    if (errors_wanted_) print("error", code, text, files_.errors);
+  }
+  void warning(int code, const char* text) {
+    if (warnings_wanted_) print("warning", code, text, files_.warnings);
+  }
+
+ private:
+  static constexpr int kScreen = 6;
+
+  void print(const char* kind, int code, const char* text, const char* file);
+
+  const char* routine_;
+  Files files_;
+  bool to_screen_;
+  bool errors_wanted_;
+  bool warnings_wanted_;
+  const char* begun_file_ = nullptr;
+};
+
+inline constexpr Messages::Files kCgFiles{"dcg_errors.txt", "dcg_check_warnings.txt"};
+inline constexpr Messages::Files kFgmresFiles{"MKL_RCI_FGMRES_Log.txt", "MKL_RCI_FGMRES_Log.txt"};
+inline constexpr Messages::Files kIluFiles{"MKL_PREC_log.txt", "MKL_PREC_log.txt"};
+
+}  // namespace quorin::rci

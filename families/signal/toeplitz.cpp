@@ -1,0 +1,178 @@
+#include "families/signal/toeplitz.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <iterator>
+#include <limits>
+#include <type_traits>
+
+#include "base/workspace.hpp"
+
+namespace quorin::signal {
+namespace {
+
+using std::ptrdiff_t;
+using DoubleComplex = std::complex<double>;
+
+double widen(float v) { return v; }
+double widen(double v) { return v; }
+DoubleComplex widen(std::complex<float> v) { return {v.real(), v.imag()}; }
+DoubleComplex widen(DoubleComplex v) { return v; }
+
+template <class T>
+using Wide = decltype(widen(T()));
+
+template <class T>
+T narrow(Wide<T> v) {
+  if constexpr (std::is_arithmetic_v<T>) {
+    return static_cast<T>(v);
+  } else {
+    using Real = typename T::value_type;
+    return {static_cast<Real>(v.real()), static_cast<Real>(v.imag())};
+  }
+}
+
+double product(double a, double b) { return a * b; }
+
+// The operator of std::complex also looks for infinities, in a function call per product.
+DoubleComplex product(DoubleComplex a, DoubleComplex b) {
+  return {a.real() * b.real() - a.imag() * b.imag(), a.real() * b.imag() + a.imag() * b.real()};
+}
+
+template <class T>
+constexpr double kRoundoff = kRoundoff<typename T::value_type>;
+template <>
+constexpr double kRoundoff<float> = std::numeric_limits<float>::epsilon();
+template <>
+constexpr double kRoundoff<double> = std::numeric_limits<double>::epsilon();
+
+// How far the forward and backward vectors of order k miss the matrix of order k + 1, and the solution its right-hand
+// side.
+template <class W>
+struct Misses {
+  W forward{}, backward{}, solution{};
+};
+
+// Sums over i < n of c(i) f(i), r(i) g(i) and c(i) x(i), each in several partial sums: for speed and for accuracy.
+template <class Row, class Column, class Work>
+auto sum_products(ptrdiff_t n, Row r, Column c, const Work* f, const Work* g, const Work* x) {
+  using W = Wide<Work>;
+  constexpr ptrdiff_t kLanes = 4;
+  W forward[kLanes]{}, backward[kLanes]{}, solution[kLanes]{};
+  ptrdiff_t i = 0;
+  for (; i + kLanes <= n; i += kLanes) {
+    for (ptrdiff_t l = 0; l < kLanes; ++l) {
+      const W column = widen(c[i + l]);
+      forward[l] += product(column, widen(f[i + l]));
+      backward[l] += product(widen(r[i + l]), widen(g[i + l]));
+      solution[l] += product(column, widen(x[i + l]));
+    }
+  }
+  for (; i < n; ++i) {
+    const W column = widen(c[i]);
+    forward[0] += product(column, widen(f[i]));
+    backward[0] += product(widen(r[i]), widen(g[i]));
+    solution[0] += product(column, widen(x[i]));
+  }
+  const auto total = [](const W* lane) { return (lane[0] + lane[1]) + (lane[2] + lane[3]); };
+  return Misses<W>{total(forward), total(backward), total(solution)};
+}
+
+// f <- f - p g, g <- g - q f, x <- x + s g (with the new g), element by element.
+template <class Work>
+void update(ptrdiff_t n, Wide<Work> p, Wide<Work> q, Wide<Work> s, Work* f, Work* g, Work* x) {
+  for (ptrdiff_t i = 0; i < n; ++i) {
+    const auto fi = widen(f[i]);
+    const auto gi = widen(g[i]);
+    const auto next = gi - product(q, fi);
+    f[i] = narrow<Work>(fi - product(p, gi));
+    g[i] = narrow<Work>(next);
+    x[i] = narrow<Work>(widen(x[i]) + product(s, next));
+  }
+}
+
+// The recursion. At order k the vectors F = (1, f) and G = (g, 1) of length k satisfy
+//
+//   T_k F = e first unit vector,   T_k G = e last unit vector,   T_k x = b(1:k),
+//
+// with one and the same number e, the ratio of the determinants of T_k and T_(k-1). One more row and column gives
+//
+//   T (F, 0) = (e, 0, ..., 0, u),   T (0, G) = (v, 0, ..., 0, e),   so
+//   F' = (F, 0) - (u/e) (0, G),   G' = (0, G) - (v/e) (F, 0),   e' = e - u v / e,   x' = (x, 0) + (b(k) - w)/e' G'.
+//
+// g is kept at the end of its array, so that G shifted by one meets F in the same place.
+// `column` runs backwards, from the last element to the second. Returns false at a singular leading minor.
+template <class T, class Row, class Column, class Work>
+bool run_recursion(Row row, Column column, const T* b, Work* x, Work* f, Work* g, ptrdiff_t m) {
+  using W = Wide<T>;
+  W e = widen(row[0]);
+  if (e == W{}) return false;
+  x[0] = narrow<Work>(widen(b[0]) / e);
+  for (ptrdiff_t k = 1; k < m; ++k) {
+    const W corner_above = widen(row[k]);
+    const W corner_below = widen(column[m - 1 - k]);
+    auto miss = sum_products(k - 1, row + 1, column + (m - k), f, g + (m - k), x + 1);
+    miss.forward += corner_below;
+    miss.backward += corner_above;
+    miss.solution += product(corner_below, widen(x[0]));
+
+    const W p = miss.forward / e;
+    const W q = miss.backward / e;
+    const W shrink = W{1} - product(p, q);
+    if (std::abs(shrink) <= static_cast<double>(k) * kRoundoff<Work>) return false;
+    e = product(e, shrink);
+    const W s = (widen(b[k]) - miss.solution) / e;
+
+    update(k - 1, p, q, s, f, g + (m - k), x + 1);
+    f[k - 1] = narrow<Work>(-p);
+    g[m - 1 - k] = narrow<Work>(-q);
+    x[0] = narrow<Work>(widen(x[0]) - product(s, q));
+    x[k] = narrow<Work>(s);
+  }
+  return true;
+}
+
+template <class T>
+bool solve_wide(const T* row, const T* column, const T* b, T* x, ptrdiff_t m, Wide<T>* memory) {
+  Wide<T>* const wide_row = memory;
+  Wide<T>* const wide_column = wide_row + m;
+  Wide<T>* const wide_x = wide_column + m;
+  Wide<T>* const f = wide_x + m;
+  Wide<T>* const g = f + m;
+  const auto wider = [](T v) { return widen(v); };
+  std::transform(row, row + m, wide_row, wider);
+  if (m > 1)
+    std::transform(std::make_reverse_iterator(column + m - 1), std::make_reverse_iterator(column), wide_column, wider);
+  if (!run_recursion(wide_row, wide_column, b, wide_x, f, g, m)) return false;
+  std::transform(wide_x, wide_x + m, x, narrow<T>);
+  return true;
+}
+
+}  // namespace
+
+template <class T>
+bool solve_toeplitz_in_place(const T* row, const T* column, const T* b, T* x, T* work1, T* work2, int m) noexcept {
+  return run_recursion(row, std::make_reverse_iterator(column + (m - 1)), b, x, work1, work2, m);
+}
+
+template <class T>
+void solve_toeplitz(const T* row, const T* column, const T* b, T* x, T* work1, T* work2, int m) noexcept {
+  if (m <= 0) return;
+  constexpr std::size_t kVectors = 5;
+  base::Workspace<Wide<T>> memory(base::saturating_product(kVectors, static_cast<std::size_t>(m)));
+  const bool solved = memory ? solve_wide(row, column, b, x, m, memory.data())
+                             : solve_toeplitz_in_place(row, column, b, x, work1, work2, m);
+  if (!solved) std::fill_n(x, m, T(std::numeric_limits<float>::quiet_NaN()));
+}
+
+template void solve_toeplitz(const float*, const float*, const float*, float*, float*, float*, int) noexcept;
+template void solve_toeplitz(const std::complex<float>*, const std::complex<float>*, const std::complex<float>*,
+                             std::complex<float>*, std::complex<float>*, std::complex<float>*, int) noexcept;
+
+template bool solve_toeplitz_in_place(const float*, const float*, const float*, float*, float*, float*, int) noexcept;
+template bool solve_toeplitz_in_place(const std::complex<float>*, const std::complex<float>*,
+                                      const std::complex<float>*, std::complex<float>*, std::complex<float>*,
+                                      std::complex<float>*, int) noexcept;
+
+}  // namespace quorin::signal

@@ -1,0 +1,23 @@
+#include "families/slap/diagonal.hpp"
+
+#include <algorithm>
+
+namespace quorin::slap {
+
+void invert_diagonal(const ColumnMatrix& matrix, float* inverse) {
+  for (int j = 0; j < matrix.n; ++j) {
+    const int first = matrix.begin(j);
+    inverse[j] = 1 / (first < matrix.end(j) ? matrix.a[first] : 0.0F);
+  }
+}
+
+void invert_row_squares(const ColumnMatrix& matrix, float* inverse) {
+  std::fill_n(inverse, matrix.n, 0.0F);
+  for_each_entry(matrix, [&](int i, int j, float a) {
+    inverse[i] += a * a;
+    if (matrix.is_lower && i > j) inverse[j] += a * a;
+  });
+  for (int i = 0; i < matrix.n; ++i) inverse[i] = 1 / inverse[i];
+}
+
+}  // namespace quorin::slap

@@ -1,0 +1,10 @@
+// The TAUCS family as the exports see it.
+#pragma once
+
+#include "families/taucs/files.hpp"
+#include "families/taucs/matrix.hpp"
+#include "families/taucs/operations.hpp"
+#include "families/taucs/ordering.hpp"
+#include "families/taucs/process.hpp"
+#include "families/taucs/products.hpp"
+#include "families/taucs/vectors.hpp"

@@ -1,0 +1,271 @@
+#include "families/trust_region/solver.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "families/trust_region/vectors.hpp"
+
+namespace quorin::trust_region {
+namespace {
+
+// A step is taken if it brings this part of the decrease that the model predicts.
+constexpr double kAcceptable = 1e-4;
+constexpr double kPoor = 0.25, kGood = 0.75;
+// The least share of a step that the next radius is after a failure.
+constexpr double kStrongestShrink = 0.1, kMildestShrink = 0.5;
+// || ||D s|| - radius | relative to the radius, if the host wants no better.
+constexpr double kLooseLength = 0.1, kDefaultLength = 1e-10;
+
+// Times that the radius is doubled for a step that floats can tell from none, and such steps in vain that end the run.
+constexpr int kEnlargements = 20, kFailedEnlargements = 5;
+// What rounding of F to floats may change in ||F||^2, relative to it.
+constexpr double kNoise = std::numeric_limits<float>::epsilon();
+constexpr int kPolishingSteps = 5;
+
+// By how much D_j may exceed the norm of its column at the start.
+constexpr double kMostBalance = 10.0;
+
+// ||F||; not finite if an entry is not, as squares of floats do not overflow.
+double norm_of(std::size_t m, const float* residual) {
+  double sum = 0.0;
+  for (std::size_t i = 0; i < m; ++i) sum += double{residual[i]} * double{residual[i]};
+  return std::sqrt(sum);
+}
+
+StepLimits step_limits(const Setup& setup) {
+  const double asked =
+      setup.tolerances.step_precision > 0.0F ? double{setup.tolerances.step_precision} : kDefaultLength;
+  return {.iterations = setup.step_iteration_limit, .tolerance = std::min(asked, kLooseLength)};
+}
+
+}  // namespace
+
+Solver::Solver(const Setup& setup)
+    : setup_(setup),
+      bounds_(setup.lower != nullptr ? base::saturating_product(2, setup.n) : 0),
+      x_(setup.n),
+      trial_x_(setup.n),
+      residual_(setup.m),
+      trial_residual_(setup.m),
+      largest_norms_(setup.n),
+      scale_(setup.n),
+      model_(setup.n),
+      trial_model_(setup.n),
+      step_(setup.n) {
+  if (!*this) return;
+  if (setup.lower != nullptr) {
+    box_ = {.lower = bounds_.data(), .upper = bounds_.data() + setup.n};
+    std::copy_n(setup.lower, setup.n, bounds_.data());
+    std::copy_n(setup.upper, setup.n, bounds_.data() + setup.n);
+  }
+  std::fill(largest_norms_.begin(), largest_norms_.end(), 0.0);
+}
+
+Solver::operator bool() const {
+  return bounds_ && x_ && trial_x_ && residual_ && trial_residual_ && largest_norms_ && scale_ && model_ &&
+         trial_model_ && step_;
+}
+
+bool Solver::advance(float* residual, const float* jacobian, int* request) {
+  const bool has_ended = stage_ == kStopped;
+  request_ = leave(residual, jacobian);
+  // What the host finds at the end belongs together.
+  if (stage_ == kStopped && !has_ended && !failed_) {
+    std::copy_n(x_.data(), setup_.n, setup_.x);
+    std::copy_n(residual_.data(), setup_.m, residual);
+  }
+  *request = request_;
+  return !failed_;
+}
+
+// Goes on from where the run stands.
+int Solver::leave(const float* residual, const float* jacobian) {
+  switch (stage_) {
+    case kStart:
+      return start();
+    case kFirstResidual:
+      return take_first_residual(residual);
+    case kFirstJacobian:
+      return take_first_jacobian(jacobian);
+    case kTrialResidual:
+      return take_trial_residual(residual);
+    case kTrialJacobian:
+      return take_trial_jacobian(jacobian);
+    default:
+      return request_;
+  }
+}
+
+int Solver::start() {
+  for (std::size_t j = 0; j < setup_.n; ++j) x_[j] = box_.project(j, setup_.x[j]);
+  std::copy_n(x_.data(), setup_.n, setup_.x);
+  return ask(kResidual, kFirstResidual);
+}
+
+int Solver::take_first_residual(const float* residual) {
+  first_norm_ = norm_ = norm_of(setup_.m, residual);
+  if (!std::isfinite(norm_)) return fail();
+  std::copy_n(residual, setup_.m, residual_.data());
+  return ask(kJacobian, kFirstJacobian);
+}
+
+int Solver::take_first_jacobian(const float* jacobian) {
+  if (!model_.take(setup_.m, jacobian, residual_.data())) return fail();
+  update_scale();
+  double length = scaled_length();
+  // Where F is hardly sensitive to a variable, the norm of its column alone would give it too much room, in units of
+  // its own start.
+  for (std::size_t j = 0; j < setup_.n; ++j) {
+    if (x_[j] == 0.0F) continue;
+    const double balanced = length / std::fabs(double{x_[j]});
+    largest_norms_[j] = std::max(largest_norms_[j], std::min(balanced, kMostBalance * scale_[j]));
+  }
+  update_scale();
+  length = scaled_length();
+  radius_ = double{setup_.first_radius} * (length > 0.0 ? length : 1.0);
+  return go_on_from_new_point();
+}
+
+int Solver::take_trial_residual(const float* residual) {
+  trial_norm_ = norm_of(setup_.m, residual);
+  if (!std::isfinite(trial_norm_)) return reject_not_finite();
+  std::copy_n(residual, setup_.m, trial_residual_.data());
+  const double quotient = trial_norm_ / norm_;
+  // Far up, the exact amount says nothing.
+  const double actual = quotient < 10.0 ? 1.0 - quotient * quotient : -1.0;
+  if (is_within_noise(actual)) {
+    ++polishing_steps_;
+    return ask(kJacobian, kTrialJacobian);
+  }
+  update_radius(actual, predicted_decrease_);
+  if (actual < kAcceptable * predicted_decrease_) return reject();
+  failed_enlargements_ = 0;
+  return ask(kJacobian, kTrialJacobian);
+}
+
+int Solver::take_trial_jacobian(const float* jacobian) {
+  if (!trial_model_.take(setup_.m, jacobian, trial_residual_.data())) return reject_not_finite();
+  model_.swap(trial_model_);
+  x_.swap(trial_x_);
+  residual_.swap(trial_residual_);
+  norm_ = trial_norm_;
+  update_scale();
+  return go_on_from_new_point();
+}
+
+// At the end of a run the decrease that a step promises is less than the rounding of F in floats, and what is found
+// says nothing. The model still knows better, so a few such steps are taken on its word.
+bool Solver::is_within_noise(double actual) const {
+  return predicted_decrease_ < kNoise && std::fabs(actual) < kNoise && polishing_steps_ < kPolishingSteps;
+}
+
+// F or its Jacobian is not finite at the point tried.
+int Solver::reject_not_finite() {
+  radius_ = kStrongestShrink * std::min(radius_, step_length_);
+  return reject();
+}
+
+int Solver::reject() {
+  failed_enlargements_ += is_enlarged_ ? 1 : 0;
+  return go_on();
+}
+
+int Solver::go_on_from_new_point() {
+  if (norm_ < double{setup_.tolerances.residual}) return stop(kResidualSmall);
+  if (is_singular()) return stop(kJacobianSingular);
+  return go_on();
+}
+
+int Solver::go_on() {
+  if (longest_axis() < double{setup_.tolerances.radius}) return stop(kRadiusSmall);
+  if (iterations_ >= setup_.iteration_limit) return stop(kIterationLimit);
+  return propose();
+}
+
+int Solver::propose() {
+  is_enlarged_ = false;
+  const double* s = find_step();
+  // Floats are too coarse for a short step along a narrow valley; a longer one may still lead down.
+  for (int i = 0; i < kEnlargements && failed_enlargements_ < kFailedEnlargements; ++i) {
+    if (step_.decrease() > 0.0 || step_length_ < (1.0 - 2.0 * kLooseLength) * radius_) break;
+    radius_ *= 2.0;
+    is_enlarged_ = true;
+    s = find_step();
+  }
+  const double decrease = 2.0 * step_.decrease();
+  if (!(decrease > 0.0)) return stop(kDecreaseSmall);
+  const double trial_norm = std::sqrt(std::max(norm_ * norm_ - decrease, 0.0));
+  if (decrease / (norm_ + trial_norm) < double{setup_.tolerances.decrease}) return stop(kDecreaseSmall);
+  if (norm(setup_.n, s) < double{setup_.tolerances.step}) return stop(kStepSmall);
+
+  slope_ = 0.0;
+  for (std::size_t j = 0; j < setup_.n; ++j) slope_ += model_.gradient(j) * s[j] / (norm_ * norm_);
+  predicted_decrease_ = decrease / (norm_ * norm_);
+  if (iterations_ == 0) radius_ = std::min(radius_, step_length_);
+  ++iterations_;
+  std::copy_n(trial_x_.data(), setup_.n, setup_.x);
+  return ask(kResidual, kTrialResidual);
+}
+
+// The step for the present radius, and its length.
+const double* Solver::find_step() {
+  const double* const s =
+      step_.solve(model_, box_, x_.data(), scale_.data(), radius_, step_limits(setup_), trial_x_.data());
+  step_length_ = 0.0;
+  for (std::size_t j = 0; j < setup_.n; ++j) step_length_ = std::hypot(step_length_, scale_[j] * s[j]);
+  return s;
+}
+
+// From the decreases of ||F||^2, relative to it. After a failure: to the minimum of the parabola that has the slope of
+// the model at the start of the step and the value found at its end.
+void Solver::update_radius(double actual, double predicted) {
+  if (actual <= kPoor * predicted) {
+    const double share = actual >= 0.0 ? kMildestShrink : slope_ / (2.0 * slope_ + actual);
+    radius_ = std::clamp(share, kStrongestShrink, kMildestShrink) * std::min(radius_, step_length_ / kStrongestShrink);
+  } else if (actual >= kGood * predicted || step_length_ < (1.0 - kLooseLength) * radius_) {
+    radius_ = box_.is_bounded() ? std::max(radius_, 2.0 * step_length_) : 2.0 * step_length_;
+  }
+}
+
+void Solver::update_scale() {
+  for (std::size_t j = 0; j < setup_.n; ++j) {
+    largest_norms_[j] = std::max(largest_norms_[j], model_.column_norm(j));
+    scale_[j] = largest_norms_[j] > 0.0 ? largest_norms_[j] : 1.0;
+  }
+}
+
+// ||D x||
+double Solver::scaled_length() const {
+  double length = 0.0;
+  for (std::size_t j = 0; j < setup_.n; ++j) length = std::hypot(length, scale_[j] * double{x_[j]});
+  return length;
+}
+
+bool Solver::is_singular() const {
+  for (std::size_t j = 0; j < setup_.n; ++j) {
+    if (model_.column_norm(j) >= double{setup_.tolerances.column}) continue;
+    if (!box_.freezes(j, x_[j], model_.gradient(j))) return true;
+  }
+  return false;
+}
+
+// The largest ||s|| that the ellipsoid admits.
+double Solver::longest_axis() const { return radius_ / *std::min_element(scale_.data(), scale_.data() + setup_.n); }
+
+int Solver::ask(Request request, Stage stage) {
+  stage_ = stage;
+  return request;
+}
+
+int Solver::stop(Request request) {
+  stage_ = kStopped;
+  return request;
+}
+
+int Solver::fail() {
+  failed_ = true;
+  return stop(kIterationLimit);
+}
+
+}  // namespace quorin::trust_region

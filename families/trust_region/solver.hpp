@@ -1,0 +1,100 @@
+// The trust-region iteration, cut at the points where the host computes F or its Jacobian.
+#pragma once
+
+#include <cstddef>
+
+#include "base/handle_table.hpp"
+#include "base/workspace.hpp"
+#include "families/trust_region/box_step.hpp"
+#include "families/trust_region/linear_model.hpp"
+
+namespace quorin::trust_region {
+
+/// What the host is asked for, and why a run ended.
+enum Request {
+  kResidual = 1,
+  kJacobian = 2,
+  kIterationLimit = -1,
+  kRadiusSmall = -2,
+  kResidualSmall = -3,
+  kJacobianSingular = -4,
+  kStepSmall = -5,
+  kDecreaseSmall = -6,
+};
+
+/// When to stop; position k is the host's eps(k+1).
+struct Tolerances {
+  float radius, residual, column, step, decrease, step_precision;
+};
+
+struct Setup {
+  std::size_t n, m;
+  float* x;  // the host's; written with every request
+  Tolerances tolerances;
+  int iteration_limit, step_iteration_limit;
+  float first_radius;          // in units of ||D x||
+  const float *lower, *upper;  // copied; null if there are no bounds
+};
+
+/// Levenberg-Marquardt in its trust-region form, with an ellipsoid ||D s|| <= radius, D being the largest norm so far
+/// of each column of J: More 1978 (see DampedStep), sections 4 to 7. A point where F, or its Jacobian, is not finite is
+/// treated like one where ||F|| has grown: the step is taken back and the radius shrinks.
+class Solver : public base::HandleNode {
+ public:
+  explicit Solver(const Setup& setup);
+  /// False if there was no memory.
+  explicit operator bool() const;
+
+  /// Takes what was asked for and returns the next request; negative ones repeat. False if the host's first F or
+  /// Jacobian is not finite: there is nothing to go back to, and the run ends with kIterationLimit.
+  bool advance(float* residual, const float* jacobian, int* request);
+
+  int iterations() const { return iterations_; }
+  /// 0 during a run, then 1...6 for the requests -1...-6.
+  int stop_criterion() const { return stage_ == kStopped ? -request_ : 0; }
+  float first_norm() const { return static_cast<float>(first_norm_); }
+  float best_norm() const { return static_cast<float>(norm_); }
+
+ private:
+  enum Stage { kStart, kFirstResidual, kFirstJacobian, kTrialResidual, kTrialJacobian, kStopped };
+
+  int leave(const float* residual, const float* jacobian);
+  int start();
+  int take_first_residual(const float* residual);
+  int take_first_jacobian(const float* jacobian);
+  int take_trial_residual(const float* residual);
+  int take_trial_jacobian(const float* jacobian);
+  int reject();
+  int reject_not_finite();
+  int go_on_from_new_point();
+  int go_on();
+  int propose();
+  const double* find_step();
+  bool is_within_noise(double actual) const;
+  void update_scale();
+  void update_radius(double actual, double predicted);
+  double scaled_length() const;
+  bool is_singular() const;
+  double longest_axis() const;
+
+  int ask(Request request, Stage stage);
+  int stop(Request request);
+  int fail();
+
+  Setup setup_;
+  Box box_;
+  base::Workspace<float> bounds_, x_, trial_x_, residual_, trial_residual_;
+  base::Workspace<double> largest_norms_, scale_;
+  LinearModel model_, trial_model_;
+  BoxStep step_;
+
+  Stage stage_ = kStart;
+  int request_ = 0, iterations_ = 0;
+  int failed_enlargements_ = 0, polishing_steps_ = 0;
+  bool is_enlarged_ = false, failed_ = false;
+  double radius_ = 0.0, first_norm_ = 0.0, norm_ = 0.0;
+  // Of the step under way; slope and decrease relative to ||F||^2.
+  double trial_norm_ = 0.0, step_length_ = 0.0, slope_ = 0.0, predicted_decrease_ = 0.0;
+};
+
+}  // namespace quorin::trust_region

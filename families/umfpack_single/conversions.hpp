@@ -1,0 +1,30 @@
+// Between triplets, compressed columns and the transpose. The facade describes arguments and statuses.
+#pragma once
+
+#include "families/umfpack_single/factorization.hpp"
+
+namespace quorin::umfpack_single {
+
+struct Triplets {
+  int nz = 0;
+  const int* Ti = nullptr;
+  const int* Tj = nullptr;
+  FloatInput Tx;
+};
+
+// Where a matrix in compressed form goes.
+struct MatrixOutput {
+  int* Ap = nullptr;
+  int* Ai = nullptr;
+  FloatOutput Ax;
+};
+
+template <class E>
+int triplet_to_col(int n_row, int n_col, const Triplets& T, const MatrixOutput& A, int* Map) noexcept;
+int col_to_triplet(int n_col, const int* Ap, int* Tj) noexcept;
+
+template <class E>
+int transpose(int n_row, int n_col, const Matrix& A, const int* P, const int* Q, const MatrixOutput& R,
+              int do_conjugate) noexcept;
+
+}  // namespace quorin::umfpack_single

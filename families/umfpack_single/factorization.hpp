@@ -1,0 +1,25 @@
+// Symbolic analysis and numerical factorization. The facade describes arguments and statuses.
+#pragma once
+
+#include "families/umfpack_single/values.hpp"
+
+namespace quorin::umfpack_single {
+
+// A matrix in compressed columns as the host gives it.
+struct Matrix {
+  const int* Ap = nullptr;
+  const int* Ai = nullptr;
+  FloatInput Ax;
+};
+
+template <class E>
+int qsymbolic(int n_row, int n_col, const Matrix& A, const int* Qinit, void** Symbolic, const float* Control,
+              float* Info) noexcept;
+template <class E>
+int numeric(const Matrix& A, const void* Symbolic, void** Numeric, const float* Control, float* Info) noexcept;
+
+// Of either family.
+void free_symbolic(void** Symbolic) noexcept;
+void free_numeric(void** Numeric) noexcept;
+
+}  // namespace quorin::umfpack_single

@@ -1,0 +1,36 @@
+// The Info array: 90 floats of the host.
+#pragma once
+
+#include <array>
+
+#include "families/umfpack_single/double_umfpack.hpp"
+
+namespace quorin::umfpack_single {
+
+// Info in double precision for the time of one call. Counts become floats only at the end, and are then rounded to the
+// 24 bits that a float has.
+class Info {
+ public:
+  // For a routine that writes some entries and leaves the others as they are; the host's Info may be null.
+  explicit Info(float* host) noexcept;
+
+  // For the symbolic analysis, which begins with all entries at -1, "not computed".
+  void clear() noexcept { values_.fill(-1); }
+  // What the symbolic analysis says in any case, of the matrix and of this library.
+  void describe(int n_row, int n_col, const int* Ap) noexcept;
+
+  double* data() noexcept { return values_.data(); }
+  const double* data() const noexcept { return values_.data(); }
+
+  // Stores the status and all entries in the host's array, and returns the status.
+  int finish(int status) noexcept;
+
+ private:
+  float* host_;
+  std::array<double, UMFPACK_INFO> values_;
+};
+
+// Only the status changes in the host's Info, which may be null.
+int report_status_in(float* Info, int status) noexcept;
+
+}  // namespace quorin::umfpack_single

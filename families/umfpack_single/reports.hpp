@@ -1,0 +1,32 @@
+// Reports go through the library's text output, in pieces of one format call each. At print level 2 and below, the
+// reports of arrays and objects print and check nothing.
+#pragma once
+
+#include "families/umfpack_single/conversions.hpp"
+
+namespace quorin::umfpack_single {
+
+inline constexpr int kMainVersion = 5, kSubVersion = 1, kSubSubVersion = 0;
+inline constexpr const char* kVersionDate = "May 31, 2007";
+
+// The dependency's print function: its texts as they are, save that they name this interface's version and type of
+// entry, and that values are printed as the floats that they are to the host.
+int print_for_dependency(const char* format, ...) noexcept;
+
+void report_status(const float* Control, int status) noexcept;
+void report_control(const float* Control) noexcept;
+void report_info(const float* Control, const float* Info) noexcept;
+int report_perm(int np, const int* Perm, const float* Control) noexcept;
+
+template <class E>
+int report_matrix(int n_row, int n_col, const Matrix& A, int col_form, const float* Control) noexcept;
+template <class E>
+int report_triplet(int n_row, int n_col, const Triplets& T, const float* Control) noexcept;
+template <class E>
+int report_vector(int n, FloatInput X, const float* Control) noexcept;
+template <class E>
+int report_symbolic(const void* Symbolic, const float* Control) noexcept;
+template <class E>
+int report_numeric(const void* Numeric, const float* Control) noexcept;
+
+}  // namespace quorin::umfpack_single

@@ -1,0 +1,24 @@
+// Solving with a Numeric object. The facade describes arguments and statuses.
+#pragma once
+
+#include "families/umfpack_single/factorization.hpp"
+
+namespace quorin::umfpack_single {
+
+template <class E>
+int solve(int sys, const Matrix& A, FloatOutput X, FloatInput B, const void* Numeric, const float* Control,
+          float* Info) noexcept;
+
+// With Wi, n integers, and W, as many floats as the published interface says: E::kParts * n, or 5 times as many if
+// refinement is asked for (real: 1, 5; complex: 4, 10).
+template <class E>
+int wsolve(int sys, const Matrix& A, FloatOutput X, FloatInput B, const void* Numeric, const float* Control,
+           float* Info, int* Wi, float* W) noexcept;
+
+template <class E>
+int scale(FloatOutput X, FloatInput B, const void* Numeric) noexcept;
+
+template <class E>
+int get_determinant(FloatOutput M, float* Ex, const void* Numeric, float* Info) noexcept;
+
+}  // namespace quorin::umfpack_single
