@@ -52,7 +52,7 @@ quorin_import(reference_blas ${prefix_lapack} LINKS ${fortran_runtime})
 quorin_import(suitesparseconfig ${prefix_suitesparse})
 quorin_import(amd ${prefix_suitesparse} LINKS quorin::suitesparseconfig)
 quorin_import(colamd ${prefix_suitesparse} LINKS quorin::suitesparseconfig)
-# The product exports UMFPACK's names itself, with float arrays: the dependency's keep out of the way as double_<name>.
+# The product exports UMFPACK's names itself, with float arrays: UMFPACK's own keep out of the way as double_<name>.
 include(PrivateUmfpack)
 private_umfpack(${prefix_suitesparse} ${PROJECT_BINARY_DIR}/private)
 quorin_import(umfpack ${PROJECT_BINARY_DIR}/private LINKS quorin::amd quorin::colamd quorin::openblas)

@@ -1,10 +1,9 @@
-// What the factorizations share: a view of a column-major matrix, and functions of real and complex scalars alike.
+// A view of a column-major matrix.
 #pragma once
 
-#include <complex>
 #include <cstddef>
 
-#include "dense/backend/scalar.hpp"
+#include "base/scalar.hpp"
 
 namespace quorin::dense {
 
@@ -22,32 +21,5 @@ class Matrix {
   T* elements_;
   int lda_;
 };
-
-template <Scalar T>
-T conjugate(T x) {
-  if constexpr (kIsComplex<T>) {
-    return std::conj(x);
-  } else {
-    return x;
-  }
-}
-
-template <Scalar T>
-RealOf<T> real_part(T x) {
-  if constexpr (kIsComplex<T>) {
-    return x.real();
-  } else {
-    return x;
-  }
-}
-
-template <Scalar T>
-RealOf<T> imaginary_part(T x) {
-  if constexpr (kIsComplex<T>) {
-    return x.imag();
-  } else {
-    return 0;
-  }
-}
 
 }  // namespace quorin::dense

@@ -1,7 +1,7 @@
 // The engine under the sparse direct solvers, as they see it.
 #pragma once
 
-#include "sparse/elimination_tree.hpp"
-#include "sparse/graph.hpp"
-#include "sparse/minimum_degree.hpp"
-#include "sparse/orderings.hpp"
+#include "sparse/orderings/minimum_degree.hpp"
+#include "sparse/orderings/orderings.hpp"
+#include "sparse/pattern/graph.hpp"
+#include "sparse/symbolic/elimination_tree.hpp"

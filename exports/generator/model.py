@@ -45,7 +45,7 @@ TYPES = {
     ),
 }
 
-# An implementation that is no function of ours: the dependency's Fortran routine of the same name.
+# An implementation that is no function of ours: the published LAPACK's Fortran routine of the same name.
 FORTRAN = "fortran"
 
 IN, OUT, INOUT = "in", "out", "inout"

@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <limits>
 
-#include "families/amos/double_double.hpp"
+#include "families/amos/complex_double_double.hpp"
 
 namespace quorin::amos {
 

@@ -1,7 +1,7 @@
 // The TAUCS family as the exports see it.
 #pragma once
 
-#include "families/taucs/files.hpp"
+#include "families/taucs/files/files.hpp"
 #include "families/taucs/matrix.hpp"
 #include "families/taucs/operations.hpp"
 #include "families/taucs/ordering.hpp"

@@ -21,7 +21,7 @@ int col_to_triplet(int n_col, const int* Ap, int* Tj) noexcept { return umfpack_
 template <class E>
 int transpose(int n_row, int n_col, const Matrix& A, const int* P, const int* Q, const MatrixOutput& R,
               int do_conjugate) noexcept {
-  // The dependency says what is wrong with starts that are not sound; nothing is read through them here.
+  // UMFPACK says what is wrong with starts that are not sound; nothing is read through them here.
   const bool has_values = n_row > 0 && has_valid_starts(n_col, A.Ap) && A.Ai != nullptr && A.Ax && R.Ax;
   const std::size_t nz = has_values ? length(A.Ap[n_col]) : 0;
   const Doubles<E> Ax(has_values ? A.Ax : FloatInput{}, nz);

@@ -7,7 +7,7 @@
 
 namespace quorin::umfpack_single {
 
-// Values of the dependency: kParts doubles an entry, real part first, or null.
+// Values of UMFPACK: kParts doubles an entry, real part first, or null.
 template <class T>
 struct Entries {
   T* x = nullptr;

@@ -18,7 +18,7 @@ void hand_over(Object* object, void** handle) noexcept {
   }
 }
 
-// What the dependency makes of the matrix that was analysed before, in `object->contents`.
+// What UMFPACK makes of the matrix that was analysed before, in `object->contents`.
 template <class E>
 int factorize(const Matrix& A, const Object& symbolic, Object* object, const float* Control, double* info) noexcept {
   const bool has_all = A.Ap != nullptr && A.Ai != nullptr && A.Ax;
@@ -54,7 +54,7 @@ int qsymbolic(int n_row, int n_col, const Matrix& A, const int* Qinit, void** Sy
   info.clear();
   if (Symbolic != nullptr) *Symbolic = nullptr;
   Object* const object = create_object(kSymbolicOf<E>);
-  // Nothing is read through starts that are not sound; the dependency then says what is wrong with them.
+  // Nothing is read through starts that are not sound; UMFPACK then says what is wrong with them.
   const bool is_readable = n_row > 0 && A.Ai != nullptr && has_valid_starts(n_col, A.Ap);
   const int nz = is_readable ? A.Ap[n_col] : 0;
   const Doubles<E> Ax(is_readable ? A.Ax : FloatInput{}, length(nz));

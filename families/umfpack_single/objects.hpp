@@ -18,7 +18,7 @@ inline constexpr Kind kNumericOf = E::kParts == 1 ? Kind::kRealNumeric : Kind::k
 
 struct Object : base::HandleNode {
   Kind kind = Kind::kRealSymbolic;
-  void* contents = nullptr;  // the dependency's object
+  void* contents = nullptr;  // UMFPACK's object
   int n_row = 0, n_col = 0;
   int nz = 0;                     // Symbolic: entries of the matrix
   std::uint64_t fingerprint = 0;  // Symbolic: of its pattern
@@ -29,12 +29,12 @@ struct Object : base::HandleNode {
 Object* create_object(Kind kind) noexcept;
 // Gives an object a handle.
 void* publish(Object* object) noexcept;
-// Frees an object that has no handle, with what the dependency made for it.
+// Frees an object that has no handle, with what UMFPACK made for it.
 void destroy(Object* object) noexcept;
 
 // The object of a handle, or null if there is none of this kind.
 Object* find(const void* handle, Kind kind) noexcept;
-// The dependency's object behind a handle, or null, which the dependency refuses.
+// UMFPACK's object behind a handle, or null, which UMFPACK refuses.
 inline void* contents(const void* handle, Kind kind) noexcept {
   const Object* const object = find(handle, kind);
   return object != nullptr ? object->contents : nullptr;

@@ -13,7 +13,7 @@
 namespace quorin::umfpack_single {
 namespace {
 
-// What the dependency says of itself, and what is true of this interface.
+// What UMFPACK says of itself, and what is true of this interface.
 struct Replacement {
   const char* theirs;
   const char* ours;

@@ -9,7 +9,7 @@ namespace quorin::umfpack_single {
 inline constexpr int kMainVersion = 5, kSubVersion = 1, kSubSubVersion = 0;
 inline constexpr const char* kVersionDate = "May 31, 2007";
 
-// The dependency's print function: its texts as they are, save that they name this interface's version and type of
+// UMFPACK's print function: its texts as they are, save that they name this interface's version and type of
 // entry, and that values are printed as the floats that they are to the host.
 int print_for_dependency(const char* format, ...) noexcept;
 

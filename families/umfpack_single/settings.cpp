@@ -28,12 +28,12 @@ int print_level(const float* Control) noexcept { return whole_setting(Control, U
 
 Settings::Settings(const float* Control) noexcept {
   umfpack_di_defaults(control_);
-  // The dependency has more precise defaults; a host that passes no Control gets those.
+  // UMFPACK has more precise defaults; a host that passes no Control gets those.
   if (Control != nullptr) {
     for (const int i : {UMFPACK_PIVOT_TOLERANCE, UMFPACK_SYM_PIVOT_TOLERANCE, UMFPACK_DROPTOL, UMFPACK_FIXQ}) {
       control_[i] = static_cast<double>(setting(Control, i));
     }
-    // The dependency turns these into integers, some after a multiplication: keep them where that is defined.
+    // UMFPACK turns these into integers, some after a multiplication: keep them where that is defined.
     constexpr double kMostUnits = 1 << 30, kMostDense = 1e4;
     for (const int i : {UMFPACK_ALLOC_INIT, UMFPACK_FRONT_ALLOC_INIT, UMFPACK_AGGRESSIVE}) {
       control_[i] = std::clamp(static_cast<double>(setting(Control, i)), -kMostUnits, kMostUnits);

@@ -5,7 +5,7 @@
 
 namespace quorin::umfpack_single {
 
-// Entries that the dependency's release no longer has, or means something else by.
+// Entries that UMFPACK's release no longer has, or means something else by.
 inline constexpr int kMexControl = 9;
 inline constexpr int kTimerControl = 10;
 inline constexpr int kDebugControl = 11;
@@ -46,7 +46,7 @@ float setting(const float* Control, int index) noexcept;
 int whole_setting(const float* Control, int index) noexcept;
 int print_level(const float* Control) noexcept;
 
-// What the dependency gets for a host's Control.
+// What UMFPACK gets for a host's Control.
 class Settings {
  public:
   explicit Settings(const float* Control) noexcept;

@@ -11,7 +11,7 @@ namespace quorin::umfpack_single {
 
 namespace {
 
-// Whether the dependency reads the matrix, for iterative refinement.
+// Whether UMFPACK reads the matrix, for iterative refinement.
 bool is_refined(int sys, const Object& numeric, const float* Control) noexcept {
   return sys >= UMFPACK_A && sys <= UMFPACK_Aat && whole_setting(Control, UMFPACK_IRSTEP) > 0 && !numeric.is_singular;
 }

@@ -12,7 +12,7 @@
 
 namespace quorin::umfpack_single {
 
-// Called once, at load: gives the dependency, with AMD and COLAMD, the library's allocator and text output.
+// Called once, at load: gives UMFPACK, with AMD and COLAMD, the library's allocator and text output.
 void start() noexcept;
 
 // Of both families.

@@ -1,4 +1,4 @@
-// Values on their way between the host's float arrays and the dependency's double arrays.
+// Values on their way between the host's float arrays and UMFPACK's double arrays.
 #pragma once
 
 #include <cstddef>

@@ -1,4 +1,4 @@
-// The reference BLAS of the dependency under its Fortran names: the oracle.
+// The reference BLAS under its Fortran names: the oracle.
 #pragma once
 
 #include <complex>

@@ -146,7 +146,7 @@ TEST_F(Threads, RankUpdatesOfOneTriangle) {
   }
 }
 
-// Kernels of our own where the vector along the columns has unit stride, the dependency's elsewhere.
+// Kernels of our own where the vector along the columns has unit stride, OpenBLAS's elsewhere.
 TEST_F(Threads, MatrixVectorOperations) {
   const std::int32_t rows = 2100, columns = 450, lead = 2103;
   const std::vector<float> big = random_vector(2UL * 2103 * 450), x = random_vector(2UL * 2 * 2100),

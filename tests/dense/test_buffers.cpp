@@ -1,5 +1,5 @@
 // The packing buffers: no buffer is ever in two hands, and none gets lost.
-#include "dense/backend/buffers.hpp"
+#include "dense/openblas/buffers.hpp"
 
 #include <gtest/gtest.h>
 
@@ -10,13 +10,13 @@
 
 #include "base/parallel.hpp"
 
-// What the dependency calls.
+// What OpenBLAS calls.
 extern "C" {
 void* blas_memory_alloc(int position);
 void blas_memory_free(void* buffer);
 }
 
-namespace quorin::dense::backend {
+namespace quorin::dense::openblas {
 namespace {
 
 class Buffers : public testing::Test {
@@ -102,4 +102,4 @@ TEST_F(Buffers, ManyThreadsNeverShareOne) {
 }
 
 }  // namespace
-}  // namespace quorin::dense::backend
+}  // namespace quorin::dense::openblas

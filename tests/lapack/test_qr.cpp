@@ -1,5 +1,5 @@
 // The QR factorization of our own: R and reflectors as LAPACK's other routines and the published routine itself (both
-// of the dependency, on the reference BLAS) understand them. Errors are multiples of the unit roundoff (Higham,
+// of LAPACK, on the reference BLAS) understand them. Errors are multiples of the unit roundoff (Higham,
 // Accuracy and Stability of Numerical Algorithms, 2nd ed., theorem 19.4).
 #include <algorithm>
 #include <cmath>

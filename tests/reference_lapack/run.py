@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Runs LAPACK's own test programs on their inputs and holds their reports against the dependency's own.
+"""Runs LAPACK's own test programs on their inputs and holds their reports against the published LAPACK's own.
 
 run.py --inputs DIR --programs PREFIX --known FILE [--emulator COMMAND] [--totals FILE] NAME...
 

@@ -10,8 +10,8 @@
 #include <random>
 #include <string>
 
-#include "families/taucs/fixed_fields.hpp"
-#include "families/taucs/number_parser.hpp"
+#include "families/taucs/files/fixed_fields.hpp"
+#include "families/taucs/files/number_parser.hpp"
 
 namespace quorin::taucs {
 namespace {

@@ -1,5 +1,5 @@
 // The k-th allocation of a call fails, alone or with all after it, for k = 1, 2, ... until the call no longer notices.
-// The dependency recovers from some failures itself, so a call may succeed all the same.
+// UMFPACK recovers from some failures itself, so a call may succeed all the same.
 #include <algorithm>
 #include <functional>
 #include <vector>

@@ -67,7 +67,7 @@ void compare(const Matrix& A, bool* is_singular) {
   const bool is_square = A.n_row == A.n_col;
   const RightHandSide b = is_square ? RightHandSide(A) : RightHandSide(Matrix());
   const Floats bx = rounded(b.x), bz = rounded(b.z);
-  // What the dependency makes of the rounded matrix, with the more precise defaults that it gives itself.
+  // What UMFPACK makes of the rounded matrix, with the more precise defaults that it gives itself.
   Matrix rounded_A = A;
   rounded_A.Ax = widened(host.Ax);
   rounded_A.Az = widened(host.Az);

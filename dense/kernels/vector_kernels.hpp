@@ -1,0 +1,167 @@
+// Loops over vectors of unit stride, four floats at a time: OpenBLAS's kernels for 32-bit processors go float by
+// float here.
+#pragma once
+
+#include <array>
+#include <cmath>
+#include <complex>
+#include <cstddef>
+
+#include "dense/kernels/lanes.hpp"
+
+namespace quorin::dense::kernels {
+
+template <bool kConjugate, Scalar T>
+T maybe_conjugate(T value) noexcept {
+  if constexpr (kConjugate && kIsComplex<T>) {
+    return std::conj(value);
+  } else {
+    return value;
+  }
+}
+
+template <Scalar T>
+T maybe_conjugate(bool conjugate, T value) noexcept {
+  return conjugate ? maybe_conjugate<true>(value) : value;
+}
+
+// y <- y + s x
+template <Scalar T>
+void axpy(std::ptrdiff_t n, T s, const T* x, T* y) noexcept {
+  constexpr int kStep = kElements<T>;
+  const Factor<T> times(s);
+  std::ptrdiff_t i = 0;
+  for (; i + 2 * kStep <= n; i += 2 * kStep) {
+    const Lanes first = load(y + i) + times(load(x + i));
+    const Lanes second = load(y + i + kStep) + times(load(x + i + kStep));
+    store(y + i, first);
+    store(y + i + kStep, second);
+  }
+  for (; i < n; ++i) y[i] += product(s, x[i]);
+}
+
+// x^T y or x^H y
+template <bool kConjugate, Scalar T>
+T dot(std::ptrdiff_t n, const T* x, const T* y) noexcept {
+  constexpr int kStep = kElements<T>, kSums = kIsComplex<T> ? 2 : 4;  // so many that additions overlap
+  std::array<ProductSum<T>, kSums> sums;
+  std::ptrdiff_t i = 0;
+  for (; i + kSums * kStep <= n; i += kSums * kStep) {
+    for (int k = 0; k < kSums; ++k) {
+      sums[static_cast<std::size_t>(k)].add(load(x + i + k * kStep), load(y + i + k * kStep));
+    }
+  }
+  T rest{};
+  for (; i < n; ++i) rest += product(maybe_conjugate<kConjugate>(x[i]), y[i]);
+  for (std::size_t k = 1; k < kSums; ++k) sums[0].add(sums[k]);
+  return sums[0].template value<kConjugate>() + rest;
+}
+
+template <Scalar T>
+T dot(bool conjugate, std::ptrdiff_t n, const T* x, const T* y) noexcept {
+  return conjugate ? dot<true>(n, x, y) : dot<false>(n, x, y);
+}
+
+// y <- y + s a, and returns a^H x: what a column of a Hermitian matrix does to both halves of a product.
+template <Scalar T>
+T axpy_and_dot(std::ptrdiff_t n, T s, const T* a, const T* x, T* y) noexcept {
+  constexpr int kStep = kElements<T>;
+  const Factor<T> times(s);
+  ProductSum<T> sum, other;
+  std::ptrdiff_t i = 0;
+  for (; i + 2 * kStep <= n; i += 2 * kStep) {
+    const Lanes first = load(a + i), second = load(a + i + kStep);
+    sum.add(first, load(x + i));
+    other.add(second, load(x + i + kStep));
+    store(y + i, load(y + i) + times(first));
+    store(y + i + kStep, load(y + i + kStep) + times(second));
+  }
+  T rest{};
+  for (; i < n; ++i) {
+    rest += product(maybe_conjugate<true>(a[i]), x[i]);
+    y[i] += product(s, a[i]);
+  }
+  sum.add(other);
+  return sum.template value<true>() + rest;
+}
+
+// x <- c x + s y and y <- c y - s x, for real c and s.
+template <Scalar T>
+void rot(std::ptrdiff_t n, T* x, T* y, RealOf<T> c, RealOf<T> s) noexcept {
+  constexpr int kStep = kElements<T>;
+  const Lanes all_c = Lanes{} + c, all_s = Lanes{} + s;
+  std::ptrdiff_t i = 0;
+  for (; i + kStep <= n; i += kStep) {
+    const Lanes xi = load(x + i), yi = load(y + i);
+    store(x + i, all_c * xi + all_s * yi);
+    store(y + i, all_c * yi - all_s * xi);
+  }
+  for (; i < n; ++i) {
+    const T rotated = c * x[i] + s * y[i];
+    y[i] = c * y[i] - s * x[i];
+    x[i] = rotated;
+  }
+}
+
+inline float magnitude(float x) noexcept { return std::abs(x); }
+inline float magnitude(std::complex<float> x) noexcept { return std::abs(x.real()) + std::abs(x.imag()); }
+
+// The magnitudes of the elements in four lanes; those of complex numbers stand there twice.
+template <Scalar T>
+Lanes magnitudes(Lanes x) noexcept {
+  const Lanes positive = x > -x ? x : -x;
+  if constexpr (kIsComplex<T>) {
+    return positive + exchanged(positive);
+  } else {
+    return positive;
+  }
+}
+
+// The first position for which no other element's magnitude is `better`, as in the published loop: a NaN is passed
+// over, but as the first element it is the answer. Blocks without a better magnitude are not looked at twice.
+template <Scalar T, class Better>
+std::ptrdiff_t first_extreme(std::ptrdiff_t n, const T* x, const Better& better) noexcept {
+  constexpr int kStep = kElements<T>, kBlock = 64;
+  float extreme = magnitude(x[0]);
+  std::ptrdiff_t position = 0, i = 0;
+  const auto scan = [&](std::ptrdiff_t end) {
+    for (; i < end; ++i) {
+      if (!better(magnitude(x[i]), extreme)) continue;
+      extreme = magnitude(x[i]);
+      position = i;
+    }
+  };
+  while (i + kBlock <= n) {
+    const Lanes known = Lanes{} + extreme;
+    Lanes best = known;
+    for (int k = 0; k < kBlock; k += kStep) {
+      const Lanes values = magnitudes<T>(load(x + i + k));
+      best = better(values, best) ? values : best;
+    }
+    const auto is_better = better(best, known);
+    if ((is_better[0] | is_better[1] | is_better[2] | is_better[3]) != 0) {
+      scan(i + kBlock);
+    } else {
+      i += kBlock;
+    }
+  }
+  scan(n);
+  return position;
+}
+
+// Floats: their squares, and the sums of these, neither overflow nor underflow in double precision.
+inline double sum_of_squares_in_double(std::ptrdiff_t n, const float* x) noexcept {
+  constexpr int kSums = 8;
+  double sums[kSums] = {};
+  std::ptrdiff_t i = 0;
+  for (; i + kSums <= n; i += kSums) {
+    for (int k = 0; k < kSums; ++k) sums[k] += static_cast<double>(x[i + k]) * x[i + k];
+  }
+  for (; i < n; ++i) sums[0] += static_cast<double>(x[i]) * x[i];
+  for (int half = kSums / 2; half > 0; half /= 2) {
+    for (int k = 0; k < half; ++k) sums[k] += sums[k + half];
+  }
+  return sums[0];
+}
+
+}  // namespace quorin::dense::kernels

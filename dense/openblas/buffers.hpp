@@ -1,0 +1,57 @@
+// The packing buffers of OpenBLAS.
+//
+// OpenBLAS asks for a buffer in the middle of a computation and cannot be told that there is none: its own
+// allocator then tries for ever. So its allocator is replaced by this one, and every call reserves its buffers before
+// it begins. Buffers come from the library's allocator, are kept for the next call, and are given back by
+// trim_buffers().
+#pragma once
+
+#include <cstddef>
+
+namespace quorin::dense::openblas {
+
+#if defined(__i386__)
+inline constexpr std::size_t kBufferBytes = std::size_t{16} << 20;
+#else
+// Address space, not memory: pages are touched as the blocking of the kernels needs them.
+inline constexpr std::size_t kBufferBytes = std::size_t{128} << 20;
+#endif
+
+struct FreeBuffer;
+
+// Prepares and gives back the thread slot in which a call keeps its buffer; called at load and unload. Without the slot
+// all works, with more locking.
+void start_buffers() noexcept;
+void stop_buffers() noexcept;
+
+// Keeps up to `wanted` buffers ready for OpenBLAS while it lives: one for each thread of the parallel region that
+// the caller is about to run. A single buffer is held at hand for the calling thread, so that small operations need no
+// lock; a reservation inside another one of the same thread shares its buffer.
+class BufferReservation {
+ public:
+  explicit BufferReservation(int wanted) noexcept;
+  ~BufferReservation();
+  BufferReservation(const BufferReservation&) = delete;
+  BufferReservation& operator=(const BufferReservation&) = delete;
+
+  // How many threads may call OpenBLAS; 0 if there is no memory for a single one.
+  int granted() const noexcept { return granted_; }
+
+  bool can_lend() const noexcept { return own_ != nullptr && !own_is_lent_; }
+  // The buffer held for this thread, unless it has been lent already.
+  void* lend() noexcept;
+  // Whether `buffer` is the one held, and thereby back.
+  bool take_back(const void* buffer) noexcept;
+
+ private:
+  int granted_ = 0;
+  int promised_ = 0;
+  FreeBuffer* own_ = nullptr;
+  bool own_is_lent_ = false;
+  BufferReservation* outer_ = nullptr;
+};
+
+// Frees the buffers that no call has reserved. Safe at any time.
+void trim_buffers() noexcept;
+
+}  // namespace quorin::dense::openblas

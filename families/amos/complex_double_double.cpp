@@ -1,0 +1,95 @@
+#include "families/amos/complex_double_double.hpp"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "families/amos/tables/tables.hpp"
+
+namespace quorin::amos {
+namespace {
+
+constexpr DoubleDouble kThird{0.3333333333333333, 1.850371707708594e-17};
+
+// x + sign x^3/3 + x^5/5 + ..., |x| < 0.013: artanh x (sign 1) or arctan x (sign -1). From x^5 on a double is enough.
+DoubleDouble odd_series(DoubleDouble x, double sign) {
+  const DoubleDouble x2 = x * x;
+  const double y = sign * x2.hi;
+  const double rest = y * y * (0.2 + y * (1.0 / 7.0 + y * (1.0 / 9.0 + y / 11.0)));
+  return x + x * (x2 * kThird * sign + DoubleDouble{rest, 0.0});
+}
+
+DoubleDouble entry(const double* table, int i) { return {table[2 * i], table[2 * i + 1]}; }
+
+// log x for 1 <= x <= 8: x is divided by the nearest 2^(steps/64), and the rest is near 1.
+DoubleDouble log(DoubleDouble x) {
+  const int steps = static_cast<int>(std::nearbyint(64.0 * std::log2(x.hi)));
+  const int power = (steps + 32) / 64;
+  const int fraction = steps - 64 * power;  // -32 to 32
+  const DoubleDouble ratio = x * entry(tables::kExponential.data(), 32 - fraction) * std::scalbn(1.0, -power);
+  const DoubleDouble difference = ratio - kOne;
+  const DoubleDouble u = difference / (difference + DoubleDouble{2.0, 0.0});
+  return kLn2 * (steps / 64.0) + odd_series(u, 1.0) * 2.0;
+}
+
+// arg q: q is turned by the nearest multiple of pi/128, and what is left is a small angle.
+DoubleDouble angle(const ComplexDoubleDouble& q) {
+  const double rough = std::atan2(q.im.hi, q.re.hi);
+  const int steps = static_cast<int>(std::nearbyint(rough * (64.0 / kHalfPi.hi)));
+  const int quarters = (steps + 64 * 4 + 32) / 64 - 4;
+  const int fraction = steps - 64 * quarters;  // -32 to 32
+  const ComplexDoubleDouble turned = quarters == 0    ? q
+                                     : quarters == 1  ? ComplexDoubleDouble{q.im, -q.re}
+                                     : quarters == -1 ? ComplexDoubleDouble{-q.im, q.re}
+                                                      : -q;
+  const DoubleDouble sine = entry(tables::kSine.data(), std::abs(fraction));
+  const ComplexDoubleDouble back{entry(tables::kCosine.data(), std::abs(fraction)), fraction > 0 ? -sine : sine};
+  const ComplexDoubleDouble rest = turned * back;
+  return kHalfPi * (steps / 64.0) + odd_series(rest.im / rest.re, -1.0);
+}
+
+}  // namespace
+
+ComplexDoubleDouble sqrt(const ComplexDoubleDouble& a) {
+  const DoubleDouble modulus = sqrt(a.re * a.re + a.im * a.im);
+  if (modulus.hi == 0.0) return {};
+  // The larger part from |a| + |Re a|, the other one from the product 2 Re(s) Im(s) = Im(a): nothing cancels.
+  const bool right = a.re.hi >= 0.0;
+  const DoubleDouble larger = sqrt((modulus + (right ? a.re : -a.re)) * 0.5);
+  const DoubleDouble smaller = a.im / (larger * 2.0);
+  if (right) return {larger, smaller};
+  const bool below = a.im.hi < 0.0;
+  return {below ? -smaller : smaller, below ? -larger : larger};
+}
+
+ComplexDoubleDouble log(const ComplexDoubleDouble& a) {
+  const double size = std::max(std::fabs(a.re.hi), std::fabs(a.im.hi));
+  const int exponent = std::ilogb(size);
+  const auto scaled = [exponent](DoubleDouble x) {
+    return DoubleDouble{std::scalbn(x.hi, -exponent), std::scalbn(x.lo, -exponent)};
+  };
+  const ComplexDoubleDouble q{scaled(a.re), scaled(a.im)};
+  const DoubleDouble log_norm = log(q.re * q.re + q.im * q.im);
+  return {log_norm * 0.5 + kLn2 * static_cast<double>(exponent), angle(q)};
+}
+
+ComplexDoubleDouble exp(const ComplexDoubleDouble& a) {
+  // a = (p ln 2 + i q pi/2) / 64 + rest, p and q taken apart into a whole part and what the tables have.
+  const double p = std::nearbyint(a.re.hi * (64.0 / kLn2.hi));
+  const double q = std::nearbyint(a.im.hi * (64.0 / kHalfPi.hi));
+  const ComplexDoubleDouble rest{a.re - kLn2 * (p / 64.0), a.im - kHalfPi * (q / 64.0)};
+  const double power = std::nearbyint(p / 64.0), quarters = std::nearbyint(q / 64.0);
+  const int fraction = static_cast<int>(q - 64.0 * quarters);  // -32 to 32
+  constexpr int kTerms = 14;                                   // 0.014^15 / 15! < 1e-33
+  ComplexDoubleDouble sum{kOne, {}};
+  for (int k = kTerms; k > 0; --k) {
+    sum = rest * sum / DoubleDouble{static_cast<double>(k), 0.0};
+    sum.re = sum.re + kOne;
+  }
+  const DoubleDouble sine = entry(tables::kSine.data(), std::abs(fraction));
+  ComplexDoubleDouble turn{entry(tables::kCosine.data(), std::abs(fraction)), fraction < 0 ? -sine : sine};
+  for (int k = static_cast<int>(std::fmod(quarters, 4.0)) & 3; k > 0; --k) turn = {-turn.im, turn.re};
+  const DoubleDouble size = entry(tables::kExponential.data(), 32 + static_cast<int>(p - 64.0 * power));
+  return turn * sum * size * std::scalbn(1.0, static_cast<int>(power));
+}
+
+}  // namespace quorin::amos

@@ -1,0 +1,29 @@
+// The elimination tree of a symmetric matrix and the size of its Cholesky factor, without computing the factor.
+#pragma once
+
+#include <cstdint>
+
+#include "sparse/pattern/graph.hpp"
+
+namespace quorin::sparse {
+
+inline constexpr int kNone = -1;
+
+// The tree of P A P^T, where the graph is A's: parent[k] is the row of the first entry below the diagonal in column k
+// of the factor, kNone at a root. Nodes are steps of the ordering. `scratch`: n. Time: O(edges log n), near linear in
+// practice. Liu, ACM TOMS 12 (1986).
+void elimination_tree(const Graph& graph, const Ordering& ordering, int* parent, int* scratch) noexcept;
+
+// Nodes in an order in which children come before their parents and every subtree is contiguous: order[k] is the k-th.
+// `scratch`: 2 n. No recursion: trees may be as deep as they have nodes.
+void postorder(int n, const int* parent, int* order, int* scratch) noexcept;
+
+// The entries of each column of the factor, diagonal included. `order` is a postorder of the tree; `scratch`: 4 n.
+// Time: as the tree's. Gilbert, Ng & Peyton, SIAM J. Matrix Anal. Appl. 15 (1994).
+void column_counts(const Graph& graph, const Ordering& ordering, const int* parent, const int* order, int* counts,
+                   int* scratch) noexcept;
+
+// The entries of the factor, diagonal included, or -1 if there is no memory.
+std::int64_t factor_entries(const Graph& graph, const Ordering& ordering) noexcept;
+
+}  // namespace quorin::sparse
