@@ -1,7 +1,9 @@
-# quorin_add_test_program(NAME SOURCE ...): a program beside the product, which it runs against without an installation.
+# quorin_add_test_program(NAME [ENGINE] SOURCE ...): a program beside the product, which it runs against without an
+# installation. With ENGINE it is compiled with the product's own flags, because it shares inline functions with it.
 function(quorin_add_test_program name)
-  add_executable(${name} ${ARGN})
-  target_link_libraries(${name} PRIVATE quorin_flags)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "ENGINE" "" "")
+  add_executable(${name} ${arg_UNPARSED_ARGUMENTS})
+  target_link_libraries(${name} PRIVATE $<IF:$<BOOL:${arg_ENGINE}>,quorin_flags,quorin_test_flags>)
   target_compile_definitions(${name} PRIVATE QUORIN_PRODUCT_FILE="$<TARGET_FILE_NAME:quorin_lapacks>")
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
   if(WIN32)
@@ -16,7 +18,11 @@ endfunction()
 # tests/support/host_module.hpp).
 function(quorin_add_test name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "ENGINE;HOST" "TIMEOUT" "SOURCES;LINKS;ARGS")
-  quorin_add_test_program(${name} ${arg_SOURCES})
+  set(engine "")
+  if(arg_ENGINE)
+    set(engine ENGINE)
+  endif()
+  quorin_add_test_program(${name} ${engine} ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE GTest::gtest_main ${arg_LINKS})
   if(arg_ENGINE)
     target_link_libraries(${name} PRIVATE quorin_engine)
