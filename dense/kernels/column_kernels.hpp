@@ -5,7 +5,7 @@
 #include <array>
 #include <type_traits>
 
-#include "dense/kernels/lanes.hpp"
+#include "base/lanes.hpp"
 #include "dense/matrix.hpp"
 
 namespace quorin::dense {
@@ -30,7 +30,7 @@ std::array<T, kColumns> project(int rows, const T* x, Matrix<T> c) {
   std::array<ProductSum<T>, kColumns> sums;
   int i = 0;
   for (; i + kElements<T> <= rows; i += kElements<T>) {
-    const Lanes xi = load(x + i);
+    const auto xi = load(x + i);
     for (int k = 0; k < kColumns; ++k) sums[k].add(xi, load(c.column(k) + i));
   }
   std::array<T, kColumns> totals;
@@ -48,7 +48,7 @@ void subtract_multiples(int rows, const T* x, const std::array<T, kColumns>& f, 
   for (int k = 0; k < kColumns; ++k) factors[k] = Factor<T>(f[k]);
   int i = 0;
   for (; i + kElements<T> <= rows; i += kElements<T>) {
-    const Lanes xi = load(x + i);
+    const auto xi = load(x + i);
     for (int k = 0; k < kColumns; ++k) {
       T* const target = c.column(k) + i;
       store(target, load(target) - factors[k](xi));
@@ -72,16 +72,15 @@ void scale_column(int rows, T f, T* x) {
 template <Scalar T>
 float sum_of_squares(int rows, const T* x) {
   constexpr int kUnroll = 4, kStep = kUnroll * kElements<T>;
-  Lanes sums[kUnroll] = {};
+  Lanes<RealOf<T>> sums[kUnroll] = {};
   int i = 0;
   for (; i + kStep <= rows; i += kStep) {
     for (int u = 0; u < kUnroll; ++u) {
-      const Lanes xi = load(x + i + u * kElements<T>);
+      const auto xi = load(x + i + u * kElements<T>);
       sums[u] += xi * xi;
     }
   }
-  const Lanes sum = (sums[0] + sums[1]) + (sums[2] + sums[3]);
-  float total = (sum[0] + sum[2]) + (sum[1] + sum[3]);
+  float total = sum_of_lanes<float>((sums[0] + sums[1]) + (sums[2] + sums[3]));
   for (; i < rows; ++i) {
     total += real_part(x[i]) * real_part(x[i]);
     if constexpr (kIsComplex<T>) total += x[i].imag() * x[i].imag();

@@ -47,7 +47,7 @@ void add_columns(int m, const T* a, int lda, const std::array<T, kCount>& s, T* 
   (std::make_index_sequence<kCount>{});
   int i = 0;
   for (; i + kStep <= m; i += kStep) {
-    Lanes sum = load(y + i);
+    Lanes<RealOf<T>> sum = load(y + i);
     for (std::size_t k = 0; k < kCount; ++k) sum += times[k](load(column(a, lda, static_cast<int>(k)) + i));
     store(y + i, sum);
   }
@@ -64,7 +64,7 @@ std::array<T, kCount> dot_columns(int m, const T* a, int lda, const T* x) noexce
   std::array<T, kCount> results{};
   int i = 0;
   for (; i + kStep <= m; i += kStep) {
-    const Lanes xi = load(x + i);
+    const auto xi = load(x + i);
     for (std::size_t k = 0; k < kCount; ++k) sums[k].add(load(column(a, lda, static_cast<int>(k)) + i), xi);
   }
   for (; i < m; ++i) {

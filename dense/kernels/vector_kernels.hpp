@@ -7,7 +7,7 @@
 #include <complex>
 #include <cstddef>
 
-#include "dense/kernels/lanes.hpp"
+#include "base/lanes.hpp"
 
 namespace quorin::dense::kernels {
 
@@ -32,8 +32,8 @@ void axpy(std::ptrdiff_t n, T s, const T* x, T* y) noexcept {
   const Factor<T> times(s);
   std::ptrdiff_t i = 0;
   for (; i + 2 * kStep <= n; i += 2 * kStep) {
-    const Lanes first = load(y + i) + times(load(x + i));
-    const Lanes second = load(y + i + kStep) + times(load(x + i + kStep));
+    const auto first = load(y + i) + times(load(x + i));
+    const auto second = load(y + i + kStep) + times(load(x + i + kStep));
     store(y + i, first);
     store(y + i + kStep, second);
   }
@@ -70,7 +70,7 @@ T axpy_and_dot(std::ptrdiff_t n, T s, const T* a, const T* x, T* y) noexcept {
   ProductSum<T> sum, other;
   std::ptrdiff_t i = 0;
   for (; i + 2 * kStep <= n; i += 2 * kStep) {
-    const Lanes first = load(a + i), second = load(a + i + kStep);
+    const auto first = load(a + i), second = load(a + i + kStep);
     sum.add(first, load(x + i));
     other.add(second, load(x + i + kStep));
     store(y + i, load(y + i) + times(first));
@@ -89,10 +89,10 @@ T axpy_and_dot(std::ptrdiff_t n, T s, const T* a, const T* x, T* y) noexcept {
 template <Scalar T>
 void rot(std::ptrdiff_t n, T* x, T* y, RealOf<T> c, RealOf<T> s) noexcept {
   constexpr int kStep = kElements<T>;
-  const Lanes all_c = Lanes{} + c, all_s = Lanes{} + s;
+  const auto all_c = Lanes<RealOf<T>>{} + c, all_s = Lanes<RealOf<T>>{} + s;
   std::ptrdiff_t i = 0;
   for (; i + kStep <= n; i += kStep) {
-    const Lanes xi = load(x + i), yi = load(y + i);
+    const auto xi = load(x + i), yi = load(y + i);
     store(x + i, all_c * xi + all_s * yi);
     store(y + i, all_c * yi - all_s * xi);
   }
@@ -108,8 +108,8 @@ inline float magnitude(std::complex<float> x) noexcept { return std::abs(x.real(
 
 // The magnitudes of the elements in four lanes; those of complex numbers stand there twice.
 template <Scalar T>
-Lanes magnitudes(Lanes x) noexcept {
-  const Lanes positive = x > -x ? x : -x;
+Lanes<RealOf<T>> magnitudes(Lanes<RealOf<T>> x) noexcept {
+  const auto positive = x > -x ? x : -x;
   if constexpr (kIsComplex<T>) {
     return positive + exchanged(positive);
   } else {
@@ -132,10 +132,10 @@ std::ptrdiff_t first_extreme(std::ptrdiff_t n, const T* x, const Better& better)
     }
   };
   while (i + kBlock <= n) {
-    const Lanes known = Lanes{} + extreme;
-    Lanes best = known;
+    const auto known = Lanes<RealOf<T>>{} + extreme;
+    Lanes<RealOf<T>> best = known;
     for (int k = 0; k < kBlock; k += kStep) {
-      const Lanes values = magnitudes<T>(load(x + i + k));
+      const auto values = magnitudes<T>(load(x + i + k));
       best = better(values, best) ? values : best;
     }
     const auto is_better = better(best, known);
