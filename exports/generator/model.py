@@ -4,11 +4,13 @@ from __future__ import annotations
 
 import re
 from dataclasses import dataclass, field
+from fnmatch import fnmatchcase
+from pathlib import PurePath
 
 
 @dataclass(frozen=True)
 class ElementType:
-    """A type that rows may name."""
+    """A type that rows may name. Tables add records and host functions of their own."""
 
     c: str  # in the public headers
     cpp: str  # in the library
@@ -26,27 +28,13 @@ TYPES = {
     "pointer": ElementType("void*", "void*", "pointer"),
     "const_pointer": ElementType("const void*", "const void*", "pointer"),
     "int_array": ElementType("int32_t*", "std::int32_t*", "array of int"),
-    # The record of TAUCS, always by its address. Its C declaration stands in include/quorin/types.h.
-    "ccs_matrix": ElementType("taucs_ccs_matrix*", "quorin::taucs::CcsMatrix*", "matrix"),
-    "const_ccs_matrix": ElementType("const taucs_ccs_matrix*", "const quorin::taucs::CcsMatrix*", "matrix"),
-    # Host functions. Their C declarations stand in include/quorin/types.h.
-    "text_output_callback": ElementType(
-        "quorin_text_output_callback", "quorin::base::TextOutputCallback", "text-output callback"
-    ),
-    "select_real": ElementType("quorin_select_real", "quorin::dense::SelectReal", "selection function"),
-    "select_complex": ElementType("quorin_select_complex", "quorin::dense::SelectComplex", "selection function"),
-    "select_real_pair": ElementType("quorin_select_real_pair", "quorin::dense::SelectRealPair", "selection function"),
-    "select_complex_pair": ElementType(
-        "quorin_select_complex_pair", "quorin::dense::SelectComplexPair", "selection function"
-    ),
-    "vector_function": ElementType("quorin_vector_function", "quorin::jacobi::Function", "function of a vector"),
-    "vector_function_with_data": ElementType(
-        "quorin_vector_function_with_data", "quorin::jacobi::FunctionWithData", "function of a vector, with data"
-    ),
 }
 
 # An implementation that is no function of ours: the published LAPACK's Fortran routine of the same name.
 FORTRAN = "fortran"
+
+# The place of a status that a routine returns.
+RESULT = "result"
 
 IN, OUT, INOUT = "in", "out", "inout"
 DIRECTIONS = (IN, OUT, INOUT)
@@ -65,6 +53,8 @@ class Argument:
     direction: str = IN
     kind: str = SCALAR
     shape: str = ""
+    is_kept: bool = False  # its address is used after the call has returned
+    is_nullable: bool = False
 
     @property
     def has_index(self) -> bool:
@@ -88,6 +78,88 @@ class Argument:
 
 
 @dataclass
+class Value:
+    """A value that an argument or a result may have, or a named constant."""
+
+    value: str  # an integer; for a character its letter; for a status also an expression, such as -i
+    name: str  # of the constant in the headers, or ""
+    text: str = ""
+    routines: list[str] = field(default_factory=list)  # patterns of the routines that it concerns; empty: all
+    place: str = ""  # of a routine's own status: the argument that shows it, or RESULT
+    where: str = ""
+
+    def concerns(self, routine_name: str) -> bool:
+        return not self.routines or any(fnmatchcase(routine_name, pattern) for pattern in self.routines)
+
+
+@dataclass
+class Note:
+    """What an argument means."""
+
+    text: str
+    options: list[Value] = field(default_factory=list)
+    where: str = ""
+
+
+@dataclass
+class Group:
+    """Constants that belong together. A status group also tells which argument (or RESULT) shows them."""
+
+    title: str
+    tag: str = ""  # of the C++ enum class and the C enum; without one, plain constants
+    place: str = ""
+    values: list[Value] = field(default_factory=list)
+
+
+@dataclass
+class Entry:
+    first: int
+    last: int
+    name: str
+    text: str = ""
+    default: str = ""
+    routines: list[str] = field(default_factory=list)
+    where: str = ""
+
+
+@dataclass
+class ParameterArray:
+    name: str  # of the arguments
+    base: int  # position of the first entry
+    text: str = ""
+    entries: list[Entry] = field(default_factory=list)
+
+
+@dataclass
+class Field:
+    name: str  # with a dot: member of a union
+    type: ElementType
+    is_array: bool
+    shape: str
+    text: str = ""
+
+
+@dataclass
+class Record:
+    c_name: str
+    text: str = ""
+    fields: list[Field] = field(default_factory=list)
+
+
+@dataclass
+class Callback:
+    """The type of a host function."""
+
+    c_name: str
+    arguments: list[Argument]
+    result: ElementType | None
+    text: str = ""
+    is_stdcall: bool = False
+    is_variadic: bool = False
+    result_is_argument: bool = False
+
+
+@dataclass
 class Routine:
     name: str
     implementation: str  # C++ function below namespace quorin, FORTRAN, or "" if it is written by hand
@@ -99,6 +171,13 @@ class Routine:
     index_name: str | None = None  # None: there is no index form
     has_plain: bool = True
     is_variadic: bool = False
+    like: str = ""  # the routine from which it takes what it does not say itself
+    notes: dict[str, Note] = field(default_factory=dict)
+    minima: dict[str, Value] = field(default_factory=dict)
+    own_statuses: list[Value] = field(default_factory=list)
+
+    def argument(self, name: str) -> Argument | None:
+        return next((argument for argument in self.arguments if argument.name == name), None)
 
     @property
     def result_is_argument(self) -> bool:
@@ -128,8 +207,79 @@ class Family:
     facade: str = ""  # the header with the implementations
     text: list[str] = field(default_factory=list)  # paragraphs of the header's and the manual's introduction
     has_index_forms: bool = True
+    prefix: str = ""  # of the names of its constants
+    missing_meanings: int = 0  # how many arguments the table does not explain yet
     sections: list[Section] = field(default_factory=list)
+    notes: dict[str, Note] = field(default_factory=dict)
+    quantities: dict[str, Value] = field(default_factory=dict)  # names in sizes that are no arguments
+    constants: list[Group] = field(default_factory=list)
+    statuses: list[Group] = field(default_factory=list)
+    parameters: dict[str, ParameterArray] = field(default_factory=dict)
+    records: list[Record] = field(default_factory=list)
+    callbacks: list[Callback] = field(default_factory=list)
 
     @property
     def routines(self) -> list[Routine]:
         return [routine for section in self.sections for routine in section.routines]
+
+    @property
+    def namespace(self) -> str:
+        """That of the implementation, which is the facade's name."""
+        return PurePath(self.facade).stem
+
+    def routine(self, name: str) -> Routine | None:
+        return next((routine for routine in self.routines if routine.name == name), None)
+
+    def sources(self, routine: Routine) -> list[Routine]:
+        """The routine, and the one that it is like: where to look for what it means."""
+        other = self.routine(routine.like) if routine.like else None
+        return [routine, other] if other else [routine]
+
+    def note(self, routine: Routine, name: str) -> Note | None:
+        found = [source.notes[name] for source in self.sources(routine) if name in source.notes]
+        return found[0] if found else self.notes.get(name)
+
+    def minima(self, routine: Routine) -> dict[str, Value]:
+        minima: dict[str, Value] = {}
+        for source in reversed(self.sources(routine)):
+            minima.update((name, value) for name, value in source.minima.items() if routine.argument(name))
+        return minima
+
+    def status_groups(self, routine: Routine) -> list[Group]:
+        """The groups whose place the routine has."""
+        return [
+            group
+            for group in self.statuses
+            if routine.argument(group.place) or (group.place == RESULT and routine.result)
+        ]
+
+    def statuses_of(self, routine: Routine, group: Group) -> list[Value]:
+        """What the routine may show at the group's place: the routine's own word counts most, a general one least."""
+        chosen: dict[str, Value] = {}
+        concerning = [value for value in group.values if value.concerns(routine.name)]
+        ranked = sorted(concerning, key=lambda value: bool(value.routines))
+        for source in reversed(self.sources(routine)):
+            ranked += [value for value in source.own_statuses if value.place == group.place]
+        for value in ranked:
+            if value.text or value.value not in chosen:
+                chosen[value.value] = value
+        return list(chosen.values())
+
+    @staticmethod
+    def entries_of(routine: Routine, array: ParameterArray) -> list[Entry]:
+        return [e for e in array.entries if not e.routines or any(fnmatchcase(routine.name, p) for p in e.routines)]
+
+    def option_groups(self) -> list[Group]:
+        """The named options of arguments, as constants."""
+        notes = list(self.notes.items()) + [item for routine in self.routines for item in routine.notes.items()]
+        groups = [Group(note.text, place=name, values=[v for v in note.options if v.name]) for name, note in notes]
+        return [group for group in groups if group.values]
+
+    def groups(self) -> list[Group]:
+        """All groups of constants but the positions of parameter arrays."""
+        return self.constants + self.statuses + self.option_groups()
+
+    def named(self) -> list[Value | Entry]:
+        """Everything that is a constant of the headers."""
+        values = [value for group in self.groups() for value in group.values if value.name]
+        return values + [entry for array in self.parameters.values() for entry in array.entries if entry.name != "-"]

@@ -10,7 +10,7 @@ sys.path.insert(0, str(ROOT / "exports"))
 
 from generator import declarations, linking, tables, thunks  # noqa: E402
 
-HEAD = 'title "T"\nfacade "f.hpp"\nsection "S"\n'
+HEAD = 'title "T"\nfacade "f.hpp"\nprefix T_\nmissing-meanings 99\nsection "S"\n'
 
 
 def parse(rows: str):
@@ -24,19 +24,19 @@ def declared(rows: str, is_index_form: bool) -> str:
 class MalformedRows(unittest.TestCase):
     def test_each_fault_is_named_with_its_line(self):
         cases = {
-            'f = a::f  x:flaot\n  "s"\n': "t.table:4: argument 'x': unknown type 'flaot'",
-            'f = a::f  x:float[n]\n  "s"\n': "t.table:4: argument 'x': its shape names 'n', which is no argument",
-            'f = a::f  n:int n:int\n  "s"\n': "t.table:4: argument 'n' stands twice",
-            'f = a::f  float n:int\n  "s"\n': "t.table:4: 'float' stands before the first argument",
-            'f = a::f  n:\n  "s"\n': "t.table:4: argument 'n' has no type",
-            'f = a::f  n:both int\n  "s"\n': "t.table:4: argument 'n': unknown word 'both'",
-            'f = a::f  n:out value int\n  "s"\n': "t.table:4: argument 'n': a value cannot be 'out'",
-            'f = a::f  x:plain float\n  "s"\n': "t.table:4: argument 'x': 'plain' and 'float' do not go together",
-            'f = a::f  n:int -> number\n  "s"\n': "t.table:4: unknown result type 'number'",
-            "f = a::f  n:int\n": "t.table:4: 'f' has no summary",
-            'f = a::f  n:int\n  frobnicate\n  "s"\n': "t.table:5: unknown attribute 'frobnicate'",
-            'f = a::f  n:int\n  "s"\nf_Idx = a::f  n:int\n  "s"\n': "t.table:6: 'f_Idx' is exported at t.table:4 already",
-            "f(x) = a\n": "t.table:4: expected 'name = implementation  argument:type ... -> result'",
+            'f = a::f  x:flaot\n  "s"\n': "t.table:6: argument 'x': unknown type 'flaot'",
+            'f = a::f  x:float[n]\n  "s"\n': "t.table:6: argument 'x': its shape names 'n', which is no argument",
+            'f = a::f  n:int n:int\n  "s"\n': "t.table:6: argument 'n' stands twice",
+            'f = a::f  float n:int\n  "s"\n': "t.table:6: 'float' stands before the first argument",
+            'f = a::f  n:\n  "s"\n': "t.table:6: argument 'n' has no type",
+            'f = a::f  n:both int\n  "s"\n': "t.table:6: argument 'n': unknown word 'both'",
+            'f = a::f  n:out value int\n  "s"\n': "t.table:6: argument 'n': a value cannot be 'out'",
+            'f = a::f  x:plain float\n  "s"\n': "t.table:6: argument 'x': 'plain' and 'float' do not go together",
+            'f = a::f  n:int -> number\n  "s"\n': "t.table:6: unknown result type 'number'",
+            "f = a::f  n:int\n": "t.table:6: 'f' has no summary",
+            'f = a::f  n:int\n  frobnicate\n  "s"\n': "t.table:7: unknown attribute 'frobnicate'",
+            'f = a::f  n:int\n  "s"\nf_Idx = a::f  n:int\n  "s"\n': "t.table:8: 'f_Idx' is exported at t.table:6 already",
+            "f(x) = a\n": "t.table:6: expected 'name = implementation  argument:type ... -> result'",
         }
         for rows, message in cases.items():
             with self.subTest(rows=rows), self.assertRaises(tables.TableError) as caught:
