@@ -7,7 +7,7 @@ target_compile_options(quorin_plain_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wundef -Werror
   $<$<COMPILE_LANGUAGE:CXX>:-Wold-style-cast -Wnon-virtual-dtor>
   -fno-math-errno)
-target_include_directories(quorin_plain_flags INTERFACE ${PROJECT_SOURCE_DIR})
+target_include_directories(quorin_plain_flags INTERFACE ${PROJECT_SOURCE_DIR} ${PROJECT_BINARY_DIR})
 
 if(WIN32)
   # Hosts align the stack to 4 bytes only, so every function of ours that needs more aligns it itself; floats live in SSE.

@@ -12,7 +12,7 @@ import argparse
 import sys
 from pathlib import Path
 
-from generator import headers, linking, manual, tables, thunks
+from generator import constants, headers, linking, manual, tables, thunks
 from generator.model import Family
 
 ROOT = Path(__file__).resolve().parent.parent
@@ -23,7 +23,12 @@ def table_of(family: Family) -> str:
 
 
 def committed_files(families: list[Family]) -> dict[str, str]:
-    files = {"exports/names.txt": linking.name_list(families), "include/quorin/quorin.h": headers.umbrella(families)}
+    head = (ROOT / "exports/tables/contents.md").read_text()
+    files = {
+        "exports/names.txt": linking.name_list(families),
+        "include/quorin/quorin.h": headers.umbrella(families),
+        "docs/manual/README.md": manual.contents(families, head),
+    }
     for family in families:
         files[f"include/quorin/{family.name}.h"] = headers.header(family, table_of(family))
         files[f"docs/manual/{family.name}.md"] = manual.page(family, table_of(family))
@@ -39,6 +44,8 @@ def build_files(families: list[Family]) -> dict[str, str]:
         "dense_fortran_names.cpp": thunks.fortran_names(families, "dense/dense.hpp"),
     }
     for family in families:
+        if text := constants.cpp_header(family, table_of(family)):
+            files[f"{family.name}_constants.hpp"] = text
         files[f"entries_{family.name}.cpp"] = thunks.source(family, table_of(family))
         files[f"fortran_{family.name}_plain.c"] = linking.fortran_names(family, through_index=False)
         files[f"fortran_{family.name}_index.c"] = linking.fortran_names(family, through_index=True)

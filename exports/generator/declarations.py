@@ -2,8 +2,11 @@
 
 from __future__ import annotations
 
+from itertools import groupby
+
 from generator import model
-from generator.model import Argument, Routine
+from generator.model import Argument, Callback, Field, Record, Routine
+from generator.text import fill
 
 
 def pointer(argument: Argument, language: str) -> str:
@@ -14,7 +17,7 @@ def pointer(argument: Argument, language: str) -> str:
     return f"{constant}{type_name}* "
 
 
-def parameters(routine: Routine, language: str, is_index_form: bool) -> list[str]:
+def parameters(routine: Routine | Callback, language: str, is_index_form: bool) -> list[str]:
     integer = getattr(model.TYPES["int"], language)
     items = []
     if routine.result_is_argument:
@@ -31,7 +34,7 @@ def parameters(routine: Routine, language: str, is_index_form: bool) -> list[str
     return items
 
 
-def result_type(routine: Routine, language: str) -> str:
+def result_type(routine: Routine | Callback, language: str) -> str:
     if routine.result is None or routine.result_is_argument:
         return "void"
     return getattr(routine.result, language)
@@ -51,3 +54,26 @@ def wrapped(head: str, items: list[str], tail: str, width: int = 120) -> str:
     if not items:
         line += ")" + tail
     return "\n".join(lines + [line])
+
+
+def field_declaration(item: Field) -> str:
+    name = item.name.rpartition(".")[2]
+    star = "*" if item.is_array else ""
+    return f"{item.type.c}{star} {name};" + (f" /* {item.text} */" if item.text else "")
+
+
+def record(item: Record) -> str:
+    lines = [fill(f"/* {item.text} */", "", indent=" * "), f"typedef struct {item.c_name} {{\n"]
+    for union, fields in groupby(item.fields, key=lambda field: field.name.rpartition(".")[0]):
+        rows = [field_declaration(field) for field in fields]
+        if union:
+            rows = ["union {", *(f"  {row}" for row in rows), f"}} {union};"]
+        lines.extend(f"  {row}\n" for row in rows)
+    return "".join(lines) + f"}} {item.c_name};\n"
+
+
+def callback(item: Callback) -> str:
+    convention = "QUORIN_CALLBACK" if item.is_stdcall else "QUORIN_CDECL"
+    text = item.text + (" It is called with the stdcall convention." if item.is_stdcall else "")
+    head = f"typedef {result_type(item, 'c')}({convention}* {item.c_name})"
+    return fill(f"/* {text} */", "", indent=" * ") + wrapped(head, parameters(item, "c", False) or ["void"], ";") + "\n"

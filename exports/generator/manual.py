@@ -2,11 +2,11 @@
 
 from __future__ import annotations
 
-from itertools import groupby
+import re
 
 from generator import model
-from generator.declarations import parameters, result_type, wrapped
-from generator.model import Family, Routine
+from generator.declarations import callback, parameters, record, result_type, wrapped
+from generator.model import Family, Group, ParameterArray, Routine
 
 
 def signature(name: str, routine: Routine, is_index_form: bool) -> str:
@@ -14,38 +14,85 @@ def signature(name: str, routine: Routine, is_index_form: bool) -> str:
     return wrapped(f"{result_type(routine, 'c')} {name}", items, ";", width=110)
 
 
-def argument_row(argument: model.Argument, types: list[str]) -> str:
+def cell(text: str) -> str:
+    return text.replace("|", "\\|")
+
+
+def meaning(family: Family, routine: Routine, argument: model.Argument) -> str:
+    note = family.note(routine, argument.name)
+    parts = [note.text] if note and note.text else []
+    if argument.is_nullable:
+        parts.append("may be null")
+    text = "; ".join(parts)
+    minimum = family.minima(routine).get(argument.name)
+    lines = [f"at least `{minimum.value}`" + (" elements" if argument.is_array else "")] if minimum else []
+    for option in note.options if note else []:
+        lines.append(f"`{option.value}`" + (f" `{option.name}`" if option.name else "") + f": {option.text}")
+    if argument.is_kept:
+        lines.append("**Kept**: later calls use the address, so it must stay valid until the object is freed.")
+    return cell("<br>".join([text] * bool(text) + lines))
+
+
+def argument_row(family: Family, routine: Routine, argument: model.Argument, types: list[str]) -> str:
     passed = {
         model.SCALAR: "by reference",
+        model.ADDRESS: "by reference",
         model.VALUE: "by value",
         model.ARRAY: "array",
         model.PLAIN: "array; no index in the index form",
         model.PAIRED: "by reference; with an index in the index form",
         model.IGNORED: "array; its index is ignored in the index form",
     }[argument.kind]
+    if argument.kind == model.PLAIN and not routine.index_name:
+        passed = "array"
     size = argument.size_text() or ("1" if not argument.is_array else "")
-    return f"| `{argument.name}` | {argument.direction} | {', '.join(types)} | {size} | {passed} |"
+    words = [f"`{argument.name}`", argument.direction, ", ".join(types), cell(size), passed]
+    return f"| {' | '.join(words)} | {meaning(family, routine, argument)} |"
 
 
-def argument_table(routines: list[Routine]) -> str:
+def argument_table(family: Family, routines: list[Routine]) -> str:
     first = routines[0]
-    rows = ["| argument | direction | type | size | passed |", "|---|---|---|---|---|"]
+    rows = ["| argument | direction | type | size | passed | meaning |", "|---|---|---|---|---|---|"]
     for position, argument in enumerate(first.arguments):
-        types = []
-        for routine in routines:
-            text = routine.arguments[position].type.text
-            if text not in types:
-                types.append(text)
-        rows.append(argument_row(argument, types))
+        types = dict.fromkeys(routine.arguments[position].type.text for routine in routines)
+        rows.append(argument_row(family, first, argument, list(types)))
     return "\n".join(rows)
 
 
-def shape_key(routine: Routine):
-    arguments = tuple((a.name, a.direction, a.kind, a.shape) for a in routine.arguments)
-    return routine.summary, routine.implementation, arguments
+def value_table(head: str, values: list[model.Value]) -> str:
+    has_names = any(value.name for value in values)
+    names = "constant | " if has_names else ""
+    rows = [f"| {head} | {names}meaning |", "|---|---|---|" if has_names else "|---|---|"]
+    for value in values:
+        name = (f"`{value.name}` | " if value.name else " | ") if has_names else ""
+        rows.append(f"| `{cell(value.value)}` | {name}{cell(value.text)} |")
+    return "\n".join(rows) + "\n"
 
 
-def entry(routines: list[Routine]) -> str:
+def place_name(group: Group) -> str:
+    return "result" if group.place == model.RESULT else f"`{group.place}`"
+
+
+def status_tables(family: Family, routine: Routine) -> list[str]:
+    """The statuses that are not those of every routine, and a reference to these."""
+    parts = []
+    for group in family.status_groups(routine):
+        statuses = family.statuses_of(routine, group)
+        own = [value for value in statuses if value.routines or value not in group.values]
+        if own:
+            parts.append(value_table(place_name(group), own))
+        if len(own) < len(statuses):
+            common = ", ".join(f"`{value.value}`" for value in statuses if value not in own)
+            parts.append(f"{'Also ' if own else ''}{place_name(group)} {common}: see [{group.title}]({anchor(group.title)}).\n")
+    return parts
+
+
+def anchor(title: str) -> str:
+    """GitHub's name for a heading."""
+    return "#" + re.sub(r"[^\w -]", "", title.lower()).replace(" ", "-")
+
+
+def entry(family: Family, routines: list[Routine]) -> str:
     names = [name for routine in routines for name in ([routine.name] if routine.has_plain else []) + routine.aliases]
     names = names or [routine.index_name for routine in routines]
     lines = []
@@ -55,18 +102,72 @@ def entry(routines: list[Routine]) -> str:
         if routine.index_name:
             lines.append(signature(routine.index_name, routine, True))
     title = ", ".join(f"`{name}`" for name in names)
-    parts = [f"### {title}\n", routines[0].summary + "\n", "```c\n" + "\n".join(lines) + "\n```\n"]
-    if routines[0].arguments:
-        parts.append(argument_table(routines) + "\n")
-    if routines[0].result_is_argument:
+    first = routines[0]
+    parts = [f"### {title}\n", first.summary + "\n", "```c\n" + "\n".join(lines) + "\n```\n"]
+    if first.arguments:
+        parts.append(argument_table(family, routines) + "\n")
+    if result := family.note(first, model.RESULT):
+        parts.append(f"Result: {result.text}.\n")
+    if first.result_is_argument:
         parts.append("The result is stored through the extra first argument `result`.\n")
-    return "\n".join(parts)
+    return "\n".join(parts + status_tables(family, first))
+
+
+def parameter_table(array: ParameterArray) -> str:
+    has_scope = any(item.routines for item in array.entries)
+    scope = " for |" if has_scope else ""
+    base = "zero-based" if array.base == 0 else "one-based"
+    rows = [f"| position, {base} | constant | meaning | default |{scope}", "|---|---|---|---|" + ("---|" if has_scope else "")]
+    for item in array.entries:
+        position = str(item.first) if item.first == item.last else f"{item.first} to {item.last}"
+        name = f"`{item.name}`" if item.name != "-" else ""
+        row = f"| {position} | {name} | {cell(item.text)} | {item.default} |"
+        rows.append(row + (f" {' '.join(f'`{name}`' for name in item.routines)} |" if has_scope else ""))
+    return "\n".join(rows) + "\n"
+
+
+def type_declarations(family: Family) -> list[str]:
+    items = [record(item) for item in family.records] + [callback(item) for item in family.callbacks]
+    return ["## Types\n", "```c\n" + "\n".join(items) + "```\n"] if items else []
+
+
+def shared_tables(family: Family) -> list[str]:
+    """What concerns more than one routine: types, constants, statuses, parameter arrays, names in sizes."""
+    parts = type_declarations(family)
+    for group in family.constants:
+        parts += [f"## {group.title}\n", value_table("value", group.values)]
+    for group in family.statuses:
+        general = [value for value in group.values if not value.routines]
+        parts += [f"## {group.title}\n", value_table(place_name(group), general)] if general else []
+    for array in family.parameters.values():
+        parts += [f"## The array `{array.name}`\n", array.text + "\n", parameter_table(array)]
+    if family.quantities:
+        quantities = [f"| `{name}` | {cell(item.text)} |\n" for name, item in family.quantities.items()]
+        parts += ["## Names in sizes\n", "| name | meaning |\n|---|---|\n" + "".join(quantities)]
+    return parts
 
 
 def page(family: Family, table: str) -> str:
     parts = [f"# {family.title}\n", f"<!-- Generated from {table}. Do not edit. -->\n"]
     parts.extend(paragraph + "\n" for paragraph in family.text)
+    parts.extend(shared_tables(family))
     for section in family.sections:
         parts.append(f"## {section.title}\n")
-        parts.extend(entry(list(group)) for _, group in groupby(section.routines, key=shape_key))
+        parts.extend(entry(family, group) for group in family.twins(section))
+    return "\n".join(parts)
+
+
+def contents(families: list[Family], head: str) -> str:
+    """The manual's first page: `head`, then all pages with their routines."""
+    parts = [head.rstrip() + "\n", "## Pages\n"]
+    rows = ["| page | header | exports |", "|---|---|---|"]
+    for family in families:
+        exports = sum(len(routine.export_names) for routine in family.routines)
+        rows.append(f"| [{family.title}]({family.name}.md) | `quorin/{family.name}.h` | {exports} |")
+    parts.append("\n".join(rows) + "\n")
+    for family in families:
+        parts.append(f"## {family.title}\n")
+        for section in family.sections:
+            names = ", ".join(f"`{routine.export_names[0]}`" for routine in section.routines)
+            parts.append(f"[{section.title}]({family.name}.md{anchor(section.title)}): {names}\n")
     return "\n".join(parts)

@@ -5,6 +5,7 @@ from __future__ import annotations
 import re
 from dataclasses import dataclass, field
 from fnmatch import fnmatchcase
+from itertools import groupby
 from pathlib import PurePath
 
 
@@ -39,11 +40,11 @@ RESULT = "result"
 IN, OUT, INOUT = "in", "out", "inout"
 DIRECTIONS = (IN, OUT, INOUT)
 
-# How an argument is passed. SCALAR: its address. VALUE: itself. ARRAY: its address, with an index behind it in the index
-# form. PLAIN: an array that stays an address there too. PAIRED: a scalar that gets an index all the same. IGNORED: an
-# array whose index the index form takes and does not use.
-SCALAR, VALUE, ARRAY, PLAIN, PAIRED, IGNORED = "scalar", "value", "array", "plain", "paired", "ignored"
-KINDS = (VALUE, PLAIN, PAIRED, IGNORED)
+# How an argument is passed. SCALAR: its address. ADDRESS: the same, and the implementation gets the address, too. VALUE:
+# itself. ARRAY: its address, with an index behind it in the index form. PLAIN: an array that stays an address there too.
+# PAIRED: a scalar that gets an index all the same. IGNORED: an array whose index the index form takes and does not use.
+SCALAR, ADDRESS, VALUE, ARRAY, PLAIN, PAIRED, IGNORED = "scalar", "address", "value", "array", "plain", "paired", "ignored"
+KINDS = (ADDRESS, VALUE, PLAIN, PAIRED, IGNORED)
 
 
 @dataclass(frozen=True)
@@ -283,3 +284,17 @@ class Family:
         """Everything that is a constant of the headers."""
         values = [value for group in self.groups() for value in group.values if value.name]
         return values + [entry for array in self.parameters.values() for entry in array.entries if entry.name != "-"]
+
+    def content(self, routine: Routine):
+        """All that is said of a routine but its name and types."""
+        arguments = tuple((a.name, a.direction, a.kind, a.shape, a.is_nullable, a.is_kept) for a in routine.arguments)
+        notes = [self.note(routine, argument.name) for argument in routine.arguments]
+        meanings = tuple((note.text, tuple((o.value, o.text) for o in note.options)) if note else None for note in notes)
+        minima = {name: minimum.value for name, minimum in self.minima(routine).items()}
+        groups = [self.statuses_of(routine, group) for group in self.status_groups(routine)]
+        statuses = tuple((value.value, value.text) for group in groups for value in group)
+        return routine.summary, routine.implementation, arguments, meanings, minima, statuses
+
+    def twins(self, section: Section) -> list[list[Routine]]:
+        """A section's routines; neighbours that differ only in type are together."""
+        return [list(group) for _, group in groupby(section.routines, key=self.content)]

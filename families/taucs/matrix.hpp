@@ -1,7 +1,7 @@
 // The compressed-column matrix, and the flags that name its element type and structure.
 //
 // Hosts read and write the record: its fields, their order and the values of the flags are part of the interface
-// (`taucs_ccs_matrix` and `TAUCS_LOWER`, ... in the public headers).
+// (`taucs_ccs_matrix` and `TAUCS_LOWER`, ... in quorin/taucs.h).
 #pragma once
 
 #include <complex>
@@ -10,21 +10,9 @@
 #include <cstdint>
 #include <type_traits>
 
-namespace quorin::taucs {
+#include "generated/taucs_constants.hpp"
 
-enum Flag : std::int32_t {
-  kLower = 1,         // only the lower triangle (row >= column) is stored
-  kUpper = 2,         // only the upper triangle is stored
-  kTriangular = 4,    // the matrix is triangular
-  kSymmetric = 8,     // stored as one triangle
-  kHermitian = 16,    // stored as one triangle
-  kPattern = 32,      // only the pattern is meaningful
-  kInt = 1024,        // element types; matrices come with kDouble and kDcomplex only
-  kDouble = 2048,     //
-  kSingle = 4096,     //
-  kDcomplex = 8192,   //
-  kScomplex = 16384,  //
-};
+namespace quorin::taucs {
 
 template <class T>
 concept Element = std::same_as<T, double> || std::same_as<T, std::complex<double>>;

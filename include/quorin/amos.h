@@ -30,8 +30,10 @@ extern "C" {
 
 /* ---- Bessel functions ---- */
 
-/* Hankel functions H1 (m = 1) or H2 (m = 2). kode 2: times exp(-i z) for H1, exp(i z) for H2. -- cy: n, out; nz: out;
-   ierr: out */
+/* Hankel functions H1 (m = 1) or H2 (m = 2). kode 2: times exp(-i z) for H1, exp(i z) for H2.
+     cy: out, [n]
+     nz: out
+     ierr: out */
 QUORIN_API void QUORIN_CDECL CBESH(const quorin_double_complex* z, const double* fnu, const int32_t* kode,
                                    const int32_t* m, const int32_t* n, quorin_double_complex* cy, int32_t* nz,
                                    int32_t* ierr);
@@ -39,26 +41,38 @@ QUORIN_API void QUORIN_CDECL sCBESH_Idx(const quorin_double_complex* z, const do
                                         const int32_t* m, const int32_t* n, quorin_double_complex* cy, int32_t* nz,
                                         int32_t* ierr);
 
-/* Modified Bessel function I. kode 2: times exp(-|Re z|). -- cy: n, out; nz: out; ierr: out */
+/* Modified Bessel function I. kode 2: times exp(-|Re z|).
+     cy: out, [n]
+     nz: out
+     ierr: out */
 QUORIN_API void QUORIN_CDECL CBESI(const quorin_double_complex* z, const double* fnu, const int32_t* kode,
                                    const int32_t* n, quorin_double_complex* cy, int32_t* nz, int32_t* ierr);
 QUORIN_API void QUORIN_CDECL sCBESI_Idx(const quorin_double_complex* z, const double* fnu, const int32_t* kode,
                                         const int32_t* n, quorin_double_complex* cy, int32_t* nz, int32_t* ierr);
 
-/* Bessel function J. kode 2: times exp(-|Im z|). -- cy: n, out; nz: out; ierr: out */
+/* Bessel function J. kode 2: times exp(-|Im z|).
+     cy: out, [n]
+     nz: out
+     ierr: out */
 QUORIN_API void QUORIN_CDECL CBESJ(const quorin_double_complex* z, const double* fnu, const int32_t* kode,
                                    const int32_t* n, quorin_double_complex* cy, int32_t* nz, int32_t* ierr);
 QUORIN_API void QUORIN_CDECL sCBESJ_Idx(const quorin_double_complex* z, const double* fnu, const int32_t* kode,
                                         const int32_t* n, quorin_double_complex* cy, int32_t* nz, int32_t* ierr);
 
-/* Modified Bessel function K. kode 2: times exp(z). -- cy: n, out; nz: out; ierr: out */
+/* Modified Bessel function K. kode 2: times exp(z).
+     cy: out, [n]
+     nz: out
+     ierr: out */
 QUORIN_API void QUORIN_CDECL CBESK(const quorin_double_complex* z, const double* fnu, const int32_t* kode,
                                    const int32_t* n, quorin_double_complex* cy, int32_t* nz, int32_t* ierr);
 QUORIN_API void QUORIN_CDECL sCBESK_Idx(const quorin_double_complex* z, const double* fnu, const int32_t* kode,
                                         const int32_t* n, quorin_double_complex* cy, int32_t* nz, int32_t* ierr);
 
-/* Bessel function Y. kode 2: times exp(-|Im z|). cwrk is work space of the published interface; it is not touched. --
-   cy: n, out; nz: out; cwrk: n, out; ierr: out */
+/* Bessel function Y. kode 2: times exp(-|Im z|). cwrk is work space of the published interface; it is not touched.
+     cy: out, [n]
+     nz: out
+     cwrk: out, [n]
+     ierr: out */
 QUORIN_API void QUORIN_CDECL CBESY(const quorin_double_complex* z, const double* fnu, const int32_t* kode,
                                    const int32_t* n, quorin_double_complex* cy, int32_t* nz,
                                    quorin_double_complex* cwrk, int32_t* ierr);
@@ -68,15 +82,18 @@ QUORIN_API void QUORIN_CDECL sCBESY_Idx(const quorin_double_complex* z, const do
 
 /* ---- Airy functions ---- */
 
-/* Airy function Ai (id = 0) or its derivative (id = 1). kode 2: times exp(zeta), zeta = (2/3) z sqrt(z). -- ai: out;
-   nz: out; ierr: out */
+/* Airy function Ai (id = 0) or its derivative (id = 1). kode 2: times exp(zeta), zeta = (2/3) z sqrt(z).
+     ai: out
+     nz: out
+     ierr: out */
 QUORIN_API void QUORIN_CDECL CAIRY(const quorin_double_complex* z, const int32_t* id, const int32_t* kode,
                                    quorin_double_complex* ai, int32_t* nz, int32_t* ierr);
 QUORIN_API void QUORIN_CDECL sCAIRY_Idx(const quorin_double_complex* z, const int32_t* id, const int32_t* kode,
                                         quorin_double_complex* ai, int32_t* nz, int32_t* ierr);
 
-/* Airy function Bi (id = 0) or its derivative (id = 1). kode 2: times exp(-|Re zeta|), zeta = (2/3) z sqrt(z). -- bi:
-   out; ierr: out */
+/* Airy function Bi (id = 0) or its derivative (id = 1). kode 2: times exp(-|Re zeta|), zeta = (2/3) z sqrt(z).
+     bi: out
+     ierr: out */
 QUORIN_API void QUORIN_CDECL CBIRY(const quorin_double_complex* z, const int32_t* id, const int32_t* kode,
                                    quorin_double_complex* bi, int32_t* ierr);
 QUORIN_API void QUORIN_CDECL sCBIRY_Idx(const quorin_double_complex* z, const int32_t* id, const int32_t* kode,

@@ -27,47 +27,49 @@ extern "C" {
 
 /* ---- Level 1 ---- */
 
-/* y <- a x + y. -- x: n, stride incx; y: n, stride incy, in, out */
+/* y <- a x + y.
+     x: [n, stride incx]
+     y: in, out, [n, stride incy] */
 QUORIN_API void QUORIN_CDECL saxpy(const int32_t* n, const float* a, const float* x, const int32_t* incx, float* y,
                                    const int32_t* incy);
 QUORIN_API void QUORIN_CDECL SAXPY(const int32_t* n, const float* a, const float* x, const int32_t* incx, float* y,
                                    const int32_t* incy);
 QUORIN_API void QUORIN_CDECL saxpy_Idx(const int32_t* n, const float* a, const float* x, int32_t x_index,
                                        const int32_t* incx, float* y, int32_t y_index, const int32_t* incy);
-
-/* y <- a x + y. -- x: n, stride incx; y: n, stride incy, in, out */
 QUORIN_API void QUORIN_CDECL caxpy(const int32_t* n, const quorin_complex* a, const quorin_complex* x,
                                    const int32_t* incx, quorin_complex* y, const int32_t* incy);
 QUORIN_API void QUORIN_CDECL caxpy_Idx(const int32_t* n, const quorin_complex* a, const quorin_complex* x,
                                        int32_t x_index, const int32_t* incx, quorin_complex* y, int32_t y_index,
                                        const int32_t* incy);
 
-/* y <- x. -- x: n, stride incx; y: n, stride incy, out */
+/* y <- x.
+     x: [n, stride incx]
+     y: out, [n, stride incy] */
 QUORIN_API void QUORIN_CDECL scopy(const int32_t* n, const float* x, const int32_t* incx, float* y,
                                    const int32_t* incy);
 QUORIN_API void QUORIN_CDECL SCOPY(const int32_t* n, const float* x, const int32_t* incx, float* y,
                                    const int32_t* incy);
 QUORIN_API void QUORIN_CDECL scopy_Idx(const int32_t* n, const float* x, int32_t x_index, const int32_t* incx, float* y,
                                        int32_t y_index, const int32_t* incy);
-
-/* y <- x. -- x: n, stride incx; y: n, stride incy, out */
 QUORIN_API void QUORIN_CDECL ccopy(const int32_t* n, const quorin_complex* x, const int32_t* incx, quorin_complex* y,
                                    const int32_t* incy);
 QUORIN_API void QUORIN_CDECL ccopy_Idx(const int32_t* n, const quorin_complex* x, int32_t x_index, const int32_t* incx,
                                        quorin_complex* y, int32_t y_index, const int32_t* incy);
 
-/* Exchanges x and y. -- x: n, stride incx, in, out; y: n, stride incy, in, out */
+/* Exchanges x and y.
+     x: in, out, [n, stride incx]
+     y: in, out, [n, stride incy] */
 QUORIN_API void QUORIN_CDECL sswap(const int32_t* n, float* x, const int32_t* incx, float* y, const int32_t* incy);
 QUORIN_API void QUORIN_CDECL sswap_Idx(const int32_t* n, float* x, int32_t x_index, const int32_t* incx, float* y,
                                        int32_t y_index, const int32_t* incy);
-
-/* Exchanges x and y. -- x: n, stride incx, in, out; y: n, stride incy, in, out */
 QUORIN_API void QUORIN_CDECL cswap(const int32_t* n, quorin_complex* x, const int32_t* incx, quorin_complex* y,
                                    const int32_t* incy);
 QUORIN_API void QUORIN_CDECL cswap_Idx(const int32_t* n, quorin_complex* x, int32_t x_index, const int32_t* incx,
                                        quorin_complex* y, int32_t y_index, const int32_t* incy);
 
-/* Returns x^T y. -- x: n, stride incx; y: n, stride incy */
+/* Returns x^T y.
+     x: [n, stride incx]
+     y: [n, stride incy] */
 QUORIN_API float QUORIN_CDECL sdot(const int32_t* n, const float* x, const int32_t* incx, const float* y,
                                    const int32_t* incy);
 QUORIN_API float QUORIN_CDECL SDOT(const int32_t* n, const float* x, const int32_t* incx, const float* y,
@@ -75,69 +77,69 @@ QUORIN_API float QUORIN_CDECL SDOT(const int32_t* n, const float* x, const int32
 QUORIN_API float QUORIN_CDECL sdot_Idx(const int32_t* n, const float* x, int32_t x_index, const int32_t* incx,
                                        const float* y, int32_t y_index, const int32_t* incy);
 
-/* x^T y, without conjugation. -- x: n, stride incx; y: n, stride incy */
+/* x^T y, without conjugation.
+     x: [n, stride incx]
+     y: [n, stride incy] */
 QUORIN_API void QUORIN_CDECL cdotu(quorin_complex* result, const int32_t* n, const quorin_complex* x,
                                    const int32_t* incx, const quorin_complex* y, const int32_t* incy);
 QUORIN_API void QUORIN_CDECL cdotu_Idx(quorin_complex* result, const int32_t* n, const quorin_complex* x,
                                        int32_t x_index, const int32_t* incx, const quorin_complex* y, int32_t y_index,
                                        const int32_t* incy);
 
-/* x^H y, with x conjugated. -- x: n, stride incx; y: n, stride incy */
+/* x^H y, with x conjugated.
+     x: [n, stride incx]
+     y: [n, stride incy] */
 QUORIN_API void QUORIN_CDECL cdotc(quorin_complex* result, const int32_t* n, const quorin_complex* x,
                                    const int32_t* incx, const quorin_complex* y, const int32_t* incy);
 QUORIN_API void QUORIN_CDECL cdotc_Idx(quorin_complex* result, const int32_t* n, const quorin_complex* x,
                                        int32_t x_index, const int32_t* incx, const quorin_complex* y, int32_t y_index,
                                        const int32_t* incy);
 
-/* Returns the Euclidean norm of x, without overflow or underflow on the way. -- x: n, stride incx */
+/* Returns the Euclidean norm of x, without overflow or underflow on the way.
+     x: [n, stride incx] */
 QUORIN_API float QUORIN_CDECL snrm2(const int32_t* n, const float* x, const int32_t* incx);
 QUORIN_API float QUORIN_CDECL SNRM2(const int32_t* n, const float* x, const int32_t* incx);
 QUORIN_API float QUORIN_CDECL snrm2_Idx(const int32_t* n, const float* x, int32_t x_index, const int32_t* incx);
-
-/* Returns the Euclidean norm of x, without overflow or underflow on the way. -- x: n, stride incx */
 QUORIN_API float QUORIN_CDECL scnrm2(const int32_t* n, const quorin_complex* x, const int32_t* incx);
 QUORIN_API float QUORIN_CDECL scnrm2_Idx(const int32_t* n, const quorin_complex* x, int32_t x_index,
                                          const int32_t* incx);
 
-/* Returns the sum of |Re x_i| + |Im x_i|. -- x: n, stride incx */
+/* Returns the sum of |Re x_i| + |Im x_i|.
+     x: [n, stride incx] */
 QUORIN_API float QUORIN_CDECL sasum(const int32_t* n, const float* x, const int32_t* incx);
 QUORIN_API float QUORIN_CDECL sasum_Idx(const int32_t* n, const float* x, int32_t x_index, const int32_t* incx);
-
-/* Returns the sum of |Re x_i| + |Im x_i|. -- x: n, stride incx */
 QUORIN_API float QUORIN_CDECL scasum(const int32_t* n, const quorin_complex* x, const int32_t* incx);
 QUORIN_API float QUORIN_CDECL scasum_Idx(const int32_t* n, const quorin_complex* x, int32_t x_index,
                                          const int32_t* incx);
 
-/* x <- a x. -- x: n, stride incx, in, out */
+/* x <- a x.
+     x: in, out, [n, stride incx] */
 QUORIN_API void QUORIN_CDECL sscal(const int32_t* n, const float* a, float* x, const int32_t* incx);
 QUORIN_API void QUORIN_CDECL SSCAL(const int32_t* n, const float* a, float* x, const int32_t* incx);
 QUORIN_API void QUORIN_CDECL sscal_Idx(const int32_t* n, const float* a, float* x, int32_t x_index,
                                        const int32_t* incx);
-
-/* x <- a x. -- x: n, stride incx, in, out */
 QUORIN_API void QUORIN_CDECL cscal(const int32_t* n, const quorin_complex* a, quorin_complex* x, const int32_t* incx);
 QUORIN_API void QUORIN_CDECL cscal_Idx(const int32_t* n, const quorin_complex* a, quorin_complex* x, int32_t x_index,
                                        const int32_t* incx);
 
-/* x <- a x with a real factor. -- x: n, stride incx, in, out */
+/* x <- a x with a real factor.
+     x: in, out, [n, stride incx] */
 QUORIN_API void QUORIN_CDECL csscal(const int32_t* n, const float* a, quorin_complex* x, const int32_t* incx);
 QUORIN_API void QUORIN_CDECL csscal_Idx(const int32_t* n, const float* a, quorin_complex* x, int32_t x_index,
                                         const int32_t* incx);
 
-/* Returns the 1-based position of the first element with the largest |Re| + |Im|. -- x: n, stride incx */
+/* Returns the 1-based position of the first element with the largest |Re| + |Im|.
+     x: [n, stride incx] */
 QUORIN_API int32_t QUORIN_CDECL isamax(const int32_t* n, const float* x, const int32_t* incx);
 QUORIN_API int32_t QUORIN_CDECL isamax_Idx(const int32_t* n, const float* x, int32_t x_index, const int32_t* incx);
-
-/* Returns the 1-based position of the first element with the largest |Re| + |Im|. -- x: n, stride incx */
 QUORIN_API int32_t QUORIN_CDECL icamax(const int32_t* n, const quorin_complex* x, const int32_t* incx);
 QUORIN_API int32_t QUORIN_CDECL icamax_Idx(const int32_t* n, const quorin_complex* x, int32_t x_index,
                                            const int32_t* incx);
 
-/* Returns the 1-based position of the first element with the smallest |Re| + |Im|. -- x: n, stride incx */
+/* Returns the 1-based position of the first element with the smallest |Re| + |Im|.
+     x: [n, stride incx] */
 QUORIN_API int32_t QUORIN_CDECL isamin(const int32_t* n, const float* x, const int32_t* incx);
 QUORIN_API int32_t QUORIN_CDECL isamin_Idx(const int32_t* n, const float* x, int32_t x_index, const int32_t* incx);
-
-/* Returns the 1-based position of the first element with the smallest |Re| + |Im|. -- x: n, stride incx */
 QUORIN_API int32_t QUORIN_CDECL icamin(const int32_t* n, const quorin_complex* x, const int32_t* incx);
 QUORIN_API int32_t QUORIN_CDECL icamin_Idx(const int32_t* n, const quorin_complex* x, int32_t x_index,
                                            const int32_t* incx);
@@ -145,38 +147,47 @@ QUORIN_API int32_t QUORIN_CDECL icamin_Idx(const int32_t* n, const quorin_comple
 /* ---- Rotations ---- */
 
 /* Makes the Givens rotation with (c s; -s c)(a; b) = (r; 0). On return a holds r and b the number z from which c and s
-   can be recovered. -- a: in, out; b: in, out; c: out; s: out */
+   can be recovered.
+     a: in, out
+     b: in, out
+     c: out
+     s: out */
 QUORIN_API void QUORIN_CDECL srotg(float* a, float* b, float* c, float* s);
 QUORIN_API void QUORIN_CDECL srotg_Idx(float* a, float* b, float* c, float* s);
 
-/* Makes the Givens rotation with (c s; -conj(s) c)(a; b) = (r; 0), c real. On return a holds r. -- a: in, out; c: out;
-   s: out */
+/* Makes the Givens rotation with (c s; -conj(s) c)(a; b) = (r; 0), c real. On return a holds r.
+     a: in, out
+     c: out
+     s: out */
 QUORIN_API void QUORIN_CDECL crotg(quorin_complex* a, const quorin_complex* b, float* c, quorin_complex* s);
 QUORIN_API void QUORIN_CDECL crotg_Idx(quorin_complex* a, const quorin_complex* b, float* c, quorin_complex* s);
 
-/* Applies a plane rotation with real cosine and sine to the points (x_i, y_i). -- x: n, stride incx, in, out; y: n,
-   stride incy, in, out */
+/* Applies a plane rotation with real cosine and sine to the points (x_i, y_i).
+     x: in, out, [n, stride incx]
+     y: in, out, [n, stride incy] */
 QUORIN_API void QUORIN_CDECL srot(const int32_t* n, float* x, const int32_t* incx, float* y, const int32_t* incy,
                                   const float* c, const float* s);
 QUORIN_API void QUORIN_CDECL srot_Idx(const int32_t* n, float* x, int32_t x_index, const int32_t* incx, float* y,
                                       int32_t y_index, const int32_t* incy, const float* c, const float* s);
-
-/* Applies a plane rotation with real cosine and sine to the points (x_i, y_i). -- x: n, stride incx, in, out; y: n,
-   stride incy, in, out */
 QUORIN_API void QUORIN_CDECL csrot(const int32_t* n, quorin_complex* x, const int32_t* incx, quorin_complex* y,
                                    const int32_t* incy, const float* c, const float* s);
 QUORIN_API void QUORIN_CDECL csrot_Idx(const int32_t* n, quorin_complex* x, int32_t x_index, const int32_t* incx,
                                        quorin_complex* y, int32_t y_index, const int32_t* incy, const float* c,
                                        const float* s);
 
-/* Makes the modified Givens rotation that zeroes the second component of (sqrt(d1) x1, sqrt(d2) y1). -- d1: in, out;
-   d2: in, out; x1: in, out; param: 5, out */
+/* Makes the modified Givens rotation that zeroes the second component of (sqrt(d1) x1, sqrt(d2) y1).
+     d1: in, out
+     d2: in, out
+     x1: in, out
+     param: out, [5] */
 QUORIN_API void QUORIN_CDECL srotmg(float* d1, float* d2, float* x1, const float* y1, float* param);
 QUORIN_API void QUORIN_CDECL srotmg_Idx(float* d1, float* d2, float* x1, const float* y1, float* param,
                                         int32_t param_index);
 
-/* Applies the modified Givens rotation that param describes to the points (x_i, y_i). -- x: n, stride incx, in, out; y:
-   n, stride incy, in, out; param: 5 */
+/* Applies the modified Givens rotation that param describes to the points (x_i, y_i).
+     x: in, out, [n, stride incx]
+     y: in, out, [n, stride incy]
+     param: [5] */
 QUORIN_API void QUORIN_CDECL srotm(const int32_t* n, float* x, const int32_t* incx, float* y, const int32_t* incy,
                                    const float* param);
 QUORIN_API void QUORIN_CDECL srotm_Idx(const int32_t* n, float* x, int32_t x_index, const int32_t* incx, float* y,
@@ -184,61 +195,75 @@ QUORIN_API void QUORIN_CDECL srotm_Idx(const int32_t* n, float* x, int32_t x_ind
 
 /* ---- Sparse level 1 ---- */
 
-/* y(indx_k) <- y(indx_k) + a x_k for k = 1..nz; positions are 1-based. -- x: nz; indx: nz; y: max(indx), in, out */
+/* y(indx_k) <- y(indx_k) + a x_k for k = 1..nz; positions are 1-based.
+     x: [nz]
+     indx: [nz]
+     y: in, out, [max(indx)] */
 QUORIN_API void QUORIN_CDECL saxpyi(const int32_t* nz, const float* a, const float* x, const int32_t* indx, float* y);
 QUORIN_API void QUORIN_CDECL saxpyi_Idx(const int32_t* nz, const float* a, const float* x, int32_t x_index,
                                         const int32_t* indx, int32_t indx_index, float* y, int32_t y_index);
-
-/* y(indx_k) <- y(indx_k) + a x_k for k = 1..nz; positions are 1-based. -- x: nz; indx: nz; y: max(indx), in, out */
 QUORIN_API void QUORIN_CDECL caxpyi(const int32_t* nz, const quorin_complex* a, const quorin_complex* x,
                                     const int32_t* indx, quorin_complex* y);
 QUORIN_API void QUORIN_CDECL caxpyi_Idx(const int32_t* nz, const quorin_complex* a, const quorin_complex* x,
                                         int32_t x_index, const int32_t* indx, int32_t indx_index, quorin_complex* y,
                                         int32_t y_index);
 
-/* Returns the sum of x_k y(indx_k). -- x: nz; indx: nz; y: max(indx) */
+/* Returns the sum of x_k y(indx_k).
+     x: [nz]
+     indx: [nz]
+     y: [max(indx)] */
 QUORIN_API float QUORIN_CDECL sdoti(const int32_t* nz, const float* x, const int32_t* indx, const float* y);
 QUORIN_API float QUORIN_CDECL sdoti_Idx(const int32_t* nz, const float* x, int32_t x_index, const int32_t* indx,
                                         int32_t indx_index, const float* y, int32_t y_index);
 
-/* The sum of x_k y(indx_k), without conjugation. -- x: nz; indx: nz; y: max(indx) */
+/* The sum of x_k y(indx_k), without conjugation.
+     x: [nz]
+     indx: [nz]
+     y: [max(indx)] */
 QUORIN_API void QUORIN_CDECL cdotui(quorin_complex* result, const int32_t* nz, const quorin_complex* x,
                                     const int32_t* indx, const quorin_complex* y);
 QUORIN_API void QUORIN_CDECL cdotui_Idx(quorin_complex* result, const int32_t* nz, const quorin_complex* x,
                                         int32_t x_index, const int32_t* indx, int32_t indx_index,
                                         const quorin_complex* y, int32_t y_index);
 
-/* The sum of conj(x_k) y(indx_k). -- x: nz; indx: nz; y: max(indx) */
+/* The sum of conj(x_k) y(indx_k).
+     x: [nz]
+     indx: [nz]
+     y: [max(indx)] */
 QUORIN_API void QUORIN_CDECL cdotci(quorin_complex* result, const int32_t* nz, const quorin_complex* x,
                                     const int32_t* indx, const quorin_complex* y);
 QUORIN_API void QUORIN_CDECL cdotci_Idx(quorin_complex* result, const int32_t* nz, const quorin_complex* x,
                                         int32_t x_index, const int32_t* indx, int32_t indx_index,
                                         const quorin_complex* y, int32_t y_index);
 
-/* Gathers x_k <- y(indx_k). -- y: max(indx); x: nz, out; indx: nz */
+/* Gathers x_k <- y(indx_k).
+     y: [max(indx)]
+     x: out, [nz]
+     indx: [nz] */
 QUORIN_API void QUORIN_CDECL sgthr(const int32_t* nz, const float* y, float* x, const int32_t* indx);
 QUORIN_API void QUORIN_CDECL sgthr_Idx(const int32_t* nz, const float* y, int32_t y_index, float* x, int32_t x_index,
                                        const int32_t* indx, int32_t indx_index);
-
-/* Gathers x_k <- y(indx_k). -- y: max(indx); x: nz, out; indx: nz */
 QUORIN_API void QUORIN_CDECL cgthr(const int32_t* nz, const quorin_complex* y, quorin_complex* x, const int32_t* indx);
 QUORIN_API void QUORIN_CDECL cgthr_Idx(const int32_t* nz, const quorin_complex* y, int32_t y_index, quorin_complex* x,
                                        int32_t x_index, const int32_t* indx, int32_t indx_index);
 
-/* Scatters y(indx_k) <- x_k. -- x: nz; indx: nz; y: max(indx), in, out */
+/* Scatters y(indx_k) <- x_k.
+     x: [nz]
+     indx: [nz]
+     y: in, out, [max(indx)] */
 QUORIN_API void QUORIN_CDECL ssctr(const int32_t* nz, const float* x, const int32_t* indx, float* y);
 QUORIN_API void QUORIN_CDECL ssctr_Idx(const int32_t* nz, const float* x, int32_t x_index, const int32_t* indx,
                                        int32_t indx_index, float* y, int32_t y_index);
-
-/* Scatters y(indx_k) <- x_k. -- x: nz; indx: nz; y: max(indx), in, out */
 QUORIN_API void QUORIN_CDECL csctr(const int32_t* nz, const quorin_complex* x, const int32_t* indx, quorin_complex* y);
 QUORIN_API void QUORIN_CDECL csctr_Idx(const int32_t* nz, const quorin_complex* x, int32_t x_index, const int32_t* indx,
                                        int32_t indx_index, quorin_complex* y, int32_t y_index);
 
 /* ---- Level 2 ---- */
 
-/* y <- alpha op(A) x + beta y, op by trans: N as it is, T transposed, C conjugate transposed. -- a: lda x n; x: n or m,
-   stride incx; y: m or n, stride incy, in, out */
+/* y <- alpha op(A) x + beta y, op by trans: N as it is, T transposed, C conjugate transposed.
+     a: [lda x n]
+     x: [n or m, stride incx]
+     y: in, out, [m or n, stride incy] */
 QUORIN_API void QUORIN_CDECL sgemv(const char* trans, const int32_t* m, const int32_t* n, const float* alpha,
                                    const float* a, const int32_t* lda, const float* x, const int32_t* incx,
                                    const float* beta, float* y, const int32_t* incy);
@@ -246,9 +271,6 @@ QUORIN_API void QUORIN_CDECL sgemv_Idx(const char* trans, const int32_t* m, cons
                                        const float* a, int32_t a_index, const int32_t* lda, const float* x,
                                        int32_t x_index, const int32_t* incx, const float* beta, float* y,
                                        int32_t y_index, const int32_t* incy);
-
-/* y <- alpha op(A) x + beta y, op by trans: N as it is, T transposed, C conjugate transposed. -- a: lda x n; x: n or m,
-   stride incx; y: m or n, stride incy, in, out */
 QUORIN_API void QUORIN_CDECL cgemv(const char* trans, const int32_t* m, const int32_t* n, const quorin_complex* alpha,
                                    const quorin_complex* a, const int32_t* lda, const quorin_complex* x,
                                    const int32_t* incx, const quorin_complex* beta, quorin_complex* y,
@@ -259,40 +281,38 @@ QUORIN_API void QUORIN_CDECL cgemv_Idx(const char* trans, const int32_t* m, cons
                                        const int32_t* incx, const quorin_complex* beta, quorin_complex* y,
                                        int32_t y_index, const int32_t* incy);
 
-/* x <- op(A) x with A triangular, upper or lower by uplo (U, L), with a unit diagonal if diag is U. -- a: lda x n; x:
-   n, stride incx, in, out */
+/* x <- op(A) x with A triangular, upper or lower by uplo (U, L), with a unit diagonal if diag is U.
+     a: [lda x n]
+     x: in, out, [n, stride incx] */
 QUORIN_API void QUORIN_CDECL strmv(const char* uplo, const char* trans, const char* diag, const int32_t* n,
                                    const float* a, const int32_t* lda, float* x, const int32_t* incx);
 QUORIN_API void QUORIN_CDECL strmv_Idx(const char* uplo, const char* trans, const char* diag, const int32_t* n,
                                        const float* a, int32_t a_index, const int32_t* lda, float* x, int32_t x_index,
                                        const int32_t* incx);
-
-/* x <- op(A) x with A triangular, upper or lower by uplo (U, L), with a unit diagonal if diag is U. -- a: lda x n; x:
-   n, stride incx, in, out */
 QUORIN_API void QUORIN_CDECL ctrmv(const char* uplo, const char* trans, const char* diag, const int32_t* n,
                                    const quorin_complex* a, const int32_t* lda, quorin_complex* x, const int32_t* incx);
 QUORIN_API void QUORIN_CDECL ctrmv_Idx(const char* uplo, const char* trans, const char* diag, const int32_t* n,
                                        const quorin_complex* a, int32_t a_index, const int32_t* lda, quorin_complex* x,
                                        int32_t x_index, const int32_t* incx);
 
-/* Solves op(A) x = b with A triangular; x holds b on entry. No test for singularity. -- a: lda x n; x: n, stride incx,
-   in, out */
+/* Solves op(A) x = b with A triangular; x holds b on entry. No test for singularity.
+     a: [lda x n]
+     x: in, out, [n, stride incx] */
 QUORIN_API void QUORIN_CDECL strsv(const char* uplo, const char* trans, const char* diag, const int32_t* n,
                                    const float* a, const int32_t* lda, float* x, const int32_t* incx);
 QUORIN_API void QUORIN_CDECL strsv_Idx(const char* uplo, const char* trans, const char* diag, const int32_t* n,
                                        const float* a, int32_t a_index, const int32_t* lda, float* x, int32_t x_index,
                                        const int32_t* incx);
-
-/* Solves op(A) x = b with A triangular; x holds b on entry. No test for singularity. -- a: lda x n; x: n, stride incx,
-   in, out */
 QUORIN_API void QUORIN_CDECL ctrsv(const char* uplo, const char* trans, const char* diag, const int32_t* n,
                                    const quorin_complex* a, const int32_t* lda, quorin_complex* x, const int32_t* incx);
 QUORIN_API void QUORIN_CDECL ctrsv_Idx(const char* uplo, const char* trans, const char* diag, const int32_t* n,
                                        const quorin_complex* a, int32_t a_index, const int32_t* lda, quorin_complex* x,
                                        int32_t x_index, const int32_t* incx);
 
-/* y <- alpha A x + beta y with A symmetric; only the triangle that uplo names is read. -- a: lda x n; x: n, stride
-   incx; y: n, stride incy, in, out */
+/* y <- alpha A x + beta y with A symmetric; only the triangle that uplo names is read.
+     a: [lda x n]
+     x: [n, stride incx]
+     y: in, out, [n, stride incy] */
 QUORIN_API void QUORIN_CDECL ssymv(const char* uplo, const int32_t* n, const float* alpha, const float* a,
                                    const int32_t* lda, const float* x, const int32_t* incx, const float* beta, float* y,
                                    const int32_t* incy);
@@ -301,8 +321,10 @@ QUORIN_API void QUORIN_CDECL ssymv_Idx(const char* uplo, const int32_t* n, const
                                        const int32_t* incx, const float* beta, float* y, int32_t y_index,
                                        const int32_t* incy);
 
-/* y <- alpha A x + beta y with A Hermitian; only the triangle that uplo names is read. -- a: lda x n; x: n, stride
-   incx; y: n, stride incy, in, out */
+/* y <- alpha A x + beta y with A Hermitian; only the triangle that uplo names is read.
+     a: [lda x n]
+     x: [n, stride incx]
+     y: in, out, [n, stride incy] */
 QUORIN_API void QUORIN_CDECL chemv(const char* uplo, const int32_t* n, const quorin_complex* alpha,
                                    const quorin_complex* a, const int32_t* lda, const quorin_complex* x,
                                    const int32_t* incx, const quorin_complex* beta, quorin_complex* y,
@@ -313,15 +335,16 @@ QUORIN_API void QUORIN_CDECL chemv_Idx(const char* uplo, const int32_t* n, const
                                        const quorin_complex* beta, quorin_complex* y, int32_t y_index,
                                        const int32_t* incy);
 
-/* A <- alpha x y^T + A. -- x: m, stride incx; y: n, stride incy; a: lda x n, in, out */
+/* A <- alpha x y^T + A.
+     x: [m, stride incx]
+     y: [n, stride incy]
+     a: in, out, [lda x n] */
 QUORIN_API void QUORIN_CDECL sger(const int32_t* m, const int32_t* n, const float* alpha, const float* x,
                                   const int32_t* incx, const float* y, const int32_t* incy, float* a,
                                   const int32_t* lda);
 QUORIN_API void QUORIN_CDECL sger_Idx(const int32_t* m, const int32_t* n, const float* alpha, const float* x,
                                       int32_t x_index, const int32_t* incx, const float* y, int32_t y_index,
                                       const int32_t* incy, float* a, int32_t a_index, const int32_t* lda);
-
-/* A <- alpha x y^T + A. -- x: m, stride incx; y: n, stride incy; a: lda x n, in, out */
 QUORIN_API void QUORIN_CDECL cgeru(const int32_t* m, const int32_t* n, const quorin_complex* alpha,
                                    const quorin_complex* x, const int32_t* incx, const quorin_complex* y,
                                    const int32_t* incy, quorin_complex* a, const int32_t* lda);
@@ -330,7 +353,10 @@ QUORIN_API void QUORIN_CDECL cgeru_Idx(const int32_t* m, const int32_t* n, const
                                        const quorin_complex* y, int32_t y_index, const int32_t* incy, quorin_complex* a,
                                        int32_t a_index, const int32_t* lda);
 
-/* A <- alpha x y^H + A. -- x: m, stride incx; y: n, stride incy; a: lda x n, in, out */
+/* A <- alpha x y^H + A.
+     x: [m, stride incx]
+     y: [n, stride incy]
+     a: in, out, [lda x n] */
 QUORIN_API void QUORIN_CDECL cgerc(const int32_t* m, const int32_t* n, const quorin_complex* alpha,
                                    const quorin_complex* x, const int32_t* incx, const quorin_complex* y,
                                    const int32_t* incy, quorin_complex* a, const int32_t* lda);
@@ -339,22 +365,28 @@ QUORIN_API void QUORIN_CDECL cgerc_Idx(const int32_t* m, const int32_t* n, const
                                        const quorin_complex* y, int32_t y_index, const int32_t* incy, quorin_complex* a,
                                        int32_t a_index, const int32_t* lda);
 
-/* A <- alpha x x^T + A on one triangle of a symmetric A. -- x: n, stride incx; a: lda x n, in, out */
+/* A <- alpha x x^T + A on one triangle of a symmetric A.
+     x: [n, stride incx]
+     a: in, out, [lda x n] */
 QUORIN_API void QUORIN_CDECL ssyr(const char* uplo, const int32_t* n, const float* alpha, const float* x,
                                   const int32_t* incx, float* a, const int32_t* lda);
 QUORIN_API void QUORIN_CDECL ssyr_Idx(const char* uplo, const int32_t* n, const float* alpha, const float* x,
                                       int32_t x_index, const int32_t* incx, float* a, int32_t a_index,
                                       const int32_t* lda);
 
-/* A <- alpha x x^H + A on one triangle of a Hermitian A; alpha is real. -- x: n, stride incx; a: lda x n, in, out */
+/* A <- alpha x x^H + A on one triangle of a Hermitian A; alpha is real.
+     x: [n, stride incx]
+     a: in, out, [lda x n] */
 QUORIN_API void QUORIN_CDECL cher(const char* uplo, const int32_t* n, const float* alpha, const quorin_complex* x,
                                   const int32_t* incx, quorin_complex* a, const int32_t* lda);
 QUORIN_API void QUORIN_CDECL cher_Idx(const char* uplo, const int32_t* n, const float* alpha, const quorin_complex* x,
                                       int32_t x_index, const int32_t* incx, quorin_complex* a, int32_t a_index,
                                       const int32_t* lda);
 
-/* A <- alpha x y^T + alpha y x^T + A on one triangle of a symmetric A. -- x: n, stride incx; y: n, stride incy; a: lda
-   x n, in, out */
+/* A <- alpha x y^T + alpha y x^T + A on one triangle of a symmetric A.
+     x: [n, stride incx]
+     y: [n, stride incy]
+     a: in, out, [lda x n] */
 QUORIN_API void QUORIN_CDECL ssyr2(const char* uplo, const int32_t* n, const float* alpha, const float* x,
                                    const int32_t* incx, const float* y, const int32_t* incy, float* a,
                                    const int32_t* lda);
@@ -362,8 +394,10 @@ QUORIN_API void QUORIN_CDECL ssyr2_Idx(const char* uplo, const int32_t* n, const
                                        int32_t x_index, const int32_t* incx, const float* y, int32_t y_index,
                                        const int32_t* incy, float* a, int32_t a_index, const int32_t* lda);
 
-/* A <- alpha x y^H + conj(alpha) y x^H + A on one triangle of a Hermitian A. -- x: n, stride incx; y: n, stride incy;
-   a: lda x n, in, out */
+/* A <- alpha x y^H + conj(alpha) y x^H + A on one triangle of a Hermitian A.
+     x: [n, stride incx]
+     y: [n, stride incy]
+     a: in, out, [lda x n] */
 QUORIN_API void QUORIN_CDECL cher2(const char* uplo, const int32_t* n, const quorin_complex* alpha,
                                    const quorin_complex* x, const int32_t* incx, const quorin_complex* y,
                                    const int32_t* incy, quorin_complex* a, const int32_t* lda);
@@ -374,8 +408,10 @@ QUORIN_API void QUORIN_CDECL cher2_Idx(const char* uplo, const int32_t* n, const
 
 /* ---- Level 3 ---- */
 
-/* C <- alpha op(A) op(B) + beta C; op(A) is m x k, op(B) k x n. -- a: lda x k or m; b: ldb x n or k; c: ldc x n, in,
-   out */
+/* C <- alpha op(A) op(B) + beta C; op(A) is m x k, op(B) k x n.
+     a: [lda x k or m]
+     b: [ldb x n or k]
+     c: in, out, [ldc x n] */
 QUORIN_API void QUORIN_CDECL sgemm(const char* transa, const char* transb, const int32_t* m, const int32_t* n,
                                    const int32_t* k, const float* alpha, const float* a, const int32_t* lda,
                                    const float* b, const int32_t* ldb, const float* beta, float* c, const int32_t* ldc);
@@ -383,9 +419,6 @@ QUORIN_API void QUORIN_CDECL sgemm_Idx(const char* transa, const char* transb, c
                                        const int32_t* k, const float* alpha, const float* a, int32_t a_index,
                                        const int32_t* lda, const float* b, int32_t b_index, const int32_t* ldb,
                                        const float* beta, float* c, int32_t c_index, const int32_t* ldc);
-
-/* C <- alpha op(A) op(B) + beta C; op(A) is m x k, op(B) k x n. -- a: lda x k or m; b: ldb x n or k; c: ldc x n, in,
-   out */
 QUORIN_API void QUORIN_CDECL cgemm(const char* transa, const char* transb, const int32_t* m, const int32_t* n,
                                    const int32_t* k, const quorin_complex* alpha, const quorin_complex* a,
                                    const int32_t* lda, const quorin_complex* b, const int32_t* ldb,
@@ -396,8 +429,10 @@ QUORIN_API void QUORIN_CDECL cgemm_Idx(const char* transa, const char* transb, c
                                        const int32_t* ldb, const quorin_complex* beta, quorin_complex* c,
                                        int32_t c_index, const int32_t* ldc);
 
-/* C <- alpha A B + beta C (side L) or alpha B A + beta C (side R) with A symmetric. -- a: lda x m or n; b: ldb x n; c:
-   ldc x n, in, out */
+/* C <- alpha A B + beta C (side L) or alpha B A + beta C (side R) with A symmetric.
+     a: [lda x m or n]
+     b: [ldb x n]
+     c: in, out, [ldc x n] */
 QUORIN_API void QUORIN_CDECL ssymm(const char* side, const char* uplo, const int32_t* m, const int32_t* n,
                                    const float* alpha, const float* a, const int32_t* lda, const float* b,
                                    const int32_t* ldb, const float* beta, float* c, const int32_t* ldc);
@@ -405,9 +440,6 @@ QUORIN_API void QUORIN_CDECL ssymm_Idx(const char* side, const char* uplo, const
                                        const float* alpha, const float* a, int32_t a_index, const int32_t* lda,
                                        const float* b, int32_t b_index, const int32_t* ldb, const float* beta, float* c,
                                        int32_t c_index, const int32_t* ldc);
-
-/* C <- alpha A B + beta C (side L) or alpha B A + beta C (side R) with A symmetric. -- a: lda x m or n; b: ldb x n; c:
-   ldc x n, in, out */
 QUORIN_API void QUORIN_CDECL csymm(const char* side, const char* uplo, const int32_t* m, const int32_t* n,
                                    const quorin_complex* alpha, const quorin_complex* a, const int32_t* lda,
                                    const quorin_complex* b, const int32_t* ldb, const quorin_complex* beta,
@@ -418,8 +450,10 @@ QUORIN_API void QUORIN_CDECL csymm_Idx(const char* side, const char* uplo, const
                                        const quorin_complex* beta, quorin_complex* c, int32_t c_index,
                                        const int32_t* ldc);
 
-/* C <- alpha A B + beta C (side L) or alpha B A + beta C (side R) with A Hermitian. -- a: lda x m or n; b: ldb x n; c:
-   ldc x n, in, out */
+/* C <- alpha A B + beta C (side L) or alpha B A + beta C (side R) with A Hermitian.
+     a: [lda x m or n]
+     b: [ldb x n]
+     c: in, out, [ldc x n] */
 QUORIN_API void QUORIN_CDECL chemm(const char* side, const char* uplo, const int32_t* m, const int32_t* n,
                                    const quorin_complex* alpha, const quorin_complex* a, const int32_t* lda,
                                    const quorin_complex* b, const int32_t* ldb, const quorin_complex* beta,
@@ -430,17 +464,15 @@ QUORIN_API void QUORIN_CDECL chemm_Idx(const char* side, const char* uplo, const
                                        const quorin_complex* beta, quorin_complex* c, int32_t c_index,
                                        const int32_t* ldc);
 
-/* C <- alpha A A^T + beta C (trans N) or alpha A^T A + beta C (trans T) on one triangle of C. -- a: lda x k or n; c:
-   ldc x n, in, out */
+/* C <- alpha A A^T + beta C (trans N) or alpha A^T A + beta C (trans T) on one triangle of C.
+     a: [lda x k or n]
+     c: in, out, [ldc x n] */
 QUORIN_API void QUORIN_CDECL ssyrk(const char* uplo, const char* trans, const int32_t* n, const int32_t* k,
                                    const float* alpha, const float* a, const int32_t* lda, const float* beta, float* c,
                                    const int32_t* ldc);
 QUORIN_API void QUORIN_CDECL ssyrk_Idx(const char* uplo, const char* trans, const int32_t* n, const int32_t* k,
                                        const float* alpha, const float* a, int32_t a_index, const int32_t* lda,
                                        const float* beta, float* c, int32_t c_index, const int32_t* ldc);
-
-/* C <- alpha A A^T + beta C (trans N) or alpha A^T A + beta C (trans T) on one triangle of C. -- a: lda x k or n; c:
-   ldc x n, in, out */
 QUORIN_API void QUORIN_CDECL csyrk(const char* uplo, const char* trans, const int32_t* n, const int32_t* k,
                                    const quorin_complex* alpha, const quorin_complex* a, const int32_t* lda,
                                    const quorin_complex* beta, quorin_complex* c, const int32_t* ldc);
@@ -450,7 +482,8 @@ QUORIN_API void QUORIN_CDECL csyrk_Idx(const char* uplo, const char* trans, cons
                                        int32_t c_index, const int32_t* ldc);
 
 /* C <- alpha A A^H + beta C (trans N) or alpha A^H A + beta C (trans C) on one triangle of C; alpha and beta are real.
-   -- a: lda x k or n; c: ldc x n, in, out */
+     a: [lda x k or n]
+     c: in, out, [ldc x n] */
 QUORIN_API void QUORIN_CDECL cherk(const char* uplo, const char* trans, const int32_t* n, const int32_t* k,
                                    const float* alpha, const quorin_complex* a, const int32_t* lda, const float* beta,
                                    quorin_complex* c, const int32_t* ldc);
@@ -459,7 +492,10 @@ QUORIN_API void QUORIN_CDECL cherk_Idx(const char* uplo, const char* trans, cons
                                        const float* beta, quorin_complex* c, int32_t c_index, const int32_t* ldc);
 
 /* C <- alpha A B^T + alpha B A^T + beta C (trans N) or alpha A^T B + alpha B^T A + beta C (trans T) on one triangle of
-   C. -- a: lda x k or n; b: ldb x k or n; c: ldc x n, in, out */
+   C.
+     a: [lda x k or n]
+     b: [ldb x k or n]
+     c: in, out, [ldc x n] */
 QUORIN_API void QUORIN_CDECL ssyr2k(const char* uplo, const char* trans, const int32_t* n, const int32_t* k,
                                     const float* alpha, const float* a, const int32_t* lda, const float* b,
                                     const int32_t* ldb, const float* beta, float* c, const int32_t* ldc);
@@ -467,9 +503,6 @@ QUORIN_API void QUORIN_CDECL ssyr2k_Idx(const char* uplo, const char* trans, con
                                         const float* alpha, const float* a, int32_t a_index, const int32_t* lda,
                                         const float* b, int32_t b_index, const int32_t* ldb, const float* beta,
                                         float* c, int32_t c_index, const int32_t* ldc);
-
-/* C <- alpha A B^T + alpha B A^T + beta C (trans N) or alpha A^T B + alpha B^T A + beta C (trans T) on one triangle of
-   C. -- a: lda x k or n; b: ldb x k or n; c: ldc x n, in, out */
 QUORIN_API void QUORIN_CDECL csyr2k(const char* uplo, const char* trans, const int32_t* n, const int32_t* k,
                                     const quorin_complex* alpha, const quorin_complex* a, const int32_t* lda,
                                     const quorin_complex* b, const int32_t* ldb, const quorin_complex* beta,
@@ -481,7 +514,10 @@ QUORIN_API void QUORIN_CDECL csyr2k_Idx(const char* uplo, const char* trans, con
                                         int32_t c_index, const int32_t* ldc);
 
 /* C <- alpha A B^H + conj(alpha) B A^H + beta C (trans N) or alpha A^H B + conj(alpha) B^H A + beta C (trans C) on one
-   triangle of C; beta is real. -- a: lda x k or n; b: ldb x k or n; c: ldc x n, in, out */
+   triangle of C; beta is real.
+     a: [lda x k or n]
+     b: [ldb x k or n]
+     c: in, out, [ldc x n] */
 QUORIN_API void QUORIN_CDECL cher2k(const char* uplo, const char* trans, const int32_t* n, const int32_t* k,
                                     const quorin_complex* alpha, const quorin_complex* a, const int32_t* lda,
                                     const quorin_complex* b, const int32_t* ldb, const float* beta, quorin_complex* c,
@@ -492,7 +528,9 @@ QUORIN_API void QUORIN_CDECL cher2k_Idx(const char* uplo, const char* trans, con
                                         const int32_t* ldb, const float* beta, quorin_complex* c, int32_t c_index,
                                         const int32_t* ldc);
 
-/* B <- alpha op(A) B (side L) or alpha B op(A) (side R) with A triangular. -- a: lda x m or n; b: ldb x n, in, out */
+/* B <- alpha op(A) B (side L) or alpha B op(A) (side R) with A triangular.
+     a: [lda x m or n]
+     b: in, out, [ldb x n] */
 QUORIN_API void QUORIN_CDECL strmm(const char* side, const char* uplo, const char* transa, const char* diag,
                                    const int32_t* m, const int32_t* n, const float* alpha, const float* a,
                                    const int32_t* lda, float* b, const int32_t* ldb);
@@ -500,8 +538,6 @@ QUORIN_API void QUORIN_CDECL strmm_Idx(const char* side, const char* uplo, const
                                        const int32_t* m, const int32_t* n, const float* alpha, const float* a,
                                        int32_t a_index, const int32_t* lda, float* b, int32_t b_index,
                                        const int32_t* ldb);
-
-/* B <- alpha op(A) B (side L) or alpha B op(A) (side R) with A triangular. -- a: lda x m or n; b: ldb x n, in, out */
 QUORIN_API void QUORIN_CDECL ctrmm(const char* side, const char* uplo, const char* transa, const char* diag,
                                    const int32_t* m, const int32_t* n, const quorin_complex* alpha,
                                    const quorin_complex* a, const int32_t* lda, quorin_complex* b, const int32_t* ldb);
@@ -511,7 +547,9 @@ QUORIN_API void QUORIN_CDECL ctrmm_Idx(const char* side, const char* uplo, const
                                        int32_t b_index, const int32_t* ldb);
 
 /* Solves op(A) X = alpha B (side L) or X op(A) = alpha B (side R) with A triangular; X replaces B. No test for
-   singularity. -- a: lda x m or n; b: ldb x n, in, out */
+   singularity.
+     a: [lda x m or n]
+     b: in, out, [ldb x n] */
 QUORIN_API void QUORIN_CDECL strsm(const char* side, const char* uplo, const char* transa, const char* diag,
                                    const int32_t* m, const int32_t* n, const float* alpha, const float* a,
                                    const int32_t* lda, float* b, const int32_t* ldb);
@@ -519,9 +557,6 @@ QUORIN_API void QUORIN_CDECL strsm_Idx(const char* side, const char* uplo, const
                                        const int32_t* m, const int32_t* n, const float* alpha, const float* a,
                                        int32_t a_index, const int32_t* lda, float* b, int32_t b_index,
                                        const int32_t* ldb);
-
-/* Solves op(A) X = alpha B (side L) or X op(A) = alpha B (side R) with A triangular; X replaces B. No test for
-   singularity. -- a: lda x m or n; b: ldb x n, in, out */
 QUORIN_API void QUORIN_CDECL ctrsm(const char* side, const char* uplo, const char* transa, const char* diag,
                                    const int32_t* m, const int32_t* n, const quorin_complex* alpha,
                                    const quorin_complex* a, const int32_t* lda, quorin_complex* b, const int32_t* ldb);

@@ -21,9 +21,20 @@
 extern "C" {
 #endif
 
+/* A host function that computes the m values f of a function of the n values x. It leaves m, n and x as they are. */
+typedef void(QUORIN_CDECL* quorin_vector_function)(int32_t* m, int32_t* n, float* x, float* f);
+
+/* The same, with the address that the host gave. */
+typedef void(QUORIN_CDECL* quorin_vector_function_with_data)(int32_t* m, int32_t* n, float* x, float* f,
+                                                             void* user_data);
+
 /* ---- With reverse communication ---- */
 
-/* Starts a computation, and fills handle. -- handle: out; n: 1; m: 1; x: n, in, out; fjac: m x n, out; eps: 1 */
+/* Starts a computation, and fills handle.
+     handle: out
+     x: in, out, [n]
+     fjac: out, [m x n]
+     eps: [1] */
 QUORIN_API int32_t QUORIN_CDECL sjacobi_init(void** handle, const int32_t* n, const int32_t* m, float* x, float* fjac,
                                              const float* eps);
 QUORIN_API int32_t QUORIN_CDECL sjacobi_init_Idx(void** handle, const int32_t* n, const int32_t* m, float* x,
@@ -31,26 +42,34 @@ QUORIN_API int32_t QUORIN_CDECL sjacobi_init_Idx(void** handle, const int32_t* n
                                                  int32_t eps_index);
 
 /* One leg. f1 and f2 have m entries. RCI_Request: 1 put F(x) into f1; 2 put F(x), x having changed, into f2; 0
-   finished. A call after that begins anew at the present x. -- handle: in, out; f1: array; f2: array; RCI_Request: out */
+   finished. A call after that begins anew at the present x.
+     handle: in, out
+     RCI_Request: out */
 QUORIN_API int32_t QUORIN_CDECL sjacobi_solve(void** handle, const float* f1, const float* f2, int32_t* RCI_Request);
 QUORIN_API int32_t QUORIN_CDECL sjacobi_solve_Idx(void** handle, const float* f1, int32_t f1_index, const float* f2,
                                                   int32_t f2_index, int32_t* RCI_Request);
 
-/* Frees the computation and sets handle to null. -- handle: in, out */
+/* Frees the computation and sets handle to null.
+     handle: in, out */
 QUORIN_API int32_t QUORIN_CDECL sjacobi_delete(void** handle);
 QUORIN_API int32_t QUORIN_CDECL sjacobi_delete_Idx(void** handle);
 
 /* ---- With a function of the host ---- */
 
-/* The whole computation. fcn(m, n, x, f) puts F(x) into f. -- n: 1; m: 1; fjac: m x n, out; x: n, in, out; eps: 1 */
+/* The whole computation. fcn(m, n, x, f) puts F(x) into f.
+     fjac: out, [m x n]
+     x: in, out, [n]
+     eps: [1] */
 QUORIN_API int32_t QUORIN_CDECL sjacobi(quorin_vector_function fcn, const int32_t* n, const int32_t* m, float* fjac,
                                         float* x, const float* eps);
 QUORIN_API int32_t QUORIN_CDECL sjacobi_Idx(quorin_vector_function fcn, const int32_t* n, const int32_t* m, float* fjac,
                                             int32_t fjac_index, float* x, int32_t x_index, const float* eps,
                                             int32_t eps_index);
 
-/* The whole computation. fcn(m, n, x, f, user_data) puts F(x) into f. -- n: 1; m: 1; fjac: m x n, out; x: n, in, out;
-   eps: 1 */
+/* The whole computation. fcn(m, n, x, f, user_data) puts F(x) into f.
+     fjac: out, [m x n]
+     x: in, out, [n]
+     eps: [1] */
 QUORIN_API int32_t QUORIN_CDECL sjacobix(quorin_vector_function_with_data fcn, const int32_t* n, const int32_t* m,
                                          float* fjac, float* x, const float* eps, void* user_data);
 QUORIN_API int32_t QUORIN_CDECL sjacobix_Idx(quorin_vector_function_with_data fcn, const int32_t* n, const int32_t* m,

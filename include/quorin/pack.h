@@ -17,35 +17,49 @@ extern "C" {
 
 /* ---- Packing ---- */
 
-/* y(j) <- a(j inca), j = 0...n-1. -- n: 1; a: n, stride inca; inca: 1; y: n, out */
+/* y(j) <- a(j inca), j = 0...n-1.
+     a: [n, stride inca]
+     y: out, [n] */
 QUORIN_API void QUORIN_CDECL vspacki(const int32_t* n, const float* a, const int32_t* inca, float* y);
 QUORIN_API void QUORIN_CDECL vspacki_Idx(const int32_t* n, const float* a, int32_t a_index, const int32_t* inca,
                                          float* y, int32_t y_index);
 
-/* y(j) <- a(ia(j)), j = 0...n-1. -- n: 1; a: array; ia: n; y: n, out */
+/* y(j) <- a(ia(j)), j = 0...n-1.
+     ia: [n]
+     y: out, [n] */
 QUORIN_API void QUORIN_CDECL vspackv(const int32_t* n, const float* a, const int32_t* ia, float* y);
 QUORIN_API void QUORIN_CDECL vspackv_Idx(const int32_t* n, const float* a, int32_t a_index, const int32_t* ia,
                                          int32_t ia_index, float* y, int32_t y_index);
 
-/* y(0), y(1), ... <- the a(j) with ma(j) not 0; the rest of y is not touched and need not exist. -- n: 1; a: n; ma: n;
-   y: n, out */
+/* y(0), y(1), ... <- the a(j) with ma(j) not 0; the rest of y is not touched and need not exist.
+     a: [n]
+     ma: [n]
+     y: out, [n] */
 QUORIN_API void QUORIN_CDECL vspackm(const int32_t* n, const float* a, const int32_t* ma, float* y);
 QUORIN_API void QUORIN_CDECL vspackm_Idx(const int32_t* n, const float* a, int32_t a_index, const int32_t* ma,
                                          int32_t ma_index, float* y, int32_t y_index);
 
 /* ---- Unpacking ---- */
 
-/* y(j incy) <- a(j), j = 0...n-1. -- n: 1; a: n; y: n, stride incy, in, out; incy: 1 */
+/* y(j incy) <- a(j), j = 0...n-1.
+     a: [n]
+     y: in, out, [n, stride incy] */
 QUORIN_API void QUORIN_CDECL vsunpacki(const int32_t* n, const float* a, float* y, const int32_t* incy);
 QUORIN_API void QUORIN_CDECL vsunpacki_Idx(const int32_t* n, const float* a, int32_t a_index, float* y, int32_t y_index,
                                            const int32_t* incy);
 
-/* y(iy(j)) <- a(j), j = 0...n-1. -- n: 1; a: n; y: array, in, out; iy: n */
+/* y(iy(j)) <- a(j), j = 0...n-1.
+     a: [n]
+     y: in, out
+     iy: [n] */
 QUORIN_API void QUORIN_CDECL vsunpackv(const int32_t* n, const float* a, float* y, const int32_t* iy);
 QUORIN_API void QUORIN_CDECL vsunpackv_Idx(const int32_t* n, const float* a, int32_t a_index, float* y, int32_t y_index,
                                            const int32_t* iy, int32_t iy_index);
 
-/* The y(j) with my(j) not 0 <- a(0), a(1), ... -- n: 1; a: n; y: n, in, out; my: n */
+/* The y(j) with my(j) not 0 <- a(0), a(1), ...
+     a: [n]
+     y: in, out, [n]
+     my: [n] */
 QUORIN_API void QUORIN_CDECL vsunpackm(const int32_t* n, const float* a, float* y, const int32_t* my);
 QUORIN_API void QUORIN_CDECL vsunpackm_Idx(const int32_t* n, const float* a, int32_t a_index, float* y, int32_t y_index,
                                            const int32_t* my, int32_t my_index);

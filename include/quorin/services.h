@@ -20,6 +20,9 @@
 extern "C" {
 #endif
 
+/* A host function that receives one zero-terminated text. It is called with the stdcall convention. */
+typedef void(QUORIN_CALLBACK* quorin_text_output_callback)(const char* text);
+
 /* ---- Threads ---- */
 
 /* Sets the number of threads for all domains that have no count of their own. n <= 0 changes nothing. */
@@ -56,14 +59,14 @@ QUORIN_API void QUORIN_CDECL sMKL_FreeBuffers(void);
    stdcall convention, in pieces of at most 1024 characters. */
 QUORIN_API void QUORIN_CDECL set_printf_callback_32f(quorin_text_output_callback callback);
 
-/* Prints nothing, never calls the callback, and returns 0. -- format: array */
+/* Prints nothing, never calls the callback, and returns 0. */
 QUORIN_API int32_t QUORIN_CDECL taucs_printf(const char* format, ...);
 
 /* ---- Errors ---- */
 
 /* The error handler of the dense routines: writes one line to standard output that names the routine (20 characters at
-   most) and the number of the wrong parameter, and returns. Nothing happens if srname or info is null or len negative. --
-   srname: len; info: 1 */
+   most) and the number of the wrong parameter, and returns. Nothing happens if srname or info is null or len negative.
+     srname: [len] */
 QUORIN_API void QUORIN_CDECL XERBLA(const char* srname, const int32_t* info, int32_t len);
 
 #ifdef __cplusplus

@@ -37,8 +37,13 @@ extern "C" {
 /* ---- Equiripple filter design ---- */
 
 /* The linear-phase filter of NUMTAPS >= 3 coefficients whose largest weighted error over NUMBANDS bands is least (Parks
-   and McClellan). BANDS holds the lower and upper edge of each band in cycles per sample, strictly ascending within 0 to
-   0.5. -- H: NUMTAPS, out; BANDS: 2 x NUMBANDS; DES: NUMBANDS; WEIGHT: NUMBANDS; IERR: out */
+   and McClellan). BANDS holds the lower and upper edge of each band in cycles per sample, strictly ascending within 0
+   to 0.5.
+     H: out, [NUMTAPS]
+     BANDS: [2 x NUMBANDS]
+     DES: [NUMBANDS]
+     WEIGHT: [NUMBANDS]
+     IERR: out */
 QUORIN_API void QUORIN_CDECL REMEZ(double* H, const int32_t* NUMTAPS, const int32_t* NUMBANDS, const double* BANDS,
                                    const double* DES, const double* WEIGHT, const int32_t* TYPE,
                                    const int32_t* GRIDDENSITY, const int32_t* MAXITER, int32_t* IERR);
@@ -50,18 +55,29 @@ QUORIN_API void QUORIN_CDECL sREMEZ_Idx(double* H, int32_t H_index, const int32_
 /* ---- Toeplitz systems ---- */
 
 /* Solves T X = B for a general Toeplitz matrix T of order M by Levinson's recursion: A1 is the first row, A2 the first
-   column from its second element on. X may be B. C1 and C2 are work arrays, used only when the library gets no memory for
-   its own. M <= 0 does nothing. The recursion runs in double precision: X is T's solution rounded once, unless a leading
-   minor of T is nearly singular. A leading minor that is singular to working precision fills X with NaN; nothing is
-   divided by zero. About 3 M^2 multiplications. -- A1: M; A2: M-1; B: M; X: M, out; C1: M-1, out; C2: M-1, out */
+   column from its second element on. X may be B. C1 and C2 are work arrays, used only when the library gets no memory
+   for its own. M <= 0 does nothing. The recursion runs in double precision: X is T's solution rounded once, unless a
+   leading minor of T is nearly singular. A leading minor that is singular to working precision fills X with NaN;
+   nothing is divided by zero. About 3 M^2 multiplications.
+     A1: [M]
+     A2: [M-1]
+     B: [M]
+     X: out, [M]
+     C1: out, [M-1]
+     C2: out, [M-1] */
 QUORIN_API void QUORIN_CDECL TSLS1(const float* A1, const float* A2, const float* B, float* X, float* C1, float* C2,
                                    const int32_t* M);
 QUORIN_API void QUORIN_CDECL TSLS1_Idx(const float* A1, int32_t A1_index, const float* A2, int32_t A2_index,
                                        const float* B, int32_t B_index, float* X, int32_t X_index, float* C1,
                                        int32_t C1_index, float* C2, int32_t C2_index, const int32_t* M);
 
-/* As TSLS1, for complex systems. Nothing is conjugated. -- A1: M; A2: M-1; B: M; X: M, out; C1: M-1, out; C2: M-1, out
-   */
+/* As TSLS1, for complex systems. Nothing is conjugated.
+     A1: [M]
+     A2: [M-1]
+     B: [M]
+     X: out, [M]
+     C1: out, [M-1]
+     C2: out, [M-1] */
 QUORIN_API void QUORIN_CDECL TSLC1(const quorin_complex* A1, const quorin_complex* A2, const quorin_complex* B,
                                    quorin_complex* X, quorin_complex* C1, quorin_complex* C2, const int32_t* M);
 QUORIN_API void QUORIN_CDECL TSLC1_Idx(const quorin_complex* A1, int32_t A1_index, const quorin_complex* A2,

@@ -50,28 +50,52 @@ extern "C" {
 
 /* ---- Storage ---- */
 
-/* Brings triads to the column format; a matrix with JA(N+1) = NELT+1 is left alone. ISYM is not read. -- IA: NELT, in,
-   out; JA: NELT or N+2, in, out; A: NELT, in, out; ISYM: 1 */
+/* Brings triads to the column format; a matrix with JA(N+1) = NELT+1 is left alone. ISYM is not read.
+     IA: in, out, [NELT]
+     JA: in, out, [NELT or N+2]
+     A: in, out, [NELT] */
 QUORIN_API void QUORIN_CDECL SS2Y(const int32_t* N, const int32_t* NELT, int32_t* IA, int32_t* JA, float* A,
                                   const int32_t* ISYM);
 
-/* Does nothing: no picture is printed. -- N: 1; NELT: 1; IA: 1; JA: 1; A: 1; ISYM: 1; IUNIT: 1 */
+/* Does nothing: no picture is printed.
+     IA: [NELT]
+     JA: [NELT or N+2]
+     A: [NELT] */
 QUORIN_API void QUORIN_CDECL SCPPLT(const int32_t* N, const int32_t* NELT, const int32_t* IA, const int32_t* JA,
                                     const float* A, const int32_t* ISYM, const int32_t* IUNIT);
 
 /* ---- Symmetric positive definite systems ---- */
 
 /* Conjugate gradients with diagonal scaling. IERR 5: (z, r) <= 0, the diagonal is not positive; 6: (p, A p) <= 0, A is
-   not positive definite. -- B: N; X: N, in, out; IA: NELT, in, out; JA: NELT or N+2, in, out; A: NELT, in, out; TOL: in,
-   out; ITER: out; ERR: out; IERR: out; IUNIT: 1; RWORK: LENW, in, out; LENW: 1; IWORK: LENIW, in, out; LENIW: 1 */
+   not positive definite.
+     B: [N]
+     X: in, out, [N]
+     IA: in, out, [NELT]
+     JA: in, out, [NELT or N+2]
+     A: in, out, [NELT]
+     TOL: in, out
+     ITER: out
+     ERR: out
+     IERR: out
+     RWORK: in, out, [LENW]
+     IWORK: in, out, [LENIW] */
 QUORIN_API void QUORIN_CDECL SSDCG(const int32_t* N, const float* B, float* X, const int32_t* NELT, int32_t* IA,
                                    int32_t* JA, float* A, const int32_t* ISYM, const int32_t* ITOL, float* TOL,
                                    const int32_t* ITMAX, int32_t* ITER, float* ERR, int32_t* IERR, const int32_t* IUNIT,
                                    float* RWORK, const int32_t* LENW, int32_t* IWORK, const int32_t* LENIW);
 
-/* Conjugate gradients with incomplete Cholesky factorization. IERR as SSDCG. -- B: N; X: N, in, out; IA: NELT, in, out;
-   JA: NELT or N+2, in, out; A: NELT, in, out; TOL: in, out; ITER: out; ERR: out; IERR: out; IUNIT: 1; RWORK: LENW, in,
-   out; LENW: 1; IWORK: LENIW, in, out; LENIW: 1 */
+/* Conjugate gradients with incomplete Cholesky factorization. IERR as SSDCG.
+     B: [N]
+     X: in, out, [N]
+     IA: in, out, [NELT]
+     JA: in, out, [NELT or N+2]
+     A: in, out, [NELT]
+     TOL: in, out
+     ITER: out
+     ERR: out
+     IERR: out
+     RWORK: in, out, [LENW]
+     IWORK: in, out, [LENIW] */
 QUORIN_API void QUORIN_CDECL SSICCG(const int32_t* N, const float* B, float* X, const int32_t* NELT, int32_t* IA,
                                     int32_t* JA, float* A, const int32_t* ISYM, const int32_t* ITOL, float* TOL,
                                     const int32_t* ITMAX, int32_t* ITER, float* ERR, int32_t* IERR,
@@ -85,9 +109,18 @@ QUORIN_API void QUORIN_CDECL SSICCG_Idx(const int32_t* N, const float* B, int32_
                                         int32_t RWORK_index, const int32_t* LENW, int32_t* IWORK, int32_t IWORK_index,
                                         const int32_t* LENIW);
 
-/* As SSICCG. With IFACT 0 the factor that an earlier call for the same matrix left in RWORK and IWORK is used again. --
-   B: N; X: N, in, out; IA: NELT, in, out; JA: NELT or N+2, in, out; A: NELT, in, out; TOL: in, out; ITER: out; ERR: out;
-   IERR: out; IUNIT: 1; RWORK: LENW, in, out; LENW: 1; IWORK: LENIW, in, out; LENIW: 1 */
+/* As SSICCG. With IFACT 0 the factor that an earlier call for the same matrix left in RWORK and IWORK is used again.
+     B: [N]
+     X: in, out, [N]
+     IA: in, out, [NELT]
+     JA: in, out, [NELT or N+2]
+     A: in, out, [NELT]
+     TOL: in, out
+     ITER: out
+     ERR: out
+     IERR: out
+     RWORK: in, out, [LENW]
+     IWORK: in, out, [LENIW] */
 QUORIN_API void QUORIN_CDECL SSICCGC(const int32_t* N, const float* B, float* X, const int32_t* NELT, int32_t* IA,
                                      int32_t* JA, float* A, const int32_t* ISYM, const int32_t* ITOL, float* TOL,
                                      const int32_t* ITMAX, int32_t* ITER, float* ERR, int32_t* IERR,
@@ -97,17 +130,36 @@ QUORIN_API void QUORIN_CDECL SSICCGC(const int32_t* N, const float* B, float* X,
 /* ---- Normal equations ---- */
 
 /* Conjugate gradients for A A^T y = B, X = A^T y, scaled by the diagonal of A A^T. IERR 5: (z, r) <= 0; 6: A^T p = 0, A
-   is singular. -- B: N; X: N, in, out; IA: NELT, in, out; JA: NELT or N+2, in, out; A: NELT, in, out; TOL: in, out; ITER:
-   out; ERR: out; IERR: out; IUNIT: 1; RWORK: LENW, in, out; LENW: 1; IWORK: LENIW, in, out; LENIW: 1 */
+   is singular.
+     B: [N]
+     X: in, out, [N]
+     IA: in, out, [NELT]
+     JA: in, out, [NELT or N+2]
+     A: in, out, [NELT]
+     TOL: in, out
+     ITER: out
+     ERR: out
+     IERR: out
+     RWORK: in, out, [LENW]
+     IWORK: in, out, [LENIW] */
 QUORIN_API void QUORIN_CDECL SSDCGN(const int32_t* N, const float* B, float* X, const int32_t* NELT, int32_t* IA,
                                     int32_t* JA, float* A, const int32_t* ISYM, const int32_t* ITOL, float* TOL,
                                     const int32_t* ITMAX, int32_t* ITER, float* ERR, int32_t* IERR,
                                     const int32_t* IUNIT, float* RWORK, const int32_t* LENW, int32_t* IWORK,
                                     const int32_t* LENIW);
 
-/* As SSDCGN, with incomplete LU factorization. -- B: N; X: N, in, out; IA: NELT, in, out; JA: NELT or N+2, in, out; A:
-   NELT, in, out; TOL: in, out; ITER: out; ERR: out; IERR: out; IUNIT: 1; RWORK: LENW, in, out; LENW: 1; IWORK: LENIW, in,
-   out; LENIW: 1 */
+/* As SSDCGN, with incomplete LU factorization.
+     B: [N]
+     X: in, out, [N]
+     IA: in, out, [NELT]
+     JA: in, out, [NELT or N+2]
+     A: in, out, [NELT]
+     TOL: in, out
+     ITER: out
+     ERR: out
+     IERR: out
+     RWORK: in, out, [LENW]
+     IWORK: in, out, [LENIW] */
 QUORIN_API void QUORIN_CDECL SSLUCN(const int32_t* N, const float* B, float* X, const int32_t* NELT, int32_t* IA,
                                     int32_t* JA, float* A, const int32_t* ISYM, const int32_t* ITOL, float* TOL,
                                     const int32_t* ITMAX, int32_t* ITER, float* ERR, int32_t* IERR,
@@ -124,18 +176,36 @@ QUORIN_API void QUORIN_CDECL SSLUCN_Idx(const int32_t* N, const float* B, int32_
 /* ---- General systems ---- */
 
 /* Biconjugate gradients with diagonal scaling. It starts anew when rounding has made the residuals of A and A^T
-   orthogonal. IERR 5: (M^-1 r, r) = 0; 6: the directions of A^T are orthogonal to A times those of A. -- B: N; X: N, in,
-   out; IA: NELT, in, out; JA: NELT or N+2, in, out; A: NELT, in, out; TOL: in, out; ITER: out; ERR: out; IERR: out; IUNIT:
-   1; RWORK: LENW, in, out; LENW: 1; IWORK: LENIW, in, out; LENIW: 1 */
+   orthogonal. IERR 5: (M^-1 r, r) = 0; 6: the directions of A^T are orthogonal to A times those of A.
+     B: [N]
+     X: in, out, [N]
+     IA: in, out, [NELT]
+     JA: in, out, [NELT or N+2]
+     A: in, out, [NELT]
+     TOL: in, out
+     ITER: out
+     ERR: out
+     IERR: out
+     RWORK: in, out, [LENW]
+     IWORK: in, out, [LENIW] */
 QUORIN_API void QUORIN_CDECL SSDBCG(const int32_t* N, const float* B, float* X, const int32_t* NELT, int32_t* IA,
                                     int32_t* JA, float* A, const int32_t* ISYM, const int32_t* ITOL, float* TOL,
                                     const int32_t* ITMAX, int32_t* ITER, float* ERR, int32_t* IERR,
                                     const int32_t* IUNIT, float* RWORK, const int32_t* LENW, int32_t* IWORK,
                                     const int32_t* LENIW);
 
-/* Biconjugate gradients with incomplete LU factorization. IERR as SSDBCG. -- B: N; X: N, in, out; IA: NELT, in, out;
-   JA: NELT or N+2, in, out; A: NELT, in, out; TOL: in, out; ITER: out; ERR: out; IERR: out; IUNIT: 1; RWORK: LENW, in,
-   out; LENW: 1; IWORK: LENIW, in, out; LENIW: 1 */
+/* Biconjugate gradients with incomplete LU factorization. IERR as SSDBCG.
+     B: [N]
+     X: in, out, [N]
+     IA: in, out, [NELT]
+     JA: in, out, [NELT or N+2]
+     A: in, out, [NELT]
+     TOL: in, out
+     ITER: out
+     ERR: out
+     IERR: out
+     RWORK: in, out, [LENW]
+     IWORK: in, out, [LENIW] */
 QUORIN_API void QUORIN_CDECL SSLUBC(const int32_t* N, const float* B, float* X, const int32_t* NELT, int32_t* IA,
                                     int32_t* JA, float* A, const int32_t* ISYM, const int32_t* ITOL, float* TOL,
                                     const int32_t* ITMAX, int32_t* ITER, float* ERR, int32_t* IERR,
@@ -150,18 +220,36 @@ QUORIN_API void QUORIN_CDECL SSLUBC_Idx(const int32_t* N, const float* B, int32_
                                         const int32_t* LENIW);
 
 /* Conjugate gradients squared with diagonal scaling. It starts anew when rounding has made the residual orthogonal to
-   the first one. IERR 5: r = 0, or not finite; 6: (r, A M^-1 r) = 0. -- B: N; X: N, in, out; IA: NELT, in, out; JA: NELT
-   or N+2, in, out; A: NELT, in, out; TOL: in, out; ITER: out; ERR: out; IERR: out; IUNIT: 1; RWORK: LENW, in, out; LENW:
-   1; IWORK: LENIW, in, out; LENIW: 1 */
+   the first one. IERR 5: r = 0, or not finite; 6: (r, A M^-1 r) = 0.
+     B: [N]
+     X: in, out, [N]
+     IA: in, out, [NELT]
+     JA: in, out, [NELT or N+2]
+     A: in, out, [NELT]
+     TOL: in, out
+     ITER: out
+     ERR: out
+     IERR: out
+     RWORK: in, out, [LENW]
+     IWORK: in, out, [LENIW] */
 QUORIN_API void QUORIN_CDECL SSDCGS(const int32_t* N, const float* B, float* X, const int32_t* NELT, int32_t* IA,
                                     int32_t* JA, float* A, const int32_t* ISYM, const int32_t* ITOL, float* TOL,
                                     const int32_t* ITMAX, int32_t* ITER, float* ERR, int32_t* IERR,
                                     const int32_t* IUNIT, float* RWORK, const int32_t* LENW, int32_t* IWORK,
                                     const int32_t* LENIW);
 
-/* Conjugate gradients squared with incomplete LU factorization. IERR as SSDCGS. -- B: N; X: N, in, out; IA: NELT, in,
-   out; JA: NELT or N+2, in, out; A: NELT, in, out; TOL: in, out; ITER: out; ERR: out; IERR: out; IUNIT: 1; RWORK: LENW,
-   in, out; LENW: 1; IWORK: LENIW, in, out; LENIW: 1 */
+/* Conjugate gradients squared with incomplete LU factorization. IERR as SSDCGS.
+     B: [N]
+     X: in, out, [N]
+     IA: in, out, [NELT]
+     JA: in, out, [NELT or N+2]
+     A: in, out, [NELT]
+     TOL: in, out
+     ITER: out
+     ERR: out
+     IERR: out
+     RWORK: in, out, [LENW]
+     IWORK: in, out, [LENIW] */
 QUORIN_API void QUORIN_CDECL SSLUCS(const int32_t* N, const float* B, float* X, const int32_t* NELT, int32_t* IA,
                                     int32_t* JA, float* A, const int32_t* ISYM, const int32_t* ITOL, float* TOL,
                                     const int32_t* ITMAX, int32_t* ITER, float* ERR, int32_t* IERR,
@@ -176,17 +264,36 @@ QUORIN_API void QUORIN_CDECL SSLUCS_Idx(const int32_t* N, const float* B, int32_
                                         const int32_t* LENIW);
 
 /* GMRES with diagonal scaling, restarted after NSAVE steps. It makes ||r|| least, with ITOL = 2 ||M^-1 r||. IERR 5: A
-   is singular, or not finite. -- B: N; X: N, in, out; IA: NELT, in, out; JA: NELT or N+2, in, out; A: NELT, in, out; TOL:
-   in, out; ITER: out; ERR: out; IERR: out; IUNIT: 1; RWORK: LENW, in, out; LENW: 1; IWORK: LENIW, in, out; LENIW: 1 */
+   is singular, or not finite.
+     B: [N]
+     X: in, out, [N]
+     IA: in, out, [NELT]
+     JA: in, out, [NELT or N+2]
+     A: in, out, [NELT]
+     TOL: in, out
+     ITER: out
+     ERR: out
+     IERR: out
+     RWORK: in, out, [LENW]
+     IWORK: in, out, [LENIW] */
 QUORIN_API void QUORIN_CDECL SSDGMR(const int32_t* N, const float* B, float* X, const int32_t* NELT, int32_t* IA,
                                     int32_t* JA, float* A, const int32_t* ISYM, const int32_t* NSAVE,
                                     const int32_t* ITOL, float* TOL, const int32_t* ITMAX, int32_t* ITER, float* ERR,
                                     int32_t* IERR, const int32_t* IUNIT, float* RWORK, const int32_t* LENW,
                                     int32_t* IWORK, const int32_t* LENIW);
 
-/* GMRES with incomplete LU factorization. IERR as SSDGMR. -- B: N; X: N, in, out; IA: NELT, in, out; JA: NELT or N+2,
-   in, out; A: NELT, in, out; TOL: in, out; ITER: out; ERR: out; IERR: out; IUNIT: 1; RWORK: LENW, in, out; LENW: 1; IWORK:
-   LENIW, in, out; LENIW: 1 */
+/* GMRES with incomplete LU factorization. IERR as SSDGMR.
+     B: [N]
+     X: in, out, [N]
+     IA: in, out, [NELT]
+     JA: in, out, [NELT or N+2]
+     A: in, out, [NELT]
+     TOL: in, out
+     ITER: out
+     ERR: out
+     IERR: out
+     RWORK: in, out, [LENW]
+     IWORK: in, out, [LENIW] */
 QUORIN_API void QUORIN_CDECL SSLUGM(const int32_t* N, const float* B, float* X, const int32_t* NELT, int32_t* IA,
                                     int32_t* JA, float* A, const int32_t* ISYM, const int32_t* NSAVE,
                                     const int32_t* ITOL, float* TOL, const int32_t* ITMAX, int32_t* ITER, float* ERR,
@@ -200,18 +307,36 @@ QUORIN_API void QUORIN_CDECL SSLUGM_Idx(const int32_t* N, const float* B, int32_
                                         int32_t RWORK_index, const int32_t* LENW, int32_t* IWORK, int32_t IWORK_index,
                                         const int32_t* LENIW);
 
-/* Orthomin(NSAVE) with diagonal scaling. IERR 5: A p = 0; 6: no step along the direction makes the residual less. -- B:
-   N; X: N, in, out; IA: NELT, in, out; JA: NELT or N+2, in, out; A: NELT, in, out; TOL: in, out; ITER: out; ERR: out;
-   IERR: out; IUNIT: 1; RWORK: LENW, in, out; LENW: 1; IWORK: LENIW, in, out; LENIW: 1 */
+/* Orthomin(NSAVE) with diagonal scaling. IERR 5: A p = 0; 6: no step along the direction makes the residual less.
+     B: [N]
+     X: in, out, [N]
+     IA: in, out, [NELT]
+     JA: in, out, [NELT or N+2]
+     A: in, out, [NELT]
+     TOL: in, out
+     ITER: out
+     ERR: out
+     IERR: out
+     RWORK: in, out, [LENW]
+     IWORK: in, out, [LENIW] */
 QUORIN_API void QUORIN_CDECL SSDOMN(const int32_t* N, const float* B, float* X, const int32_t* NELT, int32_t* IA,
                                     int32_t* JA, float* A, const int32_t* ISYM, const int32_t* NSAVE,
                                     const int32_t* ITOL, float* TOL, const int32_t* ITMAX, int32_t* ITER, float* ERR,
                                     int32_t* IERR, const int32_t* IUNIT, float* RWORK, const int32_t* LENW,
                                     int32_t* IWORK, const int32_t* LENIW);
 
-/* Orthomin(NSAVE) with incomplete LU factorization. IERR as SSDOMN. -- B: N; X: N, in, out; IA: NELT, in, out; JA: NELT
-   or N+2, in, out; A: NELT, in, out; TOL: in, out; ITER: out; ERR: out; IERR: out; IUNIT: 1; RWORK: LENW, in, out; LENW:
-   1; IWORK: LENIW, in, out; LENIW: 1 */
+/* Orthomin(NSAVE) with incomplete LU factorization. IERR as SSDOMN.
+     B: [N]
+     X: in, out, [N]
+     IA: in, out, [NELT]
+     JA: in, out, [NELT or N+2]
+     A: in, out, [NELT]
+     TOL: in, out
+     ITER: out
+     ERR: out
+     IERR: out
+     RWORK: in, out, [LENW]
+     IWORK: in, out, [LENIW] */
 QUORIN_API void QUORIN_CDECL SSLUOM(const int32_t* N, const float* B, float* X, const int32_t* NELT, int32_t* IA,
                                     int32_t* JA, float* A, const int32_t* ISYM, const int32_t* NSAVE,
                                     const int32_t* ITOL, float* TOL, const int32_t* ITMAX, int32_t* ITER, float* ERR,
@@ -227,9 +352,18 @@ QUORIN_API void QUORIN_CDECL SSLUOM_Idx(const int32_t* N, const float* B, int32_
 
 /* ---- Refinement: X <- X + M^-1 (B - A X) ---- */
 
-/* Jacobi's iteration, M the diagonal. -- B: N; X: N, in, out; IA: NELT, in, out; JA: NELT or N+2, in, out; A: NELT, in,
-   out; TOL: in, out; ITER: out; ERR: out; IERR: out; IUNIT: 1; RWORK: LENW, in, out; LENW: 1; IWORK: LENIW, in, out;
-   LENIW: 1 */
+/* Jacobi's iteration, M the diagonal.
+     B: [N]
+     X: in, out, [N]
+     IA: in, out, [NELT]
+     JA: in, out, [NELT or N+2]
+     A: in, out, [NELT]
+     TOL: in, out
+     ITER: out
+     ERR: out
+     IERR: out
+     RWORK: in, out, [LENW]
+     IWORK: in, out, [LENIW] */
 QUORIN_API void QUORIN_CDECL SSJAC(const int32_t* N, const float* B, float* X, const int32_t* NELT, int32_t* IA,
                                    int32_t* JA, float* A, const int32_t* ISYM, const int32_t* ITOL, float* TOL,
                                    const int32_t* ITMAX, int32_t* ITER, float* ERR, int32_t* IERR, const int32_t* IUNIT,
@@ -241,9 +375,18 @@ QUORIN_API void QUORIN_CDECL SSJAC_Idx(const int32_t* N, const float* B, int32_t
                                        int32_t* IERR, const int32_t* IUNIT, float* RWORK, int32_t RWORK_index,
                                        const int32_t* LENW, int32_t* IWORK, int32_t IWORK_index, const int32_t* LENIW);
 
-/* Gauss and Seidel's iteration, M the lower triangle with the diagonal. -- B: N; X: N, in, out; IA: NELT, in, out; JA:
-   NELT or N+2, in, out; A: NELT, in, out; TOL: in, out; ITER: out; ERR: out; IERR: out; IUNIT: 1; RWORK: LENW, in, out;
-   LENW: 1; IWORK: LENIW, in, out; LENIW: 1 */
+/* Gauss and Seidel's iteration, M the lower triangle with the diagonal.
+     B: [N]
+     X: in, out, [N]
+     IA: in, out, [NELT]
+     JA: in, out, [NELT or N+2]
+     A: in, out, [NELT]
+     TOL: in, out
+     ITER: out
+     ERR: out
+     IERR: out
+     RWORK: in, out, [LENW]
+     IWORK: in, out, [LENIW] */
 QUORIN_API void QUORIN_CDECL SSGS(const int32_t* N, const float* B, float* X, const int32_t* NELT, int32_t* IA,
                                   int32_t* JA, float* A, const int32_t* ISYM, const int32_t* ITOL, float* TOL,
                                   const int32_t* ITMAX, int32_t* ITER, float* ERR, int32_t* IERR, const int32_t* IUNIT,
@@ -255,9 +398,18 @@ QUORIN_API void QUORIN_CDECL SSGS_Idx(const int32_t* N, const float* B, int32_t 
                                       const int32_t* IUNIT, float* RWORK, int32_t RWORK_index, const int32_t* LENW,
                                       int32_t* IWORK, int32_t IWORK_index, const int32_t* LENIW);
 
-/* Refinement with incomplete LU factorization. -- B: N; X: N, in, out; IA: NELT, in, out; JA: NELT or N+2, in, out; A:
-   NELT, in, out; TOL: in, out; ITER: out; ERR: out; IERR: out; IUNIT: 1; RWORK: LENW, in, out; LENW: 1; IWORK: LENIW, in,
-   out; LENIW: 1 */
+/* Refinement with incomplete LU factorization.
+     B: [N]
+     X: in, out, [N]
+     IA: in, out, [NELT]
+     JA: in, out, [NELT or N+2]
+     A: in, out, [NELT]
+     TOL: in, out
+     ITER: out
+     ERR: out
+     IERR: out
+     RWORK: in, out, [LENW]
+     IWORK: in, out, [LENIW] */
 QUORIN_API void QUORIN_CDECL SSILUR(const int32_t* N, const float* B, float* X, const int32_t* NELT, int32_t* IA,
                                     int32_t* JA, float* A, const int32_t* ISYM, const int32_t* ITOL, float* TOL,
                                     const int32_t* ITMAX, int32_t* ITER, float* ERR, int32_t* IERR,

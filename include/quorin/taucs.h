@@ -1,10 +1,10 @@
 /* TAUCS sparse matrices.
  *
- * Compressed-column matrices in the record taucs_ccs_matrix (quorin/types.h), and dense vectors as bare arrays, of
- * doubles (TAUCS_DOUBLE) or double complex numbers (TAUCS_DCOMPLEX). Every routine looks at the type in the matrix's
- * flags or in its argument flags; if both are named, complex counts. TAUCS_SINGLE and the other types are no type for a
- * matrix: routines that return a matrix then stop the process through the C runtime's assertion handler, and the others
- * do nothing.
+ * Compressed-column matrices in the record taucs_ccs_matrix, and dense vectors as bare arrays, of doubles
+ * (TAUCS_DOUBLE) or double complex numbers (TAUCS_DCOMPLEX). Every routine looks at the type in the matrix's flags or
+ * in its argument flags; if both are named, complex counts. TAUCS_SINGLE and the other types are no type for a matrix:
+ * routines that return a matrix then stop the process through the C runtime's assertion handler, and the others do
+ * nothing.
  *
  * Scalars are passed by value here and arrays by their address. A matrix that is returned belongs to the caller, who
  * gives it back with taucs_ccs_free; no routine frees its input. Vectors and permutations come from the library's
@@ -26,6 +26,37 @@
 extern "C" {
 #endif
 
+/* The compressed-column matrix of the TAUCS routines. Column j has the entries colptr[j], ..., colptr[j + 1] - 1 of
+ * rowind (zero-based) and values, in any order; colptr[0] is 0. A symmetric or Hermitian matrix holds one triangle with
+ * its diagonal, the lower one. */
+typedef struct taucs_ccs_matrix {
+  int32_t n; /* columns */
+  int32_t m; /* rows */
+  int32_t flags; /* TAUCS_DOUBLE, TAUCS_LOWER, ..., added up */
+  int32_t* colptr; /* where columns begin */
+  int32_t* rowind; /* rows */
+  union {
+    void* v; /* the entries, whatever their type */
+    double* d; /* the entries of a TAUCS_DOUBLE matrix */
+    quorin_double_complex* z; /* the entries of a TAUCS_DCOMPLEX matrix */
+  } values;
+} taucs_ccs_matrix;
+
+/* The bits of flags. A matrix has elements of TAUCS_DOUBLE or TAUCS_DCOMPLEX only. */
+enum {
+  TAUCS_LOWER = 1, /* only the lower triangle is stored */
+  TAUCS_UPPER = 2, /* only the upper triangle is stored */
+  TAUCS_TRIANGULAR = 4, /* the matrix is triangular */
+  TAUCS_SYMMETRIC = 8, /* symmetric, stored as one triangle */
+  TAUCS_HERMITIAN = 16, /* Hermitian, stored as one triangle */
+  TAUCS_PATTERN = 32, /* only the pattern has a meaning */
+  TAUCS_INT = 1024, /* elements are integers */
+  TAUCS_DOUBLE = 2048, /* elements are doubles */
+  TAUCS_SINGLE = 4096, /* elements are floats */
+  TAUCS_DCOMPLEX = 8192, /* elements are double complex */
+  TAUCS_SCOMPLEX = 16384 /* elements are single complex */
+};
+
 /* ---- Matrices ---- */
 
 /* A new m-by-n matrix with room for nnz entries, whose arrays are not cleared, and with these flags; null without a
@@ -40,16 +71,21 @@ QUORIN_API void QUORIN_CDECL taucs_ccs_free(taucs_ccs_matrix* A);
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_transpose(const taucs_ccs_matrix* A);
 
 /* P A P^T for a symmetric or Hermitian matrix whose lower triangle is stored; so is that of the result. Entry (i, j)
-   goes to (invperm[i], invperm[j]). -- perm: A.n; invperm: A.n */
+   goes to (invperm[i], invperm[j]).
+     perm: [A.n]
+     invperm: [A.n] */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_permute_symmetrically(const taucs_ccs_matrix* A,
                                                                           const int32_t* perm, const int32_t* invperm);
 
-/* Row i becomes row perm[i]. Matrices of doubles only; others stay as they are. -- perm: A.m */
+/* Row i becomes row perm[i]. Matrices of doubles only; others stay as they are.
+     perm: [A.m] */
 QUORIN_API void QUORIN_CDECL taucs_ccs_permute_rows_inplace(taucs_ccs_matrix* A, const int32_t* perm);
 
 /* Cuts a lower-stored matrix behind its first p columns: L, n-by-p, takes these as they are, as a general matrix
-   flagged TAUCS_LOWER; R, of order n-p and with A's flags, takes the other columns, renumbered from zero. Both are null if
-   there is no memory, or for p < 0 or p > n. -- L: out; R: out */
+   flagged TAUCS_LOWER; R, of order n-p and with A's flags, takes the other columns, renumbered from zero. Both are null
+   if there is no memory, or for p < 0 or p > n.
+     L: out
+     R: out */
 QUORIN_API void QUORIN_CDECL taucs_ccs_split(const taucs_ccs_matrix* A, taucs_ccs_matrix** L, taucs_ccs_matrix** R,
                                              int32_t p);
 
@@ -61,8 +97,8 @@ QUORIN_API void QUORIN_CDECL taucs_ccs_times_vec(const taucs_ccs_matrix* A, cons
 QUORIN_API void QUORIN_CDECL taucs_ccs_times_vec_many(const taucs_ccs_matrix* A, int32_t count, const void* X, void* B);
 
 /* For a symmetric or Hermitian lower-stored A = D + N + P (diagonal, off-diagonal entries of non-positive and of
-   positive real part) the matrix M = [D+N, -P; -P, D+N] of order 2n, which has no positive off-diagonal entry: M [x; -x] =
-   [A x; -A x]. Null for another structure. */
+   positive real part) the matrix M = [D+N, -P; -P, D+N] of order 2n, which has no positive off-diagonal entry: M [x;
+   -x] = [A x; -A x]. Null for another structure. */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_augment_nonpositive_offdiagonals(const taucs_ccs_matrix* A);
 
 /* ---- Vectors ---- */
@@ -74,10 +110,12 @@ QUORIN_API void* QUORIN_CDECL taucs_vec_create(int32_t n, int32_t flags);
 QUORIN_API void QUORIN_CDECL taucs_vec_axpby(int32_t n, int32_t flags, double a, const void* x, double b, const void* y,
                                              void* r);
 
-/* pv[i] <- v[p[i]]. -- p: n */
+/* pv[i] <- v[p[i]].
+     p: [n] */
 QUORIN_API void QUORIN_CDECL taucs_vec_permute(int32_t n, int32_t flags, const void* v, void* pv, const int32_t* p);
 
-/* pv[p[i]] <- v[i]. -- p: n */
+/* pv[p[i]] <- v[i].
+     p: [n] */
 QUORIN_API void QUORIN_CDECL taucs_vec_ipermute(int32_t n, int32_t flags, const void* v, void* pv, const int32_t* p);
 
 /* The Euclidean norm, without overflow or underflow on the way; NaN without a type. */
@@ -86,7 +124,7 @@ QUORIN_API double QUORIN_CDECL taucs_vec_norm2(int32_t n, int32_t flags, const v
 /* ---- Time, memory, text ---- */
 
 /* Keeps the name of a log file, cut to 511 characters, which nothing is ever written to; stderr, stdout and none change
-   nothing. To be called before any concurrent use. -- name: array */
+   nothing. To be called before any concurrent use. */
 QUORIN_API void QUORIN_CDECL taucs_logfile(const char* name);
 
 /* Seconds since midnight, universal time, so that an interval across midnight is negative. */
@@ -110,8 +148,10 @@ QUORIN_API int32_t QUORIN_CDECL taucs_maximize_stacksize(void);
 /* A permutation that keeps factors sparse, and its inverse, in new arrays of n. name, exactly: metis, genmmd, camd or
    tree for symmetric and Hermitian matrices whose lower triangle is stored; colamd for others, whose columns it orders;
    random (the same one for the same n) or identity for any. Both arrays are null for any other name (amd, amdbar and md
-   among them), for a matrix of another structure or with an index outside of it, and without memory; but colamd stops the
-   process if there is none for the two arrays. -- perm: out; invperm: out; name: array */
+   among them), for a matrix of another structure or with an index outside of it, and without memory; but colamd stops
+   the process if there is none for the two arrays.
+     perm: out
+     invperm: out */
 QUORIN_API void QUORIN_CDECL taucs_ccs_order(const taucs_ccs_matrix* A, int32_t** perm, int32_t** invperm,
                                              const char* name);
 
@@ -120,41 +160,40 @@ QUORIN_API void QUORIN_CDECL taucs_ccs_order(const taucs_ccs_matrix* A, int32_t*
 /* Reads lines 'row column value' (complex: 'row column real imaginary'), one-based, until no further entry stands.
    flags: the type and, for a symmetric matrix, TAUCS_SYMMETRIC or TAUCS_HERMITIAN: then entries above the diagonal are
    dropped. Entries are not merged. In the result n is the largest row and m the largest column that was kept, the other
-   way round than elsewhere; colptr goes on to the larger of the two. -- filename: array */
+   way round than elsewhere; colptr goes on to the larger of the two. */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_read_ijv(const char* filename, int32_t flags);
 
-/* As taucs_ccs_read_ijv, with zero-based indices. -- filename: array */
+/* As taucs_ccs_read_ijv, with zero-based indices. */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_read_ijv_zero_based(const char* filename, int32_t flags);
 
 /* Reads three integers (rows, columns, entries; not used), then entries as taucs_ccs_read_ijv does; there is no banner
    and no comment. Entries off the diagonal become -1, whatever the file says. With TAUCS_SYMMETRIC, entries above the
-   diagonal move below it. -- filename: array */
+   diagonal move below it. */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_read_mtx(const char* filename, int32_t flags);
 
 /* Reads a square matrix, zero-based: n, n+1 column pointers, row indices, values. With TAUCS_SYMMETRIC, a row above the
-   diagonal stops the process. -- filename: array */
+   diagonal stops the process. */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_read_ccs(const char* filename, int32_t flags);
 
-/* Reads m, n, flags, colptr, rowind, values as they stand in memory, integers of 32 bits, lowest byte first. --
-   filename: array */
+/* Reads m, n, flags, colptr, rowind, values as they stand in memory, integers of 32 bits, lowest byte first. */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_read_binary(const char* filename);
 
 /* Reads a Harwell-Boeing file of an assembled matrix, in the formats I, F, E, D and G; Rutherford-Boeing files of the
-   same types, too. The entries of a pattern become 1. A real matrix is always double; to read a complex one without asking
-   for TAUCS_DCOMPLEX stops the process. -- filename: array */
+   same types, too. The entries of a pattern become 1. A real matrix is always double; to read a complex one without
+   asking for TAUCS_DCOMPLEX stops the process. */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_read_hb(const char* filename, int32_t flags);
 
 /* Writes lines 'row column value', one-based, with 18 significant digits. In a symmetric matrix each entry off the
    diagonal is followed by its mirror image; a Hermitian one is written as it is stored. Returns 0, or -1 if the file
-   cannot be opened or written. -- filename: array */
+   cannot be opened or written. */
 QUORIN_API int32_t QUORIN_CDECL taucs_ccs_write_ijv(const taucs_ccs_matrix* A, const char* filename);
 
 /* Reads n elements as they stand in memory into a new vector. TAUCS_SINGLE and TAUCS_SCOMPLEX are types here, too. Null
-   for a file that is too short; zeros if it cannot be opened. -- filename: array */
+   for a file that is too short; zeros if it cannot be opened. */
 QUORIN_API void* QUORIN_CDECL taucs_vec_read_binary(int32_t n, int32_t flags, const char* filename);
 
 /* Writes over the first n elements of a file, which is made if there is none; the rest of a longer one stays. Returns
-   0, whatever happens. -- filename: array */
+   0, whatever happens. */
 QUORIN_API int32_t QUORIN_CDECL taucs_vec_write_binary(int32_t n, int32_t flags, const void* v, const char* filename);
 
 #ifdef __cplusplus

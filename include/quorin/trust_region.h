@@ -34,8 +34,10 @@ extern "C" {
 
 /* ---- Without bounds ---- */
 
-/* Starts a run from x, and fills handle. eps is copied. -- handle: out; n: 1; m: 1; x: n, in, out; eps: 6; iter1: 1;
-   iter2: 1; rs: 1 */
+/* Starts a run from x, and fills handle. eps is copied.
+     handle: out
+     x: in, out, [n]
+     eps: [6] */
 QUORIN_API int32_t QUORIN_CDECL strnlsp_init(void** handle, const int32_t* n, const int32_t* m, float* x,
                                              const float* eps, const int32_t* iter1, const int32_t* iter2,
                                              const float* rs);
@@ -44,28 +46,41 @@ QUORIN_API int32_t QUORIN_CDECL strnlsp_init_Idx(void** handle, const int32_t* n
                                                  const int32_t* iter1, const int32_t* iter2, const float* rs);
 
 /* One leg. fvec has m entries, fjac m x n. RCI_Request: 1 put F(x) into fvec; 2 put the Jacobian at x into fjac; -1
-   iter1 steps done; -2 the region is smaller than eps(1); -3 ||F|| < eps(2); -4 a column of the Jacobian is shorter than
-   eps(3); -5 the step is shorter than eps(4); -6 the step would lower ||F|| by less than eps(5), or not at all. At the end
-   x is the best point found and fvec its F. 1502 also when the first F or Jacobian is not finite; RCI_Request is then -1.
-   -- handle: in, out; fvec: array, in, out; fjac: array; RCI_Request: in, out */
+   iter1 steps done; -2 the region is smaller than eps(1); -3 ||F|| < eps(2); -4 a column of the Jacobian is shorter
+   than eps(3); -5 the step is shorter than eps(4); -6 the step would lower ||F|| by less than eps(5), or not at all. At
+   the end x is the best point found and fvec its F. 1502 also when the first F or Jacobian is not finite; RCI_Request
+   is then -1.
+     handle: in, out
+     fvec: in, out
+     RCI_Request: in, out */
 QUORIN_API int32_t QUORIN_CDECL strnlsp_solve(void** handle, float* fvec, const float* fjac, int32_t* RCI_Request);
 QUORIN_API int32_t QUORIN_CDECL strnlsp_solve_Idx(void** handle, float* fvec, int32_t fvec_index, const float* fjac,
                                                   int32_t fjac_index, int32_t* RCI_Request);
 
 /* How the run went: steps; why it ended, 1 to 6 for the requests -1 to -6, 0 if it has not; ||F|| at the start and at
-   the best point. -- handle: in, out; iter: out; st_cr: out; r1: out; r2: out */
+   the best point.
+     handle: in, out
+     iter: out
+     st_cr: out
+     r1: out
+     r2: out */
 QUORIN_API int32_t QUORIN_CDECL strnlsp_get(void** handle, int32_t* iter, int32_t* st_cr, float* r1, float* r2);
 QUORIN_API int32_t QUORIN_CDECL strnlsp_get_Idx(void** handle, int32_t* iter, int32_t* st_cr, float* r1, float* r2);
 
-/* Frees the run and sets handle to null. -- handle: in, out */
+/* Frees the run and sets handle to null.
+     handle: in, out */
 QUORIN_API int32_t QUORIN_CDECL strnlsp_delete(void** handle);
 QUORIN_API int32_t QUORIN_CDECL strnlsp_delete_Idx(void** handle);
 
 /* ---- With bounds ---- */
 
 /* Starts a run from x with LW <= x <= UP, and fills handle. The start is moved to the bounds if it is outside; no point
-   outside is ever asked for. Bounds may be infinite. LW, UP and eps are copied; the sign of eps(5) does not matter. --
-   handle: out; n: 1; m: 1; x: n, in, out; LW: n; UP: n; eps: 6; iter1: 1; iter2: 1; rs: 1 */
+   outside is ever asked for. Bounds may be infinite. LW, UP and eps are copied; the sign of eps(5) does not matter.
+     handle: out
+     x: in, out, [n]
+     LW: [n]
+     UP: [n]
+     eps: [6] */
 QUORIN_API int32_t QUORIN_CDECL strnlspbc_init(void** handle, const int32_t* n, const int32_t* m, float* x,
                                                const float* LW, const float* UP, const float* eps, const int32_t* iter1,
                                                const int32_t* iter2, const float* rs);
@@ -74,17 +89,25 @@ QUORIN_API int32_t QUORIN_CDECL strnlspbc_init_Idx(void** handle, const int32_t*
                                                    int32_t UP_index, const float* eps, int32_t eps_index,
                                                    const int32_t* iter1, const int32_t* iter2, const float* rs);
 
-/* As strnlsp_solve. Variables that a bound keeps are left out of the test with eps(3). -- handle: in, out; fvec: array,
-   in, out; fjac: array; RCI_Request: in, out */
+/* As strnlsp_solve. Variables that a bound keeps are left out of the test with eps(3).
+     handle: in, out
+     fvec: in, out
+     RCI_Request: in, out */
 QUORIN_API int32_t QUORIN_CDECL strnlspbc_solve(void** handle, float* fvec, const float* fjac, int32_t* RCI_Request);
 QUORIN_API int32_t QUORIN_CDECL strnlspbc_solve_Idx(void** handle, float* fvec, int32_t fvec_index, const float* fjac,
                                                     int32_t fjac_index, int32_t* RCI_Request);
 
-/* As strnlsp_get. -- handle: in, out; iter: out; st_cr: out; r1: out; r2: out */
+/* As strnlsp_get.
+     handle: in, out
+     iter: out
+     st_cr: out
+     r1: out
+     r2: out */
 QUORIN_API int32_t QUORIN_CDECL strnlspbc_get(void** handle, int32_t* iter, int32_t* st_cr, float* r1, float* r2);
 QUORIN_API int32_t QUORIN_CDECL strnlspbc_get_Idx(void** handle, int32_t* iter, int32_t* st_cr, float* r1, float* r2);
 
-/* Frees the run and sets handle to null. -- handle: in, out */
+/* Frees the run and sets handle to null.
+     handle: in, out */
 QUORIN_API int32_t QUORIN_CDECL strnlspbc_delete(void** handle);
 QUORIN_API int32_t QUORIN_CDECL strnlspbc_delete_Idx(void** handle);
 

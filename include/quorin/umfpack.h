@@ -38,8 +38,11 @@ extern "C" {
 
 /* ---- Factorization and solution ---- */
 
-/* Analyses the pattern of a matrix and orders its columns. Ax may be null. -- Ap: n_col+1; Ai: array; Ax: array;
-   Symbolic: out; Control: 20; Info: 90, out */
+/* Analyses the pattern of a matrix and orders its columns. Ax may be null.
+     Ap: [n_col+1]
+     Symbolic: out
+     Control: [20]
+     Info: out, [90] */
 QUORIN_API int32_t QUORIN_CDECL umfpack_di_symbolic(int32_t n_row, int32_t n_col, const int32_t* Ap, const int32_t* Ai,
                                                     const float* Ax, void** Symbolic, const float* Control,
                                                     float* Info);
@@ -49,8 +52,11 @@ QUORIN_API int32_t QUORIN_CDECL umfpack_si_symbolic_Idx(int32_t n_row, int32_t n
                                                         const float* Control, int32_t Control_index, float* Info,
                                                         int32_t Info_index);
 
-/* Analyses the pattern of a matrix and orders its columns. Ax may be null. -- Ap: n_col+1; Ai: array; Ax: array; Az:
-   array; Symbolic: out; Control: 20; Info: 90, out */
+/* Analyses the pattern of a matrix and orders its columns. Ax may be null.
+     Ap: [n_col+1]
+     Symbolic: out
+     Control: [20]
+     Info: out, [90] */
 QUORIN_API int32_t QUORIN_CDECL umfpack_zi_symbolic(int32_t n_row, int32_t n_col, const int32_t* Ap, const int32_t* Ai,
                                                     const float* Ax, const float* Az, void** Symbolic,
                                                     const float* Control, float* Info);
@@ -60,8 +66,12 @@ QUORIN_API int32_t QUORIN_CDECL umfpack_ci_symbolic_Idx(int32_t n_row, int32_t n
                                                         int32_t Az_index, void** Symbolic, const float* Control,
                                                         int32_t Control_index, float* Info, int32_t Info_index);
 
-/* As symbolic, with a column order of the host; if Qinit is null, it is symbolic. -- Ap: n_col+1; Ai: array; Ax: array;
-   Qinit: n_col; Symbolic: out; Control: 20; Info: 90, out */
+/* As symbolic, with a column order of the host; if Qinit is null, it is symbolic.
+     Ap: [n_col+1]
+     Qinit: [n_col]
+     Symbolic: out
+     Control: [20]
+     Info: out, [90] */
 QUORIN_API int32_t QUORIN_CDECL umfpack_di_qsymbolic(int32_t n_row, int32_t n_col, const int32_t* Ap, const int32_t* Ai,
                                                      const float* Ax, const int32_t* Qinit, void** Symbolic,
                                                      const float* Control, float* Info);
@@ -71,8 +81,12 @@ QUORIN_API int32_t QUORIN_CDECL umfpack_si_qsymbolic_Idx(int32_t n_row, int32_t 
                                                          int32_t Qinit_index, void** Symbolic, const float* Control,
                                                          int32_t Control_index, float* Info, int32_t Info_index);
 
-/* As symbolic, with a column order of the host; if Qinit is null, it is symbolic. -- Ap: n_col+1; Ai: array; Ax: array;
-   Az: array; Qinit: n_col; Symbolic: out; Control: 20; Info: 90, out */
+/* As symbolic, with a column order of the host; if Qinit is null, it is symbolic.
+     Ap: [n_col+1]
+     Qinit: [n_col]
+     Symbolic: out
+     Control: [20]
+     Info: out, [90] */
 QUORIN_API int32_t QUORIN_CDECL umfpack_zi_qsymbolic(int32_t n_row, int32_t n_col, const int32_t* Ap, const int32_t* Ai,
                                                      const float* Ax, const float* Az, const int32_t* Qinit,
                                                      void** Symbolic, const float* Control, float* Info);
@@ -83,8 +97,10 @@ QUORIN_API int32_t QUORIN_CDECL umfpack_ci_qsymbolic_Idx(int32_t n_row, int32_t 
                                                          void** Symbolic, const float* Control, int32_t Control_index,
                                                          float* Info, int32_t Info_index);
 
-/* Factorizes a matrix of the analysed pattern: P (R A) Q = L U. -- Ap: array; Ai: array; Ax: array; Numeric: out;
-   Control: 20; Info: 90, in, out */
+/* Factorizes a matrix of the analysed pattern: P (R A) Q = L U.
+     Numeric: out
+     Control: [20]
+     Info: in, out, [90] */
 QUORIN_API int32_t QUORIN_CDECL umfpack_di_numeric(const int32_t* Ap, const int32_t* Ai, const float* Ax,
                                                    void* Symbolic, void** Numeric, const float* Control, float* Info);
 QUORIN_API int32_t QUORIN_CDECL umfpack_si_numeric_Idx(const int32_t* Ap, int32_t Ap_index, const int32_t* Ai,
@@ -92,8 +108,10 @@ QUORIN_API int32_t QUORIN_CDECL umfpack_si_numeric_Idx(const int32_t* Ap, int32_
                                                        void* Symbolic, void** Numeric, const float* Control,
                                                        int32_t Control_index, float* Info, int32_t Info_index);
 
-/* Factorizes a matrix of the analysed pattern: P (R A) Q = L U. -- Ap: array; Ai: array; Ax: array; Az: array; Numeric:
-   out; Control: 20; Info: 90, in, out */
+/* Factorizes a matrix of the analysed pattern: P (R A) Q = L U.
+     Numeric: out
+     Control: [20]
+     Info: in, out, [90] */
 QUORIN_API int32_t QUORIN_CDECL umfpack_zi_numeric(const int32_t* Ap, const int32_t* Ai, const float* Ax,
                                                    const float* Az, void* Symbolic, void** Numeric,
                                                    const float* Control, float* Info);
@@ -105,8 +123,10 @@ QUORIN_API int32_t QUORIN_CDECL umfpack_ci_numeric_Idx(const int32_t* Ap, int32_
 
 /* Solves a system with a square matrix and refines the solution. sys: 0 A x = b; 1 A^H x = b; 2 A^T x = b, the same
    without conjugation; 3 to 14 with the factors: P'L, L, L'P, L.'P, L', L.', UQ', U, QU', QU.', U', U.'. The matrix is
-   read only for 0, 1, 2 with refinement. -- Ap: array; Ai: array; Ax: array; X: array, out; B: array; Control: 20; Info:
-   90, in, out */
+   read only for 0, 1, 2 with refinement.
+     X: out
+     Control: [20]
+     Info: in, out, [90] */
 QUORIN_API int32_t QUORIN_CDECL umfpack_di_solve(int32_t sys, const int32_t* Ap, const int32_t* Ai, const float* Ax,
                                                  float* X, const float* B, void* Numeric, const float* Control,
                                                  float* Info);
@@ -118,8 +138,11 @@ QUORIN_API int32_t QUORIN_CDECL umfpack_si_solve_Idx(int32_t sys, const int32_t*
 
 /* Solves a system with a square matrix and refines the solution. sys: 0 A x = b; 1 A^H x = b; 2 A^T x = b, the same
    without conjugation; 3 to 14 with the factors: P'L, L, L'P, L.'P, L', L.', UQ', U, QU', QU.', U', U.'. The matrix is
-   read only for 0, 1, 2 with refinement. -- Ap: array; Ai: array; Ax: array; Az: array; Xx: array, out; Xz: array, out;
-   Bx: array; Bz: array; Control: 20; Info: 90, in, out */
+   read only for 0, 1, 2 with refinement.
+     Xx: out
+     Xz: out
+     Control: [20]
+     Info: in, out, [90] */
 QUORIN_API int32_t QUORIN_CDECL umfpack_zi_solve(int32_t sys, const int32_t* Ap, const int32_t* Ai, const float* Ax,
                                                  const float* Az, float* Xx, float* Xz, const float* Bx,
                                                  const float* Bz, void* Numeric, const float* Control, float* Info);
@@ -132,8 +155,12 @@ QUORIN_API int32_t QUORIN_CDECL umfpack_ci_solve_Idx(int32_t sys, const int32_t*
                                                      int32_t Info_index);
 
 /* As solve, with work space of the host for matrices of order n: Wi n, W n (real) or 4 n (complex) elements, 5 n or 10
-   n with refinement. -- Ap: array; Ai: array; Ax: array; X: array, out; B: array; Control: 20; Info: 90, in, out; Wi:
-   array, out; W: array, out */
+   n with refinement.
+     X: out
+     Control: [20]
+     Info: in, out, [90]
+     Wi: out
+     W: out */
 QUORIN_API int32_t QUORIN_CDECL umfpack_di_wsolve(int32_t sys, const int32_t* Ap, const int32_t* Ai, const float* Ax,
                                                   float* X, const float* B, void* Numeric, const float* Control,
                                                   float* Info, int32_t* Wi, float* W);
@@ -145,8 +172,13 @@ QUORIN_API int32_t QUORIN_CDECL umfpack_si_wsolve_Idx(int32_t sys, const int32_t
                                                       int32_t* Wi, int32_t Wi_index, float* W, int32_t W_index);
 
 /* As solve, with work space of the host for matrices of order n: Wi n, W n (real) or 4 n (complex) elements, 5 n or 10
-   n with refinement. -- Ap: array; Ai: array; Ax: array; Az: array; Xx: array, out; Xz: array, out; Bx: array; Bz: array;
-   Control: 20; Info: 90, in, out; Wi: array, out; W: array, out */
+   n with refinement.
+     Xx: out
+     Xz: out
+     Control: [20]
+     Info: in, out, [90]
+     Wi: out
+     W: out */
 QUORIN_API int32_t QUORIN_CDECL umfpack_zi_wsolve(int32_t sys, const int32_t* Ap, const int32_t* Ai, const float* Ax,
                                                   const float* Az, float* Xx, float* Xz, const float* Bx,
                                                   const float* Bz, void* Numeric, const float* Control, float* Info,
@@ -160,15 +192,15 @@ QUORIN_API int32_t QUORIN_CDECL umfpack_ci_wsolve_Idx(int32_t sys, const int32_t
                                                       float* Info, int32_t Info_index, int32_t* Wi, int32_t Wi_index,
                                                       float* W, int32_t W_index);
 
-/* Frees an object of either family and sets its handle to null. A handle of no such object is left alone. -- Symbolic:
-   in, out */
+/* Frees an object of either family and sets its handle to null. A handle of no such object is left alone.
+     Symbolic: in, out */
 QUORIN_API void QUORIN_CDECL umfpack_di_free_symbolic(void** Symbolic);
 QUORIN_API void QUORIN_CDECL umfpack_zi_free_symbolic(void** Symbolic);
 QUORIN_API void QUORIN_CDECL umfpack_si_free_symbolic_Idx(void** Symbolic);
 QUORIN_API void QUORIN_CDECL umfpack_ci_free_symbolic_Idx(void** Symbolic);
 
-/* Frees an object of either family and sets its handle to null. A handle of no such object is left alone. -- Numeric:
-   in, out */
+/* Frees an object of either family and sets its handle to null. A handle of no such object is left alone.
+     Numeric: in, out */
 QUORIN_API void QUORIN_CDECL umfpack_di_free_numeric(void** Numeric);
 QUORIN_API void QUORIN_CDECL umfpack_zi_free_numeric(void** Numeric);
 QUORIN_API void QUORIN_CDECL umfpack_si_free_numeric_Idx(void** Numeric);
@@ -176,43 +208,62 @@ QUORIN_API void QUORIN_CDECL umfpack_ci_free_numeric_Idx(void** Numeric);
 
 /* ---- Settings and contents ---- */
 
-/* Stores the defaults. -- Control: 20, out */
+/* Stores the defaults.
+     Control: out, [20] */
 QUORIN_API void QUORIN_CDECL umfpack_di_defaults(float* Control);
 QUORIN_API void QUORIN_CDECL umfpack_si_defaults_Idx(float* Control, int32_t Control_index);
-
-/* Stores the defaults. -- Control: 20, out */
 QUORIN_API void QUORIN_CDECL umfpack_zi_defaults(float* Control);
 QUORIN_API void QUORIN_CDECL umfpack_ci_defaults_Idx(float* Control, int32_t Control_index);
 
-/* X <- R B, the row scaling of the factorization. -- X: array, out; B: array */
+/* X <- R B, the row scaling of the factorization.
+     X: out */
 QUORIN_API int32_t QUORIN_CDECL umfpack_di_scale(float* X, const float* B, void* Numeric);
 QUORIN_API int32_t QUORIN_CDECL umfpack_si_scale_Idx(float* X, int32_t X_index, const float* B, int32_t B_index,
                                                      void* Numeric);
 
-/* X <- R B, the row scaling of the factorization. -- Xx: array, out; Xz: array, out; Bx: array; Bz: array */
+/* X <- R B, the row scaling of the factorization.
+     Xx: out
+     Xz: out */
 QUORIN_API int32_t QUORIN_CDECL umfpack_zi_scale(float* Xx, float* Xz, const float* Bx, const float* Bz, void* Numeric);
 QUORIN_API int32_t QUORIN_CDECL umfpack_ci_scale_Idx(float* Xx, int32_t Xx_index, float* Xz, int32_t Xz_index,
                                                      const float* Bx, int32_t Bx_index, const float* Bz,
                                                      int32_t Bz_index, void* Numeric);
 
-/* Entries of L and of U, their sizes, and nonzeros on the diagonal of U. -- lnz: out; unz: out; n_row: out; n_col: out;
-   nz_udiag: out */
+/* Entries of L and of U, their sizes, and nonzeros on the diagonal of U.
+     lnz: out
+     unz: out
+     n_row: out
+     n_col: out
+     nz_udiag: out */
 QUORIN_API int32_t QUORIN_CDECL umfpack_di_get_lunz(int32_t* lnz, int32_t* unz, int32_t* n_row, int32_t* n_col,
                                                     int32_t* nz_udiag, void* Numeric);
 QUORIN_API int32_t QUORIN_CDECL umfpack_si_get_lunz_Idx(int32_t* lnz, int32_t* unz, int32_t* n_row, int32_t* n_col,
                                                         int32_t* nz_udiag, void* Numeric);
 
-/* Entries of L and of U, their sizes, and nonzeros on the diagonal of U. -- lnz: out; unz: out; n_row: out; n_col: out;
-   nz_udiag: out */
+/* Entries of L and of U, their sizes, and nonzeros on the diagonal of U.
+     lnz: out
+     unz: out
+     n_row: out
+     n_col: out
+     nz_udiag: out */
 QUORIN_API int32_t QUORIN_CDECL umfpack_zi_get_lunz(int32_t* lnz, int32_t* unz, int32_t* n_row, int32_t* n_col,
                                                     int32_t* nz_udiag, void* Numeric);
 QUORIN_API int32_t QUORIN_CDECL umfpack_ci_get_lunz_Idx(int32_t* lnz, int32_t* unz, int32_t* n_row, int32_t* n_col,
                                                         int32_t* nz_udiag, void* Numeric);
 
 /* Copies the factors: L by rows, U by columns, the permutations, the diagonal of U, the row scale factors, which
-   multiply if do_recip is 1 and divide if it is 0. What is null is left out. -- Lp: array, out; Lj: array, out; Lx: array,
-   out; Up: array, out; Ui: array, out; Ux: array, out; P: array, out; Q: array, out; Dx: array, out; do_recip: out; Rs:
-   array, out */
+   multiply if do_recip is 1 and divide if it is 0. What is null is left out.
+     Lp: out
+     Lj: out
+     Lx: out
+     Up: out
+     Ui: out
+     Ux: out
+     P: out
+     Q: out
+     Dx: out
+     do_recip: out
+     Rs: out */
 QUORIN_API int32_t QUORIN_CDECL umfpack_di_get_numeric(int32_t* Lp, int32_t* Lj, float* Lx, int32_t* Up, int32_t* Ui,
                                                        float* Ux, int32_t* P, int32_t* Q, float* Dx, int32_t* do_recip,
                                                        float* Rs, void* Numeric);
@@ -224,9 +275,21 @@ QUORIN_API int32_t QUORIN_CDECL umfpack_si_get_numeric_Idx(int32_t* Lp, int32_t 
                                                            int32_t Rs_index, void* Numeric);
 
 /* Copies the factors: L by rows, U by columns, the permutations, the diagonal of U, the row scale factors, which
-   multiply if do_recip is 1 and divide if it is 0. What is null is left out. -- Lp: array, out; Lj: array, out; Lx: array,
-   out; Lz: array, out; Up: array, out; Ui: array, out; Ux: array, out; Uz: array, out; P: array, out; Q: array, out; Dx:
-   array, out; Dz: array, out; do_recip: out; Rs: array, out */
+   multiply if do_recip is 1 and divide if it is 0. What is null is left out.
+     Lp: out
+     Lj: out
+     Lx: out
+     Lz: out
+     Up: out
+     Ui: out
+     Ux: out
+     Uz: out
+     P: out
+     Q: out
+     Dx: out
+     Dz: out
+     do_recip: out
+     Rs: out */
 QUORIN_API int32_t QUORIN_CDECL umfpack_zi_get_numeric(int32_t* Lp, int32_t* Lj, float* Lx, float* Lz, int32_t* Up,
                                                        int32_t* Ui, float* Ux, float* Uz, int32_t* P, int32_t* Q,
                                                        float* Dx, float* Dz, int32_t* do_recip, float* Rs,
@@ -240,10 +303,22 @@ QUORIN_API int32_t QUORIN_CDECL umfpack_ci_get_numeric_Idx(int32_t* Lp, int32_t 
                                                            int32_t* do_recip, float* Rs, int32_t Rs_index,
                                                            void* Numeric);
 
-/* Copies the analysis: sizes, first permutations, the tree of frontal matrices. What is null is left out. -- n_row:
-   out; n_col: out; n1: out; nz: out; nfr: out; nchains: out; P: array, out; Q: array, out; Front_npivcol: array, out;
-   Front_parent: array, out; Front_1strow: array, out; Front_leftmostdesc: array, out; Chain_start: array, out;
-   Chain_maxrows: array, out; Chain_maxcols: array, out */
+/* Copies the analysis: sizes, first permutations, the tree of frontal matrices. What is null is left out.
+     n_row: out
+     n_col: out
+     n1: out
+     nz: out
+     nfr: out
+     nchains: out
+     P: out
+     Q: out
+     Front_npivcol: out
+     Front_parent: out
+     Front_1strow: out
+     Front_leftmostdesc: out
+     Chain_start: out
+     Chain_maxrows: out
+     Chain_maxcols: out */
 QUORIN_API int32_t QUORIN_CDECL umfpack_di_get_symbolic(int32_t* n_row, int32_t* n_col, int32_t* n1, int32_t* nz,
                                                         int32_t* nfr, int32_t* nchains, int32_t* P, int32_t* Q,
                                                         int32_t* Front_npivcol, int32_t* Front_parent,
@@ -261,10 +336,22 @@ QUORIN_API int32_t QUORIN_CDECL umfpack_si_get_symbolic_Idx(int32_t* n_row, int3
                                                             int32_t Chain_maxrows_index, int32_t* Chain_maxcols,
                                                             int32_t Chain_maxcols_index, void* Symbolic);
 
-/* Copies the analysis: sizes, first permutations, the tree of frontal matrices. What is null is left out. -- n_row:
-   out; n_col: out; n1: out; nz: out; nfr: out; nchains: out; P: array, out; Q: array, out; Front_npivcol: array, out;
-   Front_parent: array, out; Front_1strow: array, out; Front_leftmostdesc: array, out; Chain_start: array, out;
-   Chain_maxrows: array, out; Chain_maxcols: array, out */
+/* Copies the analysis: sizes, first permutations, the tree of frontal matrices. What is null is left out.
+     n_row: out
+     n_col: out
+     n1: out
+     nz: out
+     nfr: out
+     nchains: out
+     P: out
+     Q: out
+     Front_npivcol: out
+     Front_parent: out
+     Front_1strow: out
+     Front_leftmostdesc: out
+     Chain_start: out
+     Chain_maxrows: out
+     Chain_maxcols: out */
 QUORIN_API int32_t QUORIN_CDECL umfpack_zi_get_symbolic(int32_t* n_row, int32_t* n_col, int32_t* n1, int32_t* nz,
                                                         int32_t* nfr, int32_t* nchains, int32_t* P, int32_t* Q,
                                                         int32_t* Front_npivcol, int32_t* Front_parent,
@@ -282,14 +369,19 @@ QUORIN_API int32_t QUORIN_CDECL umfpack_ci_get_symbolic_Idx(int32_t* n_row, int3
                                                             int32_t Chain_maxrows_index, int32_t* Chain_maxcols,
                                                             int32_t Chain_maxcols_index, void* Symbolic);
 
-/* The determinant Mx 10^Ex with 1 <= |Mx| < 10, or Mx alone if Ex is null. -- Mx: 1, out; Ex: 1, out; Info: 90, in, out
-   */
+/* The determinant Mx 10^Ex with 1 <= |Mx| < 10, or Mx alone if Ex is null.
+     Mx: out, [1]
+     Ex: out, [1]
+     Info: in, out, [90] */
 QUORIN_API int32_t QUORIN_CDECL umfpack_di_get_determinant(float* Mx, float* Ex, void* Numeric, float* Info);
 QUORIN_API int32_t QUORIN_CDECL umfpack_si_get_determinant_Idx(float* Mx, int32_t Mx_index, float* Ex, int32_t Ex_index,
                                                                void* Numeric, float* Info, int32_t Info_index);
 
-/* The determinant Mx 10^Ex with 1 <= |Mx| < 10, or Mx alone if Ex is null. -- Mx: 1, out; Mz: 1, out; Ex: 1, out; Info:
-   90, in, out */
+/* The determinant Mx 10^Ex with 1 <= |Mx| < 10, or Mx alone if Ex is null.
+     Mx: out, [1]
+     Mz: out, [1]
+     Ex: out, [1]
+     Info: in, out, [90] */
 QUORIN_API int32_t QUORIN_CDECL umfpack_zi_get_determinant(float* Mx, float* Mz, float* Ex, void* Numeric, float* Info);
 QUORIN_API int32_t QUORIN_CDECL umfpack_ci_get_determinant_Idx(float* Mx, int32_t Mx_index, float* Mz, int32_t Mz_index,
                                                                float* Ex, int32_t Ex_index, void* Numeric, float* Info,
@@ -297,8 +389,14 @@ QUORIN_API int32_t QUORIN_CDECL umfpack_ci_get_determinant_Idx(float* Mx, int32_
 
 /* ---- Conversions ---- */
 
-/* Triplets in any order to compressed columns; values of the same place are added. Tx, Ax and Map may be null. -- Ti:
-   nz; Tj: nz; Tx: nz; Ap: n_col+1, out; Ai: nz, out; Ax: nz, out; Map: nz, out */
+/* Triplets in any order to compressed columns; values of the same place are added. Tx, Ax and Map may be null.
+     Ti: [nz]
+     Tj: [nz]
+     Tx: [nz]
+     Ap: out, [n_col+1]
+     Ai: out, [nz]
+     Ax: out, [nz]
+     Map: out, [nz] */
 QUORIN_API int32_t QUORIN_CDECL umfpack_di_triplet_to_col(int32_t n_row, int32_t n_col, int32_t nz, const int32_t* Ti,
                                                           const int32_t* Tj, const float* Tx, int32_t* Ap, int32_t* Ai,
                                                           float* Ax, int32_t* Map);
@@ -309,8 +407,16 @@ QUORIN_API int32_t QUORIN_CDECL umfpack_si_triplet_to_col_Idx(int32_t n_row, int
                                                               int32_t Ai_index, float* Ax, int32_t Ax_index,
                                                               int32_t* Map, int32_t Map_index);
 
-/* Triplets in any order to compressed columns; values of the same place are added. Tx, Ax and Map may be null. -- Ti:
-   nz; Tj: nz; Tx: nz; Tz: nz; Ap: n_col+1, out; Ai: nz, out; Ax: nz, out; Az: nz, out; Map: nz, out */
+/* Triplets in any order to compressed columns; values of the same place are added. Tx, Ax and Map may be null.
+     Ti: [nz]
+     Tj: [nz]
+     Tx: [nz]
+     Tz: [nz]
+     Ap: out, [n_col+1]
+     Ai: out, [nz]
+     Ax: out, [nz]
+     Az: out, [nz]
+     Map: out, [nz] */
 QUORIN_API int32_t QUORIN_CDECL umfpack_zi_triplet_to_col(int32_t n_row, int32_t n_col, int32_t nz, const int32_t* Ti,
                                                           const int32_t* Tj, const float* Tx, const float* Tz,
                                                           int32_t* Ap, int32_t* Ai, float* Ax, float* Az, int32_t* Map);
@@ -322,18 +428,23 @@ QUORIN_API int32_t QUORIN_CDECL umfpack_ci_triplet_to_col_Idx(int32_t n_row, int
                                                               float* Ax, int32_t Ax_index, float* Az, int32_t Az_index,
                                                               int32_t* Map, int32_t Map_index);
 
-/* The column indices of a matrix's entries. -- Ap: n_col+1; Tj: array, out */
+/* The column indices of a matrix's entries.
+     Ap: [n_col+1]
+     Tj: out */
 QUORIN_API int32_t QUORIN_CDECL umfpack_di_col_to_triplet(int32_t n_col, const int32_t* Ap, int32_t* Tj);
 QUORIN_API int32_t QUORIN_CDECL umfpack_si_col_to_triplet_Idx(int32_t n_col, const int32_t* Ap, int32_t Ap_index,
                                                               int32_t* Tj, int32_t Tj_index);
-
-/* The column indices of a matrix's entries. -- Ap: n_col+1; Tj: array, out */
 QUORIN_API int32_t QUORIN_CDECL umfpack_zi_col_to_triplet(int32_t n_col, const int32_t* Ap, int32_t* Tj);
 QUORIN_API int32_t QUORIN_CDECL umfpack_ci_col_to_triplet_Idx(int32_t n_col, const int32_t* Ap, int32_t Ap_index,
                                                               int32_t* Tj, int32_t Tj_index);
 
-/* R <- (P A Q)^T, conjugated if do_conjugate says so. P, Q, Ax and Rx may be null. -- Ap: n_col+1; Ai: array; Ax:
-   array; P: n_row; Q: n_col; Rp: n_row+1, out; Ri: array, out; Rx: array, out */
+/* R <- (P A Q)^T, conjugated if do_conjugate says so. P, Q, Ax and Rx may be null.
+     Ap: [n_col+1]
+     P: [n_row]
+     Q: [n_col]
+     Rp: out, [n_row+1]
+     Ri: out
+     Rx: out */
 QUORIN_API int32_t QUORIN_CDECL umfpack_di_transpose(int32_t n_row, int32_t n_col, const int32_t* Ap, const int32_t* Ai,
                                                      const float* Ax, const int32_t* P, const int32_t* Q, int32_t* Rp,
                                                      int32_t* Ri, float* Rx);
@@ -344,8 +455,14 @@ QUORIN_API int32_t QUORIN_CDECL umfpack_si_transpose_Idx(int32_t n_row, int32_t 
                                                          int32_t* Rp, int32_t Rp_index, int32_t* Ri, int32_t Ri_index,
                                                          float* Rx, int32_t Rx_index);
 
-/* R <- (P A Q)^T, conjugated if do_conjugate says so. P, Q, Ax and Rx may be null. -- Ap: n_col+1; Ai: array; Ax:
-   array; Az: array; P: n_row; Q: n_col; Rp: n_row+1, out; Ri: array, out; Rx: array, out; Rz: array, out */
+/* R <- (P A Q)^T, conjugated if do_conjugate says so. P, Q, Ax and Rx may be null.
+     Ap: [n_col+1]
+     P: [n_row]
+     Q: [n_col]
+     Rp: out, [n_row+1]
+     Ri: out
+     Rx: out
+     Rz: out */
 QUORIN_API int32_t QUORIN_CDECL umfpack_zi_transpose(int32_t n_row, int32_t n_col, const int32_t* Ap, const int32_t* Ai,
                                                      const float* Ax, const float* Az, const int32_t* P,
                                                      const int32_t* Q, int32_t* Rp, int32_t* Ri, float* Rx, float* Rz,
@@ -361,34 +478,32 @@ QUORIN_API int32_t QUORIN_CDECL umfpack_ci_transpose_Idx(int32_t n_row, int32_t 
 
 /* ---- Reports ---- */
 
-/* Prints the text for a status. -- Control: 20 */
+/* Prints the text for a status.
+     Control: [20] */
 QUORIN_API void QUORIN_CDECL umfpack_di_report_status(const float* Control, int32_t status);
 QUORIN_API void QUORIN_CDECL umfpack_si_report_status_Idx(const float* Control, int32_t Control_index, int32_t status);
-
-/* Prints the text for a status. -- Control: 20 */
 QUORIN_API void QUORIN_CDECL umfpack_zi_report_status(const float* Control, int32_t status);
 QUORIN_API void QUORIN_CDECL umfpack_ci_report_status_Idx(const float* Control, int32_t Control_index, int32_t status);
 
-/* Prints Info, from level 2 on. -- Control: 20; Info: 90 */
+/* Prints Info, from level 2 on.
+     Control: [20]
+     Info: [90] */
 QUORIN_API void QUORIN_CDECL umfpack_di_report_info(const float* Control, const float* Info);
 QUORIN_API void QUORIN_CDECL umfpack_si_report_info_Idx(const float* Control, int32_t Control_index, const float* Info,
                                                         int32_t Info_index);
-
-/* Prints Info, from level 2 on. -- Control: 20; Info: 90 */
 QUORIN_API void QUORIN_CDECL umfpack_zi_report_info(const float* Control, const float* Info);
 QUORIN_API void QUORIN_CDECL umfpack_ci_report_info_Idx(const float* Control, int32_t Control_index, const float* Info,
                                                         int32_t Info_index);
 
-/* Prints Control, from level 2 on. -- Control: 20 */
+/* Prints Control, from level 2 on.
+     Control: [20] */
 QUORIN_API void QUORIN_CDECL umfpack_di_report_control(const float* Control);
 QUORIN_API void QUORIN_CDECL umfpack_si_report_control_Idx(const float* Control, int32_t Control_index);
-
-/* Prints Control, from level 2 on. -- Control: 20 */
 QUORIN_API void QUORIN_CDECL umfpack_zi_report_control(const float* Control);
 QUORIN_API void QUORIN_CDECL umfpack_ci_report_control_Idx(const float* Control, int32_t Control_index);
 
-/* Checks and prints a matrix by columns, or by rows if col_form is 0. Ax may be null. -- Ap: array; Ai: array; Ax:
-   array; Control: 20 */
+/* Checks and prints a matrix by columns, or by rows if col_form is 0. Ax may be null.
+     Control: [20] */
 QUORIN_API int32_t QUORIN_CDECL umfpack_di_report_matrix(int32_t n_row, int32_t n_col, const int32_t* Ap,
                                                          const int32_t* Ai, const float* Ax, int32_t col_form,
                                                          const float* Control);
@@ -397,8 +512,8 @@ QUORIN_API int32_t QUORIN_CDECL umfpack_si_report_matrix_Idx(int32_t n_row, int3
                                                              const float* Ax, int32_t Ax_index, int32_t col_form,
                                                              const float* Control, int32_t Control_index);
 
-/* Checks and prints a matrix by columns, or by rows if col_form is 0. Ax may be null. -- Ap: array; Ai: array; Ax:
-   array; Az: array; Control: 20 */
+/* Checks and prints a matrix by columns, or by rows if col_form is 0. Ax may be null.
+     Control: [20] */
 QUORIN_API int32_t QUORIN_CDECL umfpack_zi_report_matrix(int32_t n_row, int32_t n_col, const int32_t* Ap,
                                                          const int32_t* Ai, const float* Ax, const float* Az,
                                                          int32_t col_form, const float* Control);
@@ -408,7 +523,11 @@ QUORIN_API int32_t QUORIN_CDECL umfpack_ci_report_matrix_Idx(int32_t n_row, int3
                                                              int32_t Az_index, int32_t col_form, const float* Control,
                                                              int32_t Control_index);
 
-/* Checks and prints triplets. Tx may be null. -- Ti: nz; Tj: nz; Tx: nz; Control: 20 */
+/* Checks and prints triplets. Tx may be null.
+     Ti: [nz]
+     Tj: [nz]
+     Tx: [nz]
+     Control: [20] */
 QUORIN_API int32_t QUORIN_CDECL umfpack_di_report_triplet(int32_t n_row, int32_t n_col, int32_t nz, const int32_t* Ti,
                                                           const int32_t* Tj, const float* Tx, const float* Control);
 QUORIN_API int32_t QUORIN_CDECL umfpack_si_report_triplet_Idx(int32_t n_row, int32_t n_col, int32_t nz,
@@ -416,7 +535,12 @@ QUORIN_API int32_t QUORIN_CDECL umfpack_si_report_triplet_Idx(int32_t n_row, int
                                                               int32_t Tj_index, const float* Tx, int32_t Tx_index,
                                                               const float* Control, int32_t Control_index);
 
-/* Checks and prints triplets. Tx may be null. -- Ti: nz; Tj: nz; Tx: nz; Tz: nz; Control: 20 */
+/* Checks and prints triplets. Tx may be null.
+     Ti: [nz]
+     Tj: [nz]
+     Tx: [nz]
+     Tz: [nz]
+     Control: [20] */
 QUORIN_API int32_t QUORIN_CDECL umfpack_zi_report_triplet(int32_t n_row, int32_t n_col, int32_t nz, const int32_t* Ti,
                                                           const int32_t* Tj, const float* Tx, const float* Tz,
                                                           const float* Control);
@@ -426,56 +550,66 @@ QUORIN_API int32_t QUORIN_CDECL umfpack_ci_report_triplet_Idx(int32_t n_row, int
                                                               const float* Tz, int32_t Tz_index, const float* Control,
                                                               int32_t Control_index);
 
-/* Checks and prints a vector. -- X: n; Control: 20 */
+/* Checks and prints a vector.
+     X: [n]
+     Control: [20] */
 QUORIN_API int32_t QUORIN_CDECL umfpack_di_report_vector(int32_t n, const float* X, const float* Control);
 QUORIN_API int32_t QUORIN_CDECL umfpack_si_report_vector_Idx(int32_t n, const float* X, int32_t X_index,
                                                              const float* Control, int32_t Control_index);
 
-/* Checks and prints a vector. -- Xx: n; Xz: n; Control: 20 */
+/* Checks and prints a vector.
+     Xx: [n]
+     Xz: [n]
+     Control: [20] */
 QUORIN_API int32_t QUORIN_CDECL umfpack_zi_report_vector(int32_t n, const float* Xx, const float* Xz,
                                                          const float* Control);
 QUORIN_API int32_t QUORIN_CDECL umfpack_ci_report_vector_Idx(int32_t n, const float* Xx, int32_t Xx_index,
                                                              const float* Xz, int32_t Xz_index, const float* Control,
                                                              int32_t Control_index);
 
-/* Checks and prints a Symbolic object. -- Control: 20 */
+/* Checks and prints a Symbolic object.
+     Control: [20] */
 QUORIN_API int32_t QUORIN_CDECL umfpack_di_report_symbolic(void* Symbolic, const float* Control);
 QUORIN_API int32_t QUORIN_CDECL umfpack_si_report_symbolic_Idx(void* Symbolic, const float* Control,
                                                                int32_t Control_index);
 
-/* Checks and prints a Symbolic object. -- Control: 20 */
+/* Checks and prints a Symbolic object.
+     Control: [20] */
 QUORIN_API int32_t QUORIN_CDECL umfpack_zi_report_symbolic(void* Symbolic, const float* Control);
 QUORIN_API int32_t QUORIN_CDECL umfpack_ci_report_symbolic_Idx(void* Symbolic, const float* Control,
                                                                int32_t Control_index);
 
-/* Checks and prints a Numeric object. -- Control: 20 */
+/* Checks and prints a Numeric object.
+     Control: [20] */
 QUORIN_API int32_t QUORIN_CDECL umfpack_di_report_numeric(void* Numeric, const float* Control);
 QUORIN_API int32_t QUORIN_CDECL umfpack_si_report_numeric_Idx(void* Numeric, const float* Control,
                                                               int32_t Control_index);
 
-/* Checks and prints a Numeric object. -- Control: 20 */
+/* Checks and prints a Numeric object.
+     Control: [20] */
 QUORIN_API int32_t QUORIN_CDECL umfpack_zi_report_numeric(void* Numeric, const float* Control);
 QUORIN_API int32_t QUORIN_CDECL umfpack_ci_report_numeric_Idx(void* Numeric, const float* Control,
                                                               int32_t Control_index);
 
-/* Checks and prints a permutation. -- Perm: np; Control: 20 */
+/* Checks and prints a permutation.
+     Perm: [np]
+     Control: [20] */
 QUORIN_API int32_t QUORIN_CDECL umfpack_di_report_perm(int32_t np, const int32_t* Perm, const float* Control);
 QUORIN_API int32_t QUORIN_CDECL umfpack_si_report_perm_Idx(int32_t np, const int32_t* Perm, int32_t Perm_index,
                                                            const float* Control, int32_t Control_index);
-
-/* Checks and prints a permutation. -- Perm: np; Control: 20 */
 QUORIN_API int32_t QUORIN_CDECL umfpack_zi_report_perm(int32_t np, const int32_t* Perm, const float* Control);
 QUORIN_API int32_t QUORIN_CDECL umfpack_ci_report_perm_Idx(int32_t np, const int32_t* Perm, int32_t Perm_index,
                                                            const float* Control, int32_t Control_index);
 
 /* ---- Timing ---- */
 
-/* Begins a measurement: stats[0] <- 0, there being no wall clock; stats[1] <- processor time in seconds. -- stats: 2,
-   out */
+/* Begins a measurement: stats[0] <- 0, there being no wall clock; stats[1] <- processor time in seconds.
+     stats: out, [2] */
 QUORIN_API void QUORIN_CDECL umfpack_tic(double* stats);
 QUORIN_API void QUORIN_CDECL umfpack_tic_32f_Idx(double* stats, int32_t stats_index);
 
-/* Ends it: stats[1] <- processor time since umfpack_tic. -- stats: 2, in, out */
+/* Ends it: stats[1] <- processor time since umfpack_tic.
+     stats: in, out, [2] */
 QUORIN_API void QUORIN_CDECL umfpack_toc(double* stats);
 QUORIN_API void QUORIN_CDECL umfpack_toc_32f_Idx(double* stats, int32_t stats_index);
 

@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """Malformed tables are reported by file, line and reason; good rows become the right declarations."""
 
+import re
 import sys
 import unittest
 from pathlib import Path
@@ -67,6 +68,14 @@ class Declarations(unittest.TestCase):
         families = parse('f = a::f  n:int\n  "s"\n  alias F\ng = a::g  n:int\n  "s"\n  index none\nh = a::h n:int\n  "s"\n  index sH_Idx\n')
         self.assertEqual(linking.export_names(families), ["F", "f", "f_Idx", "g", "h", "sH_Idx"])
         self.assertEqual(linking.internal_names(families)["F"], "quorin_f")
+
+
+class Contents(unittest.TestCase):
+    def test_the_manuals_first_page_names_exports_only(self):
+        names = re.findall(r"`(\w+)`", (ROOT / "exports/tables/contents.md").read_text())
+        exports = set((ROOT / "exports/names.txt").read_text().split())
+        self.assertGreater(len(names), 20)
+        self.assertEqual([name for name in names if name not in exports], [])
 
 
 if __name__ == "__main__":
