@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstddef>
 
+#include "base/sums.hpp"
 #include "dense/kernels/vector_kernels.hpp"
 #include "dense/openblas/routines.hpp"
 
@@ -117,7 +118,7 @@ RealOf<T> nrm2(int n, const T* x, int incx) {
   if (n > 0 && incx == 1) {
     constexpr int kParts = kIsComplex<T> ? 2 : 1;
     return static_cast<RealOf<T>>(
-        std::sqrt(kernels::sum_of_squares_in_double(std::ptrdiff_t{kParts} * n, reinterpret_cast<const float*>(x))));
+        std::sqrt(base::sum_of_squares(std::size_t{kParts} * n, reinterpret_cast<const float*>(x))));
   }
   return Routines<T>::nrm2(&n, x, &incx);
 }

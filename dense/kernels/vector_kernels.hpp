@@ -149,19 +149,4 @@ std::ptrdiff_t first_extreme(std::ptrdiff_t n, const T* x, const Better& better)
   return position;
 }
 
-// Floats: their squares, and the sums of these, neither overflow nor underflow in double precision.
-inline double sum_of_squares_in_double(std::ptrdiff_t n, const float* x) noexcept {
-  constexpr int kSums = 8;
-  double sums[kSums] = {};
-  std::ptrdiff_t i = 0;
-  for (; i + kSums <= n; i += kSums) {
-    for (int k = 0; k < kSums; ++k) sums[k] += static_cast<double>(x[i + k]) * x[i + k];
-  }
-  for (; i < n; ++i) sums[0] += static_cast<double>(x[i]) * x[i];
-  for (int half = kSums / 2; half > 0; half /= 2) {
-    for (int k = 0; k < half; ++k) sums[k] += sums[k + half];
-  }
-  return sums[0];
-}
-
 }  // namespace quorin::dense::kernels

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "base/sums.hpp"
 #include "families/rci/stopping.hpp"
 #include "families/rci/vector_kernels.hpp"
 
@@ -83,7 +84,7 @@ class CgRun {
   // p <- z + beta p, beta = (r, z) / (r', z')
   int take_preconditioned(bool conjugate) {
     const double previous = dpar_.preconditioned_product();
-    const double product = dot(n_, v_.residual, v_.preconditioned);
+    const double product = base::dot(n_, v_.residual, v_.preconditioned);
     dpar_.preconditioned_product() = product;
     if (product == 0.0 || !std::isfinite(product)) return break_down();
     if (conjugate) {
@@ -99,7 +100,7 @@ class CgRun {
   // alpha = (r, z) / (p, A p); x <- x + alpha p; r <- r - alpha A p. A negative (p, A p) is no obstacle: a host may
   // know that its indefinite system gets by.
   int take_step(double numerator, CgStage next) {
-    const double alpha = numerator / dot(n_, v_.direction, v_.product);
+    const double alpha = numerator / base::dot(n_, v_.direction, v_.product);
     if (!std::isfinite(alpha)) return break_down();
     dpar_.alpha() = alpha;
     dpar_.previous_residual() = dpar_.residual();

@@ -2,6 +2,7 @@
 // next restart or when the host asks for it.
 #include <cmath>
 
+#include "base/sums.hpp"
 #include "families/rci/arnoldi.hpp"
 #include "families/rci/rci.hpp"
 #include "families/rci/stopping.hpp"
@@ -73,7 +74,7 @@ class FgmresRun {
   // v(1) <- b - A x; the rounding of the steps so far is gone with the residual that they updated.
   void take_residual() {
     subtract(arrays_.n(), b_, arrays_.v(2), arrays_.v(1));
-    dpar_.residual() = norm(arrays_.n(), arrays_.v(1));
+    dpar_.residual() = base::norm(arrays_.n(), arrays_.v(1));
   }
 
   int take_initial_residual() {
@@ -99,7 +100,7 @@ class FgmresRun {
     if (length == 0.0 || !std::isfinite(length)) return break_down();
     if (limit_stops()) return end_at_limit();
     divide(arrays_.n(), length, arrays_.v(1));
-    arrays_.rotated_residual()[0] = length;
+    arrays_.hessenberg().g()[0] = length;
     return begin_step();
   }
 
@@ -128,10 +129,10 @@ class FgmresRun {
   int take_step() {
     const int k = step();
     dpar_.vector_norm() = orthogonalise(arrays_, k);
-    if (!rotate(arrays_, k, dpar_.vector_norm())) return break_down();
+    if (!arrays_.hessenberg().take_step(k - 1, dpar_.vector_norm(), 0.0)) return break_down();
     ipar_.cycle_iteration() = k;
     dpar_.previous_residual() = dpar_.residual();
-    dpar_.residual() = std::fabs(arrays_.rotated_residual()[k]);
+    dpar_.residual() = arrays_.hessenberg().residual_norm(k);
     mark_.stage = kGmresResidualTested;
     if (residual_stops()) return kFinished;
     return ipar_.host_test() != 0 ? static_cast<int>(kHostTest) : test_norm();

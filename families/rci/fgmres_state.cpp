@@ -16,6 +16,7 @@ FgmresLayout::FgmresLayout(int n, int m) {
   const std::int64_t end = start + wide_m * (wide_m + 1) / 2 + 4 * wide_m + 1 + wide_m * wide_n;
   if (end > std::numeric_limits<int>::max()) return;
   valid = true;
+  cycle_length = m;
   hessenberg = static_cast<int>(start);
   cosines = hessenberg + static_cast<int>(wide_m * (wide_m + 1) / 2);
   sines = cosines + m;
@@ -54,18 +55,12 @@ int FgmresMark::pack() const {
 }
 
 void add_correction(const FgmresArrays& arrays, int k, bool keeps_preconditioned, double* target) {
-  // Back substitution by columns: R y = g.
-  double* y = arrays.solution();
-  std::copy_n(arrays.rotated_residual(), k, y);
-  for (int j = k; j >= 1; --j) {
-    const double* r = arrays.column_of_r(j);
-    y[j - 1] /= r[j - 1];
-    for (int i = 1; i < j; ++i) y[i - 1] -= r[i - 1] * y[j - 1];
-  }
+  double* const y = arrays.solution();
+  arrays.hessenberg().solve(k, y);
   const double* z = keeps_preconditioned ? arrays.z(1) : arrays.v(1);
   add_combination(arrays.n(), z, static_cast<std::size_t>(k), y, target);
 }
 
-void clear_correction(const FgmresArrays& arrays, int k) { std::fill_n(arrays.rotated_residual(), k, 0.0); }
+void clear_correction(const FgmresArrays& arrays, int k) { std::fill_n(arrays.hessenberg().g(), k, 0.0); }
 
 }  // namespace quorin::rci

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "base/rotated_hessenberg.hpp"
 #include "families/rci/parameters.hpp"
 
 namespace quorin::rci {
@@ -15,7 +16,8 @@ struct FgmresLayout {
 
   /// False when a size is not positive or a position does not fit ipar.
   bool valid = false;
-  int hessenberg = 0;  ///< the rotated Hessenberg matrix: packed columns of its upper triangle
+  int cycle_length = 0;  // m
+  int hessenberg = 0;    ///< the rotated Hessenberg matrix: packed columns of its upper triangle
   int cosines = 0;
   int sines = 0;
   int rotated_residual = 0;  ///< m + 1 entries
@@ -50,7 +52,7 @@ struct FgmresMark {
   int pack() const;
 };
 
-/// The parts of tmp under their names, with the indices of the literature: v(1), z(1), r(1,1).
+/// The parts of tmp under their names, with the indices of the literature: v(1), z(1).
 class FgmresArrays {
  public:
   FgmresArrays(int n, const FgmresLayout& layout, double* tmp)
@@ -59,14 +61,8 @@ class FgmresArrays {
   std::size_t n() const { return n_; }
   double* v(int k) const { return column(1, k); }
   double* z(int k) const { return column(layout_.preconditioned, k); }
-  /// Column k of the rotated Hessenberg matrix, k entries.
-  double* column_of_r(int k) const {
-    const std::size_t before = static_cast<std::size_t>(k) * static_cast<std::size_t>(k - 1) / 2;
-    return part(layout_.hessenberg) + before;
-  }
-  double* cosines() const { return part(layout_.cosines); }
-  double* sines() const { return part(layout_.sines); }
-  double* rotated_residual() const { return part(layout_.rotated_residual); }
+  // The rotated problem; its column k - 1 belongs to v(k).
+  base::RotatedHessenberg<double> hessenberg() const { return {part(layout_.hessenberg), layout_.cycle_length}; }
   double* solution() const { return part(layout_.solution); }
 
   /// One-based position in tmp, as ipar gives it to the host.

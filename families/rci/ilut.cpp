@@ -6,11 +6,11 @@
 #include <functional>
 #include <limits>
 
+#include "base/sums.hpp"
 #include "base/workspace.hpp"
 #include "families/rci/column_set.hpp"
 #include "families/rci/messages.hpp"
 #include "families/rci/rci.hpp"
-#include "families/rci/vector_kernels.hpp"
 
 namespace quorin::rci {
 namespace {
@@ -110,7 +110,7 @@ class Factorization {
  private:
   bool factor_row(int i) {
     const int begin = m_.ia[i] - 1, end = m_.ia[i + 1] - 1;
-    const double row_norm = norm(static_cast<std::size_t>(end - begin), m_.a + begin);
+    const double row_norm = base::norm(static_cast<std::size_t>(end - begin), m_.a + begin);
     const double drop = rule_.tolerance * row_norm;
     if (!std::isfinite(drop)) return false;
     for (int k = begin; k < end; ++k) add(m_.ja[k] - 1, m_.a[k]);

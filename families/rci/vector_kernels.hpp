@@ -1,17 +1,10 @@
-// The vector operations of the solvers, fused so that each vector is read once. Sums run in eight interleaved partial
-// sums, always in the same order, so results do not depend on the alignment of the arrays. Arrays may be aligned to 4
-// bytes only.
+// The vector operations of the solvers, fused so that each vector is read once. base/sums.hpp tells in which order sums
+// run. Arrays may be aligned to 4 bytes only.
 #pragma once
 
 #include <cstddef>
 
 namespace quorin::rci {
-
-/// x . y
-double dot(std::size_t n, const double* x, const double* y);
-
-/// ||x||, without overflow or harmful underflow.
-double norm(std::size_t n, const double* x);
 
 /// y <- x
 void copy(std::size_t n, const double* x, double* y);

@@ -7,45 +7,25 @@
 #include <limits>
 #include <type_traits>
 
+#include "base/scalar.hpp"
 #include "base/workspace.hpp"
 
 namespace quorin::signal {
 namespace {
 
 using std::ptrdiff_t;
-using DoubleComplex = std::complex<double>;
+template <Scalar T>
+using Wide = std::conditional_t<kIsComplex<T>, std::complex<double>, double>;
 
-double widen(float v) { return v; }
-double widen(double v) { return v; }
-DoubleComplex widen(std::complex<float> v) { return {v.real(), v.imag()}; }
-DoubleComplex widen(DoubleComplex v) { return v; }
+template <Scalar T>
+Wide<T> widen(T v) {
+  return v;
+}
 
-template <class T>
-using Wide = decltype(widen(T()));
-
-template <class T>
+template <Scalar T>
 T narrow(Wide<T> v) {
-  if constexpr (std::is_arithmetic_v<T>) {
-    return static_cast<T>(v);
-  } else {
-    using Real = typename T::value_type;
-    return {static_cast<Real>(v.real()), static_cast<Real>(v.imag())};
-  }
+  return static_cast<T>(v);
 }
-
-double product(double a, double b) { return a * b; }
-
-// The operator of std::complex also looks for infinities, in a function call per product.
-DoubleComplex product(DoubleComplex a, DoubleComplex b) {
-  return {a.real() * b.real() - a.imag() * b.imag(), a.real() * b.imag() + a.imag() * b.real()};
-}
-
-template <class T>
-constexpr double kRoundoff = kRoundoff<typename T::value_type>;
-template <>
-constexpr double kRoundoff<float> = std::numeric_limits<float>::epsilon();
-template <>
-constexpr double kRoundoff<double> = std::numeric_limits<double>::epsilon();
 
 // How far the forward and backward vectors of order k miss the matrix of order k + 1, and the solution its right-hand
 // side.
@@ -120,7 +100,7 @@ bool run_recursion(Row row, Column column, const T* b, Work* x, Work* f, Work* g
     const W p = miss.forward / e;
     const W q = miss.backward / e;
     const W shrink = W{1} - product(p, q);
-    if (std::abs(shrink) <= static_cast<double>(k) * kRoundoff<Work>) return false;
+    if (std::abs(shrink) <= static_cast<double>(k) * std::numeric_limits<RealOf<Work>>::epsilon()) return false;
     e = product(e, shrink);
     const W s = (widen(b[k]) - miss.solution) / e;
 

@@ -24,8 +24,8 @@ Leg run_leg(const System<float>& system, Progress& progress, const BicgVectors& 
     if (!is_first && is_lost(zr, dense::nrm2(n, v.z, 1), dense::nrm2(n, v.rr, 1))) return progress.lose();
     if (!(std::fabs(zr) > 0)) return progress.fail(kBreakdown);
     system.transposed.solve(v.rr, v.zz);
-    turn(n, is_first, v.z, zr / old_zr, v.p);
-    turn(n, is_first, v.zz, zr / old_zr, v.pp);
+    update_direction(n, is_first, v.z, zr / old_zr, v.p);
+    update_direction(n, is_first, v.zz, zr / old_zr, v.pp);
     old_zr = zr;
     float* const q = v.z;  // A p
     system.matrix.multiply(v.p, q);

@@ -17,7 +17,7 @@ void conjugate_gradients(const System<float>& system, Progress& progress, float*
       progress.fail(kBreakdown);
       return;
     }
-    turn(n, is_first, z, zr / old_zr, p);
+    update_direction(n, is_first, z, zr / old_zr, p);
     old_zr = zr;
     float* const q = z;  // A p
     system.matrix.multiply(p, q);

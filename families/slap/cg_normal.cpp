@@ -2,6 +2,7 @@
 #include <cstdint>
 #include <new>
 
+#include "base/sums.hpp"
 #include "families/slap/iterations.hpp"
 #include "families/slap/legs.hpp"
 #include "families/slap/vector_updates.hpp"
@@ -48,12 +49,12 @@ Leg run_leg(const System<double>& system, Progress& progress, const NormalVector
   const int n = system.n();
   double old_zr = 1;  // the first direction needs none
   for (bool is_first = true; progress.next(); is_first = false) {
-    const double zr = dot(n, v.z, v.r);
+    const double zr = base::dot(n, v.z, v.r);
     if (!(zr > 0)) return progress.fail(kBreakdown);
-    turn(n, is_first, v.z, zr / old_zr, v.p);
+    update_direction(n, is_first, v.z, zr / old_zr, v.p);
     old_zr = zr;
     system.matrix.multiply_transposed(v.p, v.q);
-    const double qq = dot(n, v.q, v.q);  // (p, A A^T p)
+    const double qq = base::dot(n, v.q, v.q);  // (p, A A^T p)
     if (!(qq > 0)) return progress.fail(kSecondBreakdown);
     const double alpha = zr / qq;
     v.advance(is_first, alpha, system.x);

@@ -14,7 +14,7 @@ struct CgsVectors {
 };
 
 // u <- r + beta q, p <- u + beta (q + beta p)
-void turn(int n, bool is_first, float beta, const CgsVectors& w) {
+void update_directions(int n, bool is_first, float beta, const CgsVectors& w) {
   if (is_first) {
     dense::copy(n, w.r, 1, w.u, 1);
     dense::copy(n, w.r, 1, w.p, 1);
@@ -36,7 +36,7 @@ Leg run_leg(const System<float>& system, Progress& progress, const CgsVectors& w
     const float rho = dense::dotu(n, w.r0, 1, w.r, 1);
     if (!is_first && is_lost(rho, norm_r0, dense::nrm2(n, w.r, 1))) return progress.lose();
     if (!(std::fabs(rho) > 0)) return progress.fail(kBreakdown);
-    turn(n, is_first, rho / old_rho, w);
+    update_directions(n, is_first, rho / old_rho, w);
     old_rho = rho;
     system.precondition(w.p, w.t);
     system.matrix.multiply(w.t, w.v);

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <limits>
 
+#include "base/rotated_hessenberg.hpp"
 #include "dense/dense.hpp"
 #include "families/slap/iterations.hpp"
 
@@ -12,20 +13,11 @@ namespace {
 // Whether the preconditioned residual is made least, M^-1 A x = M^-1 b, or the residual, A M^-1 (M x) = b.
 enum class Side { kLeft, kRight };
 
-// One cycle: the Krylov basis V, and the least-squares problem min || g - H y ||, H in the course of the steps turned
-// upper triangular.
+// One cycle: the Krylov basis V, and the least-squares problem for the coefficients of the correction in it.
 class Cycle {
  public:
   Cycle(const System<float>& system, Side side, int length, float* memory)
-      : system_(system),
-        side_(side),
-        n_(system.n()),
-        v_(memory),
-        z_(v(length) + n_),
-        r_(z_ + n_),
-        cosines_(r_ + static_cast<std::ptrdiff_t>(length) * (length + 1) / 2),
-        sines_(cosines_ + length),
-        g_(sines_ + length) {}
+      : system_(system), side_(side), n_(system.n()), v_(memory), z_(v(length) + n_), hessenberg_(z_ + n_, length) {}
 
   float* v(int k) const { return v_ + static_cast<std::ptrdiff_t>(k) * n_; }
   float* scratch() const { return z_; }
@@ -39,7 +31,7 @@ class Cycle {
 
   void start(float norm) {
     dense::scal(n_, 1 / norm, v(0), 1);
-    g_[0] = norm;
+    hessenberg_.g()[0] = norm;
     steps_ = 0;
   }
 
@@ -54,29 +46,27 @@ class Cycle {
     for (int i = 0; i <= k; ++i) {
       const float h = dense::dotu(n_, v(i), 1, w, 1);
       dense::axpy(n_, -h, v(i), 1, w, 1);
-      column(k)[i] = h;
+      hessenberg_.column(k)[i] = h;
     }
     const float after = dense::nrm2(n_, w, 1);
     const float noise = static_cast<float>(k + 1) * std::numeric_limits<float>::epsilon() * before;
-    if (!rotate(k, after, noise)) return false;
+    if (!hessenberg_.take_step(k, after, noise)) return false;
     if (after > 0) dense::scal(n_, 1 / after, w, 1);
     ++steps_;
     return true;
   }
 
   // The norm of the residual, as the recurrence has it.
-  float residual_norm() const { return std::fabs(g_[steps_]); }
+  float residual_norm() const { return hessenberg_.residual_norm(steps_); }
 
   // x <- x + V y, or x + M^-1 V y.
   void correct() {
     if (steps_ == 0) return;
-    for (int i = steps_ - 1; i >= 0; --i) {
-      g_[i] /= column(i)[i];
-      dense::axpy(i, -g_[i], column(i), 1, g_, 1);
-    }
+    float* const y = hessenberg_.g();
+    hessenberg_.solve(steps_, y);
     float* const target = side_ == Side::kLeft ? system_.x : z_;
     if (side_ == Side::kRight) std::fill_n(z_, n_, 0.0F);
-    for (int i = 0; i < steps_; ++i) dense::axpy(n_, g_[i], v(i), 1, target, 1);
+    for (int i = 0; i < steps_; ++i) dense::axpy(n_, y[i], v(i), 1, target, 1);
     if (side_ == Side::kRight) {
       system_.precondition(z_, z_);
       dense::axpy(n_, 1.0F, z_, 1, system_.x, 1);
@@ -84,9 +74,6 @@ class Cycle {
   }
 
  private:
-  // Column k of the triangle, k + 1 entries.
-  float* column(int k) const { return r_ + static_cast<std::ptrdiff_t>(k) * (k + 1) / 2; }
-
   void apply(const float* x, float* y) const {
     if (side_ == Side::kLeft) {
       system_.matrix.multiply(x, z_);
@@ -97,28 +84,11 @@ class Cycle {
     }
   }
 
-  // Rotates `below`, the entry under column k, into the column. False if the column then has no diagonal.
-  bool rotate(int k, float below, float noise) {
-    float* const h = column(k);
-    for (int i = 0; i < k; ++i) {
-      const float upper = cosines_[i] * h[i] + sines_[i] * h[i + 1];
-      h[i + 1] = cosines_[i] * h[i + 1] - sines_[i] * h[i];
-      h[i] = upper;
-    }
-    const float length = std::hypot(h[k], below);
-    if (!(length > noise) || !std::isfinite(length)) return false;
-    cosines_[k] = h[k] / length;
-    sines_[k] = below / length;
-    h[k] = length;
-    g_[k + 1] = -sines_[k] * g_[k];
-    g_[k] *= cosines_[k];
-    return true;
-  }
-
   const System<float>& system_;
   Side side_;
   int n_;
-  float *v_, *z_, *r_, *cosines_, *sines_, *g_;
+  float *v_, *z_;
+  base::RotatedHessenberg<float> hessenberg_;
   int steps_ = 0;
 };
 

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <limits>
 
-#include "families/trust_region/vectors.hpp"
+#include "base/sums.hpp"
 
 namespace quorin::trust_region {
 
@@ -94,7 +94,7 @@ bool BoxStep::start_at_cauchy_point(const Task& task) {
     slope += direction[j] * gradient;
   }
   task.model.multiply(direction, image_.data());
-  const double curvature = dot(n_, image_.data(), image_.data());
+  const double curvature = base::dot(n_, image_.data(), image_.data());
   if (!(slope < 0.0) || curvature == 0.0) return false;
 
   constexpr int kHalvings = 60;
@@ -143,7 +143,7 @@ bool BoxStep::advance(const Task& task) {
   std::copy_n(task.model.right_side(), n_, rhs_.data());
   for (std::size_t j = 0; j < n_; ++j) {
     if (frozen_[j] == 0 || step_[j] == 0.0) continue;
-    add_multiple(j + 1, step_[j], task.model.column(j), rhs_.data());
+    base::add_multiple(j + 1, step_[j], task.model.column(j), rhs_.data());
     frozen_length = std::hypot(frozen_length, task.scale[j] * step_[j]);
   }
   const double room = std::sqrt(task.radius - frozen_length) * std::sqrt(task.radius + frozen_length);

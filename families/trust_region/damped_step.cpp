@@ -4,7 +4,7 @@
 #include <cmath>
 #include <limits>
 
-#include "families/trust_region/vectors.hpp"
+#include "base/sums.hpp"
 
 namespace quorin::trust_region {
 namespace {
@@ -113,7 +113,7 @@ double DampedStep::newton_correction(double excess) {
 double DampedStep::largest_damping() const {
   double length = 0.0;
   for (std::size_t k = 0; k < count_; ++k) {
-    length = std::hypot(length, dot(k + 1, qr_->column(k), qr_->right_side()) / scale_[k]);
+    length = std::hypot(length, base::dot(k + 1, qr_->column(k), qr_->right_side()) / scale_[k]);
   }
   return std::max(length / radius_, std::numeric_limits<double>::min());
 }

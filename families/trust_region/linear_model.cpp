@@ -4,7 +4,7 @@
 #include <cmath>
 #include <utility>
 
-#include "families/trust_region/vectors.hpp"
+#include "base/sums.hpp"
 
 namespace quorin::trust_region {
 
@@ -33,7 +33,7 @@ bool LinearModel::take(std::size_t m, const float* jacobian, const float* residu
 void LinearModel::append(std::size_t rows) {
   for (std::size_t k = 0; k <= n_; ++k) {
     double* const v = block_column(k);
-    const double below = dot(rows, v, v);
+    const double below = base::dot(rows, v, v);
     if (below == 0.0) continue;
     double& head = column(k)[k];
     const double length = -std::copysign(std::sqrt(head * head + below), head);
@@ -41,9 +41,9 @@ void LinearModel::append(std::size_t rows) {
     const double factor = 2.0 / (v0 * v0 + below);
     head = length;
     for (std::size_t j = k + 1; j <= n_; ++j) {
-      const double share = factor * (v0 * column(j)[k] + dot(rows, v, block_column(j)));
+      const double share = factor * (v0 * column(j)[k] + base::dot(rows, v, block_column(j)));
       column(j)[k] -= share * v0;
-      add_multiple(rows, -share, v, block_column(j));
+      base::add_multiple(rows, -share, v, block_column(j));
     }
   }
 }
@@ -53,18 +53,18 @@ bool LinearModel::is_finite() const {
   return std::all_of(triangle_.data(), triangle_.data() + triangle_.size(), [](double a) { return std::isfinite(a); });
 }
 
-double LinearModel::column_norm(std::size_t j) const { return norm(j + 1, column(j)); }
+double LinearModel::column_norm(std::size_t j) const { return base::norm(j + 1, column(j)); }
 
-double LinearModel::gradient(std::size_t j) const { return dot(j + 1, column(j), right_side()); }
+double LinearModel::gradient(std::size_t j) const { return base::dot(j + 1, column(j), right_side()); }
 
 void LinearModel::multiply(const double* s, double* image) const {
   std::fill_n(image, n_, 0.0);
-  for (std::size_t j = 0; j < n_; ++j) add_multiple(j + 1, s[j], column(j), image);
+  for (std::size_t j = 0; j < n_; ++j) base::add_multiple(j + 1, s[j], column(j), image);
 }
 
 double LinearModel::decrease(const double* s, double* image) const {
   multiply(s, image);
-  return -(dot(n_, image, right_side()) + dot(n_, image, image) / 2);
+  return -(base::dot(n_, image, right_side()) + base::dot(n_, image, image) / 2);
 }
 
 }  // namespace quorin::trust_region

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <limits>
 
-#include "families/trust_region/vectors.hpp"
+#include "base/sums.hpp"
 
 namespace quorin::trust_region {
 
@@ -28,7 +28,7 @@ void PivotedQr::bring_longest(std::size_t k) {
   double most = -1.0;
   for (std::size_t j = k; j < count_; ++j) {
     const double* const rest = a_.data() + j * n_ + k;
-    const double square = dot(n_ - k, rest, rest);
+    const double square = base::dot(n_ - k, rest, rest);
     if (square > most) {
       most = square;
       longest = j;
@@ -42,11 +42,11 @@ void PivotedQr::bring_longest(std::size_t k) {
 void PivotedQr::eliminate(std::size_t k) {
   double* const v = a_.data() + k * n_ + k;
   const std::size_t rows = n_ - k;
-  const double length = -std::copysign(norm(rows, v), v[0]);
+  const double length = -std::copysign(base::norm(rows, v), v[0]);
   if (length == 0.0) return;
   v[0] -= length;
   const double factor = -1.0 / (length * v[0]);
-  const auto reflect = [&](double* x) { add_multiple(rows, -factor * dot(rows, v, x), v, x); };
+  const auto reflect = [&](double* x) { base::add_multiple(rows, -factor * base::dot(rows, v, x), v, x); };
   for (std::size_t j = k + 1; j < count_; ++j) reflect(a_.data() + j * n_ + k);
   reflect(rhs_.data() + k);
   v[0] = length;

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <limits>
 
-#include "families/trust_region/vectors.hpp"
+#include "base/sums.hpp"
 
 namespace quorin::trust_region {
 namespace {
@@ -27,11 +27,7 @@ constexpr int kPolishingSteps = 5;
 constexpr double kMostBalance = 10.0;
 
 // ||F||; not finite if an entry is not, as squares of floats do not overflow.
-double norm_of(std::size_t m, const float* residual) {
-  double sum = 0.0;
-  for (std::size_t i = 0; i < m; ++i) sum += double{residual[i]} * double{residual[i]};
-  return std::sqrt(sum);
-}
+double norm_of(std::size_t m, const float* residual) { return std::sqrt(base::sum_of_squares(m, residual)); }
 
 StepLimits step_limits(const Setup& setup) {
   const double asked =
@@ -197,7 +193,7 @@ int Solver::propose() {
   if (!(decrease > 0.0)) return stop(kDecreaseSmall);
   const double trial_norm = std::sqrt(std::max(norm_ * norm_ - decrease, 0.0));
   if (decrease / (norm_ + trial_norm) < double{setup_.tolerances.decrease}) return stop(kDecreaseSmall);
-  if (norm(setup_.n, s) < double{setup_.tolerances.step}) return stop(kStepSmall);
+  if (base::norm(setup_.n, s) < double{setup_.tolerances.step}) return stop(kStepSmall);
 
   slope_ = 0.0;
   for (std::size_t j = 0; j < setup_.n; ++j) slope_ += model_.gradient(j) * s[j] / (norm_ * norm_);

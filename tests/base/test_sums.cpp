@@ -1,0 +1,83 @@
+// Sums and sweeps against plain loops over small whole numbers, which are exact in any order, and the ends of the range
+// of doubles.
+#include "base/sums.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <vector>
+
+#include "base/rotated_hessenberg.hpp"
+
+namespace {
+
+using namespace quorin;
+
+TEST(Sums, CoverAllLengthsAndPlaces) {
+  for (std::size_t n = 0; n < 40; ++n) {
+    for (const std::size_t place : {0, 1}) {
+      std::vector<double> x(n + 2), y(n + 2);
+      std::vector<float> floats(n);
+      double product = 0.0, squares = 0.0;
+      for (std::size_t i = 0; i < n + 2; ++i) {
+        x[i] = static_cast<double>(i * i) - 7.0;
+        y[i] = 3.0 - static_cast<double>(5 * i);
+      }
+      for (std::size_t i = 0; i < n; ++i) {
+        product += x[i + place] * y[i + place];
+        floats[i] = static_cast<float>(x[i]);
+        squares += x[i] * x[i];
+      }
+      EXPECT_EQ(base::dot(n, x.data() + place, y.data() + place), product) << n;
+      EXPECT_EQ(base::sum_of_squares(n, floats.data()), squares) << n;
+
+      std::vector<double> sums = y;
+      base::add_multiple(n, 2.0, x.data() + place, sums.data() + place);
+      for (std::size_t i = 0; i < sums.size(); ++i) {
+        const bool is_touched = i >= place && i < n + place;
+        EXPECT_EQ(sums[i], y[i] + (is_touched ? 2.0 * x[i] : 0.0)) << n << ' ' << i;
+      }
+    }
+  }
+}
+
+TEST(Sums, NormsStayInRange) {
+  const double huge = std::ldexp(1.0, 1000), tiny = std::ldexp(1.0, -1060), infinity = HUGE_VAL;
+  for (const double scale : {1.0, huge, tiny, -huge}) {
+    std::vector<double> x(9, 0.0);
+    x[1] = 3 * scale;
+    x[8] = 4 * scale;
+    EXPECT_EQ(base::norm(x.size(), x.data()), 5 * std::fabs(scale));
+    x[4] = -infinity;
+    EXPECT_EQ(base::norm(x.size(), x.data()), infinity);
+    x[0] = std::nan("");
+    EXPECT_TRUE(std::isnan(base::norm(x.size(), x.data())));
+  }
+  EXPECT_EQ(base::norm(0, nullptr), 0.0);
+  const std::vector<float> largest(5, std::numeric_limits<float>::max());
+  EXPECT_TRUE(std::isfinite(base::sum_of_squares(5, largest.data())));
+}
+
+// min || 5 e1 - H y || for H = (3 1; 4 2; 0 2), whose solution follows from the normal equations (25 11; 11 9) y = (15;
+// 5): y = (80, -40) / 104 and ||5 e1 - H y||^2 = 25 - (15 y1 + 5 y2).
+TEST(RotatedHessenberg, SolvesTheLeastSquaresProblem) {
+  std::vector<double> memory(3 + 2 + 2 + 3);
+  const base::RotatedHessenberg<double> hessenberg(memory.data(), 2);
+  hessenberg.g()[0] = 5.0;
+  hessenberg.column(0)[0] = 3.0;
+  ASSERT_TRUE(hessenberg.take_step(0, 4.0, 0.0));
+  EXPECT_NEAR(hessenberg.residual_norm(1), 4.0, 1e-15);
+  hessenberg.column(1)[0] = 1.0;
+  hessenberg.column(1)[1] = 2.0;
+  ASSERT_TRUE(hessenberg.take_step(1, 2.0, 0.0));
+  double y[2];
+  hessenberg.solve(2, y);
+  EXPECT_NEAR(y[0], 80.0 / 104, 1e-15);
+  EXPECT_NEAR(y[1], -40.0 / 104, 1e-15);
+  EXPECT_NEAR(hessenberg.residual_norm(2), std::sqrt(25 - 15 * y[0] - 5 * y[1]), 1e-14);
+  hessenberg.solve(2, hessenberg.g());
+  EXPECT_EQ(hessenberg.g()[0], y[0]);
+}
+
+}  // namespace
