@@ -2,7 +2,7 @@
 """Turns the export tables (exports/tables/*.table) into everything that must agree with them.
 
   exports/generate.py                  rewrites the committed files: headers, manual pages, the list of names
-  exports/generate.py --check          fails if a committed file is not what the tables say
+  exports/generate.py --check          fails if a committed file is not what the tables say, or the tables are not what was released
   exports/generate.py --build DIR      writes what a build needs: entry points, .def files, version script
 """
 
@@ -12,7 +12,7 @@ import argparse
 import sys
 from pathlib import Path
 
-from generator import constants, headers, linking, manual, tables, thunks
+from generator import constants, headers, linking, manual, released, tables, thunks
 from generator.model import Family
 
 ROOT = Path(__file__).resolve().parent.parent
@@ -81,8 +81,11 @@ def main() -> int:
         stale = differing(committed_files(families))
         for name in stale:
             print(f"{name} is not what the tables say; run exports/generate.py", file=sys.stderr)
-        print(f"{len(linking.export_names(families))} exports in {len(families)} tables, {len(stale)} stale files")
-        return 1 if stale else 0
+        broken = released.faults(released.read(ROOT), families)
+        print("".join(f"{fault}\n" for fault in broken), end="", file=sys.stderr)
+        print(f"{len(linking.export_names(families))} exports in {len(families)} tables, {len(stale)} stale files, ", end="")
+        print(f"{len(broken)} differences from what was released")
+        return 1 if stale or broken else 0
     write(ROOT, committed_files(families))
     return 0
 
