@@ -63,10 +63,9 @@ class Reader:
                 self.faults.append(f"{self.where}: '{line}' is no export")
 
     def read_signature(self, match: re.Match[str]) -> None:
-        if KEYED.match(match["names"]):
-            plain, index = [match["names"]], []
-        else:
-            plain, index = (half.split() for half in f"{match['names']}|".split("|")[:2])
+        plain_names, _, index_names = match["names"].partition("|")
+        plain = [plain_names] if KEYED.match(plain_names) else plain_names.split()
+        index = index_names.split()
         texts = [text.strip() for text in match["items"].split(",") if text.strip()]
         for name in plain + index:
             if name in self.signatures:
