@@ -4,16 +4,9 @@
  * published AMOS interface). Complex values are two doubles, real part first. The index forms take the same arguments
  * as the plain ones: arrays stay plain addresses.
  *
- * A call gives the members of order fnu, fnu+1, ..., fnu+n-1. kode 1 asks for the function, kode 2 for the function
- * times the factor named with each routine, which removes its exponential growth. nz counts the members that were set
- * to zero by underflow (below exp(-700.92), or so small that their phase is lost). Branch cut: the negative real axis,
- * continuous from above.
- *
- * ierr: 0 done. 1 input error (fnu < 0, kode not 1 or 2, n < 1, m not 1 or 2, id not 0 or 1, z = 0 for H, K, Y). 2
- * overflow: a member exceeds exp(700.92), or |z| < 2.2e-305 for H, K, Y; no result. 3 |z| or fnu+n-1 above 32767.99:
- * done, but half of the digits or more may be lost to the rounding of the arguments. 4 |z| or fnu+n-1 above
- * 1073741823.5, or not a number: nothing computed. 5 a method did not converge; no result. The Airy functions have the
- * limits 1023.99 and 1048575.99 for |z|, and none for |z| <= 1.
+ * A call gives the members of order fnu, fnu+1, ..., fnu+n-1. Members that are set to zero lie below exp(-700.92), or
+ * are so small that their phase is lost. Branch cut: the negative real axis, continuous from above. Scaling (kode 2)
+ * removes the exponential growth, and with it most overflows.
  *
  * Relative error of a member, measured against values of 60 digits: docs/accuracy-amos.md. Every call is independent of
  * every other; no memory is allocated.
@@ -30,10 +23,15 @@ extern "C" {
 
 /* ---- Bessel functions ---- */
 
-/* Hankel functions H1 (m = 1) or H2 (m = 2). kode 2: times exp(-i z) for H1, exp(i z) for H2.
-     cy: out, [n]
-     nz: out
-     ierr: out */
+/* Hankel functions H1 or H2. kode 2: times exp(-i z) for H1, exp(i z) for H2.
+     z: the argument of the function
+     fnu: order of the first member, at least 0
+     kode: scaling (1 none; 2 times the factor named with the routine)
+     m: which function (1 H1; 2 H2)
+     n: number of members, at least 1
+     cy: out, [n]: the members; no result if ierr is 1, 2, 4 or 5
+     nz: out: number of members that underflowed and were set to zero
+     ierr: out: how the call ended */
 QUORIN_API void QUORIN_CDECL CBESH(const quorin_double_complex* z, const double* fnu, const int32_t* kode,
                                    const int32_t* m, const int32_t* n, quorin_double_complex* cy, int32_t* nz,
                                    int32_t* ierr);
@@ -42,37 +40,53 @@ QUORIN_API void QUORIN_CDECL sCBESH_Idx(const quorin_double_complex* z, const do
                                         int32_t* ierr);
 
 /* Modified Bessel function I. kode 2: times exp(-|Re z|).
-     cy: out, [n]
-     nz: out
-     ierr: out */
+     z: the argument of the function
+     fnu: order of the first member, at least 0
+     kode: scaling (1 none; 2 times the factor named with the routine)
+     n: number of members, at least 1
+     cy: out, [n]: the members; no result if ierr is 1, 2, 4 or 5
+     nz: out: number of members that underflowed and were set to zero
+     ierr: out: how the call ended */
 QUORIN_API void QUORIN_CDECL CBESI(const quorin_double_complex* z, const double* fnu, const int32_t* kode,
                                    const int32_t* n, quorin_double_complex* cy, int32_t* nz, int32_t* ierr);
 QUORIN_API void QUORIN_CDECL sCBESI_Idx(const quorin_double_complex* z, const double* fnu, const int32_t* kode,
                                         const int32_t* n, quorin_double_complex* cy, int32_t* nz, int32_t* ierr);
 
 /* Bessel function J. kode 2: times exp(-|Im z|).
-     cy: out, [n]
-     nz: out
-     ierr: out */
+     z: the argument of the function
+     fnu: order of the first member, at least 0
+     kode: scaling (1 none; 2 times the factor named with the routine)
+     n: number of members, at least 1
+     cy: out, [n]: the members; no result if ierr is 1, 2, 4 or 5
+     nz: out: number of members that underflowed and were set to zero
+     ierr: out: how the call ended */
 QUORIN_API void QUORIN_CDECL CBESJ(const quorin_double_complex* z, const double* fnu, const int32_t* kode,
                                    const int32_t* n, quorin_double_complex* cy, int32_t* nz, int32_t* ierr);
 QUORIN_API void QUORIN_CDECL sCBESJ_Idx(const quorin_double_complex* z, const double* fnu, const int32_t* kode,
                                         const int32_t* n, quorin_double_complex* cy, int32_t* nz, int32_t* ierr);
 
 /* Modified Bessel function K. kode 2: times exp(z).
-     cy: out, [n]
-     nz: out
-     ierr: out */
+     z: the argument of the function
+     fnu: order of the first member, at least 0
+     kode: scaling (1 none; 2 times the factor named with the routine)
+     n: number of members, at least 1
+     cy: out, [n]: the members; no result if ierr is 1, 2, 4 or 5
+     nz: out: number of members that underflowed and were set to zero
+     ierr: out: how the call ended */
 QUORIN_API void QUORIN_CDECL CBESK(const quorin_double_complex* z, const double* fnu, const int32_t* kode,
                                    const int32_t* n, quorin_double_complex* cy, int32_t* nz, int32_t* ierr);
 QUORIN_API void QUORIN_CDECL sCBESK_Idx(const quorin_double_complex* z, const double* fnu, const int32_t* kode,
                                         const int32_t* n, quorin_double_complex* cy, int32_t* nz, int32_t* ierr);
 
-/* Bessel function Y. kode 2: times exp(-|Im z|). cwrk is work space of the published interface; it is not touched.
-     cy: out, [n]
-     nz: out
-     cwrk: out, [n]
-     ierr: out */
+/* Bessel function Y. kode 2: times exp(-|Im z|).
+     z: the argument of the function
+     fnu: order of the first member, at least 0
+     kode: scaling (1 none; 2 times the factor named with the routine)
+     n: number of members, at least 1
+     cy: out, [n]: the members; no result if ierr is 1, 2, 4 or 5
+     nz: out: number of members that underflowed and were set to zero
+     cwrk: out, [n]: workspace of the published interface; not touched
+     ierr: out: how the call ended */
 QUORIN_API void QUORIN_CDECL CBESY(const quorin_double_complex* z, const double* fnu, const int32_t* kode,
                                    const int32_t* n, quorin_double_complex* cy, int32_t* nz,
                                    quorin_double_complex* cwrk, int32_t* ierr);
@@ -82,18 +96,24 @@ QUORIN_API void QUORIN_CDECL sCBESY_Idx(const quorin_double_complex* z, const do
 
 /* ---- Airy functions ---- */
 
-/* Airy function Ai (id = 0) or its derivative (id = 1). kode 2: times exp(zeta), zeta = (2/3) z sqrt(z).
-     ai: out
-     nz: out
-     ierr: out */
+/* Airy function Ai or its derivative. kode 2: times exp(zeta), zeta = (2/3) z sqrt(z).
+     z: the argument of the function
+     id: which function (0 the function itself; 1 its derivative)
+     kode: scaling (1 none; 2 times the factor named with the routine)
+     ai: out: the value; no result if ierr is 1, 2, 4 or 5
+     nz: out: 1 if the value underflowed and was set to zero, else 0
+     ierr: out: how the call ended */
 QUORIN_API void QUORIN_CDECL CAIRY(const quorin_double_complex* z, const int32_t* id, const int32_t* kode,
                                    quorin_double_complex* ai, int32_t* nz, int32_t* ierr);
 QUORIN_API void QUORIN_CDECL sCAIRY_Idx(const quorin_double_complex* z, const int32_t* id, const int32_t* kode,
                                         quorin_double_complex* ai, int32_t* nz, int32_t* ierr);
 
-/* Airy function Bi (id = 0) or its derivative (id = 1). kode 2: times exp(-|Re zeta|), zeta = (2/3) z sqrt(z).
-     bi: out
-     ierr: out */
+/* Airy function Bi or its derivative. kode 2: times exp(-|Re zeta|), zeta = (2/3) z sqrt(z).
+     z: the argument of the function
+     id: which function (0 the function itself; 1 its derivative)
+     kode: scaling (1 none; 2 times the factor named with the routine)
+     bi: out: the value; no result if ierr is 1, 2, 4 or 5
+     ierr: out: how the call ended */
 QUORIN_API void QUORIN_CDECL CBIRY(const quorin_double_complex* z, const int32_t* id, const int32_t* kode,
                                    quorin_double_complex* bi, int32_t* ierr);
 QUORIN_API void QUORIN_CDECL sCBIRY_Idx(const quorin_double_complex* z, const int32_t* id, const int32_t* kode,
@@ -101,8 +121,9 @@ QUORIN_API void QUORIN_CDECL sCBIRY_Idx(const quorin_double_complex* z, const in
 
 /* ---- Machine constants ---- */
 
-/* Constants of single precision: 1 smallest normal, 2 largest, 3 half epsilon, 4 epsilon, 5 log10(2). Any other index
-   gives a NaN. */
+/* A constant of single precision; a NaN for an index that is not listed.
+     i: which constant (1 smallest normal number; 2 largest number; 3 half epsilon; 4 epsilon, the distance from 1 to
+         the next number; 5 log10(2)) */
 QUORIN_API float QUORIN_CDECL R1MACH(const int32_t* i);
 
 #ifdef __cplusplus
