@@ -152,8 +152,11 @@ class Checker:
         if not named:
             self.fault(status.where, f"'{routine.name}' has no statuses in '{status.place or 'result'}'")
             return
+        same = [value for group in named for value in group.values if value.value == status.value]
+        names = {value.name for value in same}
+        status.name = names.pop() if len(names) == 1 else ""
         if not status.text:
-            texts = {value.text for group in named for value in group.values if value.value == status.value}
+            texts = {value.text for value in same}
             if len(texts) != 1:
                 self.fault(status.where, f"'{status.value}' names {len(texts)} statuses of the table")
             status.text = "".join(texts)

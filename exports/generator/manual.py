@@ -18,6 +18,10 @@ def cell(text: str) -> str:
     return text.replace("|", "\\|")
 
 
+def row(cells: list[str]) -> str:
+    return "|" + "".join(f" {cell} |" if cell else " |" for cell in cells)
+
+
 def meaning(family: Family, routine: Routine, argument: model.Argument) -> str:
     note = family.note(routine, argument.name)
     parts = [note.text] if note and note.text else []
@@ -46,8 +50,8 @@ def argument_row(family: Family, routine: Routine, argument: model.Argument, typ
     if argument.kind == model.PLAIN and not routine.index_name:
         passed = "array"
     size = argument.size_text() or ("1" if not argument.is_array else "")
-    words = [f"`{argument.name}`", argument.direction, ", ".join(types), cell(size), passed]
-    return f"| {' | '.join(words)} | {meaning(family, routine, argument)} |"
+    what = meaning(family, routine, argument)
+    return row([f"`{argument.name}`", argument.direction, ", ".join(types), cell(size), passed, what])
 
 
 def argument_table(family: Family, routines: list[Routine]) -> str:
@@ -64,8 +68,8 @@ def value_table(head: str, values: list[model.Value]) -> str:
     names = "constant | " if has_names else ""
     rows = [f"| {head} | {names}meaning |", "|---|---|---|" if has_names else "|---|---|"]
     for value in values:
-        name = (f"`{value.name}` | " if value.name else " | ") if has_names else ""
-        rows.append(f"| `{cell(value.value)}` | {name}{cell(value.text)} |")
+        cells = [f"`{cell(value.value)}`", f"`{value.name}`" if value.name else "", cell(value.text)]
+        rows.append(row(cells if has_names else [cells[0], cells[2]]))
     return "\n".join(rows) + "\n"
 
 
@@ -121,8 +125,8 @@ def parameter_table(array: ParameterArray) -> str:
     for item in array.entries:
         position = str(item.first) if item.first == item.last else f"{item.first} to {item.last}"
         name = f"`{item.name}`" if item.name != "-" else ""
-        row = f"| {position} | {name} | {cell(item.text)} | {item.default} |"
-        rows.append(row + (f" {' '.join(f'`{name}`' for name in item.routines)} |" if has_scope else ""))
+        cells = [position, name, cell(item.text), item.default]
+        rows.append(row(cells + ([" ".join(f"`{name}`" for name in item.routines)] if has_scope else [])))
     return "\n".join(rows) + "\n"
 
 

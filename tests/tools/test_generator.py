@@ -9,7 +9,7 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parent.parent.parent
 sys.path.insert(0, str(ROOT / "exports"))
 
-from generator import declarations, linking, tables, thunks  # noqa: E402
+from generator import constants, declarations, headers, linking, manual, tables, thunks  # noqa: E402
 
 HEAD = 'title "T"\nfacade "f.hpp"\nprefix T_\nmissing-meanings 99\nsection "S"\n'
 
@@ -44,6 +44,47 @@ class MalformedRows(unittest.TestCase):
                 parse(rows)
             self.assertIn(message, str(caught.exception).splitlines())
 
+    def test_each_fault_of_a_description_is_named(self):
+        row = 'f = a::f  c:char n:int x:float[n] -> int\n  "s"\n'
+        cases = {
+            'argument z "m"\n' + row: "t.table:6: no routine has an argument 'z'",
+            'argument n "m"\nargument n "m"\n' + row: "t.table:7: the argument 'n' is explained twice",
+            'argument c "m"\n  option UP "t"\n' + row: "t.table:7: 'UP' is not one character",
+            'argument n "m"\n  option U "t"\n' + row: "t.table:7: 'U' is no integer",
+            'argument c "m"\n  option U "t"\n  option U "t"\n' + row: "t.table:8: the option 'U' stands twice",
+            'argument x "m"\n  option 1 "t"\n' + row: "t.table:6: 'x' of 'f' is neither a character nor an integer",
+            row + '  arg z "m"\n': "t.table:8: 'f' has no argument 'z'",
+            row + '  arg n "m"\n  arg n "m"\n': "t.table:9: the argument 'n' is explained twice",
+            row + '  option U "m"\n': "t.table:8: an option stands below no 'arg'",
+            row + '  minimum lwork "n"\n': "t.table:8: 'f' has no argument 'lwork'",
+            row + '  minimum n "2*k"\n': "t.table:8: '2*k' names 'k', which is no argument",
+            row + '  minimum n "2*"\n': "t.table:8: '2*' is no expression",
+            row + '  minimum n "n/2"\n': "t.table:8: 'n/2': no minimum is made of 'Div'",
+            row + "  like g\n": "t.table:6: 'f' is like 'g', which is no other routine that speaks for itself",
+            row + '  status 1 "c"\n': "t.table:8: 'f' has no statuses in 'result'",
+            'status 1 "c"\n' + row: "t.table:6: a status stands before the first 'statuses'",
+            'statuses info "t"\n' + row: "exports/tables/t.table: no routine has an argument 'info'",
+            'statuses result "t"\nstatus i T_I "c"\n' + row: "t.table:7: 'i' is no integer, and cannot be the constant 'T_I'",
+            'statuses result "t"\nstatus 1 X_I "c"\n' + row: "t.table:7: 'X_I' is no constant that begins with 'T_'",
+            'statuses result "t"\nstatus 1 "c" for g*\n' + row: "t.table:7: no routine is called 'g*'",
+            'statuses result "t"\nstatus 1 "c" for f\nstatus 1 "d" for f\n' + row: "t.table:9: 'f' has two statuses 1",
+            'statuses result "t"\n' + row + "  status 1\n": "t.table:9: '1' names 0 statuses of the table",
+            'constant T_A 1 "t"\nconstant T_A 2 "t"\n' + row: "t.table:7: 'T_A' stands at t.table:6 already",
+            'constant T_A one "t"\n' + row: "t.table:6: 'one' is no integer",
+            'parameters x base 2 "t"\n' + row: "t.table:6: expected 'parameters ARRAY base 0|1 \"text\"'",
+            'entry x 1 T_A "t"\n' + row: "t.table:6: no 'parameters x' stands above",
+            'parameters x base 1 "t"\nentry x 0 T_A "t"\n' + row: "t.table:7: x has no entries 0 to 0",
+            'parameters x base 1 "t"\nentry x 1-3 T_A "t"\nentry x 3 T_B "t"\n' + row: "t.table:8: 'f' finds both T_A and T_B there",
+            "record r = c_r a::R\n" + row: "t.table:6: expected a text in double quotes, found nothing",
+            'record r = c_r a::R "t"\n  field k:flaot "t"\n' + row: "t.table:7: field 'k': unknown type 'flaot'",
+            "callback c = c_c\n" + row: "t.table:6: expected 'callback NAME = C_NAME CPP_NAME  argument:type ... -> result'",
+            "missing-meanings 2\n" + row: "exports/tables/t.table: 3 arguments have no meaning, more than 2: c of f, n of f, x of f",
+        }
+        for rows, message in cases.items():
+            with self.subTest(rows=rows), self.assertRaises(tables.TableError) as caught:
+                parse(rows)
+            self.assertIn(message, str(caught.exception).splitlines())
+
     def test_all_faults_are_reported_at_once(self):
         with self.assertRaises(tables.TableError) as caught:
             parse('f = a::f  x:flaot\n  "s"\ng = a::g  y:flaot\n  "s"\n')
@@ -68,6 +109,67 @@ class Declarations(unittest.TestCase):
         families = parse('f = a::f  n:int\n  "s"\n  alias F\ng = a::g  n:int\n  "s"\n  index none\nh = a::h n:int\n  "s"\n  index sH_Idx\n')
         self.assertEqual(linking.export_names(families), ["F", "f", "f_Idx", "g", "h", "sH_Idx"])
         self.assertEqual(linking.internal_names(families)["F"], "quorin_f")
+
+
+class Descriptions(unittest.TestCase):
+    TABLE = (
+        'argument c "which triangle"\n  option U "upper"\n  option L "lower"\n'
+        'argument x "a vector"\nargument ipar "settings"\n'
+        'statuses info Status "How a call ended"\n'
+        'status 0 T_DONE "done"\nstatus >0 "failed"\nstatus 7 T_SEVEN "seven" for g\n'
+        'parameters ipar base 1 "Settings."\n'
+        'entry ipar 1-2 T_TOP_SIZE "sizes" default 5\nentry ipar 3 T_LIMIT "limit" default 2e1\nentry ipar 4 T_OTHER "other" for g\n'
+        'callback visit = t_visit a::Visit  n:int -> int\n  "A visitor."\n  stdcall\n'
+        'record r = t_r a::R "A record."\n  field n:int "size"\n  field v.d:double[n] "values"\n  field v.p:pointer "or so"\n'
+        'section "S"\n'
+        'f = a::f  c:char n:int x:kept nullable float[n] ipar:int[4] info:out int\n  "Does f."\n'
+        '  arg n "size"\n  minimum x "2*n if c == \'U\' else n"\n  status i "failed at i"\n  status >0 "failed for f"\n'
+        "g = a::f  c:char n:int x:kept nullable float[n] ipar:int[4] info:out int\n  like f\n"
+        'h = a::h  c:char x:value r w:value visit info:out int\n  "Does h."\n  status 7\n'
+    )
+
+    def setUp(self):
+        self.family = parse(self.TABLE)[0]
+        self.f, self.g, self.h = self.family.routines
+
+    def statuses(self, routine):
+        return {v.value: v.text for v in self.family.statuses_of(routine, self.family.statuses[0])}
+
+    def test_a_row_overrides_the_family_and_likens_itself_to_another(self):
+        self.assertEqual(self.family.note(self.g, "n").text, "size")
+        self.assertEqual(self.family.note(self.g, "c").text, "which triangle")
+        self.assertEqual(self.g.summary, "Does f.")
+        self.assertEqual(self.statuses(self.f), {"0": "done", ">0": "failed for f", "i": "failed at i"})
+        self.assertEqual(self.statuses(self.g), {"0": "done", ">0": "failed for f", "i": "failed at i", "7": "seven"})
+        self.assertEqual(self.statuses(self.h), {"0": "done", ">0": "failed", "7": "seven"})
+
+    def test_the_manual_shows_what_a_routine_needs_and_answers(self):
+        page = manual.page(self.family, "t.table")
+        self.assertIn("| `c` | in | char | 1 | by reference | which triangle<br>`U`: upper<br>`L`: lower |", page)
+        self.assertIn("| `x` | in | float | n | array | a vector; may be null<br>at least `2*n if c == 'U' else n` elements<br>**Kept**", page)
+        self.assertIn("| `info` | meaning |\n|---|---|\n| `>0` | failed for f |\n| `i` | failed at i |\n\nAlso `info` `0`: see", page)
+        self.assertIn("| 1 to 2 | `T_TOP_SIZE` | sizes | 5 | |", page)
+
+    def test_constants_in_c_and_cpp(self):
+        header = headers.header(self.family, "t.table")
+        self.assertIn("enum quorin_t_status {\n  T_DONE = 0, /* done */\n  T_SEVEN = 7 /* seven */\n};", header)
+        self.assertIn("  T_TOP_SIZE = 1, /* sizes */\n  T_LIMIT = 3, /* limit */\n  T_OTHER = 4 /* other */", header)
+        cpp = constants.cpp_header(self.family, "t.table")
+        self.assertIn("namespace quorin::f {", cpp)
+        self.assertIn("enum class Status : std::int32_t {\n  kDone = 0,\n  kSeven = 7,\n};", cpp)
+        self.assertIn("inline constexpr int kTopSize = 1;", cpp)
+        self.assertIn("inline constexpr std::int32_t kLimitDefault = 2e1;", cpp)
+
+    def test_records_and_host_functions(self):
+        header = headers.header(self.family, "t.table")
+        self.assertIn("typedef int32_t(QUORIN_CALLBACK* t_visit)(const int32_t* n);", header)
+        self.assertIn("  union {\n    double* d; /* values */\n    void* p; /* or so */\n  } v;\n} t_r;", header)
+        self.assertIn("h(const char* c, t_r* x, t_visit w, int32_t* info);", header)
+
+    def test_twins_share_an_entry(self):
+        self.assertEqual([[r.name for r in group] for group in self.family.twins(self.family.sections[1])], [["f"], ["g"], ["h"]])
+        self.g.own_statuses, self.family.statuses[0].values = [], self.family.statuses[0].values[:2]
+        self.assertEqual([[r.name for r in group] for group in self.family.twins(self.family.sections[1])], [["f", "g"], ["h"]])
 
 
 class Contents(unittest.TestCase):
