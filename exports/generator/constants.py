@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import os
 import re
 
 from generator.model import Entry, Family, Group, ParameterArray, Value
@@ -57,10 +58,16 @@ def c_enums(family: Family) -> str:
 # ---- C++ ----
 
 
-def cpp_name(family: Family, name: str) -> str:
+def cpp_name(prefix: str, name: str) -> str:
     """QUORIN_RCI_ZERO_NORM is kZeroNorm."""
-    pieces = name.removeprefix(family.prefix).split("_")
+    pieces = name.removeprefix(prefix).split("_")
     return "k" + "".join(p[:1].upper() + (p[1:].lower() if p.isupper() and len(p) > 1 else p[1:]) for p in pieces)
+
+
+def common_prefix(names: list[str]) -> str:
+    """What all names of a group begin with, up to a `_`: the enum class says it already."""
+    shared = os.path.commonprefix(names)
+    return shared[: shared.rfind("_") + 1] if len(names) > 1 else ""
 
 
 def literal(number: str, type_name: str) -> str:
@@ -74,9 +81,10 @@ def cpp_group(family: Family, group: Group) -> str:
     if not values:
         return ""
     if group.tag:
-        rows = "".join(f"  {cpp_name(family, v.name)} = {v.value},\n" for v in values)
+        prefix = common_prefix([value.name for value in values]) or family.prefix
+        rows = "".join(f"  {cpp_name(prefix, v.name)} = {v.value},\n" for v in values)
         return f"// {group.title}.\nenum class {group.tag} : std::int32_t {{\n{rows}}};\n"
-    rows = "".join(f"inline constexpr std::int32_t {cpp_name(family, v.name)} = {v.value};\n" for v in values)
+    rows = "".join(f"inline constexpr std::int32_t {cpp_name(family.prefix, v.name)} = {v.value};\n" for v in values)
     return f"// {group.title}.\n{rows}"
 
 
@@ -93,13 +101,13 @@ def defaults(family: Family, array: ParameterArray) -> str:
         return f"inline constexpr std::array<{type_name}, {len(covered)}> k{name}Defaults = {{\n{items}}};\n"
     named = [e for e in rows if e.name != "-"]
     return "".join(
-        f"inline constexpr {type_name} {cpp_name(family, e.name)}Default = {literal(e.default, type_name)};\n" for e in named
+        f"inline constexpr {type_name} {cpp_name(family.prefix, e.name)}Default = {literal(e.default, type_name)};\n" for e in named
     )
 
 
 def cpp_array(family: Family, array: ParameterArray) -> str:
     named: list[Entry] = [entry for entry in array.entries if entry.name != "-"]
-    rows = "".join(f"inline constexpr int {cpp_name(family, e.name)} = {e.first};\n" for e in named)
+    rows = "".join(f"inline constexpr int {cpp_name(family.prefix, e.name)} = {e.first};\n" for e in named)
     return f"// {positions(array)}\n{rows}{defaults(family, array)}"
 
 

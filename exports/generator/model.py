@@ -248,11 +248,10 @@ class Family:
 
     def status_groups(self, routine: Routine) -> list[Group]:
         """The groups whose place the routine has."""
-        return [
-            group
-            for group in self.statuses
-            if routine.argument(group.place) or (group.place == RESULT and routine.result)
-        ]
+        places = {argument.name for argument in routine.arguments if argument.direction != IN}
+        if routine.result:
+            places.add(RESULT)
+        return [group for group in self.statuses if group.place in places]
 
     def statuses_of(self, routine: Routine, group: Group) -> list[Value]:
         """What the routine may show at the group's place: the routine's own word counts most, a general one least."""
@@ -273,7 +272,7 @@ class Family:
     def option_groups(self) -> list[Group]:
         """The named options of arguments, as constants."""
         notes = list(self.notes.items()) + [item for routine in self.routines for item in routine.notes.items()]
-        groups = [Group(note.text, place=name, values=[v for v in note.options if v.name]) for name, note in notes]
+        groups = [Group(f"Values of {name}: {note.text}", place=name, values=[v for v in note.options if v.name]) for name, note in notes]
         return [group for group in groups if group.values]
 
     def groups(self) -> list[Group]:

@@ -8,27 +8,29 @@
 namespace quorin::rci {
 
 void cg_init(int n, const double*, const double*, int* request, int* ipar, double* dpar, double* tmp) {
-  *request = kNotCompleted;
+  *request = static_cast<int>(kNotCompleted);
   if (n <= 0) return;
   set_cg_defaults(n, Ipar(ipar), Dpar(dpar));
   std::fill_n(tmp, n, 0.0);
-  *request = kFinished;
+  *request = static_cast<int>(kFinished);
 }
 
 void cg_check(int, const double*, const double*, int* request, int* ipar, const double* dpar, const double*) {
-  *request = check_cg(true, Ipar(ipar), ConstDpar(dpar), Messages("dcg_check", kCgFiles, ConstIpar(ipar)));
+  const Messages messages("dcg_check", kCgFiles, ConstIpar(ipar));
+  *request = static_cast<int>(check_cg(true, Ipar(ipar), ConstDpar(dpar), messages));
 }
 
 void cg(int, double* x, const double* b, int* request, int* ipar, double* dpar, double* tmp) {
   const Ipar parameters(ipar);
   const int n = parameters.size();
-  *request = kEndlessLoop;
+  Request what = kEndlessLoop;
   if (n > 0) {
     const auto column = [=](int index) { return tmp + static_cast<std::ptrdiff_t>(index) * n; };
     const CgVectors vectors{n, x, b, column(0), column(1), column(2), column(3)};
-    *request = advance_cg(vectors, parameters.stage(), parameters, Dpar(dpar));
+    what = advance_cg(vectors, parameters.stage(), parameters, Dpar(dpar));
   }
-  report_cg(*request, Messages("dcg", kCgFiles, ConstIpar(ipar)));
+  report_cg(what, Messages("dcg", kCgFiles, ConstIpar(ipar)));
+  *request = static_cast<int>(what);
 }
 
 void cg_get(int, const double*, const double*, const int*, const int* ipar, const double*, const double*,

@@ -8,8 +8,6 @@
 namespace quorin::rci {
 namespace {
 
-constexpr int kIndependentRuns = 1;  // the only method
-
 // ipar(3) counts the right-hand sides, so the stage lives in a reserved entry. A host that fills ipar itself instead of
 // calling the init routine leaves anything there; the stage counts only with this mark, and everything else is a start.
 constexpr int kStageMark = 0x52434900;
@@ -39,20 +37,20 @@ CgVectors vectors_of(int right_hand_side, int n, double* x, const double* b, dou
 }
 
 // A right-hand side is also done when its residual is exactly zero though no automatic test is on: the next ones wait.
-bool is_done(int request, Dpar dpar) {
+bool is_done(Request request, Dpar dpar) {
   return request == kFinished || (request == kCgZeroDivision && dpar.residual() == 0.0);
 }
 
-int advance_all(int n, double* x, int nrhs, const double* b, Ipar ipar, Dpar dpar, double* tmp) {
+Request advance_all(int n, double* x, int nrhs, const double* b, Ipar ipar, Dpar dpar, double* tmp) {
   if (n <= 0 || nrhs <= 0 || ipar.right_hand_side() < 1 || ipar.right_hand_side() > nrhs) return kEndlessLoop;
   StageEntry stage(ipar);
   for (;;) {
     const int current = ipar.right_hand_side();
-    const int request = advance_cg(vectors_of(current, n, x, b, tmp), stage.value, ipar, dpar);
+    const Request request = advance_cg(vectors_of(current, n, x, b, tmp), stage.value, ipar, dpar);
     ipar.iterations_of(current) = ipar.iteration();
     if (!is_done(request, dpar) || current == nrhs) {
       stage.store();
-      return is_done(request, dpar) ? static_cast<int>(kFinished) : request;
+      return is_done(request, dpar) ? kFinished : request;
     }
     ++ipar.right_hand_side();
     stage.value = kCgStart;
@@ -63,25 +61,27 @@ int advance_all(int n, double* x, int nrhs, const double* b, Ipar ipar, Dpar dpa
 
 void cg_mrhs_init(int n, const double*, int nrhs, const double*, int method, int* request, int* ipar, double* dpar,
                   double* tmp) {
-  *request = kNotCompleted;
+  *request = static_cast<int>(kNotCompleted);
   if (n <= 0 || nrhs <= 0 || method != kIndependentRuns) return;
-  const int length = Ipar::kLength + 2 * nrhs;
+  const int length = kParameters + 2 * nrhs;
   std::fill_n(ipar, length, 0);
   std::fill_n(dpar, length, 0.0);
   set_cg_defaults(n, Ipar(ipar), Dpar(dpar));
   std::fill_n(tmp, n, 0.0);
-  *request = kFinished;
+  *request = static_cast<int>(kFinished);
 }
 
 void cg_mrhs_check(int, const double*, int nrhs, const double*, int* request, int* ipar, const double* dpar,
                    const double*) {
-  *request = check_cg(nrhs > 0, Ipar(ipar), ConstDpar(dpar), Messages("dcgmrhs_check", kCgFiles, ConstIpar(ipar)));
+  const Messages messages("dcgmrhs_check", kCgFiles, ConstIpar(ipar));
+  *request = static_cast<int>(check_cg(nrhs > 0, Ipar(ipar), ConstDpar(dpar), messages));
 }
 
 void cg_mrhs(int, double* x, int nrhs, const double* b, int* request, int* ipar, double* dpar, double* tmp) {
   const Ipar parameters(ipar);
-  *request = advance_all(parameters.size(), x, nrhs, b, parameters, Dpar(dpar), tmp);
-  report_cg(*request, Messages("dcgmrhs", kCgFiles, ConstIpar(ipar)));
+  const Request what = advance_all(parameters.size(), x, nrhs, b, parameters, Dpar(dpar), tmp);
+  report_cg(what, Messages("dcgmrhs", kCgFiles, ConstIpar(ipar)));
+  *request = static_cast<int>(what);
 }
 
 void cg_mrhs_get(int, const double*, int nrhs, const double*, const int*, const int* ipar, const double*, const double*,

@@ -18,7 +18,7 @@ class CgRun {
   CgRun(const CgVectors& v, int& stage, Ipar ipar, Dpar dpar)
       : v_(v), n_(static_cast<std::size_t>(v.n)), stage_(stage), ipar_(ipar), dpar_(dpar) {}
 
-  int advance() {
+  Request advance() {
     switch (stage_) {
       case kCgStart:
         return ask_for_initial_product();
@@ -44,15 +44,15 @@ class CgRun {
   }
 
  private:
-  int ask_for_initial_product() {
+  Request ask_for_initial_product() {
     ipar_.iteration() = 0;
     dpar_.previous_residual() = 0.0;
     copy(n_, v_.x, v_.direction);
-    return request(kMultiply, kCgInitialProduct);
+    return ask(kMultiply, kCgInitialProduct);
   }
 
   // r0 = b - A x0
-  int take_initial_residual() {
+  Request take_initial_residual() {
     dpar_.residual() = subtract(n_, v_.b, v_.product, v_.residual);
     dpar_.initial_residual() = dpar_.residual();
     dpar_.target_residual() = dpar_.relative_tolerance() * dpar_.initial_residual() + dpar_.absolute_tolerance();
@@ -63,13 +63,13 @@ class CgRun {
     return dpar_.residual() == 0.0 ? test(kCgInitialTest) : begin_step();
   }
 
-  int begin_step() {
+  Request begin_step() {
     if (dpar_.residual() == 0.0) return break_down();
     if (ipar_.limit_test() != 0 && ipar_.iteration() >= ipar_.iteration_limit()) {
       return ipar_.residual_test() != 0 ? kIterationLimit : kFinished;
     }
     if (ipar_.preconditioned() != 0) {
-      return request(kPrecondition, stage_ == kCgPreconditionedTest ? kCgPreconditioning : kCgFirstPreconditioning);
+      return ask(kPrecondition, stage_ == kCgPreconditionedTest ? kCgPreconditioning : kCgFirstPreconditioning);
     }
     // p <- r + beta p, beta = (r, r) / (r', r')
     if (stage_ == kCgPlainTest) {
@@ -78,11 +78,11 @@ class CgRun {
     } else {
       copy(n_, v_.residual, v_.direction);
     }
-    return request(kMultiply, kCgPlainProduct);
+    return ask(kMultiply, kCgPlainProduct);
   }
 
   // p <- z + beta p, beta = (r, z) / (r', z')
-  int take_preconditioned(bool conjugate) {
+  Request take_preconditioned(bool conjugate) {
     const double previous = dpar_.preconditioned_product();
     const double product = base::dot(n_, v_.residual, v_.preconditioned);
     dpar_.preconditioned_product() = product;
@@ -94,12 +94,12 @@ class CgRun {
     } else {
       copy(n_, v_.preconditioned, v_.direction);
     }
-    return request(kMultiply, kCgPreconditionedProduct);
+    return ask(kMultiply, kCgPreconditionedProduct);
   }
 
   // alpha = (r, z) / (p, A p); x <- x + alpha p; r <- r - alpha A p. A negative (p, A p) is no obstacle: a host may
   // know that its indefinite system gets by.
-  int take_step(double numerator, CgStage next) {
+  Request take_step(double numerator, CgStage next) {
     const double alpha = numerator / base::dot(n_, v_.direction, v_.product);
     if (!std::isfinite(alpha)) return break_down();
     dpar_.alpha() = alpha;
@@ -114,16 +114,16 @@ class CgRun {
 
   double advance(double alpha) { return rci::advance(n_, alpha, v_.direction, v_.product, v_.x, v_.residual); }
 
-  int test(CgStage stage) { return ipar_.host_test() != 0 ? request(kHostTest, stage) : begin_step(); }
+  Request test(CgStage stage) { return ipar_.host_test() != 0 ? ask(kHostTest, stage) : begin_step(); }
 
   bool residual_stops() const { return ipar_.residual_test() != 0 && dpar_.residual_passes(); }
 
-  int request(Request what, CgStage stage) {
+  Request ask(Request what, CgStage stage) {
     stage_ = stage;
     return what;
   }
 
-  int break_down() {
+  Request break_down() {
     stage_ = kCgBroken;
     return kCgZeroDivision;
   }
@@ -137,7 +137,7 @@ class CgRun {
 
 }  // namespace
 
-int advance_cg(const CgVectors& v, int& stage, Ipar ipar, Dpar dpar) {
+Request advance_cg(const CgVectors& v, int& stage, Ipar ipar, Dpar dpar) {
   if (!ipar.has_stopping_test()) return kEndlessLoop;
   const bool has_residual = stage > kCgInitialProduct && stage < kCgBroken;
   if (has_residual && !(is_squared_norm(dpar.residual()) && is_squared_norm(dpar.previous_residual()))) {
@@ -152,11 +152,11 @@ void set_cg_defaults(int n, Ipar ipar, Dpar dpar) {
   dpar.beta() = 0.0;
 }
 
-int check_cg(bool sizes_valid, Ipar ipar, ConstDpar dpar, Messages messages) {
+Check check_cg(bool sizes_valid, Ipar ipar, ConstDpar dpar, Messages messages) {
   return check_stopping(sizes_valid && ipar.size() > 0, ipar, dpar, messages);
 }
 
-void report_cg(int request, Messages messages) {
+void report_cg(Request request, Messages messages) {
   switch (request) {
     case kIterationLimit:
       return messages.error(request, "the iteration limit was reached before the residual test was met");

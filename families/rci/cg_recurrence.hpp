@@ -34,17 +34,17 @@ struct CgVectors {
   double* preconditioned;  ///< M^-1 * residual
 };
 
-/// Goes on from `stage` to the next request or the end, and returns which (Request). Tests are made on each entry, so a
+/// Goes on from `stage` to the next request or the end, and returns which. Tests are made on each entry, so a
 /// host that calls again after the end gets the same answer unless it changed a limit or tolerance.
-int advance_cg(const CgVectors& v, int& stage, Ipar ipar, Dpar dpar);
+[[nodiscard]] Request advance_cg(const CgVectors& v, int& stage, Ipar ipar, Dpar dpar);
 
 /// The defaults that all CG runs begin with.
 void set_cg_defaults(int n, Ipar ipar, Dpar dpar);
 
 /// What both check routines do. `sizes_valid`: the sizes beyond ipar(1) are.
-int check_cg(bool sizes_valid, Ipar ipar, ConstDpar dpar, Messages messages);
+[[nodiscard]] Check check_cg(bool sizes_valid, Ipar ipar, ConstDpar dpar, Messages messages);
 
 /// Puts a negative request into words.
-void report_cg(int request, Messages messages);
+void report_cg(Request request, Messages messages);
 
 }  // namespace quorin::rci

@@ -23,22 +23,22 @@ class FgmresRun {
         dpar_(dpar),
         mark_(FgmresMark::unpack(ipar.stage())) {}
 
-  int advance() {
-    const int what = leave(mark_.stage);
+  Request advance() {
+    const Request what = resume(mark_.stage);
     ipar_.stage() = mark_.pack();
     return what;
   }
 
  private:
   // Goes on from where the run stands.
-  int leave(int stage) {
+  Request resume(int stage) {
     switch (stage) {
       case kGmresStart:
         return start();
       case kGmresInitialProduct:
         return take_initial_residual();
       case kGmresInitialTest:
-        return residual_stops() ? static_cast<int>(kFinished) : begin_cycle();
+        return residual_stops() ? kFinished : begin_cycle();
       case kGmresRestartProduct:
         return take_restart_residual();
       case kGmresPreconditioning:
@@ -46,7 +46,7 @@ class FgmresRun {
       case kGmresStepProduct:
         return take_step();
       case kGmresResidualTested:
-        return residual_stops() ? static_cast<int>(kFinished) : test_norm();
+        return residual_stops() ? kFinished : test_norm();
       case kGmresNormTested:
         return continue_cycle();
       case kGmresBroken:
@@ -56,7 +56,7 @@ class FgmresRun {
     }
   }
 
-  int start() {
+  Request start() {
     mark_.cycle_length = ipar_.cycle_length();
     ipar_.iteration() = 0;
     dpar_.previous_residual() = 0.0;
@@ -64,11 +64,11 @@ class FgmresRun {
   }
 
   // Both residuals at x: v(1) lends its place to x.
-  int ask_for_residual(FgmresStage stage) {
+  Request ask_for_residual(FgmresStage stage) {
     ipar_.cycle_iteration() = 0;
     mark_.keeps_preconditioned = false;
     copy(arrays_.n(), x_, arrays_.v(1));
-    return request(kMultiply, arrays_.v(1), arrays_.v(2), stage);
+    return ask(kMultiply, arrays_.v(1), arrays_.v(2), stage);
   }
 
   // v(1) <- b - A x; the rounding of the steps so far is gone with the residual that they updated.
@@ -77,7 +77,7 @@ class FgmresRun {
     dpar_.residual() = base::norm(arrays_.n(), arrays_.v(1));
   }
 
-  int take_initial_residual() {
+  Request take_initial_residual() {
     take_residual();
     dpar_.initial_residual() = dpar_.residual();
     dpar_.target_residual() = dpar_.relative_tolerance() * dpar_.initial_residual() + dpar_.absolute_tolerance();
@@ -88,14 +88,14 @@ class FgmresRun {
     return begin_cycle();
   }
 
-  int take_restart_residual() {
+  Request take_restart_residual() {
     take_residual();
     mark_.stage = kGmresInitialTest;
-    return residual_stops() ? static_cast<int>(kFinished) : begin_cycle();
+    return residual_stops() ? kFinished : begin_cycle();
   }
 
   // v(1) <- r / ||r||, g <- ||r|| e1
-  int begin_cycle() {
+  Request begin_cycle() {
     const double length = dpar_.residual();
     if (length == 0.0 || !std::isfinite(length)) return break_down();
     if (limit_stops()) return end_at_limit();
@@ -105,12 +105,12 @@ class FgmresRun {
   }
 
   // Step k of the cycle: z(k) <- M^-1 v(k), then v(k+1) <- A z(k).
-  int begin_step() {
+  Request begin_step() {
     ipar_.count_iteration();
     const int k = step();
     if (ipar_.preconditioned() != 0) {
       keep_preconditioned_vectors();
-      return request(kPrecondition, arrays_.v(k), arrays_.z(k), kGmresPreconditioning);
+      return ask(kPrecondition, arrays_.v(k), arrays_.z(k), kGmresPreconditioning);
     }
     if (!mark_.keeps_preconditioned) return ask_for_product(arrays_.v(k));
     copy(arrays_.n(), arrays_.v(k), arrays_.z(k));
@@ -124,9 +124,9 @@ class FgmresRun {
     copy(arrays_.n() * static_cast<std::size_t>(ipar_.cycle_iteration()), arrays_.v(1), arrays_.z(1));
   }
 
-  int ask_for_product(const double* z) { return request(kMultiply, z, arrays_.v(step() + 1), kGmresStepProduct); }
+  Request ask_for_product(const double* z) { return ask(kMultiply, z, arrays_.v(step() + 1), kGmresStepProduct); }
 
-  int take_step() {
+  Request take_step() {
     const int k = step();
     dpar_.vector_norm() = orthogonalise(arrays_, k);
     if (!arrays_.hessenberg().take_step(k - 1, dpar_.vector_norm(), 0.0)) return break_down();
@@ -135,18 +135,18 @@ class FgmresRun {
     dpar_.residual() = arrays_.hessenberg().residual_norm(k);
     mark_.stage = kGmresResidualTested;
     if (residual_stops()) return kFinished;
-    return ipar_.host_test() != 0 ? static_cast<int>(kHostTest) : test_norm();
+    return ipar_.host_test() != 0 ? kHostTest : test_norm();
   }
 
-  int test_norm() {
+  Request test_norm() {
     if (ipar_.zero_norm_test() == 0) {
       mark_.stage = kGmresNormTested;
       return kZeroNormTest;
     }
-    return dpar_.vector_norm() <= dpar_.zero_norm_tolerance() ? static_cast<int>(kFinished) : continue_cycle();
+    return dpar_.vector_norm() <= dpar_.zero_norm_tolerance() ? kFinished : continue_cycle();
   }
 
-  int continue_cycle() {
+  Request continue_cycle() {
     mark_.stage = kGmresNormTested;
     if (limit_stops()) return end_at_limit();
     const int done = ipar_.cycle_iteration();
@@ -157,7 +157,7 @@ class FgmresRun {
     return begin_step();
   }
 
-  int restart() {
+  Request restart() {
     const int done = ipar_.cycle_iteration();
     add_correction(arrays_, done, mark_.keeps_preconditioned, x_);
     return ask_for_residual(kGmresRestartProduct);
@@ -166,16 +166,16 @@ class FgmresRun {
   int step() const { return ipar_.cycle_iteration() + 1; }
   bool residual_stops() const { return ipar_.residual_test() != 0 && dpar_.residual_passes(); }
   bool limit_stops() const { return ipar_.limit_test() != 0 && ipar_.iteration() >= ipar_.iteration_limit(); }
-  int end_at_limit() const { return ipar_.residual_test() != 0 ? kIterationLimit : kFinished; }
+  Request end_at_limit() const { return ipar_.residual_test() != 0 ? kIterationLimit : kFinished; }
 
-  int request(Request what, const double* source, const double* destination, FgmresStage stage) {
+  Request ask(Request what, const double* source, const double* destination, FgmresStage stage) {
     ipar_.source_start() = arrays_.position(source);
     ipar_.destination_start() = arrays_.position(destination);
     mark_.stage = stage;
     return what;
   }
 
-  int break_down() {
+  Request break_down() {
     mark_.stage = kGmresBroken;
     return kGmresZeroDivision;
   }
@@ -213,7 +213,7 @@ bool is_intact(ConstIpar ipar, const FgmresLayout& layout) {
 
 bool has_begun(ConstIpar ipar) { return ipar.stage() != kGmresStart; }
 
-void report(int request, Messages messages) {
+void report(Request request, Messages messages) {
   switch (request) {
     case kIterationLimit:
       return messages.error(request, "the iteration limit was reached before the residual test was met");
@@ -231,7 +231,7 @@ void report(int request, Messages messages) {
   }
 }
 
-int advance(double* x, const double* b, Ipar ipar, Dpar dpar, double* tmp) {
+Request advance(double* x, const double* b, Ipar ipar, Dpar dpar, double* tmp) {
   const FgmresLayout layout(ipar.size(), ipar.cycle_length());
   if (!has_begun(ipar.as_const())) {
     if (!layout.valid) return kCorruptParameters;
@@ -246,26 +246,26 @@ int advance(double* x, const double* b, Ipar ipar, Dpar dpar, double* tmp) {
 }  // namespace
 
 void fgmres_init(int n, const double*, const double*, int* request, int* ipar, double* dpar, const double*) {
-  *request = kNotCompleted;
+  *request = static_cast<int>(kNotCompleted);
   if (n <= 0) return;
   const Ipar integers(ipar);
   const Dpar reals(dpar);
   set_stopping_defaults(n, kGmresStart, integers, reals);
-  integers.zero_norm_test() = 0;
-  integers.solution_target() = 0;
-  integers.cycle_iteration() = 0;
+  integers.zero_norm_test() = kIparZeroNormTestDefault;
+  integers.solution_target() = kIparSolutionTargetDefault;
+  integers.cycle_iteration() = kIparCycleIterationDefault;
   integers.cycle_length() = integers.iteration_limit();
   // For very large n the default length has positions beyond the range of ipar. They stay 0; the host will choose a
   // shorter one.
   FgmresLayout(n, integers.cycle_length()).store(integers);
-  integers.source_start() = 1;
-  integers.destination_start() = 1;
-  integers.replace_pivots() = 0;
+  integers.source_start() = kIparSourceDefault;
+  integers.destination_start() = kIparDestinationDefault;
+  integers.replace_pivots() = kIparReplacePivotsDefault;
   reals.vector_norm() = 0.0;
-  reals.zero_norm_tolerance() = 1.0e-12;
-  reals.pivot_threshold() = 1.0e-16;
-  reals.replacement_pivot() = 1.0e-10;
-  *request = kFinished;
+  reals.zero_norm_tolerance() = kDparZeroNormToleranceDefault;
+  reals.pivot_threshold() = kDparPivotThresholdDefault;
+  reals.replacement_pivot() = kDparReplacementPivotDefault;
+  *request = static_cast<int>(kFinished);
 }
 
 void fgmres_check(int, const double*, const double*, int* request, int* ipar, const double* dpar, const double*) {
@@ -273,7 +273,7 @@ void fgmres_check(int, const double*, const double*, int* request, int* ipar, co
   const ConstIpar values(ipar);
   Messages messages("dfgmres_check", kFgmresFiles, values);
   const FgmresLayout layout(parameters.size(), parameters.cycle_length());
-  *request = check_stopping(layout.valid, parameters, ConstDpar(dpar), messages);
+  *request = static_cast<int>(check_stopping(layout.valid, parameters, ConstDpar(dpar), messages));
   if (layout.valid && !layout.matches(values)) {
     layout.store(parameters);
     messages.warning(*request, "the positions in ipar did not suit the size and the cycle length; they are put right");
@@ -281,20 +281,21 @@ void fgmres_check(int, const double*, const double*, int* request, int* ipar, co
 }
 
 void fgmres(int, double* x, double* b, int* request, int* ipar, double* dpar, double* tmp) {
-  *request = advance(x, b, Ipar(ipar), Dpar(dpar), tmp);
-  report(*request, Messages("dfgmres", kFgmresFiles, ConstIpar(ipar)));
+  const Request what = advance(x, b, Ipar(ipar), Dpar(dpar), tmp);
+  report(what, Messages("dfgmres", kFgmresFiles, ConstIpar(ipar)));
+  *request = static_cast<int>(what);
 }
 
 void fgmres_get(int, double* x, double* b, int* request, const int* ipar, const double*, double* tmp, int* itercount) {
   const ConstIpar parameters(ipar);
-  *request = kFinished;
+  *request = static_cast<int>(kFinished);
   *itercount = parameters.iteration();
   if (parameters.solution_target() < 0) return;
   const int n = parameters.size();
   const FgmresLayout layout(n, parameters.cycle_length());
   if (n <= 0 || (has_begun(parameters) && !is_intact(parameters, layout))) {
-    *request = kCorruptParameters;
-    return report(*request, Messages("dfgmres_get", kFgmresFiles, parameters));
+    *request = static_cast<int>(kCorruptParameters);
+    return report(kCorruptParameters, Messages("dfgmres_get", kFgmresFiles, parameters));
   }
   const bool into_b = parameters.solution_target() > 0;
   if (into_b) copy(static_cast<std::size_t>(n), x, b);

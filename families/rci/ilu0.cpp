@@ -9,14 +9,7 @@
 namespace quorin::rci {
 namespace {
 
-enum Ilu0Error : int {
-  kNoDiagonal = -101,
-  kZeroPivot = -102,
-  kSmallPivot = -103,
-  kNoMemory = -104,
-  kBadSize = -105,
-  kUnsortedColumns = -106,
-};
+using enum Ilu0Status;
 
 // What to do with small pivots.
 struct PivotRule {
@@ -24,13 +17,13 @@ struct PivotRule {
   double threshold;
   double replacement;
 
-  // Returns 0, or why the pivot will not do.
-  int apply(double& pivot) const {
+  // Whether the pivot will do, perhaps replaced.
+  Ilu0Status apply(double& pivot) const {
     if (!std::isfinite(pivot)) return kSmallPivot;
     const bool small = std::fabs(pivot) < threshold;
     if (replace && small) pivot = replacement;
     if (pivot == 0.0) return kZeroPivot;
-    return small && !replace ? kSmallPivot : 0;
+    return small && !replace ? kSmallPivot : kDone;
   }
 };
 
@@ -43,7 +36,7 @@ struct RowRange {
 RowRange row_of(const int* ia, int i) { return {ia[i] - 1, ia[i + 1] - 1}; }
 
 // Columns ascend within 1..n and the diagonal is there; `diagonal` receives its place.
-int check_row(int n, int i, RowRange row, const int* ja, int& diagonal) {
+Ilu0Status check_row(int n, int i, RowRange row, const int* ja, int& diagonal) {
   int previous = 0;
   diagonal = -1;
   if (row.begin < 0) return kUnsortedColumns;
@@ -52,14 +45,14 @@ int check_row(int n, int i, RowRange row, const int* ja, int& diagonal) {
     previous = ja[k];
     if (ja[k] == i + 1) diagonal = k;
   }
-  return diagonal < 0 ? kNoDiagonal : 0;
+  return diagonal < 0 ? kNoDiagonal : kDone;
 }
 
-int check_pattern(int n, const int* ia, const int* ja, int* diagonal) {
+Ilu0Status check_pattern(int n, const int* ia, const int* ja, int* diagonal) {
   for (int i = 0; i < n; ++i) {
-    if (const int error = check_row(n, i, row_of(ia, i), ja, diagonal[i]); error != 0) return error;
+    if (const Ilu0Status error = check_row(n, i, row_of(ia, i), ja, diagonal[i]); error != kDone) return error;
   }
-  return 0;
+  return kDone;
 }
 
 // Row i of the factors from rows above it. `place`, all zero between calls, maps a column to 1 + its place in row i.
@@ -77,23 +70,23 @@ void eliminate_row(RowRange row, int pivot_place, const int* ia, const int* ja, 
   for (int k = row.begin; k < row.end; ++k) place[ja[k] - 1] = 0;
 }
 
-int factorize(int n, const double* a, const int* ia, const int* ja, PivotRule rule, double* b) {
+Ilu0Status factorize(int n, const double* a, const int* ia, const int* ja, PivotRule rule, double* b) {
   if (n <= 0) return kBadSize;
   base::Workspace<int> diagonal(static_cast<std::size_t>(n)), place(static_cast<std::size_t>(n));
   if (!diagonal || !place) return kNoMemory;
   std::fill_n(place.data(), n, 0);
-  if (const int error = check_pattern(n, ia, ja, diagonal.data()); error != 0) return error;
+  if (const Ilu0Status error = check_pattern(n, ia, ja, diagonal.data()); error != kDone) return error;
   for (int i = 0; i < n; ++i) {
     const RowRange row = row_of(ia, i);
     const int pivot_place = diagonal.data()[i];
     if (a != b) std::copy(a + row.begin, a + row.end, b + row.begin);
     eliminate_row(row, pivot_place, ia, ja, diagonal.data(), place.data(), b);
-    if (const int error = rule.apply(b[pivot_place]); error != 0) return error;
+    if (const Ilu0Status error = rule.apply(b[pivot_place]); error != kDone) return error;
   }
-  return 0;
+  return kDone;
 }
 
-void report(int error, Messages messages) {
+void report(Ilu0Status error, Messages messages) {
   switch (error) {
     case kNoDiagonal:
       return messages.error(error, "a diagonal entry is absent from the matrix");
@@ -119,8 +112,9 @@ void ilu0(int n, const double* a, const int* ia, const int* ja, double* bilu0, c
   const ConstIpar integers(ipar);
   const ConstDpar reals(dpar);
   const PivotRule rule{integers.replace_pivots() != 0, std::fabs(reals.pivot_threshold()), reals.replacement_pivot()};
-  *ierr = factorize(n, a, ia, ja, rule, bilu0);
-  report(*ierr, Messages("dcsrilu0", kIluFiles, integers));
+  const Ilu0Status status = factorize(n, a, ia, ja, rule, bilu0);
+  report(status, Messages("dcsrilu0", kIluFiles, integers));
+  *ierr = static_cast<int>(status);
 }
 
 }  // namespace quorin::rci

@@ -15,19 +15,7 @@
 namespace quorin::rci {
 namespace {
 
-enum IlutResult : int {
-  kEmptyRow = -101,
-  kBadPivot = -102,
-  kDecreasingRows = -103,
-  kNoMemory = -104,
-  kBadFill = -105,
-  kBadSize = -106,
-  kBadColumn = -107,
-  kFillReduced = 101,
-  kToleranceNegative = 102,
-  kToleranceLarge = 103,
-  kMultiplierZero = 104,
-};
+using enum IlutStatus;
 
 struct Matrix {
   int n;
@@ -59,7 +47,7 @@ struct Rule {
 };
 
 // One-based pattern; the two descriptions of a row without entries have a code each.
-int check_pattern(const Matrix& m) {
+IlutStatus check_pattern(const Matrix& m) {
   for (int i = 0; i < m.n; ++i) {
     if (m.ia[i + 1] == m.ia[i]) return kEmptyRow;
     if (m.ia[i + 1] < m.ia[i] || m.ia[i] < 1) return kDecreasingRows;
@@ -67,7 +55,7 @@ int check_pattern(const Matrix& m) {
       if (m.ja[k] < 1 || m.ja[k] > m.n) return kBadColumn;
     }
   }
-  return 0;
+  return kDone;
 }
 
 // Memory for the factorization of n rows.
@@ -98,13 +86,13 @@ class Factorization {
         diagonal_(scratch.diagonal.data()),
         pattern_(static_cast<std::size_t>(m.n), scratch.words.data()) {}
 
-  int run() {
+  IlutStatus run() {
     out_.starts[0] = 1;
     for (int i = 0; i < m_.n; ++i) {
       if (!factor_row(i)) return kBadPivot;
       out_.starts[i + 1] = next_ + 1;
     }
-    return 0;
+    return kDone;
   }
 
  private:
@@ -215,12 +203,12 @@ class Factorization {
   int next_ = 0;
 };
 
-// Puts tolerance and fill right. Returns the first warning that applies, or 0.
-int adjust(int n, Rule& rule, Messages& messages) {
-  int first = 0;
-  const auto warn = [&](int code, const char* text) {
+// Puts tolerance and fill right. Returns the first warning that applies.
+IlutStatus adjust(int n, Rule& rule, Messages& messages) {
+  IlutStatus first = kDone;
+  const auto warn = [&](IlutStatus code, const char* text) {
     messages.warning(code, text);
-    if (first == 0) first = code;
+    if (first == kDone) first = code;
   };
   if (rule.fill >= n) {
     warn(kFillReduced, "the maximal fill is not less than the size of the matrix; size - 1 is used");
@@ -237,7 +225,7 @@ int adjust(int n, Rule& rule, Messages& messages) {
   return first;
 }
 
-void report(int error, Messages& messages) {
+void report(IlutStatus error, Messages& messages) {
   switch (error) {
     case kEmptyRow:
       return messages.error(error, "a row has no elements");
@@ -258,12 +246,12 @@ void report(int error, Messages& messages) {
   }
 }
 
-int factorize(const Matrix& m, const Rule& rule, const Factors& out) {
+IlutStatus factorize(const Matrix& m, const Rule& rule, const Factors& out) {
   Scratch scratch(static_cast<std::size_t>(m.n));
-  return scratch.complete() ? Factorization(m, rule, out, scratch).run() : static_cast<int>(kNoMemory);
+  return scratch.complete() ? Factorization(m, rule, out, scratch).run() : kNoMemory;
 }
 
-int check(const Matrix& m, const Rule& rule) {
+IlutStatus check(const Matrix& m, const Rule& rule) {
   if (m.n <= 0) return kBadSize;
   if (rule.fill < 0) return kBadFill;
   return check_pattern(m);
@@ -277,14 +265,13 @@ void ilut(int n, const double* a, const int* ia, const int* ja, double* bilut, i
   Messages messages("dcsrilut", kIluFiles, integers);
   const Matrix matrix{n, a, ia, ja};
   Rule rule{tol, maxfil, integers.replace_pivots() != 0, ConstDpar(dpar).pivot_multiplier()};
-  int warning = 0;
-  int error = check(matrix, rule);
-  if (error == 0) {
+  IlutStatus warning = kDone, error = check(matrix, rule);
+  if (error == kDone) {
     warning = adjust(n, rule, messages);
     error = factorize(matrix, rule, {bilut, ibilut, jbilut});
   }
   report(error, messages);
-  *ierr = error != 0 ? error : warning;
+  *ierr = static_cast<int>(error != kDone ? error : warning);
 }
 
 }  // namespace quorin::rci

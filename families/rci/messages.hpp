@@ -23,16 +23,16 @@ class Messages {
         warnings_wanted_(ipar.print_warnings() != 0) {}
 
   /// `code` is what the routine returns; 0 is left out of the text.
-  void error(int code, const char* text) {
-    if (errors_wanted_) print("error", code, text, files_.errors);
+  template <class Code>
+  void error(Code code, const char* text) {
+    if (errors_wanted_) print("error", static_cast<int>(code), text, files_.errors);
   }
-  void warning(int code, const char* text) {
-    if (warnings_wanted_) print("warning", code, text, files_.warnings);
+  template <class Code>
+  void warning(Code code, const char* text) {
+    if (warnings_wanted_) print("warning", static_cast<int>(code), text, files_.warnings);
   }
 
  private:
-  static constexpr int kScreen = 6;
-
   void print(const char* kind, int code, const char* text, const char* file);
 
   const char* routine_;

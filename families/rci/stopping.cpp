@@ -6,46 +6,45 @@ namespace quorin::rci {
 
 void set_stopping_defaults(int n, int initial_stage, Ipar ipar, Dpar dpar) {
   ipar.size() = n;
-  ipar.message_destination() = kScreen;
+  ipar.message_destination() = kIparMessagesDefault;
   ipar.stage() = initial_stage;
-  ipar.iteration() = 0;
+  ipar.iteration() = kIparIterationDefault;
   ipar.iteration_limit() = std::min(kDefaultIterations, n);
-  ipar.print_errors() = 1;
-  ipar.print_warnings() = 1;
-  ipar.limit_test() = 1;
-  ipar.residual_test() = 0;
-  ipar.host_test() = 1;
-  ipar.preconditioned() = 0;
-  dpar.relative_tolerance() = 1.0e-6;
-  dpar.absolute_tolerance() = 0.0;
+  ipar.print_errors() = kIparPrintErrorsDefault;
+  ipar.print_warnings() = kIparPrintWarningsDefault;
+  ipar.limit_test() = kIparLimitTestDefault;
+  ipar.residual_test() = kIparResidualTestDefault;
+  ipar.host_test() = kIparHostTestDefault;
+  ipar.preconditioned() = kIparPreconditionedDefault;
+  dpar.relative_tolerance() = kDparRelativeToleranceDefault;
+  dpar.absolute_tolerance() = kDparAbsoluteToleranceDefault;
   dpar.initial_residual() = 0.0;
   dpar.target_residual() = 0.0;
   dpar.residual() = 0.0;
   dpar.previous_residual() = 0.0;
 }
 
-int check_stopping(bool sizes_valid, Ipar ipar, ConstDpar dpar, Messages& messages) {
+Check check_stopping(bool sizes_valid, Ipar ipar, ConstDpar dpar, Messages& messages) {
   if (!sizes_valid) {
-    messages.error(kCheckErrors,
+    messages.error(Check::kErrors,
                    "a size in the parameters is not positive, or too large for the work array's positions");
-    return kCheckErrors;
+    return Check::kErrors;
   }
   bool warned = false;
   if (ipar.iteration_limit() <= 0) {
-    messages.warning(kCheckWarnings, "the maximum number of iterations is not positive");
+    messages.warning(Check::kWarnings, "the maximum number of iterations is not positive");
     warned = true;
   }
   // Written so that a NaN is caught too.
   if (!(dpar.relative_tolerance() >= 0.0) || !(dpar.absolute_tolerance() >= 0.0)) {
-    messages.warning(kCheckWarnings, "a tolerance is negative");
+    messages.warning(Check::kWarnings, "a tolerance is negative");
     warned = true;
   }
-  if (ipar.has_stopping_test()) return warned ? kCheckWarnings : kConsistent;
+  if (ipar.has_stopping_test()) return warned ? Check::kWarnings : Check::kConsistent;
   ipar.limit_test() = 1;
   ipar.residual_test() = 1;
-  messages.warning(kCheckWarningsAndAltered,
-                   "no stopping test was on; the iteration limit and the residual test are on now");
-  return kCheckWarningsAndAltered;
+  messages.warning(Check::kAltered, "no stopping test was on; the iteration limit and the residual test are on now");
+  return Check::kAltered;
 }
 
 }  // namespace quorin::rci

@@ -6,14 +6,13 @@
 
 namespace quorin::rci {
 
-inline constexpr int kScreen = 6;
 inline constexpr int kDefaultIterations = 150;
 
 /// ipar(1..11) and dpar(1..6) as they are before a run.
 void set_stopping_defaults(int n, int initial_stage, Ipar ipar, Dpar dpar);
 
 /// Judges the stopping criteria and turns tests on when there are none; `sizes_valid` is the caller's verdict on the
-/// sizes. Returns a CheckResult.
-int check_stopping(bool sizes_valid, Ipar ipar, ConstDpar dpar, Messages& messages);
+/// sizes.
+[[nodiscard]] Check check_stopping(bool sizes_valid, Ipar ipar, ConstDpar dpar, Messages& messages);
 
 }  // namespace quorin::rci

@@ -34,8 +34,8 @@
 extern "C" {
 #endif
 
-/* A host function that selects eigenvalues: non-zero for one that is to lead. It gets the real and the imaginary part.
- * */
+/* A host function that selects eigenvalues: non-zero for one that is to lead. It gets the real and the imaginary
+ * part. */
 typedef int32_t(QUORIN_CDECL* quorin_select_real)(const float* re, const float* im);
 
 /* The same, for complex numbers. */

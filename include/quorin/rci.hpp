@@ -38,7 +38,7 @@ struct Result {
   int iterations = 0;     ///< of all right-hand sides together
   double residual = 0.0;  ///< ||r|| of the last right-hand side as the solver knows it
   bool converged() const { return status == 0; }
-  bool reached_limit() const { return status == -1; }
+  bool reached_limit() const { return status == QUORIN_RCI_ITERATION_LIMIT; }
 };
 
 /// Stands for M = I; solves with it never ask for a preconditioner.
@@ -50,45 +50,28 @@ struct NoPreconditioner {
 
 namespace detail {
 
-inline constexpr std::size_t kParameters = 128;
-
-/// Entries of ipar and dpar (zero-based) that the loops below use.
-struct Entry {
-  static constexpr std::size_t kRightHandSide = 2;
-  static constexpr std::size_t kIterationLimit = 4;
-  static constexpr std::size_t kErrorMessages = 5;
-  static constexpr std::size_t kWarningMessages = 6;
-  static constexpr std::size_t kResidualTest = 8;
-  static constexpr std::size_t kHostTest = 9;
-  static constexpr std::size_t kPreconditioned = 10;
-  static constexpr std::size_t kZeroNormTest = 11;
-  static constexpr std::size_t kRestart = 14;
-  static constexpr std::size_t kSource = 21;
-  static constexpr std::size_t kTarget = 22;
-  static constexpr std::size_t kRelative = 0;
-  static constexpr std::size_t kAbsolute = 1;
-  static constexpr std::size_t kResidual = 4;
-};
-
-enum Request { kFinished = 0, kMultiply = 1, kPrecondition = 3 };
-
 template <class M>
 inline constexpr bool is_preconditioner = !std::is_same_v<std::remove_cvref_t<M>, NoPreconditioner>;
 
 /// The parameter arrays of one solve.
 struct Parameters {
-  explicit Parameters(std::size_t extra = 0) : ipar(kParameters + extra), dpar(kParameters + extra) {}
+  explicit Parameters(std::size_t extra = 0)
+      : ipar(QUORIN_RCI_PARAMETERS + extra), dpar(QUORIN_RCI_PARAMETERS + extra) {}
+
+  /// Entries by their published, one-based positions.
+  int& integer(int position) { return ipar[static_cast<std::size_t>(position) - 1]; }
+  double& real(int position) { return dpar[static_cast<std::size_t>(position) - 1]; }
 
   void set(const Options& options, bool preconditioned, bool squares) {
     const auto power = [squares](double t) { return squares ? t * t : t; };
-    ipar[Entry::kIterationLimit] = options.max_iterations;
-    ipar[Entry::kErrorMessages] = 0;
-    ipar[Entry::kWarningMessages] = 0;
-    ipar[Entry::kResidualTest] = 1;
-    ipar[Entry::kHostTest] = 0;
-    ipar[Entry::kPreconditioned] = preconditioned ? 1 : 0;
-    dpar[Entry::kRelative] = power(options.relative_tolerance);
-    dpar[Entry::kAbsolute] = power(options.absolute_tolerance);
+    integer(QUORIN_RCI_IPAR_ITERATION_LIMIT) = options.max_iterations;
+    integer(QUORIN_RCI_IPAR_PRINT_ERRORS) = 0;
+    integer(QUORIN_RCI_IPAR_PRINT_WARNINGS) = 0;
+    integer(QUORIN_RCI_IPAR_RESIDUAL_TEST) = 1;
+    integer(QUORIN_RCI_IPAR_HOST_TEST) = 0;
+    integer(QUORIN_RCI_IPAR_PRECONDITIONED) = preconditioned ? 1 : 0;
+    real(QUORIN_RCI_DPAR_RELATIVE_TOLERANCE) = power(options.relative_tolerance);
+    real(QUORIN_RCI_DPAR_ABSOLUTE_TOLERANCE) = power(options.absolute_tolerance);
   }
 
   std::vector<int> ipar;
@@ -101,9 +84,9 @@ template <class Step, class Source, class Target, class Product, class Precondit
 int serve(Step step, Source source, Target target, Product& multiply, Preconditioner& precondition) {
   for (;;) {
     const int request = step();
-    if (request == kMultiply) {
+    if (request == QUORIN_RCI_MULTIPLY) {
       multiply(std::span<const double>(source(request)), target(request));
-    } else if (request == kPrecondition) {
+    } else if (request == QUORIN_RCI_PRECONDITION) {
       precondition(std::span<const double>(source(request)), target(request));
     } else {
       return request;
@@ -117,7 +100,7 @@ inline int checked_size(std::size_t n, std::size_t other) {
 }
 
 inline void require(int status) {
-  if (status != kFinished) throw std::invalid_argument("quorin::rci: the solver refused the sizes");
+  if (status != QUORIN_RCI_FINISHED) throw std::invalid_argument("quorin::rci: the solver refused the sizes");
 }
 
 }  // namespace detail
@@ -127,7 +110,6 @@ inline void require(int status) {
 template <class Product, class Preconditioner = NoPreconditioner>
 Result solve_cg(std::span<const double> b, std::span<double> x, Product&& multiply, Preconditioner&& precondition = {},
                 const Options& options = {}) {
-  using detail::Entry;
   constexpr bool kPreconditioned = detail::is_preconditioner<Preconditioner>;
   const int n = detail::checked_size(b.size(), x.size());
   const std::size_t length = b.size();
@@ -145,10 +127,10 @@ Result solve_cg(std::span<const double> b, std::span<double> x, Product&& multip
   };
   Result result;
   result.status = detail::serve(
-      step, [&](int asked) { return column(asked == detail::kMultiply ? 0 : 2); },
-      [&](int asked) { return column(asked == detail::kMultiply ? 1 : 3); }, multiply, precondition);
+      step, [&](int asked) { return column(asked == QUORIN_RCI_MULTIPLY ? 0 : 2); },
+      [&](int asked) { return column(asked == QUORIN_RCI_MULTIPLY ? 1 : 3); }, multiply, precondition);
   DCG_GET(&n, x.data(), b.data(), &request, p.ipar.data(), p.dpar.data(), tmp.data(), &result.iterations);
-  result.residual = std::sqrt(p.dpar[Entry::kResidual]);
+  result.residual = std::sqrt(p.real(QUORIN_RCI_DPAR_RESIDUAL));
   return result;
 }
 
@@ -157,7 +139,6 @@ Result solve_cg(std::span<const double> b, std::span<double> x, Product&& multip
 template <class Product, class Preconditioner = NoPreconditioner>
 Result solve_cg_many(int nrhs, std::span<const double> b, std::span<double> x, Product&& multiply,
                      Preconditioner&& precondition = {}, const Options& options = {}) {
-  using detail::Entry;
   constexpr bool kPreconditioned = detail::is_preconditioner<Preconditioner>;
   const std::size_t count = nrhs > 0 ? static_cast<std::size_t>(nrhs) : 0;
   if (count == 0 || b.size() % count != 0) throw std::invalid_argument("quorin::rci: b does not hold nrhs vectors");
@@ -167,7 +148,7 @@ Result solve_cg_many(int nrhs, std::span<const double> b, std::span<double> x, P
   detail::Parameters p(2 * count);
   std::vector<double> tmp((3 + count) * length);
   std::vector<int> iterations(count);
-  const int method = 1;
+  const int method = QUORIN_RCI_INDEPENDENT_RUNS;
   int request = 0;
   DCGMRHS_INIT(&n, x.data(), &nrhs, b.data(), &method, &request, p.ipar.data(), p.dpar.data(), tmp.data());
   detail::require(request);
@@ -178,14 +159,14 @@ Result solve_cg_many(int nrhs, std::span<const double> b, std::span<double> x, P
     sDCGMRHS_Idx(&n, x.data(), 0, &nrhs, b.data(), 0, &request, p.ipar.data(), 0, p.dpar.data(), 0, tmp.data(), 0);
     return request;
   };
-  const auto residual_column = [&] { return 2 + static_cast<std::size_t>(p.ipar[Entry::kRightHandSide]); };
+  const auto residual_column = [&] { return 2 + static_cast<std::size_t>(p.integer(QUORIN_RCI_IPAR_RIGHT_HAND_SIDE)); };
   Result result;
   result.status = detail::serve(
-      step, [&](int asked) { return column(asked == detail::kMultiply ? 0 : residual_column()); },
-      [&](int asked) { return column(asked == detail::kMultiply ? 1 : 2); }, multiply, precondition);
+      step, [&](int asked) { return column(asked == QUORIN_RCI_MULTIPLY ? 0 : residual_column()); },
+      [&](int asked) { return column(asked == QUORIN_RCI_MULTIPLY ? 1 : 2); }, multiply, precondition);
   DCGMRHS_GET(&n, x.data(), &nrhs, b.data(), &request, p.ipar.data(), p.dpar.data(), tmp.data(), iterations.data());
   for (const int k : iterations) result.iterations += k;
-  result.residual = std::sqrt(p.dpar[Entry::kResidual]);
+  result.residual = std::sqrt(p.real(QUORIN_RCI_DPAR_RESIDUAL));
   return result;
 }
 
@@ -194,7 +175,6 @@ Result solve_cg_many(int nrhs, std::span<const double> b, std::span<double> x, P
 template <class Product, class Preconditioner = NoPreconditioner>
 Result solve_fgmres(std::span<const double> b, std::span<double> x, Product&& multiply,
                     Preconditioner&& precondition = {}, const Options& options = {}) {
-  using detail::Entry;
   constexpr bool kPreconditioned = detail::is_preconditioner<Preconditioner>;
   const int n = detail::checked_size(b.size(), x.size());
   const std::size_t length = b.size();
@@ -208,11 +188,11 @@ Result solve_fgmres(std::span<const double> b, std::span<double> x, Product&& mu
   DFGMRES_INIT(&n, x.data(), rhs, &request, p.ipar.data(), p.dpar.data(), tmp.data());
   detail::require(request);
   p.set(options, kPreconditioned, false);
-  p.ipar[Entry::kRestart] = restart;
-  p.ipar[Entry::kZeroNormTest] = 1;
+  p.integer(QUORIN_RCI_IPAR_CYCLE_LENGTH) = restart;
+  p.integer(QUORIN_RCI_IPAR_ZERO_NORM_TEST) = 1;
 
-  const auto vector_at = [&](std::size_t entry) {
-    return std::span<double>(tmp).subspan(static_cast<std::size_t>(p.ipar[entry]) - 1, length);
+  const auto vector_at = [&](int position) {
+    return std::span<double>(tmp).subspan(static_cast<std::size_t>(p.integer(position)) - 1, length);
   };
   const auto step = [&] {
     DFGMRES(&n, x.data(), rhs, &request, p.ipar.data(), p.dpar.data(), tmp.data());
@@ -220,10 +200,10 @@ Result solve_fgmres(std::span<const double> b, std::span<double> x, Product&& mu
   };
   Result result;
   result.status = detail::serve(
-      step, [&](int) { return vector_at(Entry::kSource); }, [&](int) { return vector_at(Entry::kTarget); }, multiply,
-      precondition);
+      step, [&](int) { return vector_at(QUORIN_RCI_IPAR_SOURCE); },
+      [&](int) { return vector_at(QUORIN_RCI_IPAR_DESTINATION); }, multiply, precondition);
   DFGMRES_GET(&n, x.data(), rhs, &request, p.ipar.data(), p.dpar.data(), tmp.data(), &result.iterations);
-  result.residual = p.dpar[Entry::kResidual];
+  result.residual = p.real(QUORIN_RCI_DPAR_RESIDUAL);
   return result;
 }
 
@@ -237,7 +217,7 @@ class IncompleteLu {
     f.starts_.assign(ia, ia + n + 1);
     f.columns_.assign(ja, ja + ia[n] - 1);
     f.values_.resize(f.columns_.size());
-    const Settings s;
+    detail::Parameters s = settings();
     int error = 0;
     DCSRILU0(&n, a, ia, ja, f.values_.data(), s.ipar.data(), s.dpar.data(), &error);
     f.finish(error);
@@ -254,8 +234,8 @@ class IncompleteLu {
     f.starts_.resize(static_cast<std::size_t>(n) + 1);
     f.columns_.resize(length);
     f.values_.resize(length);
-    Settings s;
-    s.dpar[kPivotMultiplier] = std::max(std::abs(tolerance), 1.0e-5);
+    detail::Parameters s = settings();
+    s.real(QUORIN_RCI_DPAR_PIVOT_MULTIPLIER) = std::max(std::abs(tolerance), 1.0e-5);
     int error = 0;
     DCSRILUT(&n, a, ia, ja, f.values_.data(), f.starts_.data(), f.columns_.data(), &tolerance, &fill, s.ipar.data(),
              s.dpar.data(), &error);
@@ -284,20 +264,14 @@ class IncompleteLu {
   std::size_t entries() const { return row_begin(diagonal_.size()); }
 
  private:
-  static constexpr std::size_t kReplacePivots = 30;
-  static constexpr std::size_t kPivotMultiplier = 30;
-  static constexpr std::size_t kReplacement = 31;
-
   // Small pivots are replaced: a poor preconditioner serves better than none. No messages; failures throw.
-  struct Settings {
-    Settings() : ipar(detail::kParameters), dpar(detail::kParameters) {
-      ipar[kReplacePivots] = 1;
-      dpar[kPivotMultiplier] = 1.0e-16;
-      dpar[kReplacement] = 1.0e-10;
-    }
-    std::vector<int> ipar;
-    std::vector<double> dpar;
-  };
+  static detail::Parameters settings() {
+    detail::Parameters s;
+    s.integer(QUORIN_RCI_IPAR_REPLACE_PIVOTS) = 1;
+    s.real(QUORIN_RCI_DPAR_PIVOT_THRESHOLD) = 1.0e-16;
+    s.real(QUORIN_RCI_DPAR_REPLACEMENT_PIVOT) = 1.0e-10;
+    return s;
+  }
 
   explicit IncompleteLu(int n) : diagonal_(static_cast<std::size_t>(n)) {}
 
