@@ -180,7 +180,7 @@ void order_column(int n, int column, int begin, int end, int* ia, float* a) {
 
 }  // namespace
 
-void to_column_format(int n, int nelt, int* ia, int* ja, float* a, const int*) {
+void to_column_format(int n, int nelt, int* ia, int* ja, float* a, const int*) noexcept {
   if (n < 1 || nelt < 1 || ja[n] == nelt + 1) return;
   sort_by(1, nelt, ja, ia, a);
   mark_column_starts(n, nelt, ja);
@@ -190,6 +190,6 @@ void to_column_format(int n, int nelt, int* ia, int* ja, float* a, const int*) {
   }
 }
 
-void print_structure(const int*, const int*, const int*, const int*, const float*, const int*, const int*) {}
+void print_structure(const int*, const int*, const int*, const int*, const float*, const int*, const int*) noexcept {}
 
 }  // namespace quorin::slap

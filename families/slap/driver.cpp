@@ -1,4 +1,5 @@
-// From a host's call to an iteration: checks, conversion, places in the work arrays, preconditioner.
+#include "families/slap/driver.hpp"
+
 #include <algorithm>
 #include <cstdint>
 
@@ -12,27 +13,6 @@
 
 namespace quorin::slap {
 namespace {
-
-struct Call {
-  Method method;
-  int n;
-  const float* b;
-  float* x;
-  int nelt;
-  int *ia, *ja;
-  float* a;
-  int isym;
-  int nsave;
-  StoppingArguments stopping;
-  float* rwork;
-  int* iwork;
-  bool sets_up;  // else the preconditioner of an earlier call is in the work arrays
-
-  bool is(Iteration iteration, Preconditioning preconditioning) const {
-    return method.iteration == iteration && method.preconditioning == preconditioning;
-  }
-  bool is_diagonal_gmres() const { return is(Iteration::kGmres, Preconditioning::kDiagonal); }
-};
 
 // Hands out the host's work arrays: integers behind the header, and reals.
 class WorkArrays {
@@ -65,7 +45,7 @@ class WorkArrays {
 // How many reals the published lengths leave to the iteration, behind the preconditioner.
 std::int64_t iteration_reals(const Call& call) {
   const std::int64_t n = call.n, s = call.nsave;
-  switch (call.method.iteration) {
+  switch (call.iteration) {
     case Iteration::kCg:
       return 4 * n;
     case Iteration::kCgNormal:
@@ -75,10 +55,10 @@ std::int64_t iteration_reals(const Call& call) {
     case Iteration::kGmres:
       return n * (s + 5) + s * (s + 3) + 1;
     case Iteration::kOrthomin:
-      return (call.method.preconditioning == Preconditioning::kDiagonal ? 6 : 3) * n + s * (3 * n + 1);
+      return (call.preconditioning == Preconditioning::kDiagonal ? 6 : 3) * n + s * (3 * n + 1);
     case Iteration::kRefinement:
       // Gauss and Seidel's length counts the diagonal entries that the matrix has; there may be n less.
-      return call.method.preconditioning == Preconditioning::kLowerTriangle ? 2 * n : 3 * n;
+      return call.preconditioning == Preconditioning::kLowerTriangle ? 2 * n : 3 * n;
   }
   return 0;
 }
@@ -86,18 +66,18 @@ std::int64_t iteration_reals(const Call& call) {
 // GMRES without a host's test of its own: 0 asks for the residual that the iteration knows.
 StoppingArguments stopping_arguments(const Call& call) {
   StoppingArguments stopping = call.stopping;
-  if (call.method.iteration == Iteration::kGmres && stopping.itol == 0) stopping.itol = kResidual;
+  if (call.iteration == Iteration::kGmres && stopping.itol == 0) stopping.itol = kResidual;
   return stopping;
 }
 
-void run(const Call&, const System<double>& system, Progress& progress, float* vectors) {
+void run_iteration(const Call&, const System<double>& system, Progress& progress, float* vectors) {
   normal_equations(system, progress, vectors);
 }
 
-void run(const Call& call, const System<float>& system, Progress& progress, float* vectors) {
+void run_iteration(const Call& call, const System<float>& system, Progress& progress, float* vectors) {
   // More directions than iterations are not needed, whatever the host has room for.
   const int most = std::max(call.stopping.itmax, 1);
-  switch (call.method.iteration) {
+  switch (call.iteration) {
     case Iteration::kCg:
       return conjugate_gradients(system, progress, vectors);
     case Iteration::kCgNormal:
@@ -123,14 +103,14 @@ void iterate(const Call& call, const ColumnMatrix& matrix, const Preconditioner<
   work.set_header(9, work.next_integer());
   work.set_header(10, work.next_real());
   Progress progress(stopping_arguments(call));
-  run(call, System<T>{matrix, preconditioner, transposed, call.b, call.x}, progress, vectors);
+  run_iteration(call, System<T>{matrix, preconditioner, transposed, call.b, call.x}, progress, vectors);
 }
 
 void solve_with_diagonal(const Call& call, const ColumnMatrix& matrix) {
   WorkArrays work(call);
   work.set_header(4, work.next_real());
   float* const inverse = work.reals(call.n);
-  if (call.method.iteration == Iteration::kCgNormal) {
+  if (call.iteration == Iteration::kCgNormal) {
     invert_row_squares(matrix, inverse);
     const Diagonal<double> diagonal(call.n, inverse);
     return iterate<double>(call, matrix, diagonal, diagonal, work);
@@ -173,8 +153,7 @@ void solve_with_incomplete_cholesky(const Call& call, const ColumnMatrix& matrix
   float* const inverse = work.reals(call.n);
   if (call.sets_up) {
     float* const scratch = call.rwork + (work.next_real() - 1);  // the first vector of the iteration
-    // The iteration goes on with the replaced pivots, and sets the status anew.
-    if (!factor_cholesky(matrix, count, l, inverse, scratch)) *call.stopping.ierr = kFactorizationBreakdown;
+    factor_cholesky(matrix, count, l, inverse, scratch);
   }
   const IncompleteCholesky cholesky(l, inverse);
   iterate<float>(call, matrix, cholesky, cholesky, work);
@@ -189,7 +168,7 @@ void solve_with_incomplete_lu(const Call& call, const ColumnMatrix& matrix) {
   factors.inverse = work.reals(call.n);
   factors.u = claim_rows(call, sizes.upper, {3, 4, 7}, work);
   factor_ldu(matrix, factors, work.integers(2 * std::int64_t{call.n}));
-  if (call.method.iteration == Iteration::kCgNormal) {
+  if (call.iteration == Iteration::kCgNormal) {
     const NormalIncompleteLu lu(factors);
     return iterate<double>(call, matrix, lu, lu, work);
   }
@@ -198,11 +177,13 @@ void solve_with_incomplete_lu(const Call& call, const ColumnMatrix& matrix) {
 
 bool has_bad_sizes(const Call& call) {
   if (call.n < 1 || call.nelt < 1) return true;
-  if (call.method.iteration == Iteration::kGmres) return call.nsave < (call.is_diagonal_gmres() ? 2 : 1);
+  if (call.iteration == Iteration::kGmres) return call.nsave < (call.is_diagonal_gmres() ? 2 : 1);
   return call.nsave < 0;
 }
 
-void solve(const Call& call) {
+}  // namespace
+
+void run(const Call& call) {
   int* const status = call.stopping.ierr;
   *status = kConverged;
   if (call.is_diagonal_gmres()) *call.stopping.err = 0;
@@ -216,7 +197,7 @@ void solve(const Call& call) {
     *status = kBadInput;
     return;
   }
-  switch (call.method.preconditioning) {
+  switch (call.preconditioning) {
     case Preconditioning::kDiagonal:
       solve_with_diagonal(call, matrix);
       break;
@@ -233,26 +214,6 @@ void solve(const Call& call) {
   // These two report a limit that was passed before anything else that happened.
   const bool prefers_limit = call.is_diagonal_gmres() || call.is(Iteration::kCgNormal, Preconditioning::kDiagonal);
   if (prefers_limit && *call.stopping.iter > call.stopping.itmax) *status = kNotConverged;
-}
-
-}  // namespace
-
-void Solver::operator()(int n, const float* b, float* x, int nelt, int* ia, int* ja, float* a, int isym, int itol,
-                        float* tol, int itmax, int* iter, float* err, int* ierr, const int*, float* rwork, const int*,
-                        int* iwork, const int*) const {
-  solve({*this, n, b, x, nelt, ia, ja, a, isym, 0, {itol, tol, itmax, iter, err, ierr}, rwork, iwork, true});
-}
-
-void DirectionsSolver::operator()(int n, const float* b, float* x, int nelt, int* ia, int* ja, float* a, int isym,
-                                  int nsave, int itol, float* tol, int itmax, int* iter, float* err, int* ierr,
-                                  const int*, float* rwork, const int*, int* iwork, const int*) const {
-  solve({*this, n, b, x, nelt, ia, ja, a, isym, nsave, {itol, tol, itmax, iter, err, ierr}, rwork, iwork, true});
-}
-
-void ReusingSolver::operator()(int n, const float* b, float* x, int nelt, int* ia, int* ja, float* a, int isym,
-                               int itol, float* tol, int itmax, int* iter, float* err, int* ierr, const int*,
-                               float* rwork, const int*, int* iwork, const int*, int ifact) const {
-  solve({*this, n, b, x, nelt, ia, ja, a, isym, 0, {itol, tol, itmax, iter, err, ierr}, rwork, iwork, ifact != 0});
 }
 
 }  // namespace quorin::slap

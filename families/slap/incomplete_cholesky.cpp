@@ -32,7 +32,7 @@ float factor_row(const TriangularRows& l, int i, const float* inverse, float* v)
 
 }  // namespace
 
-bool factor_cholesky(const ColumnMatrix& matrix, int capacity, const TriangularRows& l, float* inverse,
+void factor_cholesky(const ColumnMatrix& matrix, int capacity, const TriangularRows& l, float* inverse,
                      float* scratch) {
   std::fill_n(inverse, matrix.n, 0.0F);
   std::fill_n(scratch, matrix.n, 0.0F);
@@ -40,16 +40,11 @@ bool factor_cholesky(const ColumnMatrix& matrix, int capacity, const TriangularR
     if (i == j) inverse[i] += a;
   });
   extract_lower(matrix, capacity, l);
-  bool is_positive = true;
   for (int i = 0; i < matrix.n; ++i) {
     float pivot = inverse[i] - factor_row(l, i, inverse, scratch);
-    if (!(pivot > 0)) {
-      is_positive = false;
-      pivot = replacement_pivot(matrix, i);
-    }
+    if (!(pivot > 0)) pivot = replacement_pivot(matrix, i);
     inverse[i] = 1 / pivot;
   }
-  return is_positive;
 }
 
 float replacement_pivot(const ColumnMatrix& matrix, int j) {

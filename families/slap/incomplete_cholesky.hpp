@@ -22,9 +22,9 @@ class IncompleteCholesky final : public Preconditioner<float> {
 };
 
 // Factors a matrix into l, with room for `capacity` entries (the pattern is cut short if it has more), and inverse(n) =
-// D^-1. `scratch` holds n entries. Returns false if a pivot was not positive; it is then replaced by the sum of
-// magnitudes of its column, so that M stays definite (D. S. Kershaw, J. Comput. Phys. 26 (1978) 43-65).
-bool factor_cholesky(const ColumnMatrix& matrix, int capacity, const TriangularRows& l, float* inverse, float* scratch);
+// D^-1. `scratch` holds n entries. A pivot that is not positive is replaced by the sum of magnitudes of its column, so
+// that M stays definite (D. S. Kershaw, J. Comput. Phys. 26 (1978) 43-65).
+void factor_cholesky(const ColumnMatrix& matrix, int capacity, const TriangularRows& l, float* inverse, float* scratch);
 
 // A pivot to go on with: the sum of magnitudes of the stored entries of column j, or 1.
 float replacement_pivot(const ColumnMatrix& matrix, int j);

@@ -10,7 +10,6 @@ enum Status : int {
   kToleranceRaised = 4,
   kBreakdown = 5,
   kSecondBreakdown = 6,
-  kFactorizationBreakdown = 7,
 };
 
 enum StoppingTest : int {
@@ -32,9 +31,10 @@ struct StoppingArguments {
   int* ierr;
 };
 
-// Iterations that know their residual from a recurrence run in legs. Each begins with b - A x computed anew.
+// A leg is a stretch of an iteration in which the residual comes from a recurrence. It begins with r = b - A x computed
+// anew and ends when the recurrence has to be checked, or has lost its way. This is how a leg ended.
 enum class Leg {
-  kFirst,
+  kFirst,    // there was none yet
   kLost,     // rounding made the recurrence useless
   kClaimed,  // the recurrence's residual passed the test
   kOver,     // nothing more is to be done
