@@ -5,12 +5,7 @@
 namespace quorin::umfpack_single {
 
 template <class E>
-int get_lunz(int* lnz, int* unz, int* n_row, int* n_col, int* nz_udiag, const void* Numeric) noexcept {
-  return E::kGetLunz(lnz, unz, n_row, n_col, nz_udiag, contents(Numeric, kNumericOf<E>));
-}
-
-template <class E>
-int get_numeric(const Factors& to, const void* Numeric) noexcept {
+int get_numeric(const Factors& to, const void* Numeric) {
   void* const numeric = contents(Numeric, kNumericOf<E>);
   int lnz = 0, unz = 0, n_row = 0, n_col = 0, nz_udiag = 0;
   const int found = E::kGetLunz(&lnz, &unz, &n_row, &n_col, &nz_udiag, numeric);
@@ -32,22 +27,7 @@ int get_numeric(const Factors& to, const void* Numeric) noexcept {
   return status;
 }
 
-template <class E>
-int get_symbolic(int* n_row, int* n_col, int* n1, int* nz, int* nfr, int* nchains, int* P, int* Q, int* Front_npivcol,
-                 int* Front_parent, int* Front_1strow, int* Front_leftmostdesc, int* Chain_start, int* Chain_maxrows,
-                 int* Chain_maxcols, const void* Symbolic) noexcept {
-  return E::kGetSymbolic(n_row, n_col, n1, nz, nfr, nchains, P, Q, Front_npivcol, Front_parent, Front_1strow,
-                         Front_leftmostdesc, Chain_start, Chain_maxrows, Chain_maxcols,
-                         contents(Symbolic, kSymbolicOf<E>));
-}
-
-template int get_lunz<Real>(int*, int*, int*, int*, int*, const void*) noexcept;
-template int get_lunz<Complex>(int*, int*, int*, int*, int*, const void*) noexcept;
-template int get_numeric<Real>(const Factors&, const void*) noexcept;
-template int get_numeric<Complex>(const Factors&, const void*) noexcept;
-template int get_symbolic<Real>(int*, int*, int*, int*, int*, int*, int*, int*, int*, int*, int*, int*, int*, int*,
-                                int*, const void*) noexcept;
-template int get_symbolic<Complex>(int*, int*, int*, int*, int*, int*, int*, int*, int*, int*, int*, int*, int*, int*,
-                                   int*, const void*) noexcept;
+template int get_numeric<Real>(const Factors&, const void*);
+template int get_numeric<Complex>(const Factors&, const void*);
 
 }  // namespace quorin::umfpack_single

@@ -1,12 +1,9 @@
-// What Symbolic and Numeric objects hold. The facade describes arguments and statuses.
+// The factors that a Numeric object holds. The facade describes arguments and statuses.
 #pragma once
 
 #include "families/umfpack_single/values.hpp"
 
 namespace quorin::umfpack_single {
-
-template <class E>
-int get_lunz(int* lnz, int* unz, int* n_row, int* n_col, int* nz_udiag, const void* Numeric) noexcept;
 
 // Where the factors go; any part may be null.
 struct Factors {
@@ -24,11 +21,6 @@ struct Factors {
 };
 
 template <class E>
-int get_numeric(const Factors& to, const void* Numeric) noexcept;
-
-template <class E>
-int get_symbolic(int* n_row, int* n_col, int* n1, int* nz, int* nfr, int* nchains, int* P, int* Q, int* Front_npivcol,
-                 int* Front_parent, int* Front_1strow, int* Front_leftmostdesc, int* Chain_start, int* Chain_maxrows,
-                 int* Chain_maxcols, const void* Symbolic) noexcept;
+int get_numeric(const Factors& to, const void* Numeric);
 
 }  // namespace quorin::umfpack_single

@@ -4,14 +4,15 @@
 #include "base/text_output.hpp"
 #include "families/umfpack_single/reports.hpp"
 #include "families/umfpack_single/settings.hpp"
+#include "families/umfpack_single/umfpack_single.hpp"
 
 namespace quorin::umfpack_single {
 namespace {
 
-double widened(const float* Control, int index) noexcept { return static_cast<double>(setting(Control, index)); }
+double widened(const float* Control, int index) { return static_cast<double>(setting(Control, index)); }
 
 // "0.2" and, below it, what is dense by it.
-void print_dense(const float* Control, int index, const char* format, const char* meaning) noexcept {
+void print_dense(const float* Control, int index, const char* format, const char* meaning) {
   base::print(format, index, widened(Control, index));
   if (setting(Control, index) < 0) {
     base::print("        no \"dense\" rows/columns\n");
@@ -20,7 +21,7 @@ void print_dense(const float* Control, int index, const char* format, const char
   }
 }
 
-void print_strategy(const float* Control) noexcept {
+void print_strategy(const float* Control) {
   const int strategy = whole_setting(Control, UMFPACK_STRATEGY);
   base::print("    %d: strategy: %d", UMFPACK_STRATEGY, strategy);
   if (strategy == UMFPACK_STRATEGY_UNSYMMETRIC) {
@@ -39,7 +40,7 @@ void print_strategy(const float* Control) noexcept {
 }
 
 // An allocation parameter: a ratio, or if it is negative a size.
-void print_allocation(const float* Control, int index, const char* ratio, const char* size) noexcept {
+void print_allocation(const float* Control, int index, const char* ratio, const char* size) {
   if (setting(Control, index) >= 0) {
     base::print(ratio, index, widened(Control, index));
   } else {
@@ -47,20 +48,20 @@ void print_allocation(const float* Control, int index, const char* ratio, const 
   }
 }
 
-const char* three_ways(float value) noexcept {
+const char* three_ways(float value) {
   if (value > 0) return "(yes)";
   return value < 0 ? "(no)" : "(auto)";
 }
 
-const char* scaling_text(int scaling) noexcept {
+const char* scaling_text(int scaling) {
   if (scaling == UMFPACK_SCALE_NONE) return " (no)";
   return scaling == UMFPACK_SCALE_MAX ? " (divide each row by max. abs. value in each row)"
                                       : " (divide each row by sum of abs. values in each row)";
 }
 
-double tolerance(const float* Control, int index) noexcept { return std::clamp(widened(Control, index), 0.0, 1.0); }
+double tolerance(const float* Control, int index) { return std::clamp(widened(Control, index), 0.0, 1.0); }
 
-void print_analysis(const float* Control) noexcept {
+void print_analysis(const float* Control) {
   base::print("\n    %d: print level: %d\n", UMFPACK_PRL, print_level(Control));
   print_dense(Control, UMFPACK_DENSE_ROW, "    %d: dense row parameter:    %g\n",
               "        \"dense\" rows have    > max (16, (%g)*16*sqrt(n_col) entries)\n");
@@ -72,7 +73,7 @@ void print_analysis(const float* Control) noexcept {
   print_strategy(Control);
 }
 
-void print_factorization(const float* Control) noexcept {
+void print_factorization(const float* Control) {
   print_allocation(Control, UMFPACK_ALLOC_INIT, "    %d: initial allocation ratio: %g\n",
                    "    %d: initial allocation (in Units): %d\n");
   base::print("    %d: max iterative refinement steps: %d\n", UMFPACK_IRSTEP,
@@ -96,7 +97,7 @@ void print_factorization(const float* Control) noexcept {
               static_cast<double>(aggressive), aggressive != 0 ? " (yes)" : " (no)");
 }
 
-void print_compile_time() noexcept {
+void print_compile_time() {
   base::print("\n    The following options can only be changed at compile-time:\n");
   base::print("    %d: BLAS library used:  Fortran BLAS.  size of BLAS integer: %d\n", UMFPACK_COMPILED_WITH_BLAS,
               static_cast<int>(sizeof(std::int32_t)));

@@ -1,11 +1,12 @@
 #include "families/umfpack_single/conversions.hpp"
 
 #include "families/umfpack_single/pattern.hpp"
+#include "families/umfpack_single/umfpack_single.hpp"
 
 namespace quorin::umfpack_single {
 
 template <class E>
-int triplet_to_col(int n_row, int n_col, const Triplets& T, const MatrixOutput& A, int* Map) noexcept {
+int triplet_to_col(int n_row, int n_col, const Triplets& T, const MatrixOutput& A, int* Map) {
   const bool has_values = n_row > 0 && n_col > 0 && T.nz >= 0 && T.Tx && A.Ax;
   const Doubles<E> Tx(has_values ? T.Tx : FloatInput{}, length(T.nz));
   Doubles<E> Ax(has_values, length(T.nz));
@@ -20,7 +21,7 @@ int col_to_triplet(int n_col, const int* Ap, int* Tj) noexcept { return umfpack_
 
 template <class E>
 int transpose(int n_row, int n_col, const Matrix& A, const int* P, const int* Q, const MatrixOutput& R,
-              int do_conjugate) noexcept {
+              int do_conjugate) {
   // UMFPACK says what is wrong with starts that are not sound; nothing is read through them here.
   const bool has_values = n_row > 0 && has_valid_starts(n_col, A.Ap) && A.Ai != nullptr && A.Ax && R.Ax;
   const std::size_t nz = has_values ? length(A.Ap[n_col]) : 0;
@@ -37,9 +38,9 @@ int transpose(int n_row, int n_col, const Matrix& A, const int* P, const int* Q,
   return status;
 }
 
-template int triplet_to_col<Real>(int, int, const Triplets&, const MatrixOutput&, int*) noexcept;
-template int triplet_to_col<Complex>(int, int, const Triplets&, const MatrixOutput&, int*) noexcept;
-template int transpose<Real>(int, int, const Matrix&, const int*, const int*, const MatrixOutput&, int) noexcept;
-template int transpose<Complex>(int, int, const Matrix&, const int*, const int*, const MatrixOutput&, int) noexcept;
+template int triplet_to_col<Real>(int, int, const Triplets&, const MatrixOutput&, int*);
+template int triplet_to_col<Complex>(int, int, const Triplets&, const MatrixOutput&, int*);
+template int transpose<Real>(int, int, const Matrix&, const int*, const int*, const MatrixOutput&, int);
+template int transpose<Complex>(int, int, const Matrix&, const int*, const int*, const MatrixOutput&, int);
 
 }  // namespace quorin::umfpack_single

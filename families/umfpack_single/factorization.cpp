@@ -5,12 +5,13 @@
 #include "families/umfpack_single/objects.hpp"
 #include "families/umfpack_single/pattern.hpp"
 #include "families/umfpack_single/settings.hpp"
+#include "families/umfpack_single/umfpack_single.hpp"
 
 namespace quorin::umfpack_single {
 namespace {
 
 // Hands the object to the host if it holds anything; frees it otherwise.
-void hand_over(Object* object, void** handle) noexcept {
+void hand_over(Object* object, void** handle) {
   if (object->contents != nullptr && handle != nullptr) {
     *handle = publish(object);
   } else {
@@ -20,7 +21,7 @@ void hand_over(Object* object, void** handle) noexcept {
 
 // What UMFPACK makes of the matrix that was analysed before, in `object->contents`.
 template <class E>
-int factorize(const Matrix& A, const Object& symbolic, Object* object, const float* Control, double* info) noexcept {
+int factorize(const Matrix& A, const Object& symbolic, Object* object, const float* Control, double* info) {
   const bool has_all = A.Ap != nullptr && A.Ai != nullptr && A.Ax;
   if (has_all) {
     const bool is_same = has_valid_starts(symbolic.n_col, A.Ap) && A.Ap[symbolic.n_col] == symbolic.nz &&
@@ -34,7 +35,7 @@ int factorize(const Matrix& A, const Object& symbolic, Object* object, const flo
                  info);
 }
 
-void free_object(void** handle, Kind real, Kind complex) noexcept {
+void free_object(void** handle, Kind real, Kind complex) {
   if (handle == nullptr) return;
   for (const Kind kind : {real, complex}) {
     if (Object* const object = withdraw(*handle, kind)) {
@@ -49,8 +50,8 @@ void free_object(void** handle, Kind real, Kind complex) noexcept {
 
 template <class E>
 int qsymbolic(int n_row, int n_col, const Matrix& A, const int* Qinit, void** Symbolic, const float* Control,
-              float* Info) noexcept {
-  umfpack_single::Info info(Info);
+              float* Info) {
+  InfoArray info(Info);
   info.clear();
   if (Symbolic != nullptr) *Symbolic = nullptr;
   Object* const object = create_object(kSymbolicOf<E>);
@@ -75,12 +76,12 @@ int qsymbolic(int n_row, int n_col, const Matrix& A, const int* Qinit, void** Sy
 }
 
 template <class E>
-int numeric(const Matrix& A, const void* Symbolic, void** Numeric, const float* Control, float* Info) noexcept {
+int numeric(const Matrix& A, const void* Symbolic, void** Numeric, const float* Control, float* Info) {
   if (Numeric != nullptr) *Numeric = nullptr;
   const Object* const symbolic = find(Symbolic, kSymbolicOf<E>);
   if (symbolic == nullptr) return report_status_in(Info, UMFPACK_ERROR_invalid_Symbolic_object);
   if (Numeric == nullptr) return report_status_in(Info, UMFPACK_ERROR_argument_missing);
-  umfpack_single::Info info(Info);
+  InfoArray info(Info);
   Object* const object = create_object(kNumericOf<E>);
   if (object == nullptr) return info.finish(UMFPACK_ERROR_out_of_memory);
   const int status = factorize<E>(A, *symbolic, object, Control, info.data());
@@ -95,9 +96,9 @@ void free_symbolic(void** Symbolic) noexcept { free_object(Symbolic, kSymbolicOf
 
 void free_numeric(void** Numeric) noexcept { free_object(Numeric, kNumericOf<Real>, kNumericOf<Complex>); }
 
-template int qsymbolic<Real>(int, int, const Matrix&, const int*, void**, const float*, float*) noexcept;
-template int qsymbolic<Complex>(int, int, const Matrix&, const int*, void**, const float*, float*) noexcept;
-template int numeric<Real>(const Matrix&, const void*, void**, const float*, float*) noexcept;
-template int numeric<Complex>(const Matrix&, const void*, void**, const float*, float*) noexcept;
+template int qsymbolic<Real>(int, int, const Matrix&, const int*, void**, const float*, float*);
+template int qsymbolic<Complex>(int, int, const Matrix&, const int*, void**, const float*, float*);
+template int numeric<Real>(const Matrix&, const void*, void**, const float*, float*);
+template int numeric<Complex>(const Matrix&, const void*, void**, const float*, float*);
 
 }  // namespace quorin::umfpack_single

@@ -14,12 +14,8 @@ struct Matrix {
 
 template <class E>
 int qsymbolic(int n_row, int n_col, const Matrix& A, const int* Qinit, void** Symbolic, const float* Control,
-              float* Info) noexcept;
+              float* Info);
 template <class E>
-int numeric(const Matrix& A, const void* Symbolic, void** Numeric, const float* Control, float* Info) noexcept;
-
-// Of either family.
-void free_symbolic(void** Symbolic) noexcept;
-void free_numeric(void** Numeric) noexcept;
+int numeric(const Matrix& A, const void* Symbolic, void** Numeric, const float* Control, float* Info);
 
 }  // namespace quorin::umfpack_single

@@ -5,12 +5,12 @@
 
 namespace quorin::umfpack_single {
 
-Info::Info(float* host) noexcept : host_(host), values_{} {
+InfoArray::InfoArray(float* host) : host_(host), values_{} {
   if (host_ == nullptr) return;
   for (std::size_t i = 0; i < values_.size(); ++i) values_[i] = static_cast<double>(host_[i]);
 }
 
-void Info::describe(int n_row, int n_col, const int* Ap) noexcept {
+void InfoArray::describe(int n_row, int n_col, const int* Ap) {
   values_[UMFPACK_NROW] = n_row;
   values_[UMFPACK_NCOL] = n_col;
   if (Ap != nullptr && n_col >= 0) values_[UMFPACK_NZ] = Ap[n_col];
@@ -22,7 +22,7 @@ void Info::describe(int n_row, int n_col, const int* Ap) noexcept {
   if (values_[UMFPACK_SYMBOLIC_DEFRAG] < 0) values_[UMFPACK_SYMBOLIC_DEFRAG] = 0;
 }
 
-int Info::finish(int status) noexcept {
+int InfoArray::finish(int status) {
   values_[UMFPACK_STATUS] = status;
   if (host_ != nullptr) {
     for (std::size_t i = 0; i < values_.size(); ++i) host_[i] = static_cast<float>(values_[i]);
@@ -30,7 +30,7 @@ int Info::finish(int status) noexcept {
   return status;
 }
 
-int report_status_in(float* Info, int status) noexcept {
+int report_status_in(float* Info, int status) {
   if (Info != nullptr) Info[UMFPACK_STATUS] = static_cast<float>(status);
   return status;
 }

@@ -9,21 +9,21 @@ namespace quorin::umfpack_single {
 
 // Info in double precision for the time of one call. Counts become floats only at the end, and are then rounded to the
 // 24 bits that a float has.
-class Info {
+class InfoArray {
  public:
   // For a routine that writes some entries and leaves the others as they are; the host's Info may be null.
-  explicit Info(float* host) noexcept;
+  explicit InfoArray(float* host);
 
   // For the symbolic analysis, which begins with all entries at -1, "not computed".
-  void clear() noexcept { values_.fill(-1); }
+  void clear() { values_.fill(-1); }
   // What the symbolic analysis says in any case, of the matrix and of this library.
-  void describe(int n_row, int n_col, const int* Ap) noexcept;
+  void describe(int n_row, int n_col, const int* Ap);
 
-  double* data() noexcept { return values_.data(); }
-  const double* data() const noexcept { return values_.data(); }
+  double* data() { return values_.data(); }
+  const double* data() const { return values_.data(); }
 
   // Stores the status and all entries in the host's array, and returns the status.
-  int finish(int status) noexcept;
+  int finish(int status);
 
  private:
   float* host_;
@@ -31,6 +31,6 @@ class Info {
 };
 
 // Only the status changes in the host's Info, which may be null.
-int report_status_in(float* Info, int status) noexcept;
+int report_status_in(float* Info, int status);
 
 }  // namespace quorin::umfpack_single

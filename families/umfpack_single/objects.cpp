@@ -11,7 +11,7 @@ constinit base::HandleList live;
 
 }  // namespace
 
-Object* create_object(Kind kind) noexcept {
+Object* create_object(Kind kind) {
   void* const memory = base::allocate(sizeof(Object));
   if (memory == nullptr) return nullptr;
   auto* const object = new (memory) Object;
@@ -19,9 +19,9 @@ Object* create_object(Kind kind) noexcept {
   return object;
 }
 
-void* publish(Object* object) noexcept { return live.insert(*object); }
+void* publish(Object* object) { return live.insert(*object); }
 
-void destroy(Object* object) noexcept {
+void destroy(Object* object) {
   switch (object->kind) {
     case Kind::kRealSymbolic:
       Real::kFreeSymbolic(&object->contents);
@@ -39,12 +39,12 @@ void destroy(Object* object) noexcept {
   base::release(object);
 }
 
-Object* find(const void* handle, Kind kind) noexcept {
+Object* find(const void* handle, Kind kind) {
   auto* const object = static_cast<Object*>(live.find(handle));
   return object != nullptr && object->kind == kind ? object : nullptr;
 }
 
-Object* withdraw(const void* handle, Kind kind) noexcept {
+Object* withdraw(const void* handle, Kind kind) {
   return find(handle, kind) != nullptr ? static_cast<Object*>(live.remove(handle)) : nullptr;
 }
 

@@ -9,6 +9,7 @@
 #include "families/umfpack_single/objects.hpp"
 #include "families/umfpack_single/pattern.hpp"
 #include "families/umfpack_single/settings.hpp"
+#include "families/umfpack_single/umfpack_single.hpp"
 
 namespace quorin::umfpack_single {
 namespace {
@@ -24,10 +25,10 @@ constexpr Replacement kReplacements[] = {
 };
 constexpr char kInfoHead[] = "UMFPACK V%d.%d.%d (%s), Info:\n";
 
-bool is_one_of(char c, const char* set) noexcept { return c != '\0' && std::strchr(set, c) != nullptr; }
+bool is_one_of(char c, const char* set) { return c != '\0' && std::strchr(set, c) != nullptr; }
 
 // Whether the format takes one floating-point number and nothing else.
-bool takes_one_number(const char* format) noexcept {
+bool takes_one_number(const char* format) {
   const char* const percent = std::strchr(format, '%');
   if (percent == nullptr) return false;
   const char* conversion = percent + 1;
@@ -45,18 +46,18 @@ bool takes_one_number(const char* format) noexcept {
 constexpr int kValuesLevel = 4;
 
 // Entries for a report; an empty array without complaint if the level does not show them.
-FloatInput shown(FloatInput values, const float* Control) noexcept {
+FloatInput shown(FloatInput values, const float* Control) {
   return print_level(Control) >= kValuesLevel ? values : FloatInput{};
 }
 
-int report_no_memory() noexcept {
+int report_no_memory() {
   base::print("ERROR: out of memory\n\n");
   return UMFPACK_ERROR_out_of_memory;
 }
 
 }  // namespace
 
-int print_for_dependency(const char* format, ...) noexcept {
+int print_for_umfpack(const char* format, ...) noexcept {
   if (std::strcmp(format, kInfoHead) == 0) {
     return base::print(kInfoHead, kMainVersion, kSubVersion, kSubSubVersion, kVersionDate);
   }
@@ -86,7 +87,7 @@ int report_perm(int np, const int* Perm, const float* Control) noexcept {
 }
 
 template <class E>
-int report_matrix(int n_row, int n_col, const Matrix& A, int col_form, const float* Control) noexcept {
+int report_matrix(int n_row, int n_col, const Matrix& A, int col_form, const float* Control) {
   const int n = col_form != 0 ? n_col : n_row;
   const bool is_readable = n_row > 0 && n_col > 0 && has_valid_starts(n, A.Ap) && A.Ai != nullptr;
   const FloatInput values = shown(is_readable ? A.Ax : FloatInput{}, Control);
@@ -96,7 +97,7 @@ int report_matrix(int n_row, int n_col, const Matrix& A, int col_form, const flo
 }
 
 template <class E>
-int report_triplet(int n_row, int n_col, const Triplets& T, const float* Control) noexcept {
+int report_triplet(int n_row, int n_col, const Triplets& T, const float* Control) {
   const bool is_readable = n_row > 0 && n_col > 0 && T.nz >= 0;
   const Doubles<E> Tx(shown(is_readable ? T.Tx : FloatInput{}, Control), length(T.nz));
   if (Tx.has_failed()) return report_no_memory();
@@ -104,31 +105,17 @@ int report_triplet(int n_row, int n_col, const Triplets& T, const float* Control
 }
 
 template <class E>
-int report_vector(int n, FloatInput X, const float* Control) noexcept {
+int report_vector(int n, FloatInput X, const float* Control) {
   const Doubles<E> x(print_level(Control) > 2 ? X : FloatInput{}, length(n));
   if (x.has_failed()) return report_no_memory();
   return call<E>(E::kReportVector, n, x.input(), Settings(Control).data());
 }
 
-template <class E>
-int report_symbolic(const void* Symbolic, const float* Control) noexcept {
-  return E::kReportSymbolic(contents(Symbolic, kSymbolicOf<E>), Settings(Control).data());
-}
-
-template <class E>
-int report_numeric(const void* Numeric, const float* Control) noexcept {
-  return E::kReportNumeric(contents(Numeric, kNumericOf<E>), Settings(Control).data());
-}
-
-template int report_matrix<Real>(int, int, const Matrix&, int, const float*) noexcept;
-template int report_matrix<Complex>(int, int, const Matrix&, int, const float*) noexcept;
-template int report_triplet<Real>(int, int, const Triplets&, const float*) noexcept;
-template int report_triplet<Complex>(int, int, const Triplets&, const float*) noexcept;
-template int report_vector<Real>(int, FloatInput, const float*) noexcept;
-template int report_vector<Complex>(int, FloatInput, const float*) noexcept;
-template int report_symbolic<Real>(const void*, const float*) noexcept;
-template int report_symbolic<Complex>(const void*, const float*) noexcept;
-template int report_numeric<Real>(const void*, const float*) noexcept;
-template int report_numeric<Complex>(const void*, const float*) noexcept;
+template int report_matrix<Real>(int, int, const Matrix&, int, const float*);
+template int report_matrix<Complex>(int, int, const Matrix&, int, const float*);
+template int report_triplet<Real>(int, int, const Triplets&, const float*);
+template int report_triplet<Complex>(int, int, const Triplets&, const float*);
+template int report_vector<Real>(int, FloatInput, const float*);
+template int report_vector<Complex>(int, FloatInput, const float*);
 
 }  // namespace quorin::umfpack_single

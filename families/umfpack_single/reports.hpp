@@ -11,22 +11,13 @@ inline constexpr const char* kVersionDate = "May 31, 2007";
 
 // UMFPACK's print function: its texts as they are, save that they name this interface's version and type of
 // entry, and that values are printed as the floats that they are to the host.
-int print_for_dependency(const char* format, ...) noexcept;
-
-void report_status(const float* Control, int status) noexcept;
-void report_control(const float* Control) noexcept;
-void report_info(const float* Control, const float* Info) noexcept;
-int report_perm(int np, const int* Perm, const float* Control) noexcept;
+int print_for_umfpack(const char* format, ...) noexcept;
 
 template <class E>
-int report_matrix(int n_row, int n_col, const Matrix& A, int col_form, const float* Control) noexcept;
+int report_matrix(int n_row, int n_col, const Matrix& A, int col_form, const float* Control);
 template <class E>
-int report_triplet(int n_row, int n_col, const Triplets& T, const float* Control) noexcept;
+int report_triplet(int n_row, int n_col, const Triplets& T, const float* Control);
 template <class E>
-int report_vector(int n, FloatInput X, const float* Control) noexcept;
-template <class E>
-int report_symbolic(const void* Symbolic, const float* Control) noexcept;
-template <class E>
-int report_numeric(const void* Numeric, const float* Control) noexcept;
+int report_vector(int n, FloatInput X, const float* Control);
 
 }  // namespace quorin::umfpack_single

@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "families/umfpack_single/double_umfpack.hpp"
+#include "families/umfpack_single/umfpack_single.hpp"
 
 namespace quorin::umfpack_single {
 
@@ -14,19 +15,19 @@ void defaults(float* Control) noexcept {
   if (Control != nullptr) std::copy(kDefaults.begin(), kDefaults.end(), Control);
 }
 
-float setting(const float* Control, int index) noexcept {
+float setting(const float* Control, int index) {
   const auto i = static_cast<std::size_t>(index);
   return Control == nullptr || std::isnan(Control[i]) ? kDefaults[i] : Control[i];
 }
 
-int whole_setting(const float* Control, int index) noexcept {
+int whole_setting(const float* Control, int index) {
   constexpr float kMost = 1 << 30;
   return static_cast<int>(std::clamp(setting(Control, index), -kMost, kMost));
 }
 
-int print_level(const float* Control) noexcept { return whole_setting(Control, UMFPACK_PRL); }
+int print_level(const float* Control) { return whole_setting(Control, UMFPACK_PRL); }
 
-Settings::Settings(const float* Control) noexcept {
+Settings::Settings(const float* Control) {
   umfpack_di_defaults(control_);
   // UMFPACK has more precise defaults; a host that passes no Control gets those.
   if (Control != nullptr) {

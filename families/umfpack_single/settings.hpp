@@ -37,20 +37,17 @@ inline constexpr std::array<float, kControlLength> kDefaults = {
     1.0F,    // aggressive absorption
 };
 
-// Does nothing for null.
-void defaults(float* Control) noexcept;
-
 // Entry `index`, or its default if Control is null or holds a NaN there. As an integer: truncated, and brought into the
 // range of int.
-float setting(const float* Control, int index) noexcept;
-int whole_setting(const float* Control, int index) noexcept;
-int print_level(const float* Control) noexcept;
+float setting(const float* Control, int index);
+int whole_setting(const float* Control, int index);
+int print_level(const float* Control);
 
 // What UMFPACK gets for a host's Control.
 class Settings {
  public:
-  explicit Settings(const float* Control) noexcept;
-  const double* data() const noexcept { return control_; }
+  explicit Settings(const float* Control);
+  const double* data() const { return control_; }
 
  private:
   double control_[kControlLength];

@@ -12,13 +12,13 @@ namespace quorin::umfpack_single {
 namespace {
 
 // Whether UMFPACK reads the matrix, for iterative refinement.
-bool is_refined(int sys, const Object& numeric, const float* Control) noexcept {
+bool is_refined(int sys, const Object& numeric, const float* Control) {
   return sys >= UMFPACK_A && sys <= UMFPACK_Aat && whole_setting(Control, UMFPACK_IRSTEP) > 0 && !numeric.is_singular;
 }
 
 // Lengths of the double workspace of the published interface, which is that of the host's float workspace, too.
 template <class E>
-std::size_t work_length(std::size_t n, bool refined) noexcept {
+std::size_t work_length(std::size_t n, bool refined) {
   if (E::kParts == 1) return base::saturating_product(n, refined ? 5 : 1);
   return base::saturating_product(n, refined ? 10 : 4);
 }
@@ -26,7 +26,7 @@ std::size_t work_length(std::size_t n, bool refined) noexcept {
 // The solution itself, for arguments that are all there.
 template <class E>
 int solve_into(int sys, const Matrix& A, FloatOutput X, FloatInput B, const Object& numeric, const float* Control,
-               double* info, int* Wi, float* W) noexcept {
+               double* info, int* Wi, float* W) {
   const std::size_t n = length(numeric.n_row);
   const bool refined = is_refined(sys, numeric, Control);
   if (refined && !(has_valid_starts(numeric.n_col, A.Ap) && are_in_range(A.Ap[numeric.n_col], A.Ai, numeric.n_row))) {
@@ -48,10 +48,10 @@ int solve_into(int sys, const Matrix& A, FloatOutput X, FloatInput B, const Obje
 
 template <class E>
 int solve_with(int sys, const Matrix& A, FloatOutput X, FloatInput B, const void* Numeric, const float* Control,
-               float* Info, int* Wi, float* W) noexcept {
+               float* Info, int* Wi, float* W) {
   const Object* const numeric = find(Numeric, kNumericOf<E>);
   if (numeric == nullptr) return report_status_in(Info, UMFPACK_ERROR_invalid_Numeric_object);
-  umfpack_single::Info info(Info);
+  InfoArray info(Info);
   info.data()[UMFPACK_NROW] = numeric->n_row;
   info.data()[UMFPACK_NCOL] = numeric->n_col;
   if (numeric->n_row != numeric->n_col || sys < UMFPACK_A || sys > UMFPACK_Uat) {
@@ -67,7 +67,7 @@ int solve_with(int sys, const Matrix& A, FloatOutput X, FloatInput B, const void
 
 template <class E>
 int solve(int sys, const Matrix& A, FloatOutput X, FloatInput B, const void* Numeric, const float* Control,
-          float* Info) noexcept {
+          float* Info) {
   const Object* const numeric = find(Numeric, kNumericOf<E>);
   base::Workspace<int> Wi(numeric != nullptr ? length(numeric->n_row) : 0);
   if (!Wi) return report_status_in(Info, UMFPACK_ERROR_out_of_memory);
@@ -76,13 +76,13 @@ int solve(int sys, const Matrix& A, FloatOutput X, FloatInput B, const void* Num
 
 template <class E>
 int wsolve(int sys, const Matrix& A, FloatOutput X, FloatInput B, const void* Numeric, const float* Control,
-           float* Info, int* Wi, float* W) noexcept {
+           float* Info, int* Wi, float* W) {
   const bool has_work = Wi != nullptr && W != nullptr;
   return solve_with<E>(sys, A, X, B, Numeric, Control, Info, has_work ? Wi : nullptr, W);
 }
 
 template <class E>
-int scale(FloatOutput X, FloatInput B, const void* Numeric) noexcept {
+int scale(FloatOutput X, FloatInput B, const void* Numeric) {
   const Object* const numeric = find(Numeric, kNumericOf<E>);
   if (numeric == nullptr) return UMFPACK_ERROR_invalid_Numeric_object;
   if (!X || !B) return UMFPACK_ERROR_argument_missing;
@@ -96,7 +96,7 @@ int scale(FloatOutput X, FloatInput B, const void* Numeric) noexcept {
 }
 
 template <class E>
-int get_determinant(FloatOutput M, float* Ex, const void* Numeric, float* Info) noexcept {
+int get_determinant(FloatOutput M, float* Ex, const void* Numeric, float* Info) {
   double mantissa[2] = {}, exponent = 0;
   double* const m = M ? mantissa : nullptr;
   const int found = call<E>(E::kGetDeterminant, Entries<double>{m}, &exponent, contents(Numeric, kNumericOf<E>),
@@ -121,15 +121,14 @@ int get_determinant(FloatOutput M, float* Ex, const void* Numeric, float* Info) 
   return report_status_in(Info, status);
 }
 
-template int solve<Real>(int, const Matrix&, FloatOutput, FloatInput, const void*, const float*, float*) noexcept;
-template int solve<Complex>(int, const Matrix&, FloatOutput, FloatInput, const void*, const float*, float*) noexcept;
-template int wsolve<Real>(int, const Matrix&, FloatOutput, FloatInput, const void*, const float*, float*, int*,
-                          float*) noexcept;
+template int solve<Real>(int, const Matrix&, FloatOutput, FloatInput, const void*, const float*, float*);
+template int solve<Complex>(int, const Matrix&, FloatOutput, FloatInput, const void*, const float*, float*);
+template int wsolve<Real>(int, const Matrix&, FloatOutput, FloatInput, const void*, const float*, float*, int*, float*);
 template int wsolve<Complex>(int, const Matrix&, FloatOutput, FloatInput, const void*, const float*, float*, int*,
-                             float*) noexcept;
-template int scale<Real>(FloatOutput, FloatInput, const void*) noexcept;
-template int scale<Complex>(FloatOutput, FloatInput, const void*) noexcept;
-template int get_determinant<Real>(FloatOutput, float*, const void*, float*) noexcept;
-template int get_determinant<Complex>(FloatOutput, float*, const void*, float*) noexcept;
+                             float*);
+template int scale<Real>(FloatOutput, FloatInput, const void*);
+template int scale<Complex>(FloatOutput, FloatInput, const void*);
+template int get_determinant<Real>(FloatOutput, float*, const void*, float*);
+template int get_determinant<Complex>(FloatOutput, float*, const void*, float*);
 
 }  // namespace quorin::umfpack_single

@@ -9,7 +9,7 @@ void start() noexcept {
   SuiteSparse_config.calloc_func = base::allocate_zeroed;
   SuiteSparse_config.realloc_func = base::reallocate;
   SuiteSparse_config.free_func = base::release;
-  SuiteSparse_config.printf_func = print_for_dependency;
+  SuiteSparse_config.printf_func = print_for_umfpack;
 }
 
 }  // namespace quorin::umfpack_single

@@ -1,6 +1,7 @@
 #include "base/text_output.hpp"
 #include "families/umfpack_single/reports.hpp"
 #include "families/umfpack_single/settings.hpp"
+#include "families/umfpack_single/umfpack_single.hpp"
 
 namespace quorin::umfpack_single {
 namespace {
@@ -31,7 +32,7 @@ constexpr Message kMessages[] = {
      "look for failed assertions.\n"},
 };
 
-void print_message(int status) noexcept {
+void print_message(int status) {
   for (const Message& message : kMessages) {
     if (message.status == status) {
       base::print("%s", message.text);

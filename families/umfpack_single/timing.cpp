@@ -8,7 +8,7 @@ namespace quorin::umfpack_single {
 namespace {
 
 // Of the process. What is below the clock's own precision is 0.
-double cpu_time() noexcept {
+double cpu_time() {
   constexpr double kLeast = 1e-4;
   const double now = timer();
   return now < kLeast ? 0 : now;

@@ -4,7 +4,7 @@
 
 namespace quorin::umfpack_single {
 
-double* Scratch::take(std::size_t doubles) noexcept {
+double* Scratch::take(std::size_t doubles) {
   const auto address = reinterpret_cast<std::uintptr_t>(memory_);
   const std::size_t gap = (0U - address) % alignof(double), bytes = base::saturating_product(doubles, sizeof(double));
   if (memory_ == nullptr || bytes_ < gap || bytes_ - gap < bytes) return nullptr;

@@ -14,15 +14,15 @@ template <class T>
 struct Floats {
   T* x = nullptr;
   T* z = nullptr;
-  explicit operator bool() const noexcept { return x != nullptr; }
+  explicit operator bool() const { return x != nullptr; }
 };
 using FloatInput = Floats<const float>;
 using FloatOutput = Floats<float>;
 
-constexpr std::size_t length(int n) noexcept { return n > 0 ? static_cast<std::size_t>(n) : 0; }
+constexpr std::size_t length(int n) { return n > 0 ? static_cast<std::size_t>(n) : 0; }
 
 template <class E>
-void widen(FloatInput from, std::size_t count, double* to) noexcept {
+void widen(FloatInput from, std::size_t count, double* to) {
   if (E::kParts == 1 || from.z == nullptr) {
     for (std::size_t k = 0; k < E::kParts * count; ++k) to[k] = static_cast<double>(from.x[k]);
     return;
@@ -34,7 +34,7 @@ void widen(FloatInput from, std::size_t count, double* to) noexcept {
 }
 
 template <class E>
-void narrow(const double* from, std::size_t count, FloatOutput to) noexcept {
+void narrow(const double* from, std::size_t count, FloatOutput to) {
   if (E::kParts == 1 || to.z == nullptr) {
     for (std::size_t k = 0; k < E::kParts * count; ++k) to.x[k] = static_cast<float>(from[k]);
     return;
@@ -50,10 +50,10 @@ void narrow(const double* from, std::size_t count, FloatOutput to) noexcept {
 class Scratch {
  public:
   Scratch() = default;
-  Scratch(float* memory, std::size_t floats) noexcept : memory_(memory), bytes_(memory ? floats * sizeof(float) : 0) {}
+  Scratch(float* memory, std::size_t floats) : memory_(memory), bytes_(memory ? floats * sizeof(float) : 0) {}
 
   // Null if less is left.
-  double* take(std::size_t doubles) noexcept;
+  double* take(std::size_t doubles);
 
  private:
   void* memory_ = nullptr;
@@ -65,7 +65,7 @@ class Doubles {
  public:
   Doubles() = default;
   // No entries, and no memory, if not `wanted`.
-  Doubles(bool wanted, std::size_t count, Scratch* scratch = nullptr) noexcept : count_(wanted ? count : 0) {
+  Doubles(bool wanted, std::size_t count, Scratch* scratch = nullptr) : count_(wanted ? count : 0) {
     if (!wanted) return;
     const std::size_t doubles = base::saturating_product(E::kParts, count);
     if (scratch != nullptr) data_ = scratch->take(doubles);
@@ -75,19 +75,19 @@ class Doubles {
     has_failed_ = !own_;
   }
   // A widened copy of `from`, if there is one.
-  Doubles(FloatInput from, std::size_t count, Scratch* scratch = nullptr) noexcept
+  Doubles(FloatInput from, std::size_t count, Scratch* scratch = nullptr)
       : Doubles(static_cast<bool>(from), count, scratch) {
     if (data_ != nullptr) widen<E>(from, count, data_);
   }
 
-  bool has_failed() const noexcept { return has_failed_; }
-  Entries<const double> input() const noexcept { return {data_}; }
-  Entries<double> output() noexcept { return {data_}; }
+  bool has_failed() const { return has_failed_; }
+  Entries<const double> input() const { return {data_}; }
+  Entries<double> output() { return {data_}; }
   // The first `count` entries, into an array that may be missing.
-  void narrow_to(FloatOutput to, std::size_t count) const noexcept {
+  void narrow_to(FloatOutput to, std::size_t count) const {
     if (to && data_ != nullptr) narrow<E>(data_, count, to);
   }
-  void narrow_to(FloatOutput to) const noexcept { narrow_to(to, count_); }
+  void narrow_to(FloatOutput to) const { narrow_to(to, count_); }
 
  private:
   base::Workspace<double> own_;
