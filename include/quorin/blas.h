@@ -93,20 +93,13 @@ QUORIN_API float QUORIN_CDECL SDOT(const int32_t* n, const float* x, const int32
                                    const int32_t* incy);
 QUORIN_API float QUORIN_CDECL sdot_Idx(const int32_t* n, const float* x, int32_t x_index, const int32_t* incx,
                                        const float* y, int32_t y_index, const int32_t* incy);
-
-/* x^T y, without conjugation.
-     n: number of elements; 0 or less does nothing
-     x: [n, stride incx]: vector x
-     incx: stride of x, not 0 in level 2; if it is negative, the vector begins at the far end of its array
-     y: [n, stride incy]: vector y
-     incy: stride of y, not 0 in level 2; if it is negative, the vector begins at the far end of its array */
 QUORIN_API void QUORIN_CDECL cdotu(quorin_complex* result, const int32_t* n, const quorin_complex* x,
                                    const int32_t* incx, const quorin_complex* y, const int32_t* incy);
 QUORIN_API void QUORIN_CDECL cdotu_Idx(quorin_complex* result, const int32_t* n, const quorin_complex* x,
                                        int32_t x_index, const int32_t* incx, const quorin_complex* y, int32_t y_index,
                                        const int32_t* incy);
 
-/* x^H y, with x conjugated.
+/* Returns x^T y.
      n: number of elements; 0 or less does nothing
      x: [n, stride incx]: vector x
      incx: stride of x, not 0 in level 2; if it is negative, the vector begins at the far end of its array
@@ -151,12 +144,6 @@ QUORIN_API void QUORIN_CDECL sscal_Idx(const int32_t* n, const float* a, float* 
 QUORIN_API void QUORIN_CDECL cscal(const int32_t* n, const quorin_complex* a, quorin_complex* x, const int32_t* incx);
 QUORIN_API void QUORIN_CDECL cscal_Idx(const int32_t* n, const quorin_complex* a, quorin_complex* x, int32_t x_index,
                                        const int32_t* incx);
-
-/* x <- a x with a real factor.
-     n: number of elements; 0 or less does nothing
-     a: factor a
-     x: in, out, [n, stride incx]: vector x; on return the product
-     incx: stride of x; if it is below 1, nothing is done */
 QUORIN_API void QUORIN_CDECL csscal(const int32_t* n, const float* a, quorin_complex* x, const int32_t* incx);
 QUORIN_API void QUORIN_CDECL csscal_Idx(const int32_t* n, const float* a, quorin_complex* x, int32_t x_index,
                                         const int32_t* incx);
@@ -192,7 +179,8 @@ QUORIN_API int32_t QUORIN_CDECL icamin_Idx(const int32_t* n, const quorin_comple
 QUORIN_API void QUORIN_CDECL srotg(float* a, float* b, float* c, float* s);
 QUORIN_API void QUORIN_CDECL srotg_Idx(float* a, float* b, float* c, float* s);
 
-/* Makes the Givens rotation with (c s; -conj(s) c)(a; b) = (r; 0), c real. On return a holds r.
+/* Makes the Givens rotation with (c s; -s c)(a; b) = (r; 0). On return a holds r and b the number z from which c and s
+   can be recovered.
      a: in, out: on entry the first component; on return r
      b: second component
      c: out: cosine of the angle
@@ -223,8 +211,8 @@ QUORIN_API void QUORIN_CDECL csrot_Idx(const int32_t* n, quorin_complex* x, int3
      d2: in, out: on entry the second scale; on return the updated one
      x1: in, out: on entry the first component; on return the updated one
      y1: second component
-     param: out, [5]: on return the transformation H: param(1) is -2 for the identity, -1 if param(2) to param(5) hold
-         h11, h21, h12, h22, 0 if h11 = h22 = 1 are left out, 1 if h12 = 1, h21 = -1 are */
+     param: out, [5]: the transformation H; param(2) to param(5) are the places of h11, h21, h12, h22. param(1) = -1:
+         all are stored; 0: but h11 = h22 = 1; 1: but h12 = 1, h21 = -1; -2: H is the identity, none is stored */
 QUORIN_API void QUORIN_CDECL srotmg(float* d1, float* d2, float* x1, const float* y1, float* param);
 QUORIN_API void QUORIN_CDECL srotmg_Idx(float* d1, float* d2, float* x1, const float* y1, float* param,
                                         int32_t param_index);
@@ -247,7 +235,7 @@ QUORIN_API void QUORIN_CDECL srotm_Idx(const int32_t* n, float* x, int32_t x_ind
      nz: number of values; 0 or less does nothing
      a: factor a
      x: [nz]: the values
-     indx: [nz]: position of each value in y
+     indx: [nz]: 1-based position of each value in y
      y: in, out, [max(indx)]: full vector; on return with the values added */
 QUORIN_API void QUORIN_CDECL saxpyi(const int32_t* nz, const float* a, const float* x, const int32_t* indx, float* y);
 QUORIN_API void QUORIN_CDECL saxpyi_Idx(const int32_t* nz, const float* a, const float* x, int32_t x_index,
@@ -261,27 +249,21 @@ QUORIN_API void QUORIN_CDECL caxpyi_Idx(const int32_t* nz, const quorin_complex*
 /* Returns the sum of x_k y(indx_k).
      nz: number of values; 0 or less does nothing
      x: [nz]: the values
-     indx: [nz]: position of each value in y
+     indx: [nz]: 1-based position of each value in y
      y: [max(indx)]: full vector */
 QUORIN_API float QUORIN_CDECL sdoti(const int32_t* nz, const float* x, const int32_t* indx, const float* y);
 QUORIN_API float QUORIN_CDECL sdoti_Idx(const int32_t* nz, const float* x, int32_t x_index, const int32_t* indx,
                                         int32_t indx_index, const float* y, int32_t y_index);
-
-/* The sum of x_k y(indx_k), without conjugation.
-     nz: number of values; 0 or less does nothing
-     x: [nz]: the values
-     indx: [nz]: position of each value in y
-     y: [max(indx)]: full vector */
 QUORIN_API void QUORIN_CDECL cdotui(quorin_complex* result, const int32_t* nz, const quorin_complex* x,
                                     const int32_t* indx, const quorin_complex* y);
 QUORIN_API void QUORIN_CDECL cdotui_Idx(quorin_complex* result, const int32_t* nz, const quorin_complex* x,
                                         int32_t x_index, const int32_t* indx, int32_t indx_index,
                                         const quorin_complex* y, int32_t y_index);
 
-/* The sum of conj(x_k) y(indx_k).
+/* Returns the sum of x_k y(indx_k).
      nz: number of values; 0 or less does nothing
      x: [nz]: the values
-     indx: [nz]: position of each value in y
+     indx: [nz]: 1-based position of each value in y
      y: [max(indx)]: full vector */
 QUORIN_API void QUORIN_CDECL cdotci(quorin_complex* result, const int32_t* nz, const quorin_complex* x,
                                     const int32_t* indx, const quorin_complex* y);
@@ -293,7 +275,7 @@ QUORIN_API void QUORIN_CDECL cdotci_Idx(quorin_complex* result, const int32_t* n
      nz: number of values; 0 or less does nothing
      y: [max(indx)]: full vector
      x: out, [nz]: on return the values
-     indx: [nz]: position of each value in y */
+     indx: [nz]: 1-based position of each value in y */
 QUORIN_API void QUORIN_CDECL sgthr(const int32_t* nz, const float* y, float* x, const int32_t* indx);
 QUORIN_API void QUORIN_CDECL sgthr_Idx(const int32_t* nz, const float* y, int32_t y_index, float* x, int32_t x_index,
                                        const int32_t* indx, int32_t indx_index);
@@ -304,7 +286,7 @@ QUORIN_API void QUORIN_CDECL cgthr_Idx(const int32_t* nz, const quorin_complex* 
 /* Scatters y(indx_k) <- x_k.
      nz: number of values; 0 or less does nothing
      x: [nz]: the values
-     indx: [nz]: position of each value in y
+     indx: [nz]: 1-based position of each value in y
      y: in, out, [max(indx)]: full vector; on return with the values at their positions */
 QUORIN_API void QUORIN_CDECL ssctr(const int32_t* nz, const float* x, const int32_t* indx, float* y);
 QUORIN_API void QUORIN_CDECL ssctr_Idx(const int32_t* nz, const float* x, int32_t x_index, const int32_t* indx,
@@ -315,7 +297,7 @@ QUORIN_API void QUORIN_CDECL csctr_Idx(const int32_t* nz, const quorin_complex* 
 
 /* ---- Level 2 ---- */
 
-/* y <- alpha op(A) x + beta y, op by trans: N as it is, T transposed, C conjugate transposed.
+/* y <- alpha op(A) x + beta y.
      trans: op(A) (N A; T A^T; C A^H)
      m: rows of A, at least 0
      n: columns of A, at least 0
@@ -344,7 +326,7 @@ QUORIN_API void QUORIN_CDECL cgemv_Idx(const char* trans, const int32_t* m, cons
                                        const int32_t* incx, const quorin_complex* beta, quorin_complex* y,
                                        int32_t y_index, const int32_t* incy);
 
-/* x <- op(A) x with A triangular, upper or lower by uplo (U, L), with a unit diagonal if diag is U.
+/* x <- op(A) x with A triangular.
      uplo: triangle of A that is read (U upper; L lower)
      trans: op(A) (N A; T A^T; C A^H)
      diag: diagonal of A (N as stored; U all ones; the stored one is not read)
@@ -384,7 +366,7 @@ QUORIN_API void QUORIN_CDECL ctrsv_Idx(const char* uplo, const char* trans, cons
                                        const quorin_complex* a, int32_t a_index, const int32_t* lda, quorin_complex* x,
                                        int32_t x_index, const int32_t* incx);
 
-/* y <- alpha A x + beta y with A symmetric; only the triangle that uplo names is read.
+/* y <- alpha A x + beta y with A symmetric.
      uplo: triangle of A that is read (U upper; L lower)
      n: order of A, at least 0
      alpha: factor of the product; with 0, its operands are not read
@@ -403,7 +385,7 @@ QUORIN_API void QUORIN_CDECL ssymv_Idx(const char* uplo, const int32_t* n, const
                                        const int32_t* incx, const float* beta, float* y, int32_t y_index,
                                        const int32_t* incy);
 
-/* y <- alpha A x + beta y with A Hermitian; only the triangle that uplo names is read.
+/* y <- alpha A x + beta y with A symmetric.
      uplo: triangle of A that is read; imaginary parts of the diagonal are not (U upper; L lower)
      n: order of A, at least 0
      alpha: factor of the product; with 0, its operands are not read
@@ -448,7 +430,7 @@ QUORIN_API void QUORIN_CDECL cgeru_Idx(const int32_t* m, const int32_t* n, const
                                        const quorin_complex* y, int32_t y_index, const int32_t* incy, quorin_complex* a,
                                        int32_t a_index, const int32_t* lda);
 
-/* A <- alpha x y^H + A.
+/* A <- alpha x y^T + A.
      m: rows of A, at least 0
      n: columns of A, at least 0
      alpha: factor of the product; with 0, its operands are not read
@@ -480,7 +462,7 @@ QUORIN_API void QUORIN_CDECL ssyr_Idx(const char* uplo, const int32_t* n, const 
                                       int32_t x_index, const int32_t* incx, float* a, int32_t a_index,
                                       const int32_t* lda);
 
-/* A <- alpha x x^H + A on one triangle of a Hermitian A; alpha is real.
+/* A <- alpha x x^T + A on one triangle of a symmetric A.
      uplo: triangle of A that is read and written; imaginary parts of the diagonal become 0 (U upper; L lower)
      n: order of A, at least 0
      alpha: factor of the product; with 0, its operands are not read
@@ -511,7 +493,7 @@ QUORIN_API void QUORIN_CDECL ssyr2_Idx(const char* uplo, const int32_t* n, const
                                        int32_t x_index, const int32_t* incx, const float* y, int32_t y_index,
                                        const int32_t* incy, float* a, int32_t a_index, const int32_t* lda);
 
-/* A <- alpha x y^H + conj(alpha) y x^H + A on one triangle of a Hermitian A.
+/* A <- alpha x y^T + alpha y x^T + A on one triangle of a symmetric A.
      uplo: triangle of A that is read and written; imaginary parts of the diagonal become 0 (U upper; L lower)
      n: order of A, at least 0
      alpha: factor of the product; with 0, its operands are not read
@@ -592,7 +574,7 @@ QUORIN_API void QUORIN_CDECL csymm_Idx(const char* side, const char* uplo, const
                                        const quorin_complex* beta, quorin_complex* c, int32_t c_index,
                                        const int32_t* ldc);
 
-/* C <- alpha A B + beta C (side L) or alpha B A + beta C (side R) with A Hermitian.
+/* C <- alpha A B + beta C (side L) or alpha B A + beta C (side R) with A symmetric.
      side: side on which A stands (L left; R right)
      uplo: triangle of A that is read; imaginary parts of the diagonal are not (U upper; L lower)
      m: rows of B and C, at least 0
@@ -652,7 +634,7 @@ QUORIN_API void QUORIN_CDECL csyrk_Idx(const char* uplo, const char* trans, cons
                                        const int32_t* lda, const quorin_complex* beta, quorin_complex* c,
                                        int32_t c_index, const int32_t* ldc);
 
-/* C <- alpha A A^H + beta C (trans N) or alpha A^H A + beta C (trans C) on one triangle of C; alpha and beta are real.
+/* C <- alpha A A^T + beta C (trans N) or alpha A^T A + beta C (trans T) on one triangle of C.
      uplo: triangle of C that is read and written; imaginary parts of the diagonal become 0 (U upper; L lower)
      trans: the product (N A A^H; C A^H A)
      n: order of C, at least 0
@@ -716,8 +698,8 @@ QUORIN_API void QUORIN_CDECL csyr2k_Idx(const char* uplo, const char* trans, con
                                         const int32_t* ldb, const quorin_complex* beta, quorin_complex* c,
                                         int32_t c_index, const int32_t* ldc);
 
-/* C <- alpha A B^H + conj(alpha) B A^H + beta C (trans N) or alpha A^H B + conj(alpha) B^H A + beta C (trans C) on one
-   triangle of C; beta is real.
+/* C <- alpha A B^T + alpha B A^T + beta C (trans N) or alpha A^T B + alpha B^T A + beta C (trans T) on one triangle of
+   C.
      uplo: triangle of C that is read and written; imaginary parts of the diagonal become 0 (U upper; L lower)
      trans: the products (N A B^H and B A^H; C A^H B and B^H A)
      n: order of C, at least 0

@@ -15,7 +15,8 @@
  *
  * Option characters other than the ones listed are wrong arguments. Where there is an lwork, liwork or lrwork, -1 in
  * any of them asks for the best sizes: they are stored in the first elements of work, iwork and rwork, and nothing is
- * computed; the other arguments must be right. Asking is worth while: the minimum suffices, but blocks need more.
+ * computed; the other arguments must be right. Asking is worth while: the minimum suffices, but blocks need more. Offer
+ * the larger of answer and minimum: for empty matrices, and k = 0, some answers are too small.
  *
  * Additions and multiplications for order n, leading terms: getrf 2/3 n^3, potrf 1/3 n^3, geqrf 2 n^2 (m - n/3), geev
  * about 10 n^3 and 26 n^3 with right eigenvectors, gesdd about 8/3 n^3 and 20/3 n^3 with vectors, four times as many
@@ -95,7 +96,7 @@ QUORIN_API void QUORIN_CDECL cgetrs_Idx(const char* trans, const int32_t* n, con
      lda: leading dimension of a, at least max(1,n)
      ipiv: [n]: row exchanges, as stored by getrf
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL sgetri(const int32_t* n, float* a, const int32_t* lda, const int32_t* ipiv, float* work,
                                     const int32_t* lwork, int32_t* info);
@@ -109,7 +110,7 @@ QUORIN_API void QUORIN_CDECL cgetri_Idx(const int32_t* n, quorin_complex* a, int
                                         int32_t work_index, const int32_t* lwork, int32_t* info);
 
 /* Estimates the reciprocal condition number of a matrix, in the 1- or the infinity-norm, from the factors of getrf.
-     norm: norm (1 1-norm; O 1-norm, too; I infinity-norm)
+     norm: norm of which the condition number is estimated (1 1-norm; O 1-norm, too; I infinity-norm)
      n: order of A, at least 0
      a: [lda x n]: L and U, as stored by getrf
      lda: leading dimension of a, at least max(1,n)
@@ -126,7 +127,7 @@ QUORIN_API void QUORIN_CDECL sgecon_Idx(const char* norm, const int32_t* n, cons
                                         int32_t work_index, int32_t* iwork, int32_t iwork_index, int32_t* info);
 
 /* Estimates the reciprocal condition number of a matrix, in the 1- or the infinity-norm, from the factors of getrf.
-     norm: norm (1 1-norm; O 1-norm, too; I infinity-norm)
+     norm: norm of which the condition number is estimated (1 1-norm; O 1-norm, too; I infinity-norm)
      n: order of A, at least 0
      a: [lda x n]: L and U, as stored by getrf
      lda: leading dimension of a, at least max(1,n)
@@ -154,7 +155,7 @@ QUORIN_API void QUORIN_CDECL cgecon_Idx(const char* norm, const int32_t* n, cons
      ipiv: [n]: row exchanges, as stored by getrf
      b: [ldb x nrhs]: right-hand sides B
      ldb: leading dimension of b, at least max(1,n)
-     x: in, out, [ldx x nrhs]: on entry the solution X of the factors; on return the refined one
+     x: in, out, [ldx x nrhs]: on entry the solution X that the factors gave; on return the refined one
      ldx: leading dimension of x, at least max(1,n)
      ferr: out, [nrhs]: for each column of X a bound of its largest error, relative to its largest element; an estimate,
          almost always a little too large
@@ -184,7 +185,7 @@ QUORIN_API void QUORIN_CDECL sgerfs_Idx(const char* trans, const int32_t* n, con
      ipiv: [n]: row exchanges, as stored by getrf
      b: [ldb x nrhs]: right-hand sides B
      ldb: leading dimension of b, at least max(1,n)
-     x: in, out, [ldx x nrhs]: on entry the solution X of the factors; on return the refined one
+     x: in, out, [ldx x nrhs]: on entry the solution X that the factors gave; on return the refined one
      ldx: leading dimension of x, at least max(1,n)
      ferr: out, [nrhs]: for each column of X a bound of its largest error, relative to its largest element; an estimate,
          almost always a little too large
@@ -256,7 +257,7 @@ QUORIN_API void QUORIN_CDECL cgbtrs_Idx(const char* trans, const int32_t* n, con
                                         int32_t b_index, const int32_t* ldb, int32_t* info);
 
 /* Estimates the reciprocal condition number of a band matrix from the factors of gbtrf.
-     norm: norm (1 1-norm; O 1-norm, too; I infinity-norm)
+     norm: norm of which the condition number is estimated (1 1-norm; O 1-norm, too; I infinity-norm)
      n: order of A, at least 0
      kl: diagonals below the main one, at least 0
      ku: diagonals above the main one, at least 0
@@ -278,7 +279,7 @@ QUORIN_API void QUORIN_CDECL sgbcon_Idx(const char* norm, const int32_t* n, cons
                                         int32_t work_index, int32_t* iwork, int32_t iwork_index, int32_t* info);
 
 /* Estimates the reciprocal condition number of a band matrix from the factors of gbtrf.
-     norm: norm (1 1-norm; O 1-norm, too; I infinity-norm)
+     norm: norm of which the condition number is estimated (1 1-norm; O 1-norm, too; I infinity-norm)
      n: order of A, at least 0
      kl: diagonals below the main one, at least 0
      ku: diagonals above the main one, at least 0
@@ -314,7 +315,7 @@ QUORIN_API void QUORIN_CDECL cgbcon_Idx(const char* norm, const int32_t* n, cons
      ipiv: [n]: row exchanges, as stored by gbtrf
      b: [ldb x nrhs]: right-hand sides B
      ldb: leading dimension of b, at least max(1,n)
-     x: in, out, [ldx x nrhs]: on entry the solution X of the factors; on return the refined one
+     x: in, out, [ldx x nrhs]: on entry the solution X that the factors gave; on return the refined one
      ldx: leading dimension of x, at least max(1,n)
      ferr: out, [nrhs]: for each column of X a bound of its largest error, relative to its largest element; an estimate,
          almost always a little too large
@@ -348,7 +349,7 @@ QUORIN_API void QUORIN_CDECL sgbrfs_Idx(const char* trans, const int32_t* n, con
      ipiv: [n]: row exchanges, as stored by gbtrf
      b: [ldb x nrhs]: right-hand sides B
      ldb: leading dimension of b, at least max(1,n)
-     x: in, out, [ldx x nrhs]: on entry the solution X of the factors; on return the refined one
+     x: in, out, [ldx x nrhs]: on entry the solution X that the factors gave; on return the refined one
      ldx: leading dimension of x, at least max(1,n)
      ferr: out, [nrhs]: for each column of X a bound of its largest error, relative to its largest element; an estimate,
          almost always a little too large
@@ -467,7 +468,7 @@ QUORIN_API void QUORIN_CDECL cpocon_Idx(const char* uplo, const int32_t* n, cons
      ldaf: leading dimension of af, at least max(1,n)
      b: [ldb x nrhs]: right-hand sides B
      ldb: leading dimension of b, at least max(1,n)
-     x: in, out, [ldx x nrhs]: on entry the solution X of the factors; on return the refined one
+     x: in, out, [ldx x nrhs]: on entry the solution X that the factors gave; on return the refined one
      ldx: leading dimension of x, at least max(1,n)
      ferr: out, [nrhs]: for each column of X a bound of its largest error, relative to its largest element; an estimate,
          almost always a little too large
@@ -496,7 +497,7 @@ QUORIN_API void QUORIN_CDECL sporfs_Idx(const char* uplo, const int32_t* n, cons
      ldaf: leading dimension of af, at least max(1,n)
      b: [ldb x nrhs]: right-hand sides B
      ldb: leading dimension of b, at least max(1,n)
-     x: in, out, [ldx x nrhs]: on entry the solution X of the factors; on return the refined one
+     x: in, out, [ldx x nrhs]: on entry the solution X that the factors gave; on return the refined one
      ldx: leading dimension of x, at least max(1,n)
      ferr: out, [nrhs]: for each column of X a bound of its largest error, relative to its largest element; an estimate,
          almost always a little too large
@@ -609,7 +610,7 @@ QUORIN_API void QUORIN_CDECL cpbcon_Idx(const char* uplo, const int32_t* n, cons
      ldafb: leading dimension of afb, at least kd+1
      b: [ldb x nrhs]: right-hand sides B
      ldb: leading dimension of b, at least max(1,n)
-     x: in, out, [ldx x nrhs]: on entry the solution X of the factors; on return the refined one
+     x: in, out, [ldx x nrhs]: on entry the solution X that the factors gave; on return the refined one
      ldx: leading dimension of x, at least max(1,n)
      ferr: out, [nrhs]: for each column of X a bound of its largest error, relative to its largest element; an estimate,
          almost always a little too large
@@ -640,7 +641,7 @@ QUORIN_API void QUORIN_CDECL spbrfs_Idx(const char* uplo, const int32_t* n, cons
      ldafb: leading dimension of afb, at least kd+1
      b: [ldb x nrhs]: right-hand sides B
      ldb: leading dimension of b, at least max(1,n)
-     x: in, out, [ldx x nrhs]: on entry the solution X of the factors; on return the refined one
+     x: in, out, [ldx x nrhs]: on entry the solution X that the factors gave; on return the refined one
      ldx: leading dimension of x, at least max(1,n)
      ferr: out, [nrhs]: for each column of X a bound of its largest error, relative to its largest element; an estimate,
          almost always a little too large
@@ -672,7 +673,7 @@ QUORIN_API void QUORIN_CDECL cpbrfs_Idx(const char* uplo, const int32_t* n, cons
          ipiv(k+1) < 0: a 2 x 2 block, and its first (uplo U) or second (uplo L) row and column were exchanged with
          -ipiv(k)
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL ssytrf(const char* uplo, const int32_t* n, float* a, const int32_t* lda, int32_t* ipiv,
                                     float* work, const int32_t* lwork, int32_t* info);
@@ -788,7 +789,7 @@ QUORIN_API void QUORIN_CDECL csycon_Idx(const char* uplo, const int32_t* n, cons
      ipiv: [n]: exchanges and blocks, as stored by sytrf
      b: [ldb x nrhs]: right-hand sides B
      ldb: leading dimension of b, at least max(1,n)
-     x: in, out, [ldx x nrhs]: on entry the solution X of the factors; on return the refined one
+     x: in, out, [ldx x nrhs]: on entry the solution X that the factors gave; on return the refined one
      ldx: leading dimension of x, at least max(1,n)
      ferr: out, [nrhs]: for each column of X a bound of its largest error, relative to its largest element; an estimate,
          almost always a little too large
@@ -818,7 +819,7 @@ QUORIN_API void QUORIN_CDECL ssyrfs_Idx(const char* uplo, const int32_t* n, cons
      ipiv: [n]: exchanges and blocks, as stored by sytrf
      b: [ldb x nrhs]: right-hand sides B
      ldb: leading dimension of b, at least max(1,n)
-     x: in, out, [ldx x nrhs]: on entry the solution X of the factors; on return the refined one
+     x: in, out, [ldx x nrhs]: on entry the solution X that the factors gave; on return the refined one
      ldx: leading dimension of x, at least max(1,n)
      ferr: out, [nrhs]: for each column of X a bound of its largest error, relative to its largest element; an estimate,
          almost always a little too large
@@ -848,7 +849,7 @@ QUORIN_API void QUORIN_CDECL csyrfs_Idx(const char* uplo, const int32_t* n, cons
          ipiv(k+1) < 0: a 2 x 2 block, and its first (uplo U) or second (uplo L) row and column were exchanged with
          -ipiv(k)
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL chetrf(const char* uplo, const int32_t* n, quorin_complex* a, const int32_t* lda,
                                     int32_t* ipiv, quorin_complex* work, const int32_t* lwork, int32_t* info);
@@ -918,7 +919,7 @@ QUORIN_API void QUORIN_CDECL checon_Idx(const char* uplo, const int32_t* n, cons
      ipiv: [n]: exchanges and blocks, as stored by hetrf
      b: [ldb x nrhs]: right-hand sides B
      ldb: leading dimension of b, at least max(1,n)
-     x: in, out, [ldx x nrhs]: on entry the solution X of the factors; on return the refined one
+     x: in, out, [ldx x nrhs]: on entry the solution X that the factors gave; on return the refined one
      ldx: leading dimension of x, at least max(1,n)
      ferr: out, [nrhs]: for each column of X a bound of its largest error, relative to its largest element; an estimate,
          almost always a little too large
@@ -983,7 +984,7 @@ QUORIN_API void QUORIN_CDECL ctrtri_Idx(const char* uplo, const char* diag, cons
                                         int32_t a_index, const int32_t* lda, int32_t* info);
 
 /* Estimates the reciprocal condition number of a triangular matrix.
-     norm: norm (1 1-norm; O 1-norm, too; I infinity-norm)
+     norm: norm of which the condition number is estimated (1 1-norm; O 1-norm, too; I infinity-norm)
      uplo: triangle of a that holds A; the other one is not touched (U upper; L lower)
      diag: diagonal of A (N as stored; U all ones; the stored one is not read)
      n: order of A, at least 0
@@ -1002,7 +1003,7 @@ QUORIN_API void QUORIN_CDECL strcon_Idx(const char* norm, const char* uplo, cons
                                         int32_t work_index, int32_t* iwork, int32_t iwork_index, int32_t* info);
 
 /* Estimates the reciprocal condition number of a triangular matrix.
-     norm: norm (1 1-norm; O 1-norm, too; I infinity-norm)
+     norm: norm of which the condition number is estimated (1 1-norm; O 1-norm, too; I infinity-norm)
      uplo: triangle of a that holds A; the other one is not touched (U upper; L lower)
      diag: diagonal of A (N as stored; U all ones; the stored one is not read)
      n: order of A, at least 0
@@ -1094,7 +1095,7 @@ QUORIN_API void QUORIN_CDECL ctrrfs_Idx(const char* uplo, const char* trans, con
          of each residual
      ldb: leading dimension of b, at least max(1,m,n)
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL sgels(const char* trans, const int32_t* m, const int32_t* n, const int32_t* nrhs, float* a,
                                    const int32_t* lda, float* b, const int32_t* ldb, float* work, const int32_t* lwork,
@@ -1117,7 +1118,7 @@ QUORIN_API void QUORIN_CDECL sgels_Idx(const char* trans, const int32_t* m, cons
          of each residual
      ldb: leading dimension of b, at least max(1,m,n)
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL cgels(const char* trans, const int32_t* m, const int32_t* n, const int32_t* nrhs,
                                    quorin_complex* a, const int32_t* lda, quorin_complex* b, const int32_t* ldb,
@@ -1141,7 +1142,7 @@ QUORIN_API void QUORIN_CDECL cgels_Idx(const char* trans, const int32_t* m, cons
          precision
      rank: out: effective rank of A
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL sgelss(const int32_t* m, const int32_t* n, const int32_t* nrhs, float* a,
                                     const int32_t* lda, float* b, const int32_t* ldb, float* s, const float* rcond,
@@ -1166,7 +1167,7 @@ QUORIN_API void QUORIN_CDECL sgelss_Idx(const int32_t* m, const int32_t* n, cons
          precision
      rank: out: effective rank of A
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      rwork: out, [5*min(m,n)]: workspace
      info: out: status */
 QUORIN_API void QUORIN_CDECL cgelss(const int32_t* m, const int32_t* n, const int32_t* nrhs, quorin_complex* a,
@@ -1193,7 +1194,7 @@ QUORIN_API void QUORIN_CDECL cgelss_Idx(const int32_t* m, const int32_t* n, cons
          number is below 1/rcond
      rank: out: effective rank of A
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL sgelsy(const int32_t* m, const int32_t* n, const int32_t* nrhs, float* a,
                                     const int32_t* lda, float* b, const int32_t* ldb, int32_t* jpvt, const float* rcond,
@@ -1218,7 +1219,7 @@ QUORIN_API void QUORIN_CDECL sgelsy_Idx(const int32_t* m, const int32_t* n, cons
          number is below 1/rcond
      rank: out: effective rank of A
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      rwork: out, [2*n]: workspace
      info: out: status */
 QUORIN_API void QUORIN_CDECL cgelsy(const int32_t* m, const int32_t* n, const int32_t* nrhs, quorin_complex* a,
@@ -1246,7 +1247,7 @@ QUORIN_API void QUORIN_CDECL cgelsy_Idx(const int32_t* m, const int32_t* n, cons
          precision
      rank: out: effective rank of A
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      iwork: out: workspace; a query stores its least length in its first element
      info: out: status */
 QUORIN_API void QUORIN_CDECL sgelsd(const int32_t* m, const int32_t* n, const int32_t* nrhs, float* a,
@@ -1273,7 +1274,7 @@ QUORIN_API void QUORIN_CDECL sgelsd_Idx(const int32_t* m, const int32_t* n, cons
          precision
      rank: out: effective rank of A
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      rwork: out: workspace; a query stores its least length in its first element
      iwork: out: workspace; a query stores its least length in its first element
      info: out: status */
@@ -1303,7 +1304,7 @@ QUORIN_API void QUORIN_CDECL cgelsd_Idx(const int32_t* m, const int32_t* n, cons
      d: in, out, [p]: on entry the vector d; on return destroyed
      x: out, [n]: the solution
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL sgglse(const int32_t* m, const int32_t* n, const int32_t* p, float* a, const int32_t* lda,
                                     float* b, const int32_t* ldb, float* c, float* d, float* x, float* work,
@@ -1334,7 +1335,7 @@ QUORIN_API void QUORIN_CDECL cgglse_Idx(const int32_t* m, const int32_t* n, cons
      x: out, [m]: the solution x
      y: out, [p]: the solution y
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL sggglm(const int32_t* n, const int32_t* m, const int32_t* p, float* a, const int32_t* lda,
                                     float* b, const int32_t* ldb, float* d, float* x, float* y, float* work,
@@ -1363,7 +1364,7 @@ QUORIN_API void QUORIN_CDECL cggglm_Idx(const int32_t* n, const int32_t* m, cons
      lda: leading dimension of a, at least max(1,m)
      tau: out, [min(m,n)]: scalar factors of the reflectors
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL sgeqrf(const int32_t* m, const int32_t* n, float* a, const int32_t* lda, float* tau,
                                     float* work, const int32_t* lwork, int32_t* info);
@@ -1386,7 +1387,7 @@ QUORIN_API void QUORIN_CDECL cgeqrf_Idx(const int32_t* m, const int32_t* n, quor
          of A P was the jpvt(i)-th of A
      tau: out, [min(m,n)]: scalar factors of the reflectors
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL sgeqp3(const int32_t* m, const int32_t* n, float* a, const int32_t* lda, int32_t* jpvt,
                                     float* tau, float* work, const int32_t* lwork, int32_t* info);
@@ -1404,7 +1405,7 @@ QUORIN_API void QUORIN_CDECL sgeqp3_Idx(const int32_t* m, const int32_t* n, floa
      lda: leading dimension of a, at least max(1,m)
      tau: [k]: scalar factors of the reflectors, as stored by geqrf or geqp3
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL sorgqr(const int32_t* m, const int32_t* n, const int32_t* k, float* a, const int32_t* lda,
                                     const float* tau, float* work, const int32_t* lwork, int32_t* info);
@@ -1432,7 +1433,7 @@ QUORIN_API void QUORIN_CDECL cungqr_Idx(const int32_t* m, const int32_t* n, cons
      c: in, out, [ldc x n]: on entry C; on return the product
      ldc: leading dimension of c, at least max(1,m)
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL sormqr(const char* side, const char* trans, const int32_t* m, const int32_t* n,
                                     const int32_t* k, const float* a, const int32_t* lda, const float* tau, float* c,
@@ -1456,7 +1457,7 @@ QUORIN_API void QUORIN_CDECL sormqr_Idx(const char* side, const char* trans, con
      c: in, out, [ldc x n]: on entry C; on return the product
      ldc: leading dimension of c, at least max(1,m)
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL cunmqr(const char* side, const char* trans, const int32_t* m, const int32_t* n,
                                     const int32_t* k, const quorin_complex* a, const int32_t* lda,
@@ -1476,7 +1477,7 @@ QUORIN_API void QUORIN_CDECL cunmqr_Idx(const char* side, const char* trans, con
      lda: leading dimension of a, at least max(1,m)
      tau: out, [min(m,n)]: scalar factors of the reflectors
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL sgelqf(const int32_t* m, const int32_t* n, float* a, const int32_t* lda, float* tau,
                                     float* work, const int32_t* lwork, int32_t* info);
@@ -1497,7 +1498,7 @@ QUORIN_API void QUORIN_CDECL cgelqf_Idx(const int32_t* m, const int32_t* n, quor
      lda: leading dimension of a, at least max(1,m)
      tau: [k]: scalar factors of the reflectors, as stored by gelqf
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL sorglq(const int32_t* m, const int32_t* n, const int32_t* k, float* a, const int32_t* lda,
                                     const float* tau, float* work, const int32_t* lwork, int32_t* info);
@@ -1525,7 +1526,7 @@ QUORIN_API void QUORIN_CDECL cunglq_Idx(const int32_t* m, const int32_t* n, cons
      c: in, out, [ldc x n]: on entry C; on return the product
      ldc: leading dimension of c, at least max(1,m)
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL sormlq(const char* side, const char* trans, const int32_t* m, const int32_t* n,
                                     const int32_t* k, const float* a, const int32_t* lda, const float* tau, float* c,
@@ -1549,7 +1550,7 @@ QUORIN_API void QUORIN_CDECL sormlq_Idx(const char* side, const char* trans, con
      c: in, out, [ldc x n]: on entry C; on return the product
      ldc: leading dimension of c, at least max(1,m)
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL cunmlq(const char* side, const char* trans, const int32_t* m, const int32_t* n,
                                     const int32_t* k, const quorin_complex* a, const int32_t* lda,
@@ -1574,7 +1575,7 @@ QUORIN_API void QUORIN_CDECL cunmlq_Idx(const char* side, const char* trans, con
      tauq: out, [min(m,n)]: scalar factors of the reflectors of Q
      taup: out, [min(m,n)]: scalar factors of the reflectors of P
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL sgebrd(const int32_t* m, const int32_t* n, float* a, const int32_t* lda, float* d,
                                     float* e, float* tauq, float* taup, float* work, const int32_t* lwork,
@@ -1601,7 +1602,7 @@ QUORIN_API void QUORIN_CDECL cgebrd_Idx(const int32_t* m, const int32_t* n, quor
      lda: leading dimension of a, at least max(1,m)
      tau: [min(m,k)]: tauq (vect Q) or taup (vect P) of gebrd, min(m,k) or min(n,k) elements
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL sorgbr(const char* vect, const int32_t* m, const int32_t* n, const int32_t* k, float* a,
                                     const int32_t* lda, const float* tau, float* work, const int32_t* lwork,
@@ -1632,7 +1633,7 @@ QUORIN_API void QUORIN_CDECL cungbr_Idx(const char* vect, const int32_t* m, cons
      c: in, out, [ldc x n]: on entry C; on return the product
      ldc: leading dimension of c, at least max(1,m)
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL sormbr(const char* vect, const char* side, const char* trans, const int32_t* m,
                                     const int32_t* n, const int32_t* k, const float* a, const int32_t* lda,
@@ -1654,7 +1655,7 @@ QUORIN_API void QUORIN_CDECL sormbr_Idx(const char* vect, const char* side, cons
      e: out, [n-1]: off-diagonal of T
      tau: out, [n-1]: scalar factors of the reflectors
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL ssytrd(const char* uplo, const int32_t* n, float* a, const int32_t* lda, float* d,
                                     float* e, float* tau, float* work, const int32_t* lwork, int32_t* info);
@@ -1670,7 +1671,7 @@ QUORIN_API void QUORIN_CDECL ssytrd_Idx(const char* uplo, const int32_t* n, floa
      lda: leading dimension of a, at least max(1,n)
      tau: [n-1]: scalar factors of the reflectors, as stored by sytrd
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL sorgtr(const char* uplo, const int32_t* n, float* a, const int32_t* lda, const float* tau,
                                     float* work, const int32_t* lwork, int32_t* info);
@@ -1685,7 +1686,7 @@ QUORIN_API void QUORIN_CDECL sorgtr_Idx(const char* uplo, const int32_t* n, floa
      lda: leading dimension of a, at least max(1,n)
      tau: [n-1]: scalar factors of the reflectors, as stored by hetrd
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL cungtr(const char* uplo, const int32_t* n, quorin_complex* a, const int32_t* lda,
                                     const quorin_complex* tau, quorin_complex* work, const int32_t* lwork,
@@ -1707,7 +1708,7 @@ QUORIN_API void QUORIN_CDECL cungtr_Idx(const char* uplo, const int32_t* n, quor
      c: in, out, [ldc x n]: on entry C; on return the product
      ldc: leading dimension of c, at least max(1,m)
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL sormtr(const char* side, const char* uplo, const char* trans, const int32_t* m,
                                     const int32_t* n, const float* a, const int32_t* lda, const float* tau, float* c,
@@ -1731,7 +1732,7 @@ QUORIN_API void QUORIN_CDECL sormtr_Idx(const char* side, const char* uplo, cons
      c: in, out, [ldc x n]: on entry C; on return the product
      ldc: leading dimension of c, at least max(1,m)
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL cunmtr(const char* side, const char* uplo, const char* trans, const int32_t* m,
                                     const int32_t* n, const quorin_complex* a, const int32_t* lda,
@@ -1753,7 +1754,7 @@ QUORIN_API void QUORIN_CDECL cunmtr_Idx(const char* side, const char* uplo, cons
      e: out, [n-1]: off-diagonal of T
      tau: out, [n-1]: scalar factors of the reflectors
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL chetrd(const char* uplo, const int32_t* n, quorin_complex* a, const int32_t* lda, float* d,
                                     float* e, quorin_complex* tau, quorin_complex* work, const int32_t* lwork,
@@ -1773,7 +1774,7 @@ QUORIN_API void QUORIN_CDECL chetrd_Idx(const char* uplo, const int32_t* n, quor
      lda: leading dimension of a, at least max(1,n)
      tau: out, [n-1]: scalar factors of the reflectors
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL sgehrd(const int32_t* n, const int32_t* ilo, const int32_t* ihi, float* a,
                                     const int32_t* lda, float* tau, float* work, const int32_t* lwork, int32_t* info);
@@ -1795,7 +1796,7 @@ QUORIN_API void QUORIN_CDECL cgehrd_Idx(const int32_t* n, const int32_t* ilo, co
      lda: leading dimension of a, at least max(1,n)
      tau: [n-1]: scalar factors of the reflectors, as stored by gehrd
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL sorghr(const int32_t* n, const int32_t* ilo, const int32_t* ihi, float* a,
                                     const int32_t* lda, const float* tau, float* work, const int32_t* lwork,
@@ -1910,7 +1911,7 @@ QUORIN_API void QUORIN_CDECL cgebak_Idx(const char* job, const char* side, const
          many columns as there may be eigenvalues; not touched if jobz is N
      ldz: leading dimension of z, at least 1, and max(1,n) if jobz is V
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      iwork: out, [5*n]: workspace
      ifail: out, [n]: if jobz is V: zeros, or with info > 0 the numbers of the eigenvectors that did not converge, in
          the first m elements; else not touched
@@ -1949,7 +1950,7 @@ QUORIN_API void QUORIN_CDECL ssyevx_Idx(const char* jobz, const char* range, con
      isuppz: out, [2*max(1,m)]: elements 2*i-1 and 2*i: first and last element of eigenvector i that is not zero; only
          if all eigenvalues are wanted (range A, or I with all)
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      iwork: out, [liwork]: workspace; on return its first element holds the least liwork
      liwork: length of iwork; -1 asks for the best sizes of all workspaces
      info: out: status */
@@ -1985,7 +1986,7 @@ QUORIN_API void QUORIN_CDECL ssyevr_Idx(const char* jobz, const char* range, con
          many columns as there may be eigenvalues; not touched if jobz is N
      ldz: leading dimension of z, at least 1, and max(1,n) if jobz is V
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      rwork: out, [7*n]: workspace
      iwork: out, [5*n]: workspace
      ifail: out, [n]: if jobz is V: zeros, or with info > 0 the numbers of the eigenvectors that did not converge, in
@@ -2026,7 +2027,7 @@ QUORIN_API void QUORIN_CDECL cheevx_Idx(const char* jobz, const char* range, con
      isuppz: out, [2*max(1,m)]: elements 2*i-1 and 2*i: first and last element of eigenvector i that is not zero; only
          if all eigenvalues are wanted (range A, or I with all)
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      rwork: out, [lrwork]: workspace; on return its first element holds the least lrwork
      lrwork: length of rwork; -1 asks for the best sizes of all workspaces
      iwork: out, [liwork]: workspace; on return its first element holds the least liwork
@@ -2080,7 +2081,7 @@ QUORIN_API void QUORIN_CDECL ssbev_Idx(const char* jobz, const char* uplo, const
      z: out, [ldz x n]: if jobz is V: column i holds the eigenvector of w(i), of norm 1; not touched if jobz is N
      ldz: leading dimension of z, at least 1, and max(1,n) if jobz is V
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      iwork: out, [liwork]: workspace; on return its first element holds the least liwork
      liwork: length of iwork; -1 asks for the best sizes of all workspaces
      info: out: status */
@@ -2170,7 +2171,7 @@ QUORIN_API void QUORIN_CDECL chbev_Idx(const char* jobz, const char* uplo, const
      z: out, [ldz x n]: if jobz is V: column i holds the eigenvector of w(i), of norm 1; not touched if jobz is N
      ldz: leading dimension of z, at least 1, and max(1,n) if jobz is V
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      rwork: out, [lrwork]: workspace; on return its first element holds the least lrwork
      lrwork: length of rwork; -1 asks for the best sizes of all workspaces
      iwork: out, [liwork]: workspace; on return its first element holds the least liwork
@@ -2244,7 +2245,7 @@ QUORIN_API void QUORIN_CDECL chbevx_Idx(const char* jobz, const char* range, con
      ldb: leading dimension of b, at least max(1,n)
      w: out, [n]: eigenvalues in ascending order
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      iwork: out, [liwork]: workspace; on return its first element holds the least liwork
      liwork: length of iwork; -1 asks for the best sizes of all workspaces
      info: out: status */
@@ -2280,7 +2281,7 @@ QUORIN_API void QUORIN_CDECL ssygvd_Idx(const int32_t* itype, const char* jobz, 
          Z = I; with range V, offer as many columns as there may be eigenvalues; not touched if jobz is N
      ldz: leading dimension of z, at least 1, and max(1,n) if jobz is V
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      iwork: out, [5*n]: workspace
      ifail: out, [n]: if jobz is V: zeros, or with info > 0 the numbers of the eigenvectors that did not converge, in
          the first m elements; else not touched
@@ -2310,7 +2311,7 @@ QUORIN_API void QUORIN_CDECL ssygvx_Idx(const int32_t* itype, const char* jobz, 
      ldb: leading dimension of b, at least max(1,n)
      w: out, [n]: eigenvalues in ascending order
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      rwork: out, [lrwork]: workspace; on return its first element holds the least lrwork
      lrwork: length of rwork; -1 asks for the best sizes of all workspaces
      iwork: out, [liwork]: workspace; on return its first element holds the least liwork
@@ -2350,7 +2351,7 @@ QUORIN_API void QUORIN_CDECL chegvd_Idx(const int32_t* itype, const char* jobz, 
          Z = I; with range V, offer as many columns as there may be eigenvalues; not touched if jobz is N
      ldz: leading dimension of z, at least 1, and max(1,n) if jobz is V
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      rwork: out, [7*n]: workspace
      iwork: out, [5*n]: workspace
      ifail: out, [n]: if jobz is V: zeros, or with info > 0 the numbers of the eigenvectors that did not converge, in
@@ -2507,7 +2508,7 @@ QUORIN_API void QUORIN_CDECL cstein_Idx(const int32_t* n, const float* d, const 
      vr: out, [ldvr x n]: if jobvr is V: right eigenvectors, stored like the left ones
      ldvr: leading dimension of vr, at least 1, and n if jobvr is V
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL sgeev(const char* jobvl, const char* jobvr, const int32_t* n, float* a, const int32_t* lda,
                                    float* wr, float* wi, float* vl, const int32_t* ldvl, float* vr, const int32_t* ldvr,
@@ -2531,7 +2532,7 @@ QUORIN_API void QUORIN_CDECL sgeev_Idx(const char* jobvl, const char* jobvr, con
      vr: out, [ldvr x n]: if jobvr is V: right eigenvectors of Euclidean norm 1 in the order of the eigenvalues
      ldvr: leading dimension of vr, at least 1, and n if jobvr is V
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      rwork: out, [2*n]: workspace
      info: out: status */
 QUORIN_API void QUORIN_CDECL cgeev(const char* jobvl, const char* jobvr, const int32_t* n, quorin_complex* a,
@@ -2569,7 +2570,7 @@ QUORIN_API void QUORIN_CDECL cgeev_Idx(const char* jobvl, const char* jobvr, con
      rconde: out, [n]: reciprocal condition numbers of the eigenvalues (sense E, B)
      rcondv: out, [n]: reciprocal condition numbers of the right eigenvectors (sense V, B)
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      iwork: out, [2*n-2]: workspace; not touched if sense is N or E
      info: out: status */
 QUORIN_API void QUORIN_CDECL sgeevx(const char* balanc, const char* jobvl, const char* jobvr, const char* sense,
@@ -2609,7 +2610,7 @@ QUORIN_API void QUORIN_CDECL sgeevx_Idx(const char* balanc, const char* jobvl, c
      rconde: out, [n]: reciprocal condition numbers of the eigenvalues (sense E, B)
      rcondv: out, [n]: reciprocal condition numbers of the right eigenvectors (sense V, B)
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      rwork: out, [2*n]: workspace
      info: out: status */
 QUORIN_API void QUORIN_CDECL cgeevx(const char* balanc, const char* jobvl, const char* jobvr, const char* sense,
@@ -2641,7 +2642,7 @@ QUORIN_API void QUORIN_CDECL cgeevx_Idx(const char* balanc, const char* jobvl, c
      vs: out, [ldvs x n]: if jobvs is V: the orthogonal Z of A = Z T Z^T
      ldvs: leading dimension of vs, at least 1, and n if jobvs is V
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      bwork: out, [n]: workspace; not touched if sort is N
      info: out: status */
 QUORIN_API void QUORIN_CDECL sgees(const char* jobvs, const char* sort, quorin_select_real select, const int32_t* n,
@@ -2666,7 +2667,7 @@ QUORIN_API void QUORIN_CDECL sgees_Idx(const char* jobvs, const char* sort, quor
      vs: out, [ldvs x n]: if jobvs is V: the unitary Z of A = Z T Z^H
      ldvs: leading dimension of vs, at least 1, and n if jobvs is V
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      rwork: out, [n]: workspace
      bwork: out, [n]: workspace; not touched if sort is N
      info: out: status */
@@ -2768,7 +2769,7 @@ QUORIN_API void QUORIN_CDECL cgeesx_Idx(const char* jobvs, const char* sort, quo
      z: in, out, [ldz x n]: on entry Q of orghr (compz V); on return the Schur vectors; not touched if compz is N
      ldz: leading dimension of z, at least 1, and max(1,n) if compz is I or V
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL shseqr(const char* job, const char* compz, const int32_t* n, const int32_t* ilo,
                                     const int32_t* ihi, float* h, const int32_t* ldh, float* wr, float* wi, float* z,
@@ -2792,7 +2793,7 @@ QUORIN_API void QUORIN_CDECL shseqr_Idx(const char* job, const char* compz, cons
      z: in, out, [ldz x n]: on entry Q of unghr (compz V); on return the Schur vectors; not touched if compz is N
      ldz: leading dimension of z, at least 1, and max(1,n) if compz is I or V
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL chseqr(const char* job, const char* compz, const int32_t* n, const int32_t* ilo,
                                     const int32_t* ihi, quorin_complex* h, const int32_t* ldh, quorin_complex* w,
@@ -2990,7 +2991,7 @@ QUORIN_API void QUORIN_CDECL ctrsyl_Idx(const char* trana, const char* tranb, co
      ldvt: leading dimension of vt, at least 1; n if jobvt is A, min(m,n) if jobvt is S
      work: out, [lwork]: workspace; with info > 0, elements 2 to min(m,n) are the superdiagonal of a bidiagonal form
          that did not converge
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL sgesvd(const char* jobu, const char* jobvt, const int32_t* m, const int32_t* n, float* a,
                                     const int32_t* lda, float* s, float* u, const int32_t* ldu, float* vt,
@@ -3019,7 +3020,7 @@ QUORIN_API void QUORIN_CDECL sgesvd_Idx(const char* jobu, const char* jobvt, con
      ldvt: leading dimension of vt, at least 1; n if jobvt is A, min(m,n) if jobvt is S
      work: out, [lwork]: workspace; with info > 0, elements 2 to min(m,n) are the superdiagonal of a bidiagonal form
          that did not converge
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      rwork: out, [5*min(m,n)]: workspace; with info > 0, its first min(m,n)-1 elements are the superdiagonal of a
          bidiagonal form that did not converge
      info: out: status */
@@ -3256,7 +3257,7 @@ QUORIN_API void QUORIN_CDECL cggsvd_Idx(const char* jobu, const char* jobv, cons
      vsr: out, [ldvsr x n]: if jobvsr is V: the orthogonal Z; else not touched
      ldvsr: leading dimension of vsr, at least 1, and n if jobvsr is V
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      bwork: out, [n]: workspace; not touched if sort is N
      info: out: status */
 QUORIN_API void QUORIN_CDECL sgges(const char* jobvsl, const char* jobvsr, const char* sort,
@@ -3291,7 +3292,7 @@ QUORIN_API void QUORIN_CDECL sgges_Idx(const char* jobvsl, const char* jobvsr, c
      vsr: out, [ldvsr x n]: if jobvsr is V: the unitary Z; else not touched
      ldvsr: leading dimension of vsr, at least 1, and n if jobvsr is V
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      rwork: out, [8*n]: workspace
      bwork: out, [n]: workspace; not touched if sort is N
      info: out: status */
@@ -3427,7 +3428,7 @@ QUORIN_API void QUORIN_CDECL cggesx_Idx(const char* jobvsl, const char* jobvsr, 
      vr: out, [ldvr x n]: if jobvr is V: right eigenvectors A v = lambda B v, stored like the left ones
      ldvr: leading dimension of vr, at least 1, and n if jobvr is V
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      info: out: status */
 QUORIN_API void QUORIN_CDECL sggev(const char* jobvl, const char* jobvr, const int32_t* n, float* a, const int32_t* lda,
                                    float* b, const int32_t* ldb, float* alphar, float* alphai, float* beta, float* vl,
@@ -3457,7 +3458,7 @@ QUORIN_API void QUORIN_CDECL sggev_Idx(const char* jobvl, const char* jobvr, con
      vr: out, [ldvr x n]: if jobvr is V: right eigenvectors A v = lambda B v, stored like the left ones
      ldvr: leading dimension of vr, at least 1, and n if jobvr is V
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      rwork: out, [8*n]: workspace
      info: out: status */
 QUORIN_API void QUORIN_CDECL cggev(const char* jobvl, const char* jobvr, const int32_t* n, quorin_complex* a,
@@ -3506,7 +3507,7 @@ QUORIN_API void QUORIN_CDECL cggev_Idx(const char* jobvl, const char* jobvr, con
      rcondv: out, [n]: estimated reciprocal condition numbers of the eigenvectors (sense V, B); 0 if the eigenvalues
          could not be reordered
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      iwork: out, [n+6]: workspace; not touched if sense is E
      bwork: out, [n]: workspace; not touched if sense is N
      info: out: status */
@@ -3558,7 +3559,7 @@ QUORIN_API void QUORIN_CDECL sggevx_Idx(const char* balanc, const char* jobvl, c
      rcondv: out, [n]: estimated reciprocal condition numbers of the eigenvectors (sense V, B); 0 if the eigenvalues
          could not be reordered
      work: out, [lwork]: workspace
-     lwork: length of work; -1 asks for the best one, which successful calls leave in the first element of work
+     lwork: length of work; -1 asks for the best one
      rwork: out: workspace
      iwork: out, [n+2]: workspace; not touched if sense is E
      bwork: out, [n]: workspace; not touched if sense is N
