@@ -1,9 +1,9 @@
 // Equiripple (Parks-McClellan) design of linear-phase filters.
 #pragma once
 
-namespace quorin::signal {
+#include "generated/signal_constants.hpp"
 
-enum class Outcome : int { kConverged = 0, kBadInput = 1, kNotConverged = 2, kNoMemory = 3 };
+namespace quorin::signal {
 
 enum class ResponseType : int { kMultiband = 1, kDifferentiator = 2, kHilbert = 3 };
 

@@ -18,6 +18,16 @@
 extern "C" {
 #endif
 
+/* How a design ended. */
+enum quorin_signal_outcome {
+  QUORIN_SIGNAL_CONVERGED = 0, /* converged, to the best possible filter within a part in 1e9 of its error or within
+      what rounding costs */
+  QUORIN_SIGNAL_BAD_INPUT = 1, /* bad input; nothing is written */
+  QUORIN_SIGNAL_NOT_CONVERGED = 2, /* not converged within MAXITER exchanges, or the best filter is too large between
+      the bands for double precision; H is the best filter met */
+  QUORIN_SIGNAL_NO_MEMORY = 3 /* no memory; nothing is written */
+};
+
 /* ---- Equiripple filter design ---- */
 
 /* The linear-phase filter whose largest weighted error over some bands is least (Parks and McClellan).
