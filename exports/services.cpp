@@ -7,10 +7,17 @@
 #include "base/thread_settings.hpp"
 #include "dense/dense.hpp"
 #include "exports/entry.hpp"
+#include "generated/services_constants.hpp"
 #include "platform/platform.hpp"
 
 namespace quorin::services {
 namespace {
+
+static_assert(static_cast<int>(base::Domain::kAll) == kDomainAll &&
+              static_cast<int>(base::Domain::kBlas) == kDomainBlas &&
+              static_cast<int>(base::Domain::kFft) == kDomainFft &&
+              static_cast<int>(base::Domain::kVectorMath) == kDomainVectorMath &&
+              static_cast<int>(base::Domain::kSparseDirect) == kDomainSparseDirect);
 
 bool is_domain(int domain) { return domain >= 0 && domain < base::kDomainCount; }
 

@@ -33,7 +33,7 @@ def meaning(family: Family, routine: Routine, argument: model.Argument) -> str:
     for option in note.options if note else []:
         lines.append(f"`{option.value}`" + (f" `{option.name}`" if option.name else "") + f": {option.text}")
     if argument.is_kept:
-        lines.append("**Kept**: later calls use the address, so it must stay valid until the object is freed.")
+        lines.append("**Kept**: later calls use the address; it must stay valid until the object is deleted or another takes its place.")
     return cell("<br>".join([text] * bool(text) + lines))
 
 

@@ -4,10 +4,11 @@
 #include <cstddef>
 
 #include "base/handle_table.hpp"
+#include "generated/jacobi_constants.hpp"
 
 namespace quorin::jacobi {
 
-enum Request { kDone = 0, kForward = 1, kBackward = 2 };
+using enum Request;
 
 /// J(:,j) = (F(x + h e_j) - F(x - h e_j)) / 2 h for j = 1...n, h = eps. The entry of x becomes a float on either side;
 /// what is divided by is the distance of the two, so that their rounding leaves no trace. If both round to the same

@@ -10,7 +10,7 @@
 namespace quorin::jacobi {
 namespace {
 
-enum Status { kSuccess = 1501, kInvalidOption = 1502, kOutOfMemory = 1503 };
+using enum Status;
 
 constinit base::HandleTable<CentralDifferences> computations;
 
@@ -21,11 +21,11 @@ bool are_valid(const int* n, const int* m, const float* x, const float* fjac, co
 
 // `evaluate(m, n, x, f)` is the host's function.
 template <class Evaluate>
-int differentiate_by(const Evaluate& evaluate, const int* n, const int* m, float* fjac, float* x, const float* eps) {
-  if (!are_valid(n, m, x, fjac, eps)) return kInvalidOption;
+Status differentiate_by(const Evaluate& evaluate, const int* n, const int* m, float* fjac, float* x, const float* eps) {
+  if (!are_valid(n, m, x, fjac, eps)) return kInvalid;
   const auto columns = static_cast<std::size_t>(*n), rows = static_cast<std::size_t>(*m);
   base::Workspace<float> values(base::saturating_product(2, rows));
-  if (!values) return kOutOfMemory;
+  if (!values) return kNoMemory;
   float* const forward = values.data();
   float* const backward = forward + rows;
   CentralDifferences differences(columns, rows, x, fjac, *eps);
@@ -40,39 +40,39 @@ int differentiate_by(const Evaluate& evaluate, const int* n, const int* m, float
 }  // namespace
 
 int init(void** handle, const int* n, const int* m, float* x, float* fjac, const float* eps) {
-  if (handle == nullptr) return kInvalidOption;
+  if (handle == nullptr) return static_cast<int>(kInvalid);
   *handle = nullptr;
-  if (!are_valid(n, m, x, fjac, eps)) return kInvalidOption;
+  if (!are_valid(n, m, x, fjac, eps)) return static_cast<int>(kInvalid);
   *handle = computations.create(static_cast<std::size_t>(*n), static_cast<std::size_t>(*m), x, fjac, *eps);
-  return *handle == nullptr ? kOutOfMemory : kSuccess;
+  return static_cast<int>(*handle == nullptr ? kNoMemory : kSuccess);
 }
 
 int solve(void** handle, const float* f1, const float* f2, int* request) {
-  if (handle == nullptr || f1 == nullptr || f2 == nullptr || request == nullptr) return kInvalidOption;
+  if (handle == nullptr || f1 == nullptr || f2 == nullptr || request == nullptr) return static_cast<int>(kInvalid);
   CentralDifferences* const differences = computations.find(*handle);
-  if (differences == nullptr) return kInvalidOption;
-  *request = differences->advance(f1, f2);
-  return kSuccess;
+  if (differences == nullptr) return static_cast<int>(kInvalid);
+  *request = static_cast<int>(differences->advance(f1, f2));
+  return static_cast<int>(kSuccess);
 }
 
 int destroy(void** handle) {
-  if (handle == nullptr || !computations.erase(*handle)) return kInvalidOption;
+  if (handle == nullptr || !computations.erase(*handle)) return static_cast<int>(kInvalid);
   *handle = nullptr;
-  return kSuccess;
+  return static_cast<int>(kSuccess);
 }
 
 int differentiate(Function fcn, const int* n, const int* m, float* fjac, float* x, const float* eps) {
-  if (fcn == nullptr) return kInvalidOption;
-  return differentiate_by(fcn, n, m, fjac, x, eps);
+  if (fcn == nullptr) return static_cast<int>(kInvalid);
+  return static_cast<int>(differentiate_by(fcn, n, m, fjac, x, eps));
 }
 
 int differentiate_with_data(FunctionWithData fcn, const int* n, const int* m, float* fjac, float* x, const float* eps,
                             void* user_data) {
-  if (fcn == nullptr) return kInvalidOption;
+  if (fcn == nullptr) return static_cast<int>(kInvalid);
   const auto evaluate = [&](int* rows, int* columns, float* point, float* f) {
     fcn(rows, columns, point, f, user_data);
   };
-  return differentiate_by(evaluate, n, m, fjac, x, eps);
+  return static_cast<int>(differentiate_by(evaluate, n, m, fjac, x, eps));
 }
 
 }  // namespace quorin::jacobi

@@ -65,18 +65,18 @@ Solver::operator bool() const {
 
 bool Solver::advance(float* residual, const float* jacobian, int* request) {
   const bool has_ended = stage_ == kStopped;
-  request_ = leave(residual, jacobian);
+  request_ = resume(residual, jacobian);
   // What the host finds at the end belongs together.
   if (stage_ == kStopped && !has_ended && !failed_) {
     std::copy_n(x_.data(), setup_.n, setup_.x);
     std::copy_n(residual_.data(), setup_.m, residual);
   }
-  *request = request_;
+  *request = static_cast<int>(request_);
   return !failed_;
 }
 
 // Goes on from where the run stands.
-int Solver::leave(const float* residual, const float* jacobian) {
+Request Solver::resume(const float* residual, const float* jacobian) {
   switch (stage_) {
     case kStart:
       return start();
@@ -93,20 +93,20 @@ int Solver::leave(const float* residual, const float* jacobian) {
   }
 }
 
-int Solver::start() {
+Request Solver::start() {
   for (std::size_t j = 0; j < setup_.n; ++j) x_[j] = box_.project(j, setup_.x[j]);
   std::copy_n(x_.data(), setup_.n, setup_.x);
   return ask(kResidual, kFirstResidual);
 }
 
-int Solver::take_first_residual(const float* residual) {
+Request Solver::take_first_residual(const float* residual) {
   first_norm_ = norm_ = norm_of(setup_.m, residual);
   if (!std::isfinite(norm_)) return fail();
   std::copy_n(residual, setup_.m, residual_.data());
   return ask(kJacobian, kFirstJacobian);
 }
 
-int Solver::take_first_jacobian(const float* jacobian) {
+Request Solver::take_first_jacobian(const float* jacobian) {
   if (!model_.take(setup_.m, jacobian, residual_.data())) return fail();
   update_scale();
   double length = scaled_length();
@@ -123,7 +123,7 @@ int Solver::take_first_jacobian(const float* jacobian) {
   return go_on_from_new_point();
 }
 
-int Solver::take_trial_residual(const float* residual) {
+Request Solver::take_trial_residual(const float* residual) {
   trial_norm_ = norm_of(setup_.m, residual);
   if (!std::isfinite(trial_norm_)) return reject_not_finite();
   std::copy_n(residual, setup_.m, trial_residual_.data());
@@ -140,7 +140,7 @@ int Solver::take_trial_residual(const float* residual) {
   return ask(kJacobian, kTrialJacobian);
 }
 
-int Solver::take_trial_jacobian(const float* jacobian) {
+Request Solver::take_trial_jacobian(const float* jacobian) {
   if (!trial_model_.take(setup_.m, jacobian, trial_residual_.data())) return reject_not_finite();
   model_.swap(trial_model_);
   x_.swap(trial_x_);
@@ -157,29 +157,29 @@ bool Solver::is_within_noise(double actual) const {
 }
 
 // F or its Jacobian is not finite at the point tried.
-int Solver::reject_not_finite() {
+Request Solver::reject_not_finite() {
   radius_ = kStrongestShrink * std::min(radius_, step_length_);
   return reject();
 }
 
-int Solver::reject() {
+Request Solver::reject() {
   failed_enlargements_ += is_enlarged_ ? 1 : 0;
   return go_on();
 }
 
-int Solver::go_on_from_new_point() {
+Request Solver::go_on_from_new_point() {
   if (norm_ < double{setup_.tolerances.residual}) return stop(kResidualSmall);
   if (is_singular()) return stop(kJacobianSingular);
   return go_on();
 }
 
-int Solver::go_on() {
+Request Solver::go_on() {
   if (longest_axis() < double{setup_.tolerances.radius}) return stop(kRadiusSmall);
   if (iterations_ >= setup_.iteration_limit) return stop(kIterationLimit);
   return propose();
 }
 
-int Solver::propose() {
+Request Solver::propose() {
   is_enlarged_ = false;
   const double* s = find_step();
   // Floats are too coarse for a short step along a narrow valley; a longer one may still lead down.
@@ -249,17 +249,17 @@ bool Solver::is_singular() const {
 // The largest ||s|| that the ellipsoid admits.
 double Solver::longest_axis() const { return radius_ / *std::min_element(scale_.data(), scale_.data() + setup_.n); }
 
-int Solver::ask(Request request, Stage stage) {
+Request Solver::ask(Request request, Stage stage) {
   stage_ = stage;
   return request;
 }
 
-int Solver::stop(Request request) {
+Request Solver::stop(Request request) {
   stage_ = kStopped;
   return request;
 }
 
-int Solver::fail() {
+Request Solver::fail() {
   failed_ = true;
   return stop(kIterationLimit);
 }

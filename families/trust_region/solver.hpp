@@ -7,22 +7,13 @@
 #include "base/workspace.hpp"
 #include "families/trust_region/box_step.hpp"
 #include "families/trust_region/linear_model.hpp"
+#include "generated/trust_region_constants.hpp"
 
 namespace quorin::trust_region {
 
-/// What the host is asked for, and why a run ended.
-enum Request {
-  kResidual = 1,
-  kJacobian = 2,
-  kIterationLimit = -1,
-  kRadiusSmall = -2,
-  kResidualSmall = -3,
-  kJacobianSingular = -4,
-  kStepSmall = -5,
-  kDecreaseSmall = -6,
-};
+using enum Request;
 
-/// When to stop; position k is the host's eps(k+1).
+/// When to stop: the host's eps.
 struct Tolerances {
   float radius, residual, column, step, decrease, step_precision;
 };
@@ -51,24 +42,24 @@ class Solver : public base::HandleNode {
 
   int iterations() const { return iterations_; }
   /// 0 during a run, then 1...6 for the requests -1...-6.
-  int stop_criterion() const { return stage_ == kStopped ? -request_ : 0; }
+  int stop_criterion() const { return stage_ == kStopped ? -static_cast<int>(request_) : 0; }
   float first_norm() const { return static_cast<float>(first_norm_); }
   float best_norm() const { return static_cast<float>(norm_); }
 
  private:
   enum Stage { kStart, kFirstResidual, kFirstJacobian, kTrialResidual, kTrialJacobian, kStopped };
 
-  int leave(const float* residual, const float* jacobian);
-  int start();
-  int take_first_residual(const float* residual);
-  int take_first_jacobian(const float* jacobian);
-  int take_trial_residual(const float* residual);
-  int take_trial_jacobian(const float* jacobian);
-  int reject();
-  int reject_not_finite();
-  int go_on_from_new_point();
-  int go_on();
-  int propose();
+  Request resume(const float* residual, const float* jacobian);
+  Request start();
+  Request take_first_residual(const float* residual);
+  Request take_first_jacobian(const float* jacobian);
+  Request take_trial_residual(const float* residual);
+  Request take_trial_jacobian(const float* jacobian);
+  Request reject();
+  Request reject_not_finite();
+  Request go_on_from_new_point();
+  Request go_on();
+  Request propose();
   const double* find_step();
   bool is_within_noise(double actual) const;
   void update_scale();
@@ -77,9 +68,9 @@ class Solver : public base::HandleNode {
   bool is_singular() const;
   double longest_axis() const;
 
-  int ask(Request request, Stage stage);
-  int stop(Request request);
-  int fail();
+  Request ask(Request request, Stage stage);
+  Request stop(Request request);
+  Request fail();
 
   Setup setup_;
   Box box_;
@@ -89,8 +80,8 @@ class Solver : public base::HandleNode {
   BoxStep step_;
 
   Stage stage_ = kStart;
-  int request_ = 0, iterations_ = 0;
-  int failed_enlargements_ = 0, polishing_steps_ = 0;
+  Request request_{};
+  int iterations_ = 0, failed_enlargements_ = 0, polishing_steps_ = 0;
   bool is_enlarged_ = false, failed_ = false;
   double radius_ = 0.0, first_norm_ = 0.0, norm_ = 0.0;
   // Of the step under way; slope and decrease relative to ||F||^2.

@@ -10,7 +10,7 @@
 namespace quorin::trust_region {
 namespace {
 
-enum Status { kSuccess = 1501, kInvalidOption = 1502, kOutOfMemory = 1503 };
+using enum Status;
 
 using Table = base::HandleTable<Solver>;
 constinit Table unbounded_runs;
@@ -23,9 +23,15 @@ bool has_null(const Pointers*... pointers) {
   return ((pointers == nullptr) || ...);
 }
 
-// In the order of the host's eps; the fifth without its sign where that has a meaning for other implementations only.
+// The sign of the fifth has a meaning for other implementations only.
 Tolerances read_tolerances(const float* eps, bool is_bounded) {
-  return {eps[0], eps[1], eps[2], eps[3], is_bounded ? std::fabs(eps[4]) : eps[4], eps[5]};
+  const auto at = [eps](int position) { return eps[position - 1]; };
+  return {.radius = at(kEpsRadius),
+          .residual = at(kEpsResidual),
+          .column = at(kEpsColumn),
+          .step = at(kEpsStep),
+          .decrease = is_bounded ? std::fabs(at(kEpsDecrease)) : at(kEpsDecrease),
+          .step_precision = at(kEpsStepPrecision)};
 }
 
 bool is_valid(const Tolerances& t) {
@@ -47,11 +53,11 @@ struct Counts {
   bool are_valid() const { return !has_null(n, m, iter1, iter2) && *n >= 1 && *m >= *n && *iter1 >= 1 && *iter2 >= 1; }
 };
 
-int make(Table& table, void** handle, const Counts& counts, float* x, const float* lower, const float* upper,
-         const float* eps, const float* rs) {
-  if (handle == nullptr) return kInvalidOption;
+Status make(Table& table, void** handle, const Counts& counts, float* x, const float* lower, const float* upper,
+            const float* eps, const float* rs) {
+  if (handle == nullptr) return kInvalid;
   *handle = nullptr;
-  if (!counts.are_valid() || has_null(x, eps, rs) || !(*rs >= 0.0F)) return kInvalidOption;
+  if (!counts.are_valid() || has_null(x, eps, rs) || !(*rs >= 0.0F)) return kInvalid;
   const bool is_bounded = lower != nullptr;
   const Setup setup{
       .n = static_cast<std::size_t>(*counts.n),
@@ -64,22 +70,22 @@ int make(Table& table, void** handle, const Counts& counts, float* x, const floa
       .lower = lower,
       .upper = upper,
   };
-  if (!is_valid(setup.tolerances) || !are_finite(setup.n, x)) return kInvalidOption;
-  if (is_bounded && !are_bounds(setup.n, lower, upper)) return kInvalidOption;
+  if (!is_valid(setup.tolerances) || !are_finite(setup.n, x)) return kInvalid;
+  if (is_bounded && !are_bounds(setup.n, lower, upper)) return kInvalid;
   *handle = table.create(setup);
-  return *handle == nullptr ? kOutOfMemory : kSuccess;
+  return *handle == nullptr ? kNoMemory : kSuccess;
 }
 
-int advance(Table& table, void** handle, float* fvec, const float* fjac, int* request) {
-  if (has_null(handle, fvec, fjac, request)) return kInvalidOption;
+Status advance(Table& table, void** handle, float* fvec, const float* fjac, int* request) {
+  if (has_null(handle, fvec, fjac, request)) return kInvalid;
   Solver* const solver = table.find(*handle);
-  return solver != nullptr && solver->advance(fvec, fjac, request) ? kSuccess : kInvalidOption;
+  return solver != nullptr && solver->advance(fvec, fjac, request) ? kSuccess : kInvalid;
 }
 
-int report(Table& table, void** handle, int* iter, int* st_cr, float* r1, float* r2) {
-  if (has_null(handle, iter, st_cr, r1, r2)) return kInvalidOption;
+Status report(Table& table, void** handle, int* iter, int* st_cr, float* r1, float* r2) {
+  if (has_null(handle, iter, st_cr, r1, r2)) return kInvalid;
   const Solver* const solver = table.find(*handle);
-  if (solver == nullptr) return kInvalidOption;
+  if (solver == nullptr) return kInvalid;
   *iter = solver->iterations();
   *st_cr = solver->stop_criterion();
   *r1 = solver->first_norm();
@@ -87,8 +93,8 @@ int report(Table& table, void** handle, int* iter, int* st_cr, float* r1, float*
   return kSuccess;
 }
 
-int erase(Table& table, void** handle) {
-  if (handle == nullptr || !table.erase(*handle)) return kInvalidOption;
+Status erase(Table& table, void** handle) {
+  if (handle == nullptr || !table.erase(*handle)) return kInvalid;
   *handle = nullptr;
   return kSuccess;
 }
@@ -97,36 +103,36 @@ int erase(Table& table, void** handle) {
 
 int init(void** handle, const int* n, const int* m, float* x, const float* eps, const int* iter1, const int* iter2,
          const float* rs) {
-  return make(unbounded_runs, handle, {n, m, iter1, iter2}, x, nullptr, nullptr, eps, rs);
+  return static_cast<int>(make(unbounded_runs, handle, {n, m, iter1, iter2}, x, nullptr, nullptr, eps, rs));
 }
 
 int init_bounded(void** handle, const int* n, const int* m, float* x, const float* lower, const float* upper,
                  const float* eps, const int* iter1, const int* iter2, const float* rs) {
   if (has_null(lower, upper)) {
     if (handle != nullptr) *handle = nullptr;
-    return kInvalidOption;
+    return static_cast<int>(kInvalid);
   }
-  return make(bounded_runs, handle, {n, m, iter1, iter2}, x, lower, upper, eps, rs);
+  return static_cast<int>(make(bounded_runs, handle, {n, m, iter1, iter2}, x, lower, upper, eps, rs));
 }
 
 int solve(void** handle, float* fvec, const float* fjac, int* request) {
-  return advance(unbounded_runs, handle, fvec, fjac, request);
+  return static_cast<int>(advance(unbounded_runs, handle, fvec, fjac, request));
 }
 
 int solve_bounded(void** handle, float* fvec, const float* fjac, int* request) {
-  return advance(bounded_runs, handle, fvec, fjac, request);
+  return static_cast<int>(advance(bounded_runs, handle, fvec, fjac, request));
 }
 
 int get(void** handle, int* iter, int* st_cr, float* r1, float* r2) {
-  return report(unbounded_runs, handle, iter, st_cr, r1, r2);
+  return static_cast<int>(report(unbounded_runs, handle, iter, st_cr, r1, r2));
 }
 
 int get_bounded(void** handle, int* iter, int* st_cr, float* r1, float* r2) {
-  return report(bounded_runs, handle, iter, st_cr, r1, r2);
+  return static_cast<int>(report(bounded_runs, handle, iter, st_cr, r1, r2));
 }
 
-int destroy(void** handle) { return erase(unbounded_runs, handle); }
+int destroy(void** handle) { return static_cast<int>(erase(unbounded_runs, handle)); }
 
-int destroy_bounded(void** handle) { return erase(bounded_runs, handle); }
+int destroy_bounded(void** handle) { return static_cast<int>(erase(bounded_runs, handle)); }
 
 }  // namespace quorin::trust_region

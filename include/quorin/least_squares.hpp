@@ -63,12 +63,14 @@ struct Bounds {
 
 namespace detail {
 
-inline constexpr int kSuccess = 1501, kOutOfMemory = 1503;
-enum Request { kResidual = 1, kJacobian = 2 };
+static_assert(+QUORIN_JACOBI_NO_MEMORY == +QUORIN_TRUST_REGION_NO_MEMORY &&
+              +QUORIN_JACOBI_SUCCESS == +QUORIN_TRUST_REGION_SUCCESS);
 
+/// Of either family.
 inline void require(int status) {
-  if (status == kOutOfMemory) throw std::bad_alloc();
-  if (status != kSuccess) throw std::invalid_argument("quorin::least_squares: an argument is out of its range");
+  if (status == QUORIN_TRUST_REGION_NO_MEMORY) throw std::bad_alloc();
+  if (status != QUORIN_TRUST_REGION_SUCCESS)
+    throw std::invalid_argument("quorin::least_squares: an argument is out of its range");
 }
 
 /// One run or differentiation, from init to delete.
@@ -120,8 +122,8 @@ class Differences {
       for (;;) {
         int32_t request = 0;
         detail::require(sjacobi_solve(handle.address(), forward.data(), backward.data(), &request));
-        if (request == 0) return;
-        residual(std::span<const float>(x), std::span<float>(request == 1 ? forward : backward));
+        if (request == QUORIN_JACOBI_DONE) return;
+        residual(std::span<const float>(x), std::span<float>(request == QUORIN_JACOBI_FORWARD ? forward : backward));
       }
     } catch (...) {
       x[j] = saved;
@@ -160,10 +162,10 @@ Result minimize(std::size_t m, std::span<float> x, Residual&& residual, Jacobian
   auto* const get = is_bounded ? strnlspbc_get : strnlsp_get;
   Result result;
   for (int32_t request = 0; request >= 0;) {
-    const bool is_sound = solve(run, f.data(), columns.data(), &request) == detail::kSuccess;
-    if (request == detail::kResidual) {
+    const bool is_sound = solve(run, f.data(), columns.data(), &request) == QUORIN_TRUST_REGION_SUCCESS;
+    if (request == QUORIN_TRUST_REGION_RESIDUAL) {
       residual(std::span<const float>(x), std::span<float>(f));
-    } else if (request == detail::kJacobian) {
+    } else if (request == QUORIN_TRUST_REGION_JACOBIAN) {
       jacobian(std::span<const float>(x), std::span<float>(columns));
     } else if (request < 0 && is_sound) {
       result.stop = static_cast<Stop>(-request);
