@@ -2106,7 +2106,7 @@ QUORIN_API void QUORIN_CDECL ssbevd_Idx(const char* jobz, const char* uplo, cons
      ldab: leading dimension of ab, at least kd+1
      q: out, [ldq x n]: if jobz is V: the orthogonal or unitary matrix of the reduction to tridiagonal form; not touched
          if jobz is N
-     ldq: leading dimension of q, at least 1, and max(1,n) if jobz is V
+     ldq: leading dimension of q, at least max(1,n) if jobz is V
      vl: lower end of the interval; read only if range is V, then less than vu
      vu: upper end of the interval; read only if range is V
      il: first wanted eigenvalue, 1 <= il <= iu (1 if n = 0); read only if range is I
@@ -2200,7 +2200,7 @@ QUORIN_API void QUORIN_CDECL chbevd_Idx(const char* jobz, const char* uplo, cons
      ldab: leading dimension of ab, at least kd+1
      q: out, [ldq x n]: if jobz is V: the orthogonal or unitary matrix of the reduction to tridiagonal form; not touched
          if jobz is N
-     ldq: leading dimension of q, at least 1, and max(1,n) if jobz is V
+     ldq: leading dimension of q, at least max(1,n) if jobz is V
      vl: lower end of the interval; read only if range is V, then less than vu
      vu: upper end of the interval; read only if range is V
      il: first wanted eigenvalue, 1 <= il <= iu (1 if n = 0); read only if range is I
