@@ -11,13 +11,14 @@ function(quorin_add_test_program name)
   endif()
 endfunction()
 
-# quorin_add_test(NAME SOURCES ... [ENGINE | HOST] [LINKS ...] [ARGS ...] [TIMEOUT seconds])
+# quorin_add_test(NAME SOURCES ... [ENGINE | HOST] [LINKS ...] [ARGS ...] [TIMEOUT seconds] [SERIAL])
 #
 # A GoogleTest program, run under Wine on win32. It calls the library through its exports, as a host does; with ENGINE it
-# links the modules themselves instead; with HOST nothing, because it loads the product itself (see
-# tests/support/host_module.hpp).
+# links the modules themselves instead; with HOST nothing, because it loads the product itself, and perhaps an allocator
+# that can be told to fail (see tests/support/host_module.hpp). A SERIAL test runs while no other does: it waits for
+# threads to come and go, or takes the whole machine.
 function(quorin_add_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "ENGINE;HOST" "TIMEOUT" "SOURCES;LINKS;ARGS")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "ENGINE;HOST;SERIAL" "TIMEOUT" "SOURCES;LINKS;ARGS")
   set(engine "")
   if(arg_ENGINE)
     set(engine ENGINE)
@@ -27,7 +28,7 @@ function(quorin_add_test name)
   if(arg_ENGINE)
     target_link_libraries(${name} PRIVATE quorin_engine)
   elseif(arg_HOST)
-    add_dependencies(${name} quorin_lapacks)
+    add_dependencies(${name} quorin_lapacks imalloc_complete)
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/include)
   else()
     target_link_libraries(${name} PRIVATE quorin_lapacks)
@@ -36,5 +37,5 @@ function(quorin_add_test name)
   if(NOT arg_TIMEOUT)
     set(arg_TIMEOUT 300)
   endif()
-  set_tests_properties(${name} PROPERTIES TIMEOUT ${arg_TIMEOUT})
+  set_tests_properties(${name} PROPERTIES TIMEOUT ${arg_TIMEOUT} RUN_SERIAL ${arg_SERIAL})
 endfunction()

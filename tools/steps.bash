@@ -30,17 +30,13 @@ quiet_step() {
   say "   done in $((SECONDS - started)) s"
 }
 
-# Installs what is missing and builds the dependencies of the given targets.
+# prepare NEEDS TARGET...: installs what is missing and builds the dependencies of the given targets: those of the
+# product, or of "product tests".
 prepare() {
+  local needs=$1 target
+  shift
   step "Packages of this machine" tools/setup
-  local target
-  for target in "$@"; do step "Dependencies for $target" third_party/build "$target"; done
-}
-
-# The build of one preset.
-build() {
-  quiet_step "Configure $1" cmake --preset "$1"
-  step "Build $1" cmake --build --preset "$1" -- --quiet
+  for target in "$@"; do step "Dependencies for $target" third_party/build "$target" $needs; done
 }
 
 # Wine takes seconds to start, unless its server and its services stay. They get no descriptor of ours, or whoever reads our
