@@ -12,7 +12,7 @@ import argparse
 import sys
 from pathlib import Path
 
-from generator import constants, headers, linking, manual, released, tables, thunks
+from generator import constants, headers, linking, loader, manual, released, tables, thunks
 from generator.model import Family
 
 ROOT = Path(__file__).resolve().parent.parent
@@ -27,6 +27,7 @@ def committed_files(families: list[Family]) -> dict[str, str]:
     files = {
         "exports/names.txt": linking.name_list(families),
         "include/quorin/quorin.h": headers.umbrella(families),
+        "include/quorin/loader.h": loader.header(families),
         "docs/manual/README.md": manual.contents(families, head),
     }
     for family in families:

@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "examples/host/library.hpp"
-#include "quorin/signal.h"
 
 namespace {
 
@@ -51,13 +50,12 @@ struct Plot {
 }  // namespace
 
 int main() {
-  const demo::Library library;
+  const demo::Library library = demo::load_library();
   const int32_t taps = 101, band_count = 2, multiband = 1, by_default = 0;
   const double bands[] = {0, 0.1, 0.12, 0.5}, desired[] = {1, 0}, weight[] = {1, 10};
   std::vector<double> h(101);
   int32_t ierr = -1;
-  library.resolve<decltype(REMEZ)>("REMEZ")(h.data(), &taps, &band_count, bands, desired, weight, &multiband,
-                                            &by_default, &by_default, &ierr);
+  library.REMEZ(h.data(), &taps, &band_count, bands, desired, weight, &multiband, &by_default, &by_default, &ierr);
   if (ierr != 0) return 1;
 
   std::vector<double> decibels, pass_band;

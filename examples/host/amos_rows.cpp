@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "examples/host/report.hpp"
-#include "quorin/amos.h"
 
 namespace demo {
 namespace {
@@ -22,7 +21,6 @@ double zero_near(double x, const Step& step) {
 
 // Abramowitz & Stegun, table 9.5: the first zeros of J0.
 double zeros_of_j0(const Library& library, Timer& timer) {
-  auto* const j = library.resolve<decltype(CBESJ)>("CBESJ");
   const double published[] = {2.404825557695773, 5.520078110286311, 8.653727912911013, 11.79153443901428,
                               14.93091770848779};
   double worst = 0;
@@ -33,7 +31,7 @@ double zeros_of_j0(const Library& library, Timer& timer) {
       const int32_t kode = 1, n = 2;
       quorin_double_complex values[2];
       int32_t nz = 0, ierr = 0;
-      timer.time([&] { j(&z, &order, &kode, &n, values, &nz, &ierr); });
+      timer.time([&] { library.CBESJ(&z, &order, &kode, &n, values, &nz, &ierr); });
       return -values[0].re / values[1].re;  // J0' = -J1
     });
     worst = std::fmax(worst, std::fabs(found / expected - 1));
@@ -43,7 +41,6 @@ double zeros_of_j0(const Library& library, Timer& timer) {
 
 // Abramowitz & Stegun, table 10.13, and DLMF table 9.9.1: the first zeros of Ai.
 double zeros_of_ai(const Library& library, Timer& timer) {
-  auto* const ai = library.resolve<decltype(CAIRY)>("CAIRY");
   const double published[] = {-2.338107410459767, -4.087949444130971, -5.520559828095551, -6.786708090071759,
                               -7.944133587120853};
   double worst = 0;
@@ -54,7 +51,7 @@ double zeros_of_ai(const Library& library, Timer& timer) {
       const int32_t kode = 1;
       int32_t nz = 0, ierr = 0;
       timer.time([&] {
-        for (const int32_t id : {0, 1}) ai(&z, &id, &kode, &values[id], &nz, &ierr);
+        for (const int32_t id : {0, 1}) library.CAIRY(&z, &id, &kode, &values[id], &nz, &ierr);
       });
       return values[0].re / values[1].re;
     });
@@ -66,8 +63,6 @@ double zeros_of_ai(const Library& library, Timer& timer) {
 // A wave from a line source, u = H1_0(k r), in a lossy medium (k complex), seen from another centre by Graf's addition
 // theorem: H1_0(k |x - s|) = sum_m J_m(k |x|) H1_m(k |s|) e^{i m angle}, for |x| < |s|.
 double hankel_field(const Library& library, int size, Timer& timer) {
-  auto* const hankel = library.resolve<decltype(CBESH)>("CBESH");
-  auto* const bessel = library.resolve<decltype(CBESJ)>("CBESJ");
   constexpr int32_t kTerms = 90;
   const Complex k{2.0, 0.05};
   const double source = 12.0, zero = 0;
@@ -76,7 +71,7 @@ double hankel_field(const Library& library, int size, Timer& timer) {
   std::vector<quorin_double_complex> h(kTerms), j(kTerms);
   const Complex ks = k * source;
   const quorin_double_complex at_source{ks.real(), ks.imag()};
-  timer.time([&] { hankel(&at_source, &zero, &kode, &kind, &kTerms, h.data(), &nz, &ierr); });
+  timer.time([&] { library.CBESH(&at_source, &zero, &kode, &kind, &kTerms, h.data(), &nz, &ierr); });
   double worst = 0;
   for (int a = 0; a < size; ++a) {
     for (int b = 0; b < size; ++b) {
@@ -87,8 +82,8 @@ double hankel_field(const Library& library, int size, Timer& timer) {
       const quorin_double_complex outer{direct_argument.real(), direct_argument.imag()};
       quorin_double_complex direct{};
       timer.time([&] {
-        bessel(&inner, &zero, &kode, &kTerms, j.data(), &nz, &ierr);
-        hankel(&outer, &zero, &kode, &kind, &one, &direct, &nz, &ierr);
+        library.CBESJ(&inner, &zero, &kode, &kTerms, j.data(), &nz, &ierr);
+        library.CBESH(&outer, &zero, &kode, &kind, &one, &direct, &nz, &ierr);
       });
       Complex sum = 0;
       for (std::size_t m = kTerms; m-- > 0;) {

@@ -5,8 +5,6 @@
 #include <vector>
 
 #include "examples/host/report.hpp"
-#include "quorin/blas.h"
-#include "quorin/services.h"
 
 namespace demo {
 namespace {
@@ -27,8 +25,6 @@ std::vector<float> matrix(int rows, int columns) {
 }
 
 double saxpy_error(const Library& library, Timer& timer) {
-  auto* const plain = library.resolve<decltype(saxpy)>("saxpy");
-  auto* const indexed = library.resolve<decltype(saxpy_Idx)>("saxpy_Idx");
   const int32_t n = 100000, one = 1;
   const float a = 0.5F;
   std::vector<float> x(n + 10), y(n + 20);
@@ -38,8 +34,8 @@ double saxpy_error(const Library& library, Timer& timer) {
   }
   // Once in each form: y + 2 a x, with a a power of two, is exact up to one rounding of each step.
   timer.time([&] {
-    plain(&n, &a, x.data() + 10, &one, y.data() + 20, &one);
-    indexed(&n, &a, x.data(), 10, &one, y.data(), 20, &one);
+    library.saxpy(&n, &a, x.data() + 10, &one, y.data() + 20, &one);
+    library.saxpy_Idx(&n, &a, x.data(), 10, &one, y.data(), 20, &one);
   });
   double worst = 0;
   for (int32_t i = 0; i < n; ++i) {
@@ -51,7 +47,6 @@ double saxpy_error(const Library& library, Timer& timer) {
 
 // C <- A B block by block inside larger host matrices, checked against a product with a vector: C v = A (B v).
 double blocked_product_error(const Library& library, int32_t n, int32_t block, Timer& timer) {
-  auto* const multiply = library.resolve<decltype(sgemm_Idx)>("sgemm_Idx");
   const int32_t ld = n + 3;
   const std::vector<float> a = matrix(ld, n), b = matrix(ld, n);
   std::vector<float> c(a.size(), 0.0F);
@@ -60,8 +55,8 @@ double blocked_product_error(const Library& library, int32_t n, int32_t block, T
     for (int32_t j = 0; j < n; j += block) {
       for (int32_t i = 0; i < n; i += block) {
         for (int32_t k = 0; k < n; k += block) {
-          multiply("N", "N", &block, &block, &block, &one, a.data(), i + k * ld, &ld, b.data(), k + j * ld, &ld, &one,
-                   c.data(), i + j * ld, &ld);
+          library.sgemm_Idx("N", "N", &block, &block, &block, &one, a.data(), i + k * ld, &ld, b.data(), k + j * ld,
+                            &ld, &one, c.data(), i + j * ld, &ld);
         }
       }
     }
@@ -92,7 +87,6 @@ double blocked_product_error(const Library& library, int32_t n, int32_t block, T
 }
 
 double cdotc_error(const Library& library, Timer& timer) {
-  auto* const dot = library.resolve<decltype(cdotc_Idx)>("cdotc_Idx");
   const int32_t n = 1000, one = 1, minus_two = -2;
   std::vector<quorin_complex> x(n + 5), y(2 * n + 5);
   double re = 0, im = 0;
@@ -104,19 +98,19 @@ double cdotc_error(const Library& library, Timer& timer) {
     im += static_cast<double>(p.re) * static_cast<double>(q.im) - static_cast<double>(p.im) * static_cast<double>(q.re);
   }
   quorin_complex result{};
-  timer.time([&] { dot(&result, &n, x.data(), 5, &one, y.data(), 4, &minus_two); });
+  timer.time([&] { library.cdotc_Idx(&result, &n, x.data(), 5, &one, y.data(), 4, &minus_two); });
   return std::hypot(static_cast<double>(result.re) - re, static_cast<double>(result.im) - im) / n;
 }
 
 // A wrong leading dimension is reported, and C stays as it was.
 double wrong_argument_error(const Library& library, Timer& timer) {
-  auto* const multiply = library.resolve<decltype(sgemm)>("sgemm");
   const int32_t n = 4, too_small = 3;
   const float one = 1;
   const std::vector<float> a(16, 1.0F);
   std::vector<float> c(16, 7.0F);
   std::printf("(XERBLA says:)");
-  timer.time([&] { multiply("N", "N", &n, &n, &n, &one, a.data(), &too_small, a.data(), &n, &one, c.data(), &n); });
+  timer.time(
+      [&] { library.sgemm("N", "N", &n, &n, &n, &one, a.data(), &too_small, a.data(), &n, &one, c.data(), &n); });
   return c == std::vector<float>(16, 7.0F) ? 0 : 1;
 }
 
@@ -129,12 +123,11 @@ void blas_rows(const Library& library, Report& report) {
              [&](Timer& timer) { return saxpy_error(library, timer); });
   report.row("blocked product of sub-matrices with sgemm_Idx", "1024, blocks of 256", 64 * kUnitRoundoff,
              [&](Timer& timer) { return blocked_product_error(library, 1024, 256, timer); });
-  auto* const set_threads = library.resolve<decltype(sMKL_Set_Num_Threads)>("sMKL_Set_Num_Threads");
-  const int at_first = library.resolve<decltype(sMKL_Get_Max_Threads)>("sMKL_Get_Max_Threads")();
-  set_threads(1);
+  const int at_first = library.sMKL_Get_Max_Threads();
+  library.sMKL_Set_Num_Threads(1);
   report.row("the same on one thread", "1024, blocks of 256", 64 * kUnitRoundoff,
              [&](Timer& timer) { return blocked_product_error(library, 1024, 256, timer); });
-  set_threads(at_first);
+  library.sMKL_Set_Num_Threads(at_first);
   report.row("x^H y with cdotc_Idx, stride -2", "1000", 4 * kUnitRoundoff,
              [&](Timer& timer) { return cdotc_error(library, timer); });
   report.row("wrong argument of sgemm: reported, C untouched", "4", 0,

@@ -11,7 +11,6 @@
 #include <vector>
 
 #include "examples/host/report.hpp"
-#include "quorin/lapack.h"
 
 namespace demo {
 namespace {
@@ -65,7 +64,6 @@ Standardized standardized_economy() {
 
 // Relative error of the coefficients, with the work space that the library asks for.
 double fit_error(const Library& library, Timer& timer) {
-  auto* const solve = library.resolve<decltype(sgelsd_Idx)>("sgelsd_Idx");
   Standardized table = standardized_economy();
   const int32_t m = kYears, n = kColumns - 1, one = 1, query = -1;
   const float machine_precision = -1;
@@ -74,8 +72,8 @@ double fit_error(const Library& library, Timer& timer) {
   std::vector<int32_t> iwork(1);
   int32_t rank = 0, info = 0;
   const auto call = [&](int32_t lwork) {
-    solve(&m, &n, &one, table.values.data(), m, &m, table.values.data(), 0, &m, singular_values.data(), 0,
-          &machine_precision, &rank, work.data(), 0, &lwork, iwork.data(), 0, &info);
+    library.sgelsd_Idx(&m, &n, &one, table.values.data(), m, &m, table.values.data(), 0, &m, singular_values.data(), 0,
+                       &machine_precision, &rank, work.data(), 0, &lwork, iwork.data(), 0, &info);
   };
   call(query);
   if (info != 0) return std::numeric_limits<double>::infinity();
@@ -94,15 +92,14 @@ double fit_error(const Library& library, Timer& timer) {
 // |A - U S V^T| in the Frobenius norm, relative; and the best table of rank 2 must be as far from A as the theorem
 // says.
 double table_error(const Library& library, Timer& timer) {
-  auto* const decompose = library.resolve<decltype(sgesdd_Idx)>("sgesdd_Idx");
   const Standardized table = standardized_economy();
   std::vector<float> a = table.values, s(kColumns), u(kYears * kColumns), vt(kColumns * kColumns), work(1000);
   std::vector<int32_t> iwork(8 * kColumns);
   const int32_t m = kYears, n = kColumns, lwork = 1000;
   int32_t info = -1;
   timer.time([&] {
-    decompose("S", &m, &n, a.data(), 0, &m, s.data(), 0, u.data(), 0, &m, vt.data(), 0, &n, work.data(), 0, &lwork,
-              iwork.data(), 0, &info);
+    library.sgesdd_Idx("S", &m, &n, a.data(), 0, &m, s.data(), 0, u.data(), 0, &m, vt.data(), 0, &n, work.data(), 0,
+                       &lwork, iwork.data(), 0, &info);
   });
   if (info != 0) return std::numeric_limits<double>::infinity();
   // The distance of the sum of the first `rank` parts from the table.
@@ -157,7 +154,6 @@ std::vector<double> jacobi_eigenvalues(std::vector<double> a, std::size_t n) {
 
 // BCSSTK01: the stiffness matrix of a small structure, of order 48; its lower triangle as lines of row, column, value.
 double vibration_error(const Library& library, Timer& timer) {
-  auto* const solve = library.resolve<decltype(ssyevr_Idx)>("ssyevr_Idx");
   const int32_t n = 48, lwork = 48 * 40, liwork = 480, none = 0;
   const std::size_t order = 48;
   std::ifstream file(QUORIN_MATRICES_DIR "/cxsparse/bcsstk01");
@@ -177,8 +173,8 @@ double vibration_error(const Library& library, Timer& timer) {
   std::vector<int32_t> support(2 * order), iwork(static_cast<std::size_t>(liwork));
   int32_t found = 0, info = -1;
   timer.time([&] {
-    solve("N", "A", "L", &n, a.data(), 0, &n, &unused, &unused, &none, &none, &unused, &found, w.data(), 7, z.data(), 0,
-          &n, support.data(), 0, work.data(), 0, &lwork, iwork.data(), 0, &liwork, &info);
+    library.ssyevr_Idx("N", "A", "L", &n, a.data(), 0, &n, &unused, &unused, &none, &none, &unused, &found, w.data(), 7,
+                       z.data(), 0, &n, support.data(), 0, work.data(), 0, &lwork, iwork.data(), 0, &liwork, &info);
   });
   if (info != 0 || found != n || expected.back() <= 0) return std::numeric_limits<double>::infinity();
   double worst = 0;

@@ -10,9 +10,6 @@
 #include <vector>
 
 #include "examples/host/report.hpp"
-#include "quorin/jacobi.h"
-#include "quorin/pack.h"
-#include "quorin/trust_region.h"
 
 namespace demo {
 namespace {
@@ -69,28 +66,10 @@ void residual(int32_t* m, int32_t*, float* relative, float* f) {
   }
 }
 
-// The calls of one of the two solvers, which differ only in the bounds.
-struct Solver {
-  Solver(const Library& library, bool is_bounded)
-      : solve(library.resolve<decltype(strnlsp_solve_Idx)>(is_bounded ? "strnlspbc_solve_Idx" : "strnlsp_solve_Idx")),
-        destroy(
-            library.resolve<decltype(strnlsp_delete_Idx)>(is_bounded ? "strnlspbc_delete_Idx" : "strnlsp_delete_Idx")),
-        init(library.resolve<decltype(strnlsp_init_Idx)>("strnlsp_init_Idx")),
-        init_bounded(library.resolve<decltype(strnlspbc_init_Idx)>("strnlspbc_init_Idx")),
-        jacobi(library.resolve<decltype(sjacobi_Idx)>("sjacobi_Idx")) {}
-
-  decltype(&strnlsp_solve_Idx) solve;
-  decltype(&strnlsp_delete_Idx) destroy;
-  decltype(&strnlsp_init_Idx) init;
-  decltype(&strnlspbc_init_Idx) init_bounded;
-  decltype(&sjacobi_Idx) jacobi;
-};
-
 // The fitted parameters; empty if a call fails. With `upper`, the first one is bounded. Arrays lie behind each other in
 // one, as in hosts that have no pointers into arrays.
 Reals fit(const Library& library, const Regression& regression, Timer& timer, const double* upper = nullptr) {
   current = &regression;
-  const Solver solver(library, upper != nullptr);
   const auto n = static_cast<int32_t>(regression.start.size()), m = static_cast<int32_t>(regression.y.size());
   const int32_t f_at = n, jacobian_at = n + m, limit = 500, step_limit = 50;
   const float first_radius = 0, difference = 1.0F / 256;
@@ -102,21 +81,23 @@ Reals fit(const Library& library, const Regression& regression, Timer& timer, co
   float* const base = memory.data();
 
   void* handle = nullptr;
-  const int32_t status = upper == nullptr
-                             ? solver.init(&handle, &n, &m, base, 0, eps.data(), 0, &limit, &step_limit, &first_radius)
-                             : solver.init_bounded(&handle, &n, &m, base, 0, bounds.data(), 0, bounds.data(), n,
-                                                   eps.data(), 0, &limit, &step_limit, &first_radius);
+  const int32_t status =
+      upper == nullptr
+          ? library.strnlsp_init_Idx(&handle, &n, &m, base, 0, eps.data(), 0, &limit, &step_limit, &first_radius)
+          : library.strnlspbc_init_Idx(&handle, &n, &m, base, 0, bounds.data(), 0, bounds.data(), n, eps.data(), 0,
+                                       &limit, &step_limit, &first_radius);
   if (status != 1501) return {};
   for (int32_t request = 0; request >= 0;) {
-    timer.time([&] { solver.solve(&handle, base, f_at, base, jacobian_at, &request); });
+    const auto solve = upper == nullptr ? library.strnlsp_solve_Idx : library.strnlspbc_solve_Idx;
+    timer.time([&] { solve(&handle, base, f_at, base, jacobian_at, &request); });
     if (request == 1) {
       int32_t rows = m, columns = n;
       residual(&rows, &columns, base, base + f_at);
     } else if (request == 2) {
-      solver.jacobi(residual, &n, &m, base, jacobian_at, base, 0, &difference, 0);
+      library.sjacobi_Idx(residual, &n, &m, base, jacobian_at, base, 0, &difference, 0);
     }
   }
-  solver.destroy(&handle);
+  (upper == nullptr ? library.strnlsp_delete_Idx : library.strnlspbc_delete_Idx)(&handle);
   return regression.parameters(base);
 }
 
@@ -148,8 +129,6 @@ double slope_at_bound(const Library& library, const Regression& regression, Time
 
 // Takes every third element out by its mask and puts it back; the share of elements that are not as they were.
 double pack_and_unpack(const Library& library, Timer& timer) {
-  auto* const pack = library.resolve<decltype(vspackm)>("vspackm");
-  auto* const unpack = library.resolve<decltype(vsunpackm_Idx)>("vsunpackm_Idx");
   const int32_t n = 1000000;
   Floats a(static_cast<std::size_t>(n)), packed(a.size() / 3 + 1), back(a.size() + 1);
   std::vector<int32_t> mask(a.size());
@@ -158,8 +137,8 @@ double pack_and_unpack(const Library& library, Timer& timer) {
     mask[i] = i % 3 == 0 ? -1 : 0;
   }
   timer.time([&] {
-    pack(&n, a.data(), mask.data(), packed.data());
-    unpack(&n, packed.data(), 0, back.data(), 1, mask.data(), 0);
+    library.vspackm(&n, a.data(), mask.data(), packed.data());
+    library.vsunpackm_Idx(&n, packed.data(), 0, back.data(), 1, mask.data(), 0);
   });
   double wrong = 0;
   for (std::size_t i = 0; i < a.size(); ++i) wrong += back[i + 1] == (i % 3 == 0 ? a[i] : 0.0F) ? 0 : 1;

@@ -1,22 +1,13 @@
-// The library as a host sees it: a file that is loaded by name and asked for functions by name.
+// The library as a host sees it that loads it at run time: each export is a member of one struct.
 #pragma once
+
+#include "quorin/loader.h"
 
 namespace demo {
 
-class Library {
- public:
-  // Ends the program with a message if the library cannot be loaded.
-  Library();
+using Library = quorin_library;
 
-  // resolve<decltype(saxpy)>("saxpy"), with the declaration from the public headers. A missing export ends the program.
-  template <class Function>
-  Function* resolve(const char* name) const {
-    return reinterpret_cast<Function*>(find(name));
-  }
-
- private:
-  void* find(const char* name) const;
-  void* module_ = nullptr;
-};
+// Ends the program with a message if the library cannot be loaded or lacks an export.
+Library load_library();
 
 }  // namespace demo

@@ -5,7 +5,7 @@
 #include "examples/host/report.hpp"
 
 int main() {
-  const demo::Library library;
+  const demo::Library library = demo::load_library();
   demo::Report report;
   std::printf("%-52s %-22s %9s %9s %10s\n", "what", "size", "error", "bound", "time [ms]");
   demo::services_rows(library, report);

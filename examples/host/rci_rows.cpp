@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "examples/host/report.hpp"
-#include "quorin/rci.h"
 
 namespace demo {
 namespace {
@@ -125,22 +124,18 @@ struct Solution {
 };
 
 Solution conjugate_gradients(const Library& library, const Matrix& a, bool preconditioned, Timer& timer) {
-  auto* const init = library.resolve<decltype(DCG_INIT)>("DCG_INIT");
-  auto* const check = library.resolve<decltype(DCG_CHECK)>("DCG_CHECK");
-  auto* const solve = library.resolve<decltype(DCG)>("DCG");
-  auto* const get = library.resolve<decltype(DCG_GET)>("DCG_GET");
   const Vector exact = known_solution(a.n, 1), b = products(a, exact);
   Vector x(b.size()), tmp(4 * b.size());
   Parameters p;
   double *columns[4] = {}, *t = tmp.data();
   for (int k = 0; k < 4; ++k) columns[k] = t + static_cast<std::ptrdiff_t>(k) * a.n;
   int32_t request = -1;
-  init(&a.n, x.data(), b.data(), &request, p.ipar.data(), p.dpar.data(), t);
+  library.DCG_INIT(&a.n, x.data(), b.data(), &request, p.ipar.data(), p.dpar.data(), t);
   p.set(2000, preconditioned, 1e-20);
-  check(&a.n, x.data(), b.data(), &request, p.ipar.data(), p.dpar.data(), t);
+  library.DCG_CHECK(&a.n, x.data(), b.data(), &request, p.ipar.data(), p.dpar.data(), t);
   if (request != 0) return {};
   for (;;) {
-    timer.time([&] { solve(&a.n, x.data(), b.data(), &request, p.ipar.data(), p.dpar.data(), t); });
+    timer.time([&] { library.DCG(&a.n, x.data(), b.data(), &request, p.ipar.data(), p.dpar.data(), t); });
     if (request == 1) {
       a.multiply(columns[0], columns[1]);
     } else if (request == 3) {
@@ -151,25 +146,24 @@ Solution conjugate_gradients(const Library& library, const Matrix& a, bool preco
   }
   Solution result;
   if (request == 0) result.error = relative_error(x, exact);
-  get(&a.n, x.data(), b.data(), &request, p.ipar.data(), p.dpar.data(), t, &result.iterations);
+  library.DCG_GET(&a.n, x.data(), b.data(), &request, p.ipar.data(), p.dpar.data(), t, &result.iterations);
   return result;
 }
 
 double four_right_hand_sides(const Library& library, const Matrix& a, Timer& timer) {
-  auto* const init = library.resolve<decltype(DCGMRHS_INIT)>("DCGMRHS_INIT");
-  auto* const solve = library.resolve<decltype(sDCGMRHS_Idx)>("sDCGMRHS_Idx");
   const int32_t count = 4, method = 1;
   const Vector exact = known_solution(a.n, count), b = products(a, exact);
   Vector x(b.size()), tmp(static_cast<std::size_t>(3 + count) * static_cast<std::size_t>(a.n));
   Parameters p(2 * count);
   int32_t request = -1;
-  init(&a.n, x.data(), &count, b.data(), &method, &request, p.ipar.data(), p.dpar.data(), tmp.data());
+  library.DCGMRHS_INIT(&a.n, x.data(), &count, b.data(), &method, &request, p.ipar.data(), p.dpar.data(), tmp.data());
   if (request != 0) return kNever;
   p.set(2000, true, 1e-20);
   const auto column = [&](int32_t k) { return tmp.data() + static_cast<std::ptrdiff_t>(k) * a.n; };
   for (;;) {
     timer.time([&] {
-      solve(&a.n, x.data(), 0, &count, b.data(), 0, &request, p.ipar.data(), 0, p.dpar.data(), 0, tmp.data(), 0);
+      library.sDCGMRHS_Idx(&a.n, x.data(), 0, &count, b.data(), 0, &request, p.ipar.data(), 0, p.dpar.data(), 0,
+                           tmp.data(), 0);
     });
     if (request == 1) {
       a.multiply(column(0), column(1));
@@ -198,7 +192,6 @@ struct Factors : Matrix {
 };
 
 Factors ilut(const Library& library, const Matrix& a, const Parameters& p, Timer& timer) {
-  auto* const factor = library.resolve<decltype(DCSRILUT)>("DCSRILUT");
   const double tolerance = 1e-4;
   const int32_t fill = 10;
   Factors f;
@@ -209,23 +202,20 @@ Factors ilut(const Library& library, const Matrix& a, const Parameters& p, Timer
   f.values.resize(f.columns.size());
   int32_t error = -1;
   timer.time([&] {
-    factor(&a.n, a.values.data(), a.starts.data(), a.columns.data(), f.values.data(), f.starts.data(), f.columns.data(),
-           &tolerance, &fill, p.ipar.data(), p.dpar.data(), &error);
+    library.DCSRILUT(&a.n, a.values.data(), a.starts.data(), a.columns.data(), f.values.data(), f.starts.data(),
+                     f.columns.data(), &tolerance, &fill, p.ipar.data(), p.dpar.data(), &error);
   });
   if (error != 0) f.n = 0;
   return f;
 }
 
 Solution flexible_gmres(const Library& library, const Matrix& a, bool preconditioned, Timer& timer) {
-  auto* const init = library.resolve<decltype(DFGMRES_INIT)>("DFGMRES_INIT");
-  auto* const solve = library.resolve<decltype(DFGMRES)>("DFGMRES");
-  auto* const get = library.resolve<decltype(DFGMRES_GET)>("DFGMRES_GET");
   const int32_t m = 30;
   const Vector exact = known_solution(a.n, 1);
   Vector b = products(a, exact), x(b.size()), tmp(static_cast<std::size_t>((2 * m + 1) * a.n + m * (m + 9) / 2 + 1));
   Parameters p;
   int32_t request = -1;
-  init(&a.n, x.data(), b.data(), &request, p.ipar.data(), p.dpar.data(), tmp.data());
+  library.DFGMRES_INIT(&a.n, x.data(), b.data(), &request, p.ipar.data(), p.dpar.data(), tmp.data());
   p.set(5000, preconditioned, 1e-11);
   p.ipar.data()[kZeroNormTest] = 1;
   p.ipar.data()[kRestart] = m;
@@ -233,7 +223,7 @@ Solution flexible_gmres(const Library& library, const Matrix& a, bool preconditi
   const Factors factors = preconditioned ? ilut(library, a, p, timer) : Factors{};
   if (request != 0 || (preconditioned && factors.n == 0)) return {};
   for (;;) {
-    timer.time([&] { solve(&a.n, x.data(), b.data(), &request, p.ipar.data(), p.dpar.data(), tmp.data()); });
+    timer.time([&] { library.DFGMRES(&a.n, x.data(), b.data(), &request, p.ipar.data(), p.dpar.data(), tmp.data()); });
     const double* source = tmp.data() + p.ipar.data()[kSource] - 1;
     double* target = tmp.data() + p.ipar.data()[kTarget] - 1;
     if (request == 1) {
@@ -246,7 +236,7 @@ Solution flexible_gmres(const Library& library, const Matrix& a, bool preconditi
   }
   if (request != 0) return {};
   Solution result;
-  get(&a.n, x.data(), b.data(), &request, p.ipar.data(), p.dpar.data(), tmp.data(), &result.iterations);
+  library.DFGMRES_GET(&a.n, x.data(), b.data(), &request, p.ipar.data(), p.dpar.data(), tmp.data(), &result.iterations);
   result.error = relative_error(x, exact);
   return result;
 }

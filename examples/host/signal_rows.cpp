@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "examples/host/report.hpp"
-#include "quorin/signal.h"
 
 namespace demo {
 namespace {
@@ -19,12 +18,11 @@ struct LowPass {
   std::vector<double> h = std::vector<double>(101);
 
   int32_t design(const Library& library, Timer& timer) {
-    auto* const remez = library.resolve<decltype(sREMEZ_Idx)>("sREMEZ_Idx");
     const int32_t band_count = 2, multiband = 1, by_default = 0;
     int32_t ierr = -1;
     timer.time([&] {
-      remez(h.data(), 0, &taps, &band_count, bands.data(), 0, desired.data(), 0, weight.data(), 0, &multiband,
-            &by_default, &by_default, &ierr);
+      library.sREMEZ_Idx(h.data(), 0, &taps, &band_count, bands.data(), 0, desired.data(), 0, weight.data(), 0,
+                         &multiband, &by_default, &by_default, &ierr);
     });
     return ierr;
   }
@@ -68,13 +66,12 @@ double low_pass_error(const Library& library, Timer& timer) {
 // The alternation of a long filter takes long to check; what is checked is that it converged and that its taps sum to
 // 1, the response at frequency 0, within the ripple.
 double long_filter_error(const Library& library, Timer& timer) {
-  auto* const remez = library.resolve<decltype(REMEZ)>("REMEZ");
   const int32_t taps = 2001, band_count = 2, multiband = 1, by_default = 0;
   const double bands[] = {0, 0.1, 0.103, 0.5}, desired[] = {1, 0}, weight[] = {1, 1};
   std::vector<double> h(2001);
   int32_t ierr = -1;
   timer.time([&] {
-    remez(h.data(), &taps, &band_count, bands, desired, weight, &multiband, &by_default, &by_default, &ierr);
+    library.REMEZ(h.data(), &taps, &band_count, bands, desired, weight, &multiband, &by_default, &by_default, &ierr);
   });
   double sum = 0;
   for (const double v : h) sum += v;
@@ -103,12 +100,12 @@ std::vector<float> autocovariance(int lags) {
 
 // The Yule-Walker equations of an autoregression: a symmetric Toeplitz system of autocovariances.
 std::vector<float> autoregression(const Library& library, const std::vector<float>& gamma, Timer& timer) {
-  auto* const solve = library.resolve<decltype(TSLS1_Idx)>("TSLS1_Idx");
   const auto order = static_cast<int32_t>(gamma.size()) - 1;
   std::vector<float> phi(gamma.size() - 1), c1(gamma.size()), c2(gamma.size());
   // First row gamma(0), ...; first column and right-hand side are the same array from its second element on.
   timer.time([&] {
-    solve(gamma.data(), 0, gamma.data(), 1, gamma.data(), 1, phi.data(), 0, c1.data(), 0, c2.data(), 0, &order);
+    library.TSLS1_Idx(gamma.data(), 0, gamma.data(), 1, gamma.data(), 1, phi.data(), 0, c1.data(), 0, c2.data(), 0,
+                      &order);
   });
   return phi;
 }

@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "examples/host/report.hpp"
-#include "quorin/slap.h"
 
 namespace demo {
 namespace {
@@ -55,11 +54,13 @@ double residual(const Triads& a, const std::vector<float>& b, const std::vector<
   return std::sqrt(squares / whole);
 }
 
-// One solver: the exported name, and whether an argument NSAVE stands in its list.
+// One solver: one of its forms, with or without an argument NSAVE.
 struct Solver {
   const char* name;
-  bool has_index_form;
-  bool has_directions;
+  decltype(Library::SSDCG) plain = nullptr;
+  decltype(Library::SSGS_Idx) indexed = nullptr;
+  decltype(Library::SSDGMR) plain_with_nsave = nullptr;
+  decltype(Library::SSLUGM_Idx) indexed_with_nsave = nullptr;
 };
 
 struct Solution {
@@ -78,7 +79,7 @@ std::vector<T> shifted(const std::vector<T>& x, std::size_t length) {
   return y;
 }
 
-Solution solve(const Library& library, const Solver& solver, const Triads& a, Timer& timer) {
+Solution solve(const Solver& solver, const Triads& a, Timer& timer) {
   const auto n = static_cast<std::size_t>(a.n), entries = a.values.size();
   const std::vector<float> ones(n, 1.0F);
   std::vector<float> b = shifted(ones, n), x = shifted<float>({}, n), values = shifted(a.values, entries);
@@ -91,26 +92,22 @@ Solution solve(const Library& library, const Solver& solver, const Triads& a, Ti
   const int32_t isym = 0, itol = 1, itmax = 5000, iunit = 0, k = kOffset;
   float tol = 1e-3F, err = 0;
   int32_t iter = 0, ierr = -1;
-  const std::string name = std::string(solver.name) + (solver.has_index_form ? "_Idx" : "");
   timer.time([&] {
-    if (solver.has_index_form && solver.has_directions) {
-      library.resolve<decltype(SSLUGM_Idx)>(name.c_str())(&a.n, b.data(), k, x.data(), k, &nelt, rows.data(), k,
-                                                          columns.data(), k, values.data(), k, &isym, &kDirections,
-                                                          &itol, &tol, &itmax, &iter, &err, &ierr, &iunit, rwork.data(),
-                                                          k, &lenw, iwork.data(), k, &leniw);
-    } else if (solver.has_index_form) {
-      library.resolve<decltype(SSGS_Idx)>(name.c_str())(
-          &a.n, b.data(), k, x.data(), k, &nelt, rows.data(), k, columns.data(), k, values.data(), k, &isym, &itol,
-          &tol, &itmax, &iter, &err, &ierr, &iunit, rwork.data(), k, &lenw, iwork.data(), k, &leniw);
-    } else if (solver.has_directions) {
-      library.resolve<decltype(SSDGMR)>(name.c_str())(&a.n, b.data() + k, x.data() + k, &nelt, rows.data() + k,
-                                                      columns.data() + k, values.data() + k, &isym, &kDirections, &itol,
-                                                      &tol, &itmax, &iter, &err, &ierr, &iunit, rwork.data() + k, &lenw,
-                                                      iwork.data() + k, &leniw);
+    if (solver.indexed_with_nsave != nullptr) {
+      solver.indexed_with_nsave(&a.n, b.data(), k, x.data(), k, &nelt, rows.data(), k, columns.data(), k, values.data(),
+                                k, &isym, &kDirections, &itol, &tol, &itmax, &iter, &err, &ierr, &iunit, rwork.data(),
+                                k, &lenw, iwork.data(), k, &leniw);
+    } else if (solver.indexed != nullptr) {
+      solver.indexed(&a.n, b.data(), k, x.data(), k, &nelt, rows.data(), k, columns.data(), k, values.data(), k, &isym,
+                     &itol, &tol, &itmax, &iter, &err, &ierr, &iunit, rwork.data(), k, &lenw, iwork.data(), k, &leniw);
+    } else if (solver.plain_with_nsave != nullptr) {
+      solver.plain_with_nsave(&a.n, b.data() + k, x.data() + k, &nelt, rows.data() + k, columns.data() + k,
+                              values.data() + k, &isym, &kDirections, &itol, &tol, &itmax, &iter, &err, &ierr, &iunit,
+                              rwork.data() + k, &lenw, iwork.data() + k, &leniw);
     } else {
-      library.resolve<decltype(SSDCG)>(name.c_str())(
-          &a.n, b.data() + k, x.data() + k, &nelt, rows.data() + k, columns.data() + k, values.data() + k, &isym, &itol,
-          &tol, &itmax, &iter, &err, &ierr, &iunit, rwork.data() + k, &lenw, iwork.data() + k, &leniw);
+      solver.plain(&a.n, b.data() + k, x.data() + k, &nelt, rows.data() + k, columns.data() + k, values.data() + k,
+                   &isym, &itol, &tol, &itmax, &iter, &err, &ierr, &iunit, rwork.data() + k, &lenw, iwork.data() + k,
+                   &leniw);
     }
   });
   const std::vector<float> result(x.begin() + kOffset, x.end());
@@ -126,20 +123,32 @@ void slap_rows(const Library& library, Report& report) {
     // The recurrence of conjugate gradients drifts from the residual that is shown here.
     constexpr double kBound = 2e-3;
     Timer untimed;
-    const int32_t iterations = solve(library, solver, a, untimed).iterations;
+    const int32_t iterations = solve(solver, a, untimed).iterations;
     const std::string size = "100x100 grid, " + std::to_string(iterations) + " it.";
     report.row(std::string(solver.name) + ", " + problem, size, kBound,
-               [&](Timer& timer) { return solve(library, solver, a, timer).residual; });
+               [&](Timer& timer) { return solve(solver, a, timer).residual; });
   };
-  for (const Solver& solver : {Solver{"SSDCG", false, false}, {"SSICCG", true, false}}) row(solver, poisson, "Poisson");
-  constexpr Solver kGeneral[] = {{"SSDBCG", false, false}, {"SSLUBC", true, false}, {"SSDCGS", false, false},
-                                 {"SSLUCS", true, false},  {"SSDGMR", false, true}, {"SSLUGM", true, true},
-                                 {"SSDOMN", false, true},  {"SSLUOM", true, true},  {"SSDCGN", false, false},
-                                 {"SSLUCN", true, false},  {"SSJAC", true, false},  {"SSGS", true, false},
-                                 {"SSILUR", true, false}};
-  for (const Solver& solver : kGeneral) row(solver, wind, "convection and diffusion");
-  row({"SSLUBC", true, false}, poisson, "Poisson");
-  row({"SSLUGM", true, true}, poisson, "Poisson");
+  const auto plain = [](const char* name, auto form) { return Solver{.name = name, .plain = form}; };
+  const auto indexed = [](const char* name, auto form) { return Solver{.name = name, .indexed = form}; };
+  const auto gmres = Solver{.name = "SSLUGM", .indexed_with_nsave = library.SSLUGM_Idx};
+  row(plain("SSDCG", library.SSDCG), poisson, "Poisson");
+  row(indexed("SSICCG", library.SSICCG_Idx), poisson, "Poisson");
+  const Solver general[] = {plain("SSDBCG", library.SSDBCG),
+                            indexed("SSLUBC", library.SSLUBC_Idx),
+                            plain("SSDCGS", library.SSDCGS),
+                            indexed("SSLUCS", library.SSLUCS_Idx),
+                            {.name = "SSDGMR", .plain_with_nsave = library.SSDGMR},
+                            gmres,
+                            {.name = "SSDOMN", .plain_with_nsave = library.SSDOMN},
+                            {.name = "SSLUOM", .indexed_with_nsave = library.SSLUOM_Idx},
+                            plain("SSDCGN", library.SSDCGN),
+                            indexed("SSLUCN", library.SSLUCN_Idx),
+                            indexed("SSJAC", library.SSJAC_Idx),
+                            indexed("SSGS", library.SSGS_Idx),
+                            indexed("SSILUR", library.SSILUR_Idx)};
+  for (const Solver& solver : general) row(solver, wind, "convection and diffusion");
+  row(indexed("SSLUBC", library.SSLUBC_Idx), poisson, "Poisson");
+  row(gmres, poisson, "Poisson");
 }
 
 }  // namespace demo

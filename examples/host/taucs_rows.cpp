@@ -13,36 +13,15 @@
 #include <vector>
 
 #include "examples/host/report.hpp"
-#include "quorin/taucs.h"
 
 namespace demo {
 namespace {
 
 constexpr double kNever = std::numeric_limits<double>::infinity();
 
-// The routines that the rows call, and matrices that give themselves back.
-class Taucs {
- public:
-  explicit Taucs(const Library& library)
-      : read_hb(library.resolve<decltype(taucs_ccs_read_hb)>("taucs_ccs_read_hb")),
-        read_ijv(library.resolve<decltype(taucs_ccs_read_ijv)>("taucs_ccs_read_ijv")),
-        write_ijv(library.resolve<decltype(taucs_ccs_write_ijv)>("taucs_ccs_write_ijv")),
-        order(library.resolve<decltype(taucs_ccs_order)>("taucs_ccs_order")),
-        permute(library.resolve<decltype(taucs_ccs_permute_symmetrically)>("taucs_ccs_permute_symmetrically")),
-        times_vec(library.resolve<decltype(taucs_ccs_times_vec)>("taucs_ccs_times_vec")),
-        free(library.resolve<decltype(taucs_ccs_free)>("taucs_ccs_free")) {}
-
-  using Matrix = std::unique_ptr<taucs_ccs_matrix, decltype(&taucs_ccs_free)>;
-  Matrix owned(taucs_ccs_matrix* A) const { return {A, free}; }
-
-  decltype(&taucs_ccs_read_hb) read_hb;
-  decltype(&taucs_ccs_read_ijv) read_ijv;
-  decltype(&taucs_ccs_write_ijv) write_ijv;
-  decltype(&taucs_ccs_order) order;
-  decltype(&taucs_ccs_permute_symmetrically) permute;
-  decltype(&taucs_ccs_times_vec) times_vec;
-  decltype(&taucs_ccs_free) free;
-};
+// A matrix of the library's, given back to it in the end.
+using Matrix = std::unique_ptr<taucs_ccs_matrix, decltype(Library::taucs_ccs_free)>;
+Matrix owned(const Library& library, taucs_ccs_matrix* A) { return {A, library.taucs_ccs_free}; }
 
 std::string temporary(const char* name) { return (std::filesystem::temp_directory_path() / name).string(); }
 
@@ -108,19 +87,19 @@ struct Ordering {
 };
 
 // Orders A, and compares P A P^T (P x) with P (A x).
-Ordering ordered(const Taucs& taucs, const taucs_ccs_matrix& A, const char* name, Timer& timer) {
+Ordering ordered(const Library& library, const taucs_ccs_matrix& A, const char* name, Timer& timer) {
   int32_t *perm = nullptr, *invperm = nullptr;
-  timer.time([&] { taucs.order(&A, &perm, &invperm, name); });
+  timer.time([&] { library.taucs_ccs_order(&A, &perm, &invperm, name); });
   if (perm == nullptr) return {};
-  const Taucs::Matrix permuted = taucs.owned(taucs.permute(&A, perm, invperm));
+  const Matrix permuted = owned(library, library.taucs_ccs_permute_symmetrically(&A, perm, invperm));
   const auto n = static_cast<std::size_t>(A.n);
   std::vector<double> x(n), b(n), permuted_x(n), permuted_b(n);
   for (int i = 0; i < A.n; ++i) x.data()[i] = 1 + i % 7;
   for (int i = 0; i < A.n; ++i) permuted_x.data()[i] = x.data()[perm[i]];
   Ordering result;
   if (permuted != nullptr) {
-    taucs.times_vec(&A, x.data(), b.data());
-    taucs.times_vec(permuted.get(), permuted_x.data(), permuted_b.data());
+    library.taucs_ccs_times_vec(&A, x.data(), b.data());
+    library.taucs_ccs_times_vec(permuted.get(), permuted_x.data(), permuted_b.data());
     double difference = 0, size = 0;
     for (int i = 0; i < A.n; ++i) {
       difference = std::fmax(difference, std::fabs(permuted_b.data()[i] - b.data()[perm[i]]));
@@ -134,9 +113,9 @@ Ordering ordered(const Taucs& taucs, const taucs_ccs_matrix& A, const char* name
 }
 
 // 0 if each column stands in the ordering once.
-double column_ordering(const Taucs& taucs, const taucs_ccs_matrix& A, Timer& timer) {
+double column_ordering(const Library& library, const taucs_ccs_matrix& A, Timer& timer) {
   int32_t *perm = nullptr, *invperm = nullptr;
-  timer.time([&] { taucs.order(&A, &perm, &invperm, "colamd"); });
+  timer.time([&] { library.taucs_ccs_order(&A, &perm, &invperm, "colamd"); });
   if (perm == nullptr) return kNever;
   std::vector<int> times(static_cast<std::size_t>(A.n));
   double wrong = 0;
@@ -147,14 +126,14 @@ double column_ordering(const Taucs& taucs, const taucs_ccs_matrix& A, Timer& tim
 }
 
 // How far the entries are from those of a copy that went through a text file.
-double round_trip(const Taucs& taucs, const taucs_ccs_matrix& A, Timer& timer) {
+double round_trip(const Library& library, const taucs_ccs_matrix& A, Timer& timer) {
   const std::string name = temporary("quorin-demo.ijv");
   taucs_ccs_matrix* copy = nullptr;
   timer.time([&] {
-    if (taucs.write_ijv(&A, name.c_str()) == 0) copy = taucs.read_ijv(name.c_str(), A.flags);
+    if (library.taucs_ccs_write_ijv(&A, name.c_str()) == 0) copy = library.taucs_ccs_read_ijv(name.c_str(), A.flags);
   });
   std::filesystem::remove(name);
-  const Taucs::Matrix B = taucs.owned(copy);
+  const Matrix B = owned(library, copy);
   if (B == nullptr || B->n != A.n || B->flags != A.flags || B->colptr[B->n] != A.colptr[A.n]) return kNever;
   double difference = 0;
   for (int k = 0; k < A.colptr[A.n]; ++k) {
@@ -168,16 +147,16 @@ std::string size_text(const taucs_ccs_matrix& A) {
   return std::to_string(A.n) + ", " + std::to_string(A.colptr[A.n]) + " entries";
 }
 
-void symmetric_rows(const Taucs& taucs, const std::string& file, const std::string& what, Report& report) {
+void symmetric_rows(const Library& library, const std::string& file, const std::string& what, Report& report) {
   Timer untimed;
-  const Taucs::Matrix A = taucs.owned(taucs.read_hb(file.c_str(), TAUCS_DOUBLE));
+  const Matrix A = owned(library, library.taucs_ccs_read_hb(file.c_str(), TAUCS_DOUBLE));
   if (A == nullptr) return report.row(what + ", read", "-", 0, [](Timer&) { return kNever; });
   report.row(what + ", written and read back", size_text(*A), 0,
-             [&](Timer& timer) { return round_trip(taucs, *A, timer); });
+             [&](Timer& timer) { return round_trip(library, *A, timer); });
   for (const char* const name : {"identity", "random", "tree", "genmmd", "camd", "metis"}) {
-    const double fill = ordered(taucs, *A, name, untimed).fill;
+    const double fill = ordered(library, *A, name, untimed).fill;
     report.row(what + ", ordered by \"" + name + "\"", std::to_string(static_cast<int>(fill)) + " in factor", 1e-12,
-               [&](Timer& timer) { return ordered(taucs, *A, name, timer).error; });
+               [&](Timer& timer) { return ordered(library, *A, name, timer).error; });
   }
 }
 
@@ -185,15 +164,15 @@ void symmetric_rows(const Taucs& taucs, const std::string& file, const std::stri
 
 void taucs_rows(const Library& library, Report& report) {
   report.heading("TAUCS matrices, files and orderings");
-  const Taucs taucs(library);
   const std::string matrices = QUORIN_MATRICES_DIR, grid = temporary("quorin-demo.rsa");
-  symmetric_rows(taucs, matrices + "/cholmod/bcsstk01.rsa", "Stiffness matrix", report);
+  symmetric_rows(library, matrices + "/cholmod/bcsstk01.rsa", "Stiffness matrix", report);
   write_grid(grid, 100);
-  symmetric_rows(taucs, grid, "100x100 grid", report);
+  symmetric_rows(library, grid, "100x100 grid", report);
   std::filesystem::remove(grid);
-  const Taucs::Matrix A = taucs.owned(taucs.read_hb((matrices + "/umfpack/west0067.rua").c_str(), TAUCS_DOUBLE));
+  const Matrix A =
+      owned(library, library.taucs_ccs_read_hb((matrices + "/umfpack/west0067.rua").c_str(), TAUCS_DOUBLE));
   report.row("Chemical plant, columns ordered by \"colamd\"", A == nullptr ? "-" : size_text(*A), 0,
-             [&](Timer& timer) { return A == nullptr ? kNever : column_ordering(taucs, *A, timer); });
+             [&](Timer& timer) { return A == nullptr ? kNever : column_ordering(library, *A, timer); });
 }
 
 }  // namespace demo

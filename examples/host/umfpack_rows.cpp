@@ -9,8 +9,6 @@
 #include <vector>
 
 #include "examples/host/report.hpp"
-#include "quorin/services.h"
-#include "quorin/umfpack.h"
 
 namespace demo {
 namespace {
@@ -78,15 +76,6 @@ double residual(const Matrix& a, const float* x, const float* b) {
 void QUORIN_CALLBACK print(const char* text) { std::fputs(text, stdout); }
 
 double solve(const Library& library, Timer& timer) {
-  auto* const defaults = library.resolve<decltype(umfpack_si_defaults_Idx)>("umfpack_si_defaults_Idx");
-  auto* const symbolic = library.resolve<decltype(umfpack_si_symbolic_Idx)>("umfpack_si_symbolic_Idx");
-  auto* const numeric = library.resolve<decltype(umfpack_si_numeric_Idx)>("umfpack_si_numeric_Idx");
-  auto* const solve = library.resolve<decltype(umfpack_si_solve_Idx)>("umfpack_si_solve_Idx");
-  auto* const report = library.resolve<decltype(umfpack_si_report_info_Idx)>("umfpack_si_report_info_Idx");
-  auto* const free_symbolic = library.resolve<decltype(umfpack_si_free_symbolic_Idx)>("umfpack_si_free_symbolic_Idx");
-  auto* const free_numeric = library.resolve<decltype(umfpack_si_free_numeric_Idx)>("umfpack_si_free_numeric_Idx");
-  auto* const set_callback = library.resolve<decltype(set_printf_callback_32f)>("set_printf_callback_32f");
-
   Matrix a = read_chemical_kinetics(QUORIN_MATRICES_DIR "/umfpack/fs_183_6.rua");
   if (a.n == 0) return kNever;
   // Control, Info, the right-hand side and the solution stand behind the values.
@@ -95,26 +84,26 @@ double solve(const Library& library, Timer& timer) {
   int32_t* const integers = a.integers.data();
   float* const floats = a.floats.data();
   void *symbolic_object = nullptr, *numeric_object = nullptr;
-  defaults(floats, control);
+  library.umfpack_si_defaults_Idx(floats, control);
   floats[control] = 2;
   int status = -1;
   timer.time([&] {
-    status = symbolic(a.n, a.n, integers, 0, integers, a.indices_at(), floats, 0, &symbolic_object, floats, control,
-                      floats, info);
+    status = library.umfpack_si_symbolic_Idx(a.n, a.n, integers, 0, integers, a.indices_at(), floats, 0,
+                                             &symbolic_object, floats, control, floats, info);
     if (status == 0) {
-      status = numeric(integers, 0, integers, a.indices_at(), floats, 0, symbolic_object, &numeric_object, floats,
-                       control, floats, info);
+      status = library.umfpack_si_numeric_Idx(integers, 0, integers, a.indices_at(), floats, 0, symbolic_object,
+                                              &numeric_object, floats, control, floats, info);
     }
     if (status == 0) {
-      status = solve(0, integers, 0, integers, a.indices_at(), floats, 0, floats, x, floats, b, numeric_object, floats,
-                     control, floats, info);
+      status = library.umfpack_si_solve_Idx(0, integers, 0, integers, a.indices_at(), floats, 0, floats, x, floats, b,
+                                            numeric_object, floats, control, floats, info);
     }
   });
-  set_callback(print);
-  report(floats, control, floats, info);
-  set_callback(nullptr);
-  free_numeric(&numeric_object);
-  free_symbolic(&symbolic_object);
+  library.set_printf_callback_32f(print);
+  library.umfpack_si_report_info_Idx(floats, control, floats, info);
+  library.set_printf_callback_32f(nullptr);
+  library.umfpack_si_free_numeric_Idx(&numeric_object);
+  library.umfpack_si_free_symbolic_Idx(&symbolic_object);
   return status == 0 ? residual(a, floats + x, floats + b) : kNever;
 }
 

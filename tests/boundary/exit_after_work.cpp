@@ -4,7 +4,6 @@
 #include <string_view>
 #include <thread>
 
-#include "quorin/services.h"
 #include "tests/support/exact_product.hpp"
 #include "tests/support/host_module.hpp"
 
@@ -25,12 +24,12 @@ int main(int count, char** arguments) {
   if (count != 4) return 2;
   const std::string_view way = arguments[1];
   const int status = std::atoi(arguments[3]);
-  const HostModule product = load_product();
+  const Product product;
   if (!product) return 3;
-  product.symbol<decltype(sMKL_Set_Dynamic)>("sMKL_Set_Dynamic")(0);
-  product.symbol<decltype(sMKL_Set_Num_Threads)>("sMKL_Set_Num_Threads")(4);
-  product.symbol<decltype(sokmp_set_blocktime)>("sokmp_set_blocktime")(std::atoi(arguments[2]));
-  auto* const multiply = product.symbol<decltype(sgemm)>("sgemm");
+  product->sMKL_Set_Dynamic(0);
+  product->sMKL_Set_Num_Threads(4);
+  product->sokmp_set_blocktime(std::atoi(arguments[2]));
+  auto* const multiply = product->sgemm;
   static ExactProduct problem;
   if (way == "other_thread") {
     // The process ends while another host thread is in the middle of threaded work.

@@ -7,7 +7,6 @@
 #include <string>
 #include <vector>
 
-#include "quorin/quorin.h"
 #include "tests/support/capture_output.hpp"
 #include "tests/support/exact_product.hpp"
 #include "tests/support/failing_host.hpp"
@@ -36,7 +35,7 @@ struct Operands {
 struct Case {
   const char* name;
   const char* reported;
-  std::function<void(const HostModule&, Operands&, float* c)> call;
+  std::function<void(const quorin_library&, Operands&, float* c)> call;
 };
 
 template <class T>
@@ -47,59 +46,54 @@ quorin_complex* as_complex(T* numbers) {
 const std::vector<Case>& cases() {
   static const std::vector<Case> all = {
       {"sgemm", "SGEMM",
-       [](const HostModule& m, Operands& o, float* c) {
-         m.symbol<decltype(sgemm)>("sgemm")("N", "T", &o.n, &o.n, &o.n, o.alpha, o.a.data(), &o.n, o.b.data(), &o.n,
-                                            o.beta, c, &o.n);
+       [](const quorin_library& m, Operands& o, float* c) {
+         m.sgemm("N", "T", &o.n, &o.n, &o.n, o.alpha, o.a.data(), &o.n, o.b.data(), &o.n, o.beta, c, &o.n);
        }},
       {"cgemm", "CGEMM",
-       [](const HostModule& m, Operands& o, float* c) {
-         m.symbol<decltype(cgemm)>("cgemm")("C", "N", &o.n, &o.n, &o.n, as_complex(o.alpha), as_complex(o.a.data()),
-                                            &o.n, as_complex(o.b.data()), &o.n, as_complex(o.beta), as_complex(c),
-                                            &o.n);
+       [](const quorin_library& m, Operands& o, float* c) {
+         m.cgemm("C", "N", &o.n, &o.n, &o.n, as_complex(o.alpha), as_complex(o.a.data()), &o.n, as_complex(o.b.data()),
+                 &o.n, as_complex(o.beta), as_complex(c), &o.n);
        }},
       {"ssyrk", "SSYRK",
-       [](const HostModule& m, Operands& o, float* c) {
-         m.symbol<decltype(ssyrk)>("ssyrk")("U", "N", &o.n, &o.n, o.alpha, o.a.data(), &o.n, o.beta, c, &o.n);
+       [](const quorin_library& m, Operands& o, float* c) {
+         m.ssyrk("U", "N", &o.n, &o.n, o.alpha, o.a.data(), &o.n, o.beta, c, &o.n);
        }},
       {"ssymm", "SSYMM",
-       [](const HostModule& m, Operands& o, float* c) {
-         m.symbol<decltype(ssymm)>("ssymm")("L", "U", &o.n, &o.n, o.alpha, o.a.data(), &o.n, o.b.data(), &o.n, o.beta,
-                                            c, &o.n);
+       [](const quorin_library& m, Operands& o, float* c) {
+         m.ssymm("L", "U", &o.n, &o.n, o.alpha, o.a.data(), &o.n, o.b.data(), &o.n, o.beta, c, &o.n);
        }},
       {"strsm", "STRSM",
-       [](const HostModule& m, Operands& o, float* c) {
-         m.symbol<decltype(strsm)>("strsm")("L", "U", "N", "U", &o.n, &o.n, o.alpha, o.triangle.data(), &o.n, c, &o.n);
+       [](const quorin_library& m, Operands& o, float* c) {
+         m.strsm("L", "U", "N", "U", &o.n, &o.n, o.alpha, o.triangle.data(), &o.n, c, &o.n);
        }},
       {"strtrs", "STRTRS",
-       [](const HostModule& m, Operands& o, float* c) {
+       [](const quorin_library& m, Operands& o, float* c) {
          std::int32_t info = 0;
-         m.symbol<decltype(strtrs)>("strtrs")("U", "N", "U", &o.n, &o.n, o.triangle.data(), &o.n, c, &o.n, &info);
+         m.strtrs("U", "N", "U", &o.n, &o.n, o.triangle.data(), &o.n, c, &o.n, &info);
          EXPECT_TRUE(info == 0 || info == -1000) << info;
        }},
       {"cher2k", "CHER2K",
-       [](const HostModule& m, Operands& o, float* c) {
-         m.symbol<decltype(cher2k)>("cher2k")("L", "N", &o.n, &o.n, as_complex(o.alpha), as_complex(o.a.data()), &o.n,
-                                              as_complex(o.b.data()), &o.n, o.beta, as_complex(c), &o.n);
+       [](const quorin_library& m, Operands& o, float* c) {
+         m.cher2k("L", "N", &o.n, &o.n, as_complex(o.alpha), as_complex(o.a.data()), &o.n, as_complex(o.b.data()), &o.n,
+                  o.beta, as_complex(c), &o.n);
        }},
       // Vectors of unit stride need no memory; others are copied.
       {"sgemv", "SGEMV",
-       [](const HostModule& m, Operands& o, float* c) {
-         m.symbol<decltype(sgemv)>("sgemv")("T", &o.n, &o.n, o.alpha, o.a.data(), &o.n, o.b.data(), &o.two, o.beta, c,
-                                            &o.one);
+       [](const quorin_library& m, Operands& o, float* c) {
+         m.sgemv("T", &o.n, &o.n, o.alpha, o.a.data(), &o.n, o.b.data(), &o.two, o.beta, c, &o.one);
        }},
       {"cgerc", "CGERC",
-       [](const HostModule& m, Operands& o, float* c) {
-         m.symbol<decltype(cgerc)>("cgerc")(&o.n, &o.n, as_complex(o.alpha), as_complex(o.a.data()), &o.two,
-                                            as_complex(o.b.data()), &o.one, as_complex(c), &o.n);
+       [](const quorin_library& m, Operands& o, float* c) {
+         m.cgerc(&o.n, &o.n, as_complex(o.alpha), as_complex(o.a.data()), &o.two, as_complex(o.b.data()), &o.one,
+                 as_complex(c), &o.n);
        }},
       {"ssymv", "SSYMV",
-       [](const HostModule& m, Operands& o, float* c) {
-         m.symbol<decltype(ssymv)>("ssymv")("L", &o.n, o.alpha, o.a.data(), &o.n, o.b.data(), &o.two, o.beta, c,
-                                            &o.one);
+       [](const quorin_library& m, Operands& o, float* c) {
+         m.ssymv("L", &o.n, o.alpha, o.a.data(), &o.n, o.b.data(), &o.two, o.beta, c, &o.one);
        }},
       {"strsv", "STRSV",
-       [](const HostModule& m, Operands& o, float* c) {
-         m.symbol<decltype(strsv)>("strsv")("U", "N", "U", &o.n, o.triangle.data(), &o.n, c, &o.two);
+       [](const quorin_library& m, Operands& o, float* c) {
+         m.strsv("U", "N", "U", &o.n, o.triangle.data(), &o.n, c, &o.two);
        }},
   };
   return all;
@@ -110,8 +104,8 @@ const std::vector<Case>& cases() {
 class Campaign {
  public:
   Campaign() {
-    host_.symbol<decltype(sMKL_Set_Dynamic)>("sMKL_Set_Dynamic")(0);
-    host_.symbol<decltype(sMKL_Set_Num_Threads)>("sMKL_Set_Num_Threads")(4);
+    host_->sMKL_Set_Dynamic(0);
+    host_->sMKL_Set_Num_Threads(4);
   }
 
   void run(const Case& c, int failures) {
@@ -146,7 +140,7 @@ class Campaign {
   }
 
  private:
-  void free_buffers() { host_.symbol<decltype(sMKL_FreeBuffers)>("sMKL_FreeBuffers")(); }
+  void free_buffers() { host_->sMKL_FreeBuffers(); }
 
   FailingHost host_;
   Operands operands_;

@@ -14,7 +14,7 @@ namespace quorin::test {
 namespace {
 
 TEST(Allocator, GoesThroughTheFourFunctions) {
-  const HostModule module = load_test_library("complete", "libimalloc");
+  const TestLibrary module("complete", "libimalloc");
   ASSERT_TRUE(module);
   auto& state = *module.symbol<CountingAllocatorState>("imalloc_state");
   base::choose_allocator();

@@ -3,7 +3,6 @@
 
 #include <string>
 
-#include "quorin/services.h"
 #include "tests/boundary/counting_allocator.hpp"
 #include "tests/support/exact_product.hpp"
 #include "tests/support/host_module.hpp"
@@ -19,16 +18,16 @@ const std::string& allocator_file() {
 }
 
 // A threaded product; memory is taken when it is the first after a load or after sMKL_FreeBuffers.
-void multiply(const HostModule& product) {
+void multiply(const Product& product) {
   static ExactProduct problem;
-  product.symbol<decltype(sMKL_Set_Dynamic)>("sMKL_Set_Dynamic")(0);
-  product.symbol<decltype(sMKL_Set_Num_Threads)>("sMKL_Set_Num_Threads")(3);
-  EXPECT_TRUE(problem.is_solved_by(product.symbol<decltype(sgemm)>("sgemm")));
+  product->sMKL_Set_Dynamic(0);
+  product->sMKL_Set_Num_Threads(3);
+  EXPECT_TRUE(problem.is_solved_by(product->sgemm));
 }
 
-void expect_product_unloads([[maybe_unused]] HostModule& product) {
+void expect_product_unloads([[maybe_unused]] Product& product) {
 #if defined(_WIN32)
-  product.symbol<decltype(sokmp_set_blocktime)>("sokmp_set_blocktime")(0);
+  product->sokmp_set_blocktime(0);
   multiply(product);
   product.close();
   for (int i = 0; i < 1000 && is_loaded(QUORIN_PRODUCT_FILE); ++i) Sleep(5);
@@ -38,15 +37,15 @@ void expect_product_unloads([[maybe_unused]] HostModule& product) {
 
 TEST(AllocatorChoice, TakesACompleteLibraryAndReleasesIt) {
   with_fresh_product([] {
-    HostModule allocator = load_test_library("complete", "libimalloc");
+    TestLibrary allocator("complete", "libimalloc");
     ASSERT_TRUE(allocator);
     auto& state = *allocator.symbol<CountingAllocatorState>("imalloc_state");
-    HostModule product = load_product();
+    Product product;
     ASSERT_TRUE(product);
     multiply(product);
     EXPECT_GE(state.allocate, 3);
     EXPECT_GE(state.live, 3);
-    product.symbol<decltype(sMKL_FreeBuffers)>("sMKL_FreeBuffers")();
+    product->sMKL_FreeBuffers();
     EXPECT_GE(state.release, 3);
     EXPECT_EQ(state.live, 0);
 
@@ -61,13 +60,13 @@ TEST(AllocatorChoice, TakesACompleteLibraryAndReleasesIt) {
   });
 }
 
-void expect_refused(const HostModule& allocator) {
+void expect_refused(const TestLibrary& allocator) {
   ASSERT_TRUE(allocator);
   const auto& state = *allocator.symbol<CountingAllocatorState>("imalloc_state");
-  HostModule product = load_product();
+  Product product;
   ASSERT_TRUE(product);
   multiply(product);
-  product.symbol<decltype(sMKL_FreeBuffers)>("sMKL_FreeBuffers")();
+  product->sMKL_FreeBuffers();
   EXPECT_EQ(state.allocate + state.allocate_zeroed + state.reallocate + state.release, 0);
   expect_product_unloads(product);
 }
@@ -76,7 +75,7 @@ TEST(AllocatorChoice, RefusesALibraryThatLacksAVariable) {
   for (const std::string lacking : {"1", "2", "3", "4"}) {
     SCOPED_TRACE(lacking);
     with_fresh_product([&] {
-      HostModule allocator = load_test_library("lacks_" + lacking, "libimalloc");
+      TestLibrary allocator("lacks_" + lacking, "libimalloc");
       expect_refused(allocator);
       allocator.close();
       EXPECT_FALSE(is_loaded(allocator_file()));
@@ -88,7 +87,7 @@ TEST(AllocatorChoice, RefusesALibraryWithANullVariable) {
   for (const char* name : kVariables) {
     SCOPED_TRACE(name);
     with_fresh_product([&] {
-      HostModule allocator = load_test_library("complete", "libimalloc");
+      TestLibrary allocator("complete", "libimalloc");
       *allocator.symbol<void*>(name) = nullptr;
       expect_refused(allocator);
       allocator.close();
@@ -99,8 +98,8 @@ TEST(AllocatorChoice, RefusesALibraryWithANullVariable) {
 
 TEST(AllocatorChoice, SurvivesAnAllocatorThatTheHostUnloadsFirst) {
   with_fresh_product([] {
-    HostModule allocator = load_test_library("complete", "libimalloc");
-    HostModule product = load_product();
+    TestLibrary allocator("complete", "libimalloc");
+    Product product;
     multiply(product);
     allocator.close();
     ASSERT_FALSE(is_loaded(allocator_file()));
@@ -114,7 +113,7 @@ TEST(AllocatorChoice, DoesNotKeepFunctionsThatVanishWithTheReference) {
   for (int i = 0; i < 1000 && is_loaded(QUORIN_PRODUCT_FILE); ++i) Sleep(5);
   ASSERT_FALSE(is_loaded(QUORIN_PRODUCT_FILE));
   SetDllDirectoryA((program_directory() / "test_libraries" / "complete").string().c_str());
-  HostModule product = load_product();
+  Product product;
   SetDllDirectoryA(nullptr);
   EXPECT_FALSE(is_loaded(allocator_file()));
   multiply(product);

@@ -6,7 +6,6 @@
 #include <climits>
 #include <thread>
 
-#include "quorin/services.h"
 #include "tests/support/exact_product.hpp"
 #include "tests/support/host_module.hpp"
 #include "tests/support/process_state.hpp"
@@ -24,12 +23,12 @@ constexpr const char* kOpenMp = "libiomp5";
 
 TEST(BlockTime, ReachesALoadedOpenMpLibraryOnly) {
   with_fresh_product([] {
-    const HostModule product = load_product();
-    auto* const set_block_time = product.symbol<decltype(sokmp_set_blocktime)>("sokmp_set_blocktime");
+    const Product product;
+    auto* const set_block_time = product->sokmp_set_blocktime;
     for (const int value : {5, 0, -1, INT_MAX}) set_block_time(value);  // nobody there: nothing happens
     EXPECT_FALSE(is_loaded(library_file(kOpenMp)));
 
-    HostModule openmp = load_test_library("openmp", kOpenMp);
+    TestLibrary openmp("openmp", kOpenMp);
     ASSERT_TRUE(openmp);
     const auto& recorded = *openmp.symbol<int>("recorded_block_time");
     EXPECT_EQ(recorded, -12345);
@@ -50,12 +49,12 @@ bool thread_count_becomes(int expected) {
 
 TEST(BlockTime, DecidesHowLongIdleWorkersStay) {
   with_fresh_product([] {
-    const HostModule product = load_product();
-    auto* const set_block_time = product.symbol<decltype(sokmp_set_blocktime)>("sokmp_set_blocktime");
-    product.symbol<decltype(sMKL_Set_Dynamic)>("sMKL_Set_Dynamic")(0);
-    product.symbol<decltype(sMKL_Set_Num_Threads)>("sMKL_Set_Num_Threads")(4);
+    const Product product;
+    auto* const set_block_time = product->sokmp_set_blocktime;
+    product->sMKL_Set_Dynamic(0);
+    product->sMKL_Set_Num_Threads(4);
     ExactProduct problem;
-    const auto multiply = [&] { EXPECT_TRUE(problem.is_solved_by(product.symbol<decltype(sgemm)>("sgemm"))); };
+    const auto multiply = [&] { EXPECT_TRUE(problem.is_solved_by(product->sgemm)); };
     const int alone = thread_count_alone();
 
     set_block_time(INT_MAX);

@@ -9,7 +9,6 @@
 #include <thread>
 #include <vector>
 
-#include "quorin/services.h"
 #include "tests/support/exact_product.hpp"
 #include "tests/support/host_module.hpp"
 #include "tests/support/process_state.hpp"
@@ -23,22 +22,18 @@ constexpr int kThreads = 3;
 
 void sleep_milliseconds(int count) { std::this_thread::sleep_for(std::chrono::milliseconds(count)); }
 
-HostModule load_threaded_product() {
-  HostModule product = load_product();
+Product load_threaded_product() {
+  Product product;
   if (product) {
-    product.symbol<decltype(sMKL_Set_Dynamic)>("sMKL_Set_Dynamic")(0);
-    product.symbol<decltype(sMKL_Set_Num_Threads)>("sMKL_Set_Num_Threads")(kThreads);
+    product->sMKL_Set_Dynamic(0);
+    product->sMKL_Set_Num_Threads(kThreads);
   }
   return product;
 }
 
-void set_block_time(const HostModule& product, int milliseconds) {
-  product.symbol<decltype(sokmp_set_blocktime)>("sokmp_set_blocktime")(milliseconds);
-}
+void set_block_time(const Product& product, int milliseconds) { product->sokmp_set_blocktime(milliseconds); }
 
-bool multiply(const HostModule& product, ExactProduct& problem) {
-  return product && problem.is_solved_by(product.symbol<decltype(sgemm)>("sgemm"));
-}
+bool multiply(const Product& product, ExactProduct& problem) { return product && problem.is_solved_by(product->sgemm); }
 
 template <class Condition>
 bool comes_true(const Condition& condition) {
@@ -87,7 +82,7 @@ TEST(Lifecycle, CyclesThatTrulyUnloadLeaveNothingBehind) {
   const int threads_alone = thread_count_alone();
   Footprint warm;
   for (int cycle = 0; cycle < kCycles; ++cycle) {
-    HostModule product = load_threaded_product();
+    Product product = load_threaded_product();
     set_block_time(product, 0);
     ASSERT_TRUE(multiply(product, problem)) << cycle;
     product.close();
@@ -117,7 +112,7 @@ TEST(Lifecycle, ExceptionsLeaveNothingBehindInThreadsThatLiveOn) {
     });
   }
   for (int cycle = 1; cycle <= kThrowingCycles; ++cycle) {
-    HostModule library = load_test_library("throwing", "throwing");
+    TestLibrary library("throwing", "throwing");
     ASSERT_TRUE(library);
     throw_and_catch = library.symbol<int(int)>("throw_and_catch");
     round = cycle;
@@ -139,7 +134,7 @@ TEST(Lifecycle, CyclesThatOverlapIdleWorkersLeaveNothingBehind) {
   const int threads_alone = thread_count_alone();
   Footprint warm;
   for (int cycle = 0; cycle < kCycles; ++cycle) {
-    HostModule product = load_threaded_product();
+    Product product = load_threaded_product();
     ASSERT_TRUE(multiply(product, problem)) << cycle;
     product.close();
     if (cycle == kWarmUpCycles) {
@@ -156,7 +151,7 @@ TEST(Lifecycle, UnloadsWhenAnotherThreadHasJustLeft) {
   const int threads_alone = thread_count_alone();
   ExactProduct problem;
   for (int cycle = 0; cycle < 200; ++cycle) {
-    HostModule product = load_threaded_product();
+    Product product = load_threaded_product();
     ASSERT_TRUE(product);
     if (cycle % 2 == 0) set_block_time(product, 0);
     std::atomic<bool> has_left{false};

@@ -20,8 +20,7 @@ TEST(IluWithoutMemory, ReportsItAndLeavesTheOutputs) {
   const auto ilu0 = [&] {
     values.assign(A.a.size(), -7.0);
     int ierr = 7;
-    host.symbol<decltype(DCSRILU0)>("DCSRILU0")(&A.n, A.a.data(), A.ia.data(), A.ja.data(), values.data(),
-                                                s.ipar.data(), s.dpar.data(), &ierr);
+    host->DCSRILU0(&A.n, A.a.data(), A.ia.data(), A.ja.data(), values.data(), s.ipar.data(), s.dpar.data(), &ierr);
     return ierr;
   };
   expect_status_without_memory(host, -104, ilu0, is_marked);
@@ -29,9 +28,8 @@ TEST(IluWithoutMemory, ReportsItAndLeavesTheOutputs) {
   const auto ilut = [&] {
     values.assign(columns.size(), -7.0);
     int ierr = 7;
-    host.symbol<decltype(DCSRILUT)>("DCSRILUT")(&A.n, A.a.data(), A.ia.data(), A.ja.data(), values.data(),
-                                                starts.data(), columns.data(), &tolerance, &full, s.ipar.data(),
-                                                s.dpar.data(), &ierr);
+    host->DCSRILUT(&A.n, A.a.data(), A.ia.data(), A.ja.data(), values.data(), starts.data(), columns.data(), &tolerance,
+                   &full, s.ipar.data(), s.dpar.data(), &ierr);
     return ierr;
   };
   expect_status_without_memory(host, -104, ilut, is_marked);

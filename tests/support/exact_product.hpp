@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "quorin/blas.h"
+#include "quorin/loader.h"
 
 namespace quorin::test {
 
@@ -33,7 +33,7 @@ class ExactProduct {
     }
   }
 
-  bool is_solved_by(decltype(sgemm)* product) {
+  bool is_solved_by(decltype(quorin_library::sgemm) product) {
     c_.assign(size(), -1.0F);
     const char no_transpose = 'N';
     const float alpha = 1, beta = 0;

@@ -6,16 +6,14 @@
 
 namespace quorin::test {
 
-// Test programs that use it depend on the library imalloc_complete and are not linked against the product.
 class FailingHost {
  public:
-  FailingHost() : allocator_(load_test_library("complete", "libimalloc")), product_(load_product()) {}
+  // host->sgemm(...)
+  const quorin_library* operator->() const { return &*product_; }
+  const quorin_library& product() const { return *product_; }
 
-  const HostModule& product() const { return product_; }
-  template <class Function>
-  Function* symbol(const char* name) const {
-    return product_.symbol<Function>(name);
-  }
+  // The allocator's own function, for arrays that hosts release.
+  void release(void* block) const { (*allocator_.symbol<void (*)(void*)>("i_free_dll"))(block); }
 
   // Blocks that the library holds.
   int live_blocks() const { return state().live; }
@@ -34,7 +32,8 @@ class FailingHost {
  private:
   CountingAllocatorState& state() const { return *allocator_.symbol<CountingAllocatorState>("imalloc_state"); }
 
-  HostModule allocator_, product_;
+  TestLibrary allocator_{"complete", "libimalloc"};
+  Product product_;
 };
 
 // Fails each allocation of the call in turn, alone and with all that follow. `call()` returns the status, which must be

@@ -3,94 +3,68 @@
 
 #include <filesystem>
 #include <string>
-#include <utility>
 
 #if defined(_WIN32)
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 #else
-#include <dlfcn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #endif
 
 #include <gtest/gtest.h>
 
+#include "quorin/loader.h"
+
 namespace quorin::test {
 
-inline std::string library_file(const std::string& base_name) {
-#if defined(_WIN32)
-  return base_name + ".dll";
-#else
-  return base_name + ".so";
-#endif
-}
+// "name.dll", "name.so"
+std::string library_file(const std::string& base_name);
 
 // Programs that load the product stand beside it; test libraries stand in folders below.
-inline std::filesystem::path program_directory() {
-#if defined(_WIN32)
-  char path[MAX_PATH] = {};
-  GetModuleFileNameA(nullptr, path, sizeof path);
-  return std::filesystem::path(path).parent_path();
-#else
-  return std::filesystem::read_symlink("/proc/self/exe").parent_path();
-#endif
-}
+std::filesystem::path program_directory();
 
-// One reference to a loaded library.
-class HostModule {
+bool is_loaded(const std::string& file_name);
+
+// One reference to the product. False if it could not be loaded or lacks an export.
+class Product {
  public:
-  explicit HostModule(const std::filesystem::path& path) {
-#if defined(_WIN32)
-    module_ = LoadLibraryA(path.string().c_str());
-#else
-    module_ = dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
-#endif
-  }
-  HostModule(HostModule&& other) noexcept : module_(std::exchange(other.module_, nullptr)) {}
-  HostModule& operator=(HostModule&&) = delete;
-  ~HostModule() { close(); }
+  Product();
+  Product(Product&& other) noexcept;
+  Product& operator=(Product&&) = delete;
+  ~Product() { close(); }
 
-  void close() noexcept {
-    if (module_ == nullptr) return;
-#if defined(_WIN32)
-    FreeLibrary(static_cast<HMODULE>(std::exchange(module_, nullptr)));
-#else
-    dlclose(std::exchange(module_, nullptr));
-#endif
-  }
+  void close() noexcept { quorin_unload(&library_); }
+  explicit operator bool() const noexcept { return library_.module != nullptr && library_.missing == nullptr; }
+  // product->sgemm(...)
+  const quorin_library* operator->() const noexcept { return &library_; }
+  const quorin_library& operator*() const noexcept { return library_; }
 
+ private:
+  quorin_library library_;
+};
+
+// One reference to test_libraries/<folder>/<base_name>.
+class TestLibrary {
+ public:
+  TestLibrary(const std::string& folder, const std::string& base_name);
+  TestLibrary(const TestLibrary&) = delete;
+  TestLibrary& operator=(const TestLibrary&) = delete;
+  ~TestLibrary() { close(); }
+
+  void close() noexcept;
   explicit operator bool() const noexcept { return module_ != nullptr; }
 
-  // A function or a variable, or null. T is its type: symbol<decltype(sgemm)>("sgemm").
+  // A function or a variable of type T, or null.
   template <class T>
   T* symbol(const char* name) const noexcept {
-#if defined(_WIN32)
-    return reinterpret_cast<T*>(reinterpret_cast<void*>(GetProcAddress(static_cast<HMODULE>(module_), name)));
-#else
-    return reinterpret_cast<T*>(dlsym(module_, name));
-#endif
+    return reinterpret_cast<T*>(find(name));
   }
 
  private:
+  void* find(const char* name) const noexcept;
   void* module_ = nullptr;
 };
-
-inline bool is_loaded(const std::string& file_name) {
-#if defined(_WIN32)
-  return GetModuleHandleA(file_name.c_str()) != nullptr;
-#else
-  void* const module = dlopen(file_name.c_str(), RTLD_NOW | RTLD_NOLOAD);
-  if (module != nullptr) dlclose(module);
-  return module != nullptr;
-#endif
-}
-
-inline HostModule load_product() { return HostModule(program_directory() / QUORIN_PRODUCT_FILE); }
-
-inline HostModule load_test_library(const std::string& folder, const std::string& base_name) {
-  return HostModule(program_directory() / "test_libraries" / folder / library_file(base_name));
-}
 
 // Runs a body that loads the product for the first time. Elsewhere than on Windows the product stays loaded until the
 // process ends, so that the body needs a process of its own.

@@ -4,9 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "quorin/quorin.h"
-#include "tests/boundary/counting_allocator.hpp"
-#include "tests/support/host_module.hpp"
+#include "tests/support/failing_host.hpp"
 
 namespace taucs_test {
 namespace {
@@ -34,12 +32,7 @@ struct Ladder {
 };
 
 TEST(OrderingFaults, GiveNoArraysAndLoseNothing) {
-  const quorin::test::HostModule allocator = quorin::test::load_test_library("complete", "libimalloc");
-  const quorin::test::HostModule product = quorin::test::load_product();
-  auto& state = *allocator.symbol<CountingAllocatorState>("imalloc_state");
-  const auto order = product.symbol<decltype(taucs_ccs_order)>("taucs_ccs_order");
-  const auto release = *allocator.symbol<void (*)(void*)>("i_free_dll");
-
+  const quorin::test::FailingHost host;
   const Ladder symmetric(TAUCS_DOUBLE | TAUCS_SYMMETRIC | TAUCS_LOWER), general(TAUCS_DOUBLE);
   for (const char* name : {"camd", "metis", "genmmd", "tree", "random", "identity", "colamd"}) {
     SCOPED_TRACE(name);
@@ -47,21 +40,17 @@ TEST(OrderingFaults, GiveNoArraysAndLoseNothing) {
     const bool is_colamd = std::string(name) == "colamd";
     const Ladder& A = is_colamd ? general : symmetric;
     for (const int failures : {1, 1000}) {
-      const int before = state.live;
+      const int before = host.live_blocks();
       int k = is_colamd ? 3 : 1;
       for (bool failed = true; failed && k < 2000; ++k) {
         int *perm = nullptr, *inverse = nullptr;
-        state.failures = failures;
-        state.fail_at = k;
-        order(&A.record, &perm, &inverse, name);
-        failed = state.failures < failures;
-        state.fail_at = 0;
+        failed = host.run_failing(k, failures, [&] { host->taucs_ccs_order(&A.record, &perm, &inverse, name); });
         EXPECT_EQ(perm == nullptr, inverse == nullptr);
         EXPECT_EQ(perm == nullptr, failed) << "allocation " << k;
         EXPECT_TRUE(perm == nullptr || perm != inverse);
-        release(perm);
-        release(inverse);
-        EXPECT_EQ(state.live, before) << "allocation " << k;
+        host.release(perm);
+        host.release(inverse);
+        EXPECT_EQ(host.live_blocks(), before) << "allocation " << k;
       }
       EXPECT_GT(k, 3);
       EXPECT_LT(k, 2000);

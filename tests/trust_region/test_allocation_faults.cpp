@@ -3,9 +3,7 @@
 
 #include <cstdint>
 
-#include "quorin/quorin.h"
-#include "tests/boundary/counting_allocator.hpp"
-#include "tests/support/host_module.hpp"
+#include "tests/support/failing_host.hpp"
 
 namespace quorin::test {
 namespace {
@@ -15,16 +13,7 @@ void twice(int32_t* m, int32_t*, float* x, float* f) {
 }
 
 TEST(AllocationFaults, AreAStatusAndLeakNothing) {
-  const HostModule allocator = load_test_library("complete", "libimalloc"), product = load_product();
-  auto* const init = product.symbol<decltype(strnlsp_init)>("strnlsp_init");
-  auto* const bounded_init = product.symbol<decltype(strnlspbc_init)>("strnlspbc_init");
-  auto* const jacobi_init = product.symbol<decltype(sjacobi_init)>("sjacobi_init");
-  auto* const jacobi = product.symbol<decltype(sjacobi)>("sjacobi");
-  auto* const destroy = product.symbol<decltype(strnlsp_delete)>("strnlsp_delete");
-  auto* const bounded_destroy = product.symbol<decltype(strnlspbc_delete)>("strnlspbc_delete");
-  auto* const jacobi_destroy = product.symbol<decltype(sjacobi_delete)>("sjacobi_delete");
-  CountingAllocatorState& state = *allocator.symbol<CountingAllocatorState>("imalloc_state");
-
+  const FailingHost host;
   constexpr int kSuccess = 1501, kOutOfMemory = 1503, kMostAllocations = 100;
   const int32_t n = 3, m = 5, limit = 10;
   float x[] = {1, 2, 3}, low[] = {0, 0, 0}, high[] = {9, 9, 9}, eps[6] = {}, columns[15] = {};
@@ -34,26 +23,26 @@ TEST(AllocationFaults, AreAStatusAndLeakNothing) {
       SCOPED_TRACE(testing::Message() << "call " << call << ", failing " << failures);
       int status = kOutOfMemory, k = 0;
       while (status == kOutOfMemory && ++k < kMostAllocations) {
-        const int live = state.live;
-        state.failures = failures;
-        state.fail_at = k;
-        void* handle = &state;
-        if (call == 0) status = init(&handle, &n, &m, x, eps, &limit, &limit, &rs);
-        if (call == 1) status = bounded_init(&handle, &n, &m, x, low, high, eps, &limit, &limit, &rs);
-        if (call == 2) status = jacobi_init(&handle, &n, &m, x, columns, &step);
-        if (call == 3) status = jacobi(twice, &n, &m, columns, x, &step);
-        state.fail_at = 0;
+        const int live = host.live_blocks();
+        int something = 0;
+        void* handle = &something;
+        host.run_failing(k, failures, [&] {
+          if (call == 0) status = host->strnlsp_init(&handle, &n, &m, x, eps, &limit, &limit, &rs);
+          if (call == 1) status = host->strnlspbc_init(&handle, &n, &m, x, low, high, eps, &limit, &limit, &rs);
+          if (call == 2) status = host->sjacobi_init(&handle, &n, &m, x, columns, &step);
+          if (call == 3) status = host->sjacobi(twice, &n, &m, columns, x, &step);
+        });
         if (status == kOutOfMemory) {
           EXPECT_TRUE(call == 3 || handle == nullptr);
-          EXPECT_EQ(state.live, live);
+          EXPECT_EQ(host.live_blocks(), live);
           continue;
         }
         ASSERT_EQ(status, kSuccess);
-        if (call == 0) status = destroy(&handle);
-        if (call == 1) status = bounded_destroy(&handle);
-        if (call == 2) status = jacobi_destroy(&handle);
+        if (call == 0) status = host->strnlsp_delete(&handle);
+        if (call == 1) status = host->strnlspbc_delete(&handle);
+        if (call == 2) status = host->sjacobi_delete(&handle);
         EXPECT_EQ(status, kSuccess);
-        EXPECT_EQ(state.live, live);
+        EXPECT_EQ(host.live_blocks(), live);
       }
       EXPECT_GT(k, 1) << "no allocation failed";
       EXPECT_LT(k, kMostAllocations);

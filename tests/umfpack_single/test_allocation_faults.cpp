@@ -4,7 +4,6 @@
 #include <functional>
 #include <vector>
 
-#include "quorin/umfpack.h"
 #include "tests/support/failing_host.hpp"
 
 namespace quorin::test {
@@ -22,33 +21,29 @@ struct Problem : FailingHost {
     }
   }
   int make_symbolic() {
-    return symbol<decltype(umfpack_zi_symbolic)>("umfpack_zi_symbolic")(n, n, Ap.data(), Ai.data(), Ax.data(),
-                                                                        Ax.data(), &Symbolic, nullptr, nullptr);
+    return (*this)->umfpack_zi_symbolic(n, n, Ap.data(), Ai.data(), Ax.data(), Ax.data(), &Symbolic, nullptr, nullptr);
   }
   int make_numeric() {
-    return symbol<decltype(umfpack_zi_numeric)>("umfpack_zi_numeric")(Ap.data(), Ai.data(), Ax.data(), Ax.data(),
-                                                                      Symbolic, &Numeric, nullptr, nullptr);
+    return (*this)->umfpack_zi_numeric(Ap.data(), Ai.data(), Ax.data(), Ax.data(), Symbolic, &Numeric, nullptr,
+                                       nullptr);
   }
   int solve() {
-    return symbol<decltype(umfpack_zi_solve)>("umfpack_zi_solve")(0, Ap.data(), Ai.data(), Ax.data(), Ax.data(),
-                                                                  x.data(), x.data() + n, b.data(), b.data(), Numeric,
-                                                                  nullptr, nullptr);
+    return (*this)->umfpack_zi_solve(0, Ap.data(), Ai.data(), Ax.data(), Ax.data(), x.data(), x.data() + n, b.data(),
+                                     b.data(), Numeric, nullptr, nullptr);
   }
   int get_diagonal_and_scale() {
-    return symbol<decltype(umfpack_zi_get_numeric)>("umfpack_zi_get_numeric")(
-        nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, x.data(),
-        x.data() + n, nullptr, b.data(), Numeric);
+    return (*this)->umfpack_zi_get_numeric(nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+                                           nullptr, nullptr, x.data(), x.data() + n, nullptr, b.data(), Numeric);
   }
   int transpose() {
     std::vector<int> Rp(Ap.size()), Ri(Ai.size());
     std::vector<float> Rx(Ax.size()), Rz(Ax.size());
-    return symbol<decltype(umfpack_zi_transpose)>("umfpack_zi_transpose")(n, n, Ap.data(), Ai.data(), Ax.data(),
-                                                                          Ax.data(), nullptr, nullptr, Rp.data(),
-                                                                          Ri.data(), Rx.data(), Rz.data(), 0);
+    return (*this)->umfpack_zi_transpose(n, n, Ap.data(), Ai.data(), Ax.data(), Ax.data(), nullptr, nullptr, Rp.data(),
+                                         Ri.data(), Rx.data(), Rz.data(), 0);
   }
-  void free_symbolic() { symbol<decltype(umfpack_zi_free_symbolic)>("umfpack_zi_free_symbolic")(&Symbolic); }
-  void free_numeric() { symbol<decltype(umfpack_zi_free_numeric)>("umfpack_zi_free_numeric")(&Numeric); }
-  void free_buffers() const { symbol<void()>("sMKL_FreeBuffers")(); }
+  void free_symbolic() { (*this)->umfpack_zi_free_symbolic(&Symbolic); }
+  void free_numeric() { (*this)->umfpack_zi_free_numeric(&Numeric); }
+  void free_buffers() const { (*this)->sMKL_FreeBuffers(); }
 
   int n = 120;
   std::vector<int> Ap{0}, Ai;

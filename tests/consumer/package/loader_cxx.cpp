@@ -1,0 +1,2 @@
+#define QUORIN_LOADER_IMPLEMENTATION
+#include "quorin/loader.h"
