@@ -80,12 +80,13 @@ def cpp_group(family: Family, group: Group) -> str:
     values = [value for value in group.values if value.name]
     if not values:
         return ""
+    title = fill(group.title + ".", "// ")
     if group.tag:
         prefix = common_prefix([value.name for value in values]) or family.prefix
         rows = "".join(f"  {cpp_name(prefix, v.name)} = {v.value},\n" for v in values)
-        return f"// {group.title}.\nenum class {group.tag} : std::int32_t {{\n{rows}}};\n"
+        return f"{title}enum class {group.tag} : std::int32_t {{\n{rows}}};\n"
     rows = "".join(f"inline constexpr std::int32_t {cpp_name(family.prefix, v.name)} = {v.value};\n" for v in values)
-    return f"// {group.title}.\n{rows}"
+    return title + rows
 
 
 def defaults(family: Family, array: ParameterArray) -> str:

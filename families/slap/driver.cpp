@@ -100,8 +100,8 @@ template <class T>
 void iterate(const Call& call, const ColumnMatrix& matrix, const Preconditioner<T>& preconditioner,
              const Preconditioner<T>& transposed, WorkArrays& work) {
   float* const vectors = work.reals(iteration_reals(call));
-  work.set_header(9, work.next_integer());
-  work.set_header(10, work.next_real());
+  work.set_header(kIworkEnd, work.next_integer());
+  work.set_header(kRworkEnd, work.next_real());
   Progress progress(stopping_arguments(call));
   run_iteration(call, System<T>{matrix, preconditioner, transposed, call.b, call.x}, progress, vectors);
 }
@@ -184,18 +184,16 @@ bool has_bad_sizes(const Call& call) {
 }  // namespace
 
 void run(const Call& call) {
-  int* const status = call.stopping.ierr;
-  *status = kConverged;
+  const auto set_status = [&](Status status) { *call.stopping.ierr = static_cast<int>(status); };
+  set_status(kConverged);
   if (call.is_diagonal_gmres()) *call.stopping.err = 0;
   if (has_bad_sizes(call)) {
-    *status = kBadInput;
-    return;
+    return set_status(kBadInput);
   }
   to_column_format(call.n, call.nelt, call.ia, call.ja, call.a, nullptr);
   const ColumnMatrix matrix{call.n, call.nelt, call.ia, call.ja, call.a, call.isym != 0};
   if (!matrix.is_sound()) {
-    *status = kBadInput;
-    return;
+    return set_status(kBadInput);
   }
   switch (call.preconditioning) {
     case Preconditioning::kDiagonal:
@@ -213,7 +211,7 @@ void run(const Call& call) {
   }
   // These two report a limit that was passed before anything else that happened.
   const bool prefers_limit = call.is_diagonal_gmres() || call.is(Iteration::kCgNormal, Preconditioning::kDiagonal);
-  if (prefers_limit && *call.stopping.iter > call.stopping.itmax) *status = kNotConverged;
+  if (prefers_limit && *call.stopping.iter > call.stopping.itmax) set_status(kNotConverged);
 }
 
 }  // namespace quorin::slap

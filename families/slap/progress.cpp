@@ -12,11 +12,11 @@ namespace quorin::slap {
 Progress::Progress(const StoppingArguments& arguments)
     : arguments_(arguments), least_claimed_(std::numeric_limits<float>::infinity()) {
   *arguments_.iter = 0;
-  *arguments_.ierr = kConverged;
+  set(kConverged);
   const float least = 500 * base::machine_constant(3);
   if (*arguments_.tol < least) {
     *arguments_.tol = least;
-    *arguments_.ierr = kToleranceRaised;
+    set(kToleranceRaised);
   }
 }
 
@@ -36,7 +36,7 @@ bool Progress::start_tests(const System<T>& system, T* scratch) {
       return true;
     default:
       *arguments_.err = 1.0E10F;
-      *arguments_.ierr = kBadInput;
+      set(kBadInput);
       return false;
   }
 }
@@ -81,7 +81,7 @@ bool Progress::next() {
   }
   // One more than the limit; the largest limit has no such number.
   *arguments_.iter = static_cast<int>(static_cast<unsigned>(arguments_.itmax) + 1U);
-  *arguments_.ierr = kNotConverged;
+  set(kNotConverged);
   return false;
 }
 

@@ -1,22 +1,11 @@
 // Stopping tests, the iteration count and the status: what all iterations share.
 #pragma once
 
+#include "generated/slap_constants.hpp"
+
 namespace quorin::slap {
 
-enum Status : int {
-  kConverged = 0,
-  kNotConverged = 2,
-  kBadInput = 3,
-  kToleranceRaised = 4,
-  kBreakdown = 5,
-  kSecondBreakdown = 6,
-};
-
-enum StoppingTest : int {
-  kResidual = 1,                // ||r|| / ||b||
-  kPreconditionedResidual = 2,  // ||M^-1 r|| / ||M^-1 b||
-  kKnownSolution = 11,          // ||x - s|| / ||s||, and s is zero in this library: infinite, or a NaN
-};
+using enum Status;
 
 template <class T>
 struct System;
@@ -70,7 +59,7 @@ class Progress {
   bool is_over() const { return *arguments_.iter >= arguments_.itmax; }
   // The end by a breakdown.
   Leg fail(Status status) {
-    *arguments_.ierr = status;
+    set(status);
     return Leg::kOver;
   }
   // Goes back: the iteration that next() went to has not begun.
@@ -83,6 +72,8 @@ class Progress {
   bool tests_solution() const { return arguments_.itol == kKnownSolution; }
 
  private:
+  void set(Status status) { *arguments_.ierr = static_cast<int>(status); }
+
   StoppingArguments arguments_;
   float denominator_ = 0;
   float least_claimed_;  // the least error behind a claim

@@ -37,9 +37,7 @@ Call describe(int n, const float* b, float* x, int nelt, int* ia, int* ja, float
           .iwork = iwork};
 }
 
-// isym != 0: only the lower triangle of a symmetric matrix is stored. x: start vector and result. itol, tol, err: the
-// stopping test, see the manual. *iter: iterations done, or itmax + 1. *ierr: 0 converged; 2 not converged; 3 bad
-// input; 4 tol was raised; 5, 6 breakdown. rwork and iwork are as long as the manual says, which is not checked.
+// The arguments are told in exports/tables/slap.table. rwork and iwork are as long as it says, which is not checked.
 template <Iteration kIteration, Preconditioning kPreconditioning>
 void solve(int n, const float* b, float* x, int nelt, int* ia, int* ja, float* a, int isym, int itol, float* tol,
            int itmax, int* iter, float* err, int* ierr, const int*, float* rwork, const int*, int* iwork,
