@@ -187,22 +187,32 @@ void stop_buffers() noexcept { holder_slot.destroy(); }
 
 void trim_buffers() noexcept { pool.trim(); }
 
-// What OpenBLAS calls instead of its own allocator.
-extern "C" {
-void* blas_memory_alloc(int position);
-void blas_memory_free(void* buffer);
+namespace {
 
-void* blas_memory_alloc(int) {
+void* take_buffer() noexcept {
   if (BufferReservation* const reservation = holder()) {
     if (void* const buffer = reservation->lend()) return buffer;
   }
   return pool.take();
 }
 
-void blas_memory_free(void* buffer) {
+void put_back_buffer(void* buffer) noexcept {
   BufferReservation* const reservation = holder();
   if (reservation == nullptr || !reservation->take_back(buffer)) pool.put_back(buffer);
 }
+
+}  // namespace
+
+LentBuffer::LentBuffer() noexcept : data_(static_cast<std::byte*>(take_buffer())) {}
+LentBuffer::~LentBuffer() { put_back_buffer(data_); }
+
+// What OpenBLAS calls instead of its own allocator.
+extern "C" {
+void* blas_memory_alloc(int position);
+void blas_memory_free(void* buffer);
+
+void* blas_memory_alloc(int) { return take_buffer(); }
+void blas_memory_free(void* buffer) { put_back_buffer(buffer); }
 }
 
 }  // namespace quorin::dense::openblas

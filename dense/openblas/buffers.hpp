@@ -51,6 +51,19 @@ class BufferReservation {
   BufferReservation* outer_ = nullptr;
 };
 
+// A buffer for a kernel that the calling thread is about to run, out of those reserved.
+class LentBuffer {
+ public:
+  LentBuffer() noexcept;
+  ~LentBuffer();
+  LentBuffer(const LentBuffer&) = delete;
+  LentBuffer& operator=(const LentBuffer&) = delete;
+  std::byte* data() const noexcept { return data_; }
+
+ private:
+  std::byte* data_;
+};
+
 // Frees the buffers that no call has reserved. Safe at any time.
 void trim_buffers() noexcept;
 

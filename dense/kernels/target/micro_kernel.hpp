@@ -1,0 +1,107 @@
+// The innermost loop of all products: one tile of C.
+//
+// Source: K. Goto, R. A. van de Geijn, Anatomy of high-performance matrix multiplication, ACM TOMS 34 (2008) 12.
+#pragma once
+
+#include "dense/kernels/target/vectors.hpp"
+
+namespace quorin::dense::kernels::target {
+
+template <class Real>
+using TileKernel = void(int k, const Real* a, std::ptrdiff_t a_step, const Real* b, std::ptrdiff_t b_step,
+                        std::ptrdiff_t b_column, Real alpha, bool adds, Real* c, std::ptrdiff_t ldc) noexcept;
+
+// C <- alpha A B, or C + alpha A B, for kVectors vectors of rows by kColumns columns and k terms: the rows of term l
+// stand together at a + l * a_step, its element of column j is b[l * b_step + j * b_column]. The product with alpha is
+// rounded before it is added, in every tile alike, so that an element's bits do not depend on the tile that makes it.
+template <class Isa, class Real, int kVectors, int kColumns>
+void multiply_tile(int k, const Real* a, std::ptrdiff_t a_step, const Real* b, std::ptrdiff_t b_step,
+                   std::ptrdiff_t b_column, Real alpha, bool adds, Real* c, std::ptrdiff_t ldc) noexcept {
+  using V = Vector<Isa, Real>;
+  constexpr int kWidth = kLanes<Isa, Real>;
+  constexpr int kCacheLine = 64 / static_cast<int>(sizeof(Real)), kAhead = kColumns == 1 ? 2 : kColumns;
+#pragma GCC unroll 8
+  for (int j = 0; j < kColumns; ++j) {
+#pragma GCC unroll 8
+    for (int i = 0; i < kVectors * kWidth; i += kCacheLine) __builtin_prefetch(c + (j + kAhead) * ldc + i, 1);
+  }
+  V sums[kColumns][kVectors] = {};
+  // Columns of B by three pointers and multiples of one step: 32-bit code has seven registers for addresses.
+  const Real *b0 = b, *b3 = b + 3 * b_column, *b6 = b + 6 * b_column;
+  if constexpr (kColumns > 3) asm("" : "+r"(b3));
+  if constexpr (kColumns > 6) asm("" : "+r"(b6));
+  for (; k > 0; --k) {
+    V only;
+    if constexpr (kVectors == 1) {
+      only = load<Isa>(a);
+      pin(only);
+    }
+#pragma GCC unroll 8
+    for (int j = 0; j < kColumns; ++j) {
+      const V bj = all<Isa>((j < 3 ? b0 : j < 6 ? b3 : b6)[j % 3 * b_column]);
+      if constexpr (kVectors == 1) {
+        sums[j][0] += only * bj;
+      } else {
+#pragma GCC unroll 8
+        for (int v = 0; v < kVectors; ++v) sums[j][v] += load<Isa>(a + v * kWidth) * bj;
+      }
+    }
+    a += a_step;
+    b0 += b_step;
+    if constexpr (kColumns > 3) b3 += b_step;
+    if constexpr (kColumns > 6) b6 += b_step;
+  }
+#pragma GCC unroll 8
+  for (int j = 0; j < kColumns; ++j) {
+#pragma GCC unroll 8
+    for (int v = 0; v < kVectors; ++v) {
+      Real* const target = c + j * ldc + v * kWidth;
+      V product = alpha * sums[j][v];
+      pin(product);
+      store<Isa>(target, adds ? product + load<Isa>(target) : product);
+    }
+  }
+}
+
+// How many columns a tile of so many vectors has at best: as many independent sums as there are registers for.
+template <class Isa>
+constexpr int tile_columns(int vectors) noexcept {
+  if (vectors == 1) return Isa::kTileVectors == 1 ? Isa::kTileColumns : 6;
+  return vectors <= 3 ? 6 / vectors : 1;
+}
+
+// The kernel for a tile of `vectors` by `columns`.
+template <class Isa, class Real>
+TileKernel<Real>* tile_kernel(int vectors, int columns) noexcept {
+  constexpr int kMost = 7;
+  static constexpr auto kTable = [] {
+    struct Table {
+      TileKernel<Real>* kernels[kMost + 1][kMost + 1];
+    } table{};
+    const auto enter = [&table]<int kVectors, int kColumns>() {
+      if constexpr (kVectors <= Isa::kSums && kColumns <= tile_columns<Isa>(kVectors)) {
+        table.kernels[kVectors][kColumns] = multiply_tile<Isa, Real, kVectors, kColumns>;
+      }
+    };
+    const auto enter_columns = [&enter]<int kVectors>() {
+      enter.template operator()<kVectors, 1>();
+      enter.template operator()<kVectors, 2>();
+      enter.template operator()<kVectors, 3>();
+      enter.template operator()<kVectors, 4>();
+      enter.template operator()<kVectors, 5>();
+      enter.template operator()<kVectors, 6>();
+      enter.template operator()<kVectors, 7>();
+    };
+    enter_columns.template operator()<1>();
+    enter_columns.template operator()<2>();
+    enter_columns.template operator()<3>();
+    enter_columns.template operator()<4>();
+    enter_columns.template operator()<5>();
+    enter_columns.template operator()<6>();
+    enter_columns.template operator()<7>();
+    return table;
+  }();
+  return kTable.kernels[vectors][columns];
+}
+
+}  // namespace quorin::dense::kernels::target

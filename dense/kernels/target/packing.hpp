@@ -1,0 +1,225 @@
+// Copies blocks of the factors of a product to where, and as, the micro-kernel reads them.
+//
+// Complex products are real ones: an interleaved complex column of C is a real column of twice the length, and a term
+// of the sum is two real terms,
+//   (re c, im c) += (re a, im a) re b + (-im a, re a) im b,
+// so a complex A is packed as these two real columns and B as re b, im b. Source: F. G. Van Zee, Implementing
+// high-performance complex matrix multiplication via the 1m method, SIAM J. Sci. Comput. 42 (2020) C221-C244.
+#pragma once
+
+#include "dense/kernels/target/micro_kernel.hpp"
+
+namespace quorin::dense::kernels::target {
+
+// A rectangle of a general matrix: element (i, l) is data[i * row_step + l * term_step]. `i` counts rows of A or
+// columns of B, `l` the terms of the sums.
+template <class T>
+struct Source {
+  const T* data;
+  std::ptrdiff_t step, term_step;
+  bool is_conjugated;
+};
+
+template <class Isa, Scalar T>
+[[gnu::always_inline]] inline T maybe_conjugated(bool conjugated, T x) noexcept {
+  if constexpr (kIsComplex<T>) {
+    return conjugated ? T(x.real(), -x.imag()) : x;
+  } else {
+    return x;
+  }
+}
+
+template <class Isa, Scalar T>
+[[gnu::always_inline]] inline T plain_product(T a, T b) noexcept {
+  if constexpr (kIsComplex<T>) {
+    return T(a.real() * b.real() - a.imag() * b.imag(), a.real() * b.imag() + a.imag() * b.real());
+  } else {
+    return a * b;
+  }
+}
+
+// Four floats or two doubles of kElements matrix rows, and the same transposed.
+template <class Isa, class Real>
+struct Square {
+  static constexpr int kSize = 16 / static_cast<int>(sizeof(Real));
+  using Row [[gnu::vector_size(16)]] = Real;
+  using RowInMemory [[gnu::vector_size(16), gnu::aligned(4), gnu::may_alias]] = Real;
+
+  [[gnu::always_inline]] static void copy_transposed(const Real* from, std::ptrdiff_t from_step, Real* to,
+                                                     std::ptrdiff_t to_step, Real factor) noexcept {
+    const auto row = [&](int i) __attribute__((always_inline)) {
+      return *reinterpret_cast<const RowInMemory*>(from + i * from_step) * factor;
+    };
+    const auto put = [&](int i, Row values) __attribute__((always_inline)) {
+      *reinterpret_cast<RowInMemory*>(to + i * to_step) = values;
+    };
+    if constexpr (kSize == 4) {
+      const Row r0 = row(0), r1 = row(1), r2 = row(2), r3 = row(3);
+      const Row low01 = __builtin_shufflevector(r0, r1, 0, 4, 1, 5),
+                high01 = __builtin_shufflevector(r0, r1, 2, 6, 3, 7);
+      const Row low23 = __builtin_shufflevector(r2, r3, 0, 4, 1, 5),
+                high23 = __builtin_shufflevector(r2, r3, 2, 6, 3, 7);
+      put(0, __builtin_shufflevector(low01, low23, 0, 1, 4, 5));
+      put(1, __builtin_shufflevector(low01, low23, 2, 3, 6, 7));
+      put(2, __builtin_shufflevector(high01, high23, 0, 1, 4, 5));
+      put(3, __builtin_shufflevector(high01, high23, 2, 3, 6, 7));
+    } else {
+      const Row r0 = row(0), r1 = row(1);
+      put(0, __builtin_shufflevector(r0, r1, 0, 2));
+      put(1, __builtin_shufflevector(r0, r1, 1, 3));
+    }
+  }
+};
+
+// to[i * to_step + l * to_term_step] <- factor * source(i, l) for real numbers, of which one dimension stands together
+// on either side.
+template <class Isa, class Real>
+void copy_real(const Source<Real>& from, int count, int terms, Real factor, Real* to, std::ptrdiff_t to_step,
+               std::ptrdiff_t to_term_step) noexcept {
+  constexpr int kSize = Square<Isa, Real>::kSize;
+  std::ptrdiff_t outer_from = from.term_step, inner_from = from.step, outer_to = to_term_step, inner_to = to_step;
+  int outer = terms, inner = count;
+  if (from.step != 1) {
+    std::swap(outer_from, inner_from);
+    std::swap(outer_to, inner_to);
+    std::swap(outer, inner);
+  }
+  // Now the inner dimension stands together in the source, unless neither does.
+  if (inner_from == 1 && inner_to == 1) {
+    for (int o = 0; o < outer; ++o) {
+      const Real* const x = from.data + o * outer_from;
+      Real* const y = to + o * outer_to;
+      int i = 0;
+      for (; i + kLanes<Isa, Real> <= inner; i += kLanes<Isa, Real>) store<Isa, Real>(y + i, load<Isa>(x + i) * factor);
+      for (; i < inner; ++i) y[i] = factor * x[i];
+    }
+    return;
+  }
+  int o = 0;
+  if (inner_from == 1 && outer_to == 1) {
+    for (; o + kSize <= outer; o += kSize) {
+      const Real* const x = from.data + o * outer_from;
+      Real* const y = to + o;
+      int i = 0;
+      for (; i + kSize <= inner; i += kSize) {
+        Square<Isa, Real>::copy_transposed(x + i, outer_from, y + i * inner_to, inner_to, factor);
+      }
+      for (; i < inner; ++i) {
+        for (int k = 0; k < kSize; ++k) y[k + i * inner_to] = factor * x[i + k * outer_from];
+      }
+    }
+  }
+  for (; o < outer; ++o) {
+    for (int i = 0; i < inner; ++i)
+      to[i * inner_to + o * outer_to] = factor * from.data[i * inner_from + o * outer_from];
+  }
+}
+
+// A panel of A: `height` reals of rows for each real term, of which the rows beyond `count` are zeros.
+template <class Isa, Scalar T>
+struct PanelOfA {
+  using Real = RealOf<T>;
+  Real* out;
+  int height;
+
+  void put(const Source<T>& from, int row, int count, int term, int terms) const noexcept {
+    if constexpr (!kIsComplex<T>) {
+      copy_real<Isa>(from, count, terms, Real{1}, out + row + std::ptrdiff_t{term} * height, 1, height);
+    } else {
+      for (int l = 0; l < terms; ++l) {
+        Real* const straight = out + 2 * (row + std::ptrdiff_t{term + l} * height);
+        Real* const crossed = straight + height;
+        const Real* x = reinterpret_cast<const Real*>(from.data + l * from.term_step);
+        const Real sign = from.is_conjugated ? Real{-1} : Real{1};
+        for (int i = 0; i < count; ++i, x += 2 * from.step) {
+          const Real re = x[0], im = sign * x[1];
+          straight[2 * i] = re;
+          straight[2 * i + 1] = im;
+          crossed[2 * i] = -im;
+          crossed[2 * i + 1] = re;
+        }
+      }
+    }
+  }
+  void put_element(T x, int row, int term) const noexcept { put({&x, 1, 1, false}, row, 1, term, 1); }
+  void put_zeros(int first, int terms) const noexcept {
+    constexpr int kParts = kIsComplex<T> ? 2 : 1;
+    for (int l = 0; l < kParts * terms; ++l) {
+      for (int i = kParts * first; i < height; ++i) out[i + std::ptrdiff_t{l} * height] = 0;
+    }
+  }
+};
+
+// Columns of B for tiles of `width` columns: term by term, the elements of a tile's columns side by side.
+template <class Isa, Scalar T>
+struct SliverOfB {
+  using Real = RealOf<T>;
+  Real* out;
+  int width;  // of the slivers if more than 1, then one at a time is put
+  int depth;  // terms of the whole block
+  T factor;
+
+  void put(const Source<T>& from, int column, int count, int term, int terms) const noexcept {
+    if constexpr (!kIsComplex<T>) {
+      if (width == 1) {
+        copy_real<Isa>(from, count, terms, factor, out + std::ptrdiff_t{column} * depth + term, depth, 1);
+      } else {
+        copy_real<Isa>(from, count, terms, factor, out + column + std::ptrdiff_t{term} * width, 1, width);
+      }
+    } else {
+      const std::ptrdiff_t step = width == 1 ? 2 * std::ptrdiff_t{depth} : 1, part_step = width;
+      Real* const first = out + column * step + 2 * std::ptrdiff_t{term} * width;
+      const bool is_scaled = factor != T{1};
+      for (int j = 0; j < count; ++j) {
+        Real* to = first + j * step;
+        const T* x = from.data + j * from.step;
+        for (int l = 0; l < terms; ++l, x += from.term_step, to += 2 * part_step) {
+          T value = maybe_conjugated<Isa>(from.is_conjugated, *x);
+          if (is_scaled) value = plain_product<Isa>(factor, value);
+          to[0] = value.real();
+          to[part_step] = value.imag();
+        }
+      }
+    }
+  }
+  void put_element(T x, int column, int term) const noexcept { put({&x, 1, 1, false}, column, 1, term, 1); }
+};
+
+// Element (i, l) of a view whose rows (kRows) or columns the index i counts.
+template <class Isa, bool kRows, Scalar T>
+Source<T> source_at(const View<T>& view, int i, int l) noexcept {
+  const std::ptrdiff_t step = kRows ? view.row_step : view.column_step;
+  const std::ptrdiff_t term_step = kRows ? view.column_step : view.row_step;
+  return {view.data + i * step + l * term_step, step, term_step, view.is_conjugated};
+}
+
+// Puts elements (first.., term..) of a view into `target` (a panel or slivers), whose element (0, 0) is the first.
+template <class Isa, bool kRows, Scalar T, class Target>
+void pack(const View<T>& view, int first, int count, int term, int terms, const Target& target) noexcept {
+  if (view.structure == Structure::kGeneral) {
+    return target.put(source_at<Isa, kRows>(view, first, term), 0, count, 0, terms);
+  }
+  // Terms before and behind the square on the diagonal lie in one triangle each, the stored one or its mirror image.
+  View<T> mirrored = view;
+  std::swap(mirrored.row_step, mirrored.column_step);
+  mirrored.is_conjugated = view.is_hermitian;
+  const bool is_row_below_term = (view.structure == Structure::kLower) == kRows;  // where the stored elements are
+  const int end = term + terms;
+  const int before = std::clamp(first, term, end), behind = std::clamp(first + count, term, end);
+  const View<T>& left = is_row_below_term ? view : mirrored;
+  const View<T>& right = is_row_below_term ? mirrored : view;
+  if (before > term) target.put(source_at<Isa, kRows>(left, first, term), 0, count, 0, before - term);
+  if (end > behind) target.put(source_at<Isa, kRows>(right, first, behind), 0, count, behind - term, end - behind);
+  for (int l = before; l < behind; ++l) {
+    for (int i = first; i < first + count; ++i) {
+      const Source<T> element = source_at<Isa, kRows>(i > l ? left : right, i, l);
+      T value = maybe_conjugated<Isa>(element.is_conjugated, *element.data);
+      if constexpr (kIsComplex<T>) {
+        if (i == l && view.is_hermitian) value = T(value.real(), 0);
+      }
+      target.put_element(value, i - first, l - term);
+    }
+  }
+}
+
+}  // namespace quorin::dense::kernels::target

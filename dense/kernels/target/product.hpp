@@ -1,0 +1,201 @@
+// The product of two matrices on one thread: columns of C in blocks, terms in blocks (B is packed), rows in panels (A
+// is packed, and stays in the first cache while the columns of B stream past it), tiles.
+#pragma once
+
+#include "dense/kernels/target/packing.hpp"
+
+namespace quorin::dense::kernels::target {
+
+template <class Isa, Scalar T>
+struct Tiles {
+  using Real = RealOf<T>;
+  static constexpr int kParts = kIsComplex<T> ? 2 : 1;  // reals in an element
+  static constexpr int kWidth = kLanes<Isa, Real>;
+  static constexpr int kMostRows = Isa::kTileVectors * kWidth / kParts;
+  static constexpr int kMostTile = 7 * kWidth;  // reals, whatever its shape
+};
+
+// How many vectors the next panel has if `vectors` are left: shapes that keep many sums going.
+template <class Isa>
+constexpr int panel_vectors(int vectors) noexcept {
+  if (vectors >= Isa::kTileVectors) return Isa::kTileVectors;
+  return vectors == 4 || vectors == 5 ? 3 : vectors;
+}
+
+// Where the tiles of one panel of rows find their factors.
+template <class Isa, Scalar T>
+struct Panel {
+  using Real = RealOf<T>;
+  int first_row, rows, vectors;
+  const Real* a;
+  std::ptrdiff_t a_step;
+  int terms;  // real ones
+};
+template <class Isa, Scalar T>
+struct BlockOfB {
+  using Real = RealOf<T>;
+  const Real* data;
+  std::ptrdiff_t term_step, column_step;
+  int sliver;  // columns that stand side by side in the packed block, 1 for none
+  int first_column, columns;
+};
+
+// A tile of which only the rows first..last of each column are wanted, by way of a copy.
+template <class Isa, Scalar T>
+void make_part_of_tile(const Product<T>& p, const Panel<Isa, T>& panel, TileKernel<RealOf<T>>* kernel,
+                       const RealOf<T>* b, std::ptrdiff_t b_step, std::ptrdiff_t b_column, RealOf<T> alpha, bool adds,
+                       int column, int columns) noexcept {
+  using Real = RealOf<T>;
+  constexpr int kParts = Tiles<Isa, T>::kParts;
+  alignas(64) Real copy[Tiles<Isa, T>::kMostTile];
+  const int height = panel.vectors * kLanes<Isa, Real>;
+  const auto exchange = [&](bool is_result) __attribute__((always_inline)) {
+    for (int j = 0; j < columns; ++j) {
+      int first = panel.first_row, end = panel.first_row + panel.rows;
+      if (p.part == Part::kLower) first = std::max(first, column + j);
+      if (p.part == Part::kUpper) end = std::min(end, column + j + 1);
+      Real* const inside = copy + j * height + kParts * (first - panel.first_row);
+      Real* const outside = reinterpret_cast<Real*>(p.c + first + (column + j) * p.ldc);
+      for (int i = 0; i < kParts * (end - first); ++i) {
+        if (is_result) {
+          outside[i] = inside[i];
+        } else {
+          inside[i] = outside[i];
+        }
+      }
+    }
+  };
+  if (adds) {
+    for (int i = 0; i < columns * height; ++i) copy[i] = 0;
+    exchange(false);
+  }
+  kernel(panel.terms, panel.a, panel.a_step, b, b_step, b_column, alpha, adds, copy, height);
+  exchange(true);
+}
+
+template <class Isa, Scalar T>
+void make_tiles(const Product<T>& p, const Panel<Isa, T>& panel, const BlockOfB<Isa, T>& block, RealOf<T> alpha,
+                bool adds) noexcept {
+  using Real = RealOf<T>;
+  constexpr int kParts = Tiles<Isa, T>::kParts;
+  const int last_row = panel.first_row + panel.rows - 1;
+  const bool is_full = kParts * panel.rows == panel.vectors * Tiles<Isa, T>::kWidth;
+  const int most = block.sliver > 1 ? block.sliver : tile_columns<Isa>(panel.vectors);
+  for (int j = 0, count = 0; j < block.columns; j += count) {
+    count = std::min(most, block.columns - j);
+    const int column = block.first_column + j;
+    if (p.part == Part::kLower && column > last_row) break;
+    if (p.part == Part::kUpper && column + count <= panel.first_row) continue;
+    const bool is_inside =
+        p.part == Part::kAll || (p.part == Part::kLower ? column + count - 1 <= panel.first_row : column >= last_row);
+    const Real* b = block.data;
+    std::ptrdiff_t b_step = block.term_step, b_column = block.column_step;
+    if (block.sliver > 1) {
+      b += std::ptrdiff_t{j} * panel.terms;
+      b_step = count;
+      b_column = 1;
+    } else {
+      b += j * b_column;
+    }
+    TileKernel<Real>* const kernel = tile_kernel<Isa, Real>(panel.vectors, count);
+    if (is_full && is_inside) {
+      kernel(panel.terms, panel.a, panel.a_step, b, b_step, b_column, alpha, adds,
+             reinterpret_cast<Real*>(p.c + panel.first_row + column * p.ldc), kParts * p.ldc);
+    } else {
+      make_part_of_tile<Isa>(p, panel, kernel, b, b_step, b_column, alpha, adds, column, count);
+    }
+  }
+}
+
+// C <- beta C in the part that is made.
+template <class Isa, Scalar T>
+void scale(const Product<T>& p) noexcept {
+  for (int j = p.first_column; j < p.first_column + p.columns; ++j) {
+    int first = p.first_row, end = p.first_row + p.rows;
+    if (p.part == Part::kLower) first = std::max(first, j);
+    if (p.part == Part::kUpper) end = std::min(end, j + 1);
+    T* const c = p.c + j * p.ldc;
+    for (int i = first; i < end; ++i) c[i] = p.beta == T{} ? T{} : plain_product<Isa>(p.beta, c[i]);
+  }
+}
+
+template <class Isa, Scalar T>
+void multiply(const Product<T>& p, const Blocking& blocking, std::byte* buffer) noexcept {
+  using Real = RealOf<T>;
+  constexpr int kParts = Tiles<Isa, T>::kParts, kWidth = Tiles<Isa, T>::kWidth;
+  const T one{1};
+  if (p.rows <= 0 || p.columns <= 0) return;
+  const bool is_scaling_only = p.alpha == T{} || p.k == 0;
+  if (p.beta != one && (is_scaling_only || p.beta != T{})) scale<Isa>(p);
+  if (is_scaling_only) return;
+
+  // Where op(A) is A, alpha multiplies B as in the published routine, else the sums; 1 and -1 are the same either way.
+  const bool is_sign = p.alpha == one || p.alpha == -one;
+  const bool scales_sums = is_sign || (!kIsComplex<T> && p.a.row_step != 1);
+  const Real alpha = scales_sums ? std::real(p.alpha) : Real{1};
+  const T factor = scales_sums ? one : p.alpha;
+
+  // Small factors are read where they are, if they are there as packing would make them.
+  constexpr int kFewColumns = 8 * tile_columns<Isa>(1), kFewRows = 4 * Isa::kBytes;
+  constexpr std::ptrdiff_t kSmall = 1 << 14;
+  const bool is_small_b = std::ptrdiff_t{p.k} * p.columns <= kSmall && p.rows <= kFewRows;
+  const bool direct_a = !kIsComplex<T> && p.a.structure == Structure::kGeneral && p.a.row_step == 1 &&
+                        std::ptrdiff_t{p.k} * p.rows <= kSmall && p.columns <= kFewColumns;
+  const bool direct_b = factor == one && p.b.structure == Structure::kGeneral && !p.b.is_conjugated &&
+                        (!kIsComplex<T> || p.b.row_step == 1) && is_small_b;
+
+  const int depth_blocks = (p.k + blocking.depth - 1) / blocking.depth;
+  const int depth = (p.k + depth_blocks - 1) / depth_blocks;  // at most blocking.depth
+  Real* const panel_memory = reinterpret_cast<Real*>(buffer);
+  Real* const block_memory = panel_memory + std::ptrdiff_t{depth} * kParts * Isa::kTileVectors * kWidth;
+
+  const int end_row = p.first_row + p.rows, end_column = p.first_column + p.columns;
+  for (int j = p.first_column, columns = 0; j < end_column; j += columns) {
+    columns = std::min(blocking.columns, end_column - j);
+    bool adds = p.beta != T{};
+    for (int l = 0, terms = 0; l < p.k; l += terms, adds = true) {
+      terms = std::min(depth, p.k - l);
+      BlockOfB<Isa, T> block{nullptr, 1, 1, 1, j, columns};
+      if (direct_b) {
+        block.data = reinterpret_cast<const Real*>(p.b.data + l * p.b.row_step + j * p.b.column_step);
+        block.term_step = kIsComplex<T> ? 1 : p.b.row_step;
+        block.column_step = kParts * p.b.column_step;
+      } else {
+        block.data = block_memory;
+        block.column_step = std::ptrdiff_t{terms} * kParts;
+        if constexpr (Isa::kTileColumns == 1) {
+          pack<Isa, false>(p.b, j, columns, l, terms, SliverOfB<Isa, T>{block_memory, 1, terms, factor});
+        } else {
+          block.sliver = Isa::kTileColumns;
+          for (int s = 0; s < columns; s += Isa::kTileColumns) {
+            const int width = std::min(Isa::kTileColumns, columns - s);
+            // A sliver of one column is the same in both forms.
+            pack<Isa, false>(
+                p.b, j + s, width, l, terms,
+                SliverOfB<Isa, T>{block_memory + std::ptrdiff_t{s} * terms * kParts, width, terms, factor});
+          }
+        }
+      }
+      for (int i = p.first_row, rows = 0; i < end_row; i += rows) {
+        const int vectors_left = (kParts * (end_row - i) + kWidth - 1) / kWidth;
+        int vectors = panel_vectors<Isa>(vectors_left);
+        rows = std::min(end_row - i, vectors * kWidth / kParts);
+        if (p.part == Part::kLower && i + rows <= j) continue;
+        if (p.part == Part::kUpper && i >= j + columns) break;
+        Panel<Isa, T> panel{i, rows, vectors, panel_memory, std::ptrdiff_t{vectors} * kWidth, kParts * terms};
+        const bool has_whole_vectors = kParts * rows == vectors * kWidth;
+        if (direct_a && has_whole_vectors) {
+          panel.a = reinterpret_cast<const Real*>(p.a.data + i + l * p.a.column_step);
+          panel.a_step = p.a.column_step;
+        } else {
+          const PanelOfA<Isa, T> target{panel_memory, vectors * kWidth};
+          pack<Isa, true>(p.a, i, rows, l, terms, target);
+          if (!has_whole_vectors) target.put_zeros(rows, terms);
+        }
+        make_tiles<Isa>(p, panel, block, alpha, adds);
+      }
+    }
+  }
+}
+
+}  // namespace quorin::dense::kernels::target

@@ -1,0 +1,156 @@
+// Small triangles times, or dividing, many vectors at once: the vectors stand across the lanes, so that the triangle's
+// elements are broadcast and every lane does the same.
+#pragma once
+
+#include "dense/kernels/target/packing.hpp"
+
+namespace quorin::dense::kernels::target {
+
+// i z for the complex numbers in a vector.
+template <class Isa, class Real>
+[[gnu::always_inline]] inline Vector<Isa, Real> times_i(Vector<Isa, Real> z) noexcept {
+  using Index [[gnu::vector_size(Isa::kBytes)]] = std::conditional_t<sizeof(Real) == 4, std::int32_t, std::int64_t>;
+  Index neighbours{};
+  Vector<Isa, Real> signs{};
+#pragma GCC unroll 16
+  for (int i = 0; i < kLanes<Isa, Real>; ++i) {
+    neighbours[i] = i ^ 1;
+    signs[i] = i % 2 == 0 ? Real{-1} : Real{1};
+  }
+  return __builtin_shuffle(z, neighbours) * signs;
+}
+
+// `kVectors` vectors of lanes: element p of all of them at x + p * kStep, and for complex numbers i times that behind.
+template <class Isa, Scalar T, int kVectors>
+struct LaneBlock {
+  using Real = RealOf<T>;
+  using V = Vector<Isa, Real>;
+  static constexpr int kParts = kIsComplex<T> ? 2 : 1, kWidth = kLanes<Isa, Real>;
+  static constexpr int kReals = kVectors * kWidth, kVectorsOfT = kReals / kParts, kStep = kParts * kReals;
+  const TriangleBlock<T>& block;
+  Real* x;
+
+  T element(int p, int q) const noexcept {
+    return maybe_conjugated<Isa>(block.is_conjugated, block.triangle[p * block.row_step + q * block.column_step]);
+  }
+
+  void put(int p, const V (&value)[kVectors]) const noexcept {
+#pragma GCC unroll 4
+    for (int v = 0; v < kVectors; ++v) {
+      Real* const to = x + p * kStep + v * kWidth;
+      store<Isa>(to, value[v]);
+      if constexpr (kIsComplex<T>) store<Isa>(to + kReals, times_i<Isa, Real>(value[v]));
+    }
+  }
+
+  // value <- value + t x_p
+  [[gnu::always_inline]] void add_multiple(T t, int p, V (&value)[kVectors]) const noexcept {
+    const Real* const from = x + p * kStep;
+    const V re = all<Isa>(std::real(t));
+#pragma GCC unroll 4
+    for (int v = 0; v < kVectors; ++v) value[v] += re * load<Isa>(from + v * kWidth);
+    if constexpr (kIsComplex<T>) {
+      const V im = all<Isa>(t.imag());
+#pragma GCC unroll 4
+      for (int v = 0; v < kVectors; ++v) value[v] += im * load<Isa>(from + kReals + v * kWidth);
+    }
+  }
+
+  void get(int p, V (&value)[kVectors]) const noexcept {
+#pragma GCC unroll 4
+    for (int v = 0; v < kVectors; ++v) value[v] = load<Isa>(x + p * kStep + v * kWidth);
+  }
+
+  void divide(int p, T pivot, V (&value)[kVectors]) const noexcept {
+    if constexpr (!kIsComplex<T>) {
+#pragma GCC unroll 4
+      for (int v = 0; v < kVectors; ++v) value[v] /= pivot;
+    } else {
+      put(p, value);
+      // A reciprocal neither overflows nor loses digits in between; outside, each quotient is made by itself.
+      constexpr Real kLargest = static_cast<Real>(sizeof(Real) == 4 ? 0x1p60 : 0x1p500);
+      const Real size = std::max(std::abs(pivot.real()), std::abs(pivot.imag()));
+      if (size >= 1 / kLargest && size <= kLargest) {
+        for (V& vector : value) vector = V{};
+        return add_multiple(T{1} / pivot, p, value);
+      }
+      T* const numbers = reinterpret_cast<T*>(x + p * kStep);
+      for (int j = 0; j < kVectorsOfT; ++j) numbers[j] /= pivot;
+      get(p, value);
+    }
+  }
+
+  void solve() const noexcept {
+    for (int p = 0; p < block.order; ++p) {
+      V value[kVectors];
+      get(p, value);
+      for (int q = 0; q < p; ++q) add_multiple(-element(p, q), q, value);
+      if (!block.has_unit_diagonal) divide(p, element(p, p), value);
+      put(p, value);
+    }
+  }
+
+  void multiply() const noexcept {
+    if constexpr (kIsComplex<T>) {
+      for (int p = 0; p < block.order; ++p) {
+        V value[kVectors];
+        get(p, value);
+        put(p, value);
+      }
+    }
+    for (int p = block.order - 1; p >= 0; --p) {
+      V value[kVectors] = {};
+      if (block.has_unit_diagonal) {
+        get(p, value);
+      } else {
+        add_multiple(element(p, p), p, value);
+      }
+      for (int q = 0; q < p; ++q) add_multiple(element(p, q), q, value);
+      put(p, value);
+    }
+  }
+
+  // Vectors first.. to their lanes or back; the lanes beyond `count` hold zeros.
+  void exchange(int first, int count, bool is_result) const noexcept {
+    for (int p = 0; p < block.order; ++p) {
+      T* outside = block.x + p * block.x_step + first * block.vector_step;
+      T* const inside = reinterpret_cast<T*>(x + p * kStep);
+      for (int j = 0; j < count; ++j, outside += block.vector_step) {
+        if (is_result) {
+          *outside = inside[j];
+        } else {
+          inside[j] = *outside;
+        }
+      }
+      if (!is_result) {
+        for (int j = count; j < kVectorsOfT; ++j) inside[j] = T{};
+      }
+    }
+  }
+
+  // Works on vectors from `first` on while as many are left as there are lanes, or until none are left.
+  template <bool kSolves>
+  int run(int first, bool to_the_end) const noexcept {
+    while (to_the_end ? first < block.count : first + kVectorsOfT <= block.count) {
+      const int count = std::min(kVectorsOfT, block.count - first);
+      exchange(first, count, false);
+      if constexpr (kSolves) {
+        solve();
+      } else {
+        multiply();
+      }
+      exchange(first, count, true);
+      first += count;
+    }
+    return first;
+  }
+};
+
+template <class Isa, Scalar T, bool kSolves>
+void run_triangle(const TriangleBlock<T>& block, std::byte* buffer) noexcept {
+  auto* const x = reinterpret_cast<RealOf<T>*>(buffer);
+  const int first = LaneBlock<Isa, T, 4>{block, x}.template run<kSolves>(0, false);
+  LaneBlock<Isa, T, 1>{block, x}.template run<kSolves>(first, true);
+}
+
+}  // namespace quorin::dense::kernels::target

@@ -1,0 +1,55 @@
+// Vectors of the instruction set that is being compiled for. For the files of kernels/target/ alone: they are read
+// inside a region of compiler options for one instruction set (avx2.cpp and its like), include nothing but each other,
+// and hold templates over that set only, so that no function of theirs stands in for one of another set.
+#pragma once
+
+namespace quorin::dense::kernels::target {
+
+// The register file as 32-bit code sees it: eight vectors. A tile of C of kTileVectors by kTileColumns stays in
+// registers while its sums are formed. Seven sums leave one register: for an element of B that multiplies vectors of A
+// in memory, or, where the instructions can repeat an element of B from memory by themselves (AVX-512), for a vector of
+// A. Without fused multiply-adds a product needs a register of its own.
+struct Sse2 {
+  static constexpr auto kSet = platform::InstructionSet::kSse2;
+  static constexpr int kBytes = 16, kTileVectors = 6, kTileColumns = 1, kSums = 6;
+};
+struct Avx2 {
+  static constexpr auto kSet = platform::InstructionSet::kAvx2;
+  static constexpr int kBytes = 32, kTileVectors = 7, kTileColumns = 1, kSums = 7;
+};
+struct Avx512 {
+  static constexpr auto kSet = platform::InstructionSet::kAvx512;
+  static constexpr int kBytes = 64, kTileVectors = 1, kTileColumns = 7, kSums = 7;
+};
+
+template <class Isa, class Real>
+struct VectorTypes {
+  using Vector [[gnu::vector_size(Isa::kBytes)]] = Real;
+  // As it lies in an array of a host, which aligns even doubles to 4 bytes only.
+  using InMemory [[gnu::vector_size(Isa::kBytes), gnu::aligned(4), gnu::may_alias]] = Real;
+};
+template <class Isa, class Real>
+using Vector = typename VectorTypes<Isa, Real>::Vector;
+template <class Isa, class Real>
+inline constexpr int kLanes = Isa::kBytes / static_cast<int>(sizeof(Real));
+
+template <class Isa, class Real>
+[[gnu::always_inline]] inline Vector<Isa, Real> load(const Real* x) noexcept {
+  return *reinterpret_cast<const typename VectorTypes<Isa, Real>::InMemory*>(x);
+}
+template <class Isa, class Real>
+[[gnu::always_inline]] inline void store(Real* x, Vector<Isa, Real> v) noexcept {
+  *reinterpret_cast<typename VectorTypes<Isa, Real>::InMemory*>(x) = v;
+}
+template <class Isa, class Real>
+[[gnu::always_inline]] inline Vector<Isa, Real> all(Real x) noexcept {
+  return x - Vector<Isa, Real>{};  // x - 0 is x, whatever its sign, and costs nothing
+}
+
+// Keeps what a register holds from being computed again, read from memory, or fused with what follows.
+template <class V>
+[[gnu::always_inline]] inline void pin(V& vector) noexcept {
+  asm("" : "+v"(vector));
+}
+
+}  // namespace quorin::dense::kernels::target
