@@ -249,7 +249,7 @@ class Family:
     def status_groups(self, routine: Routine) -> list[Group]:
         """The groups whose place the routine has."""
         places = {argument.name for argument in routine.arguments if argument.direction != IN}
-        if routine.result:
+        if routine.result is TYPES["int"]:
             places.add(RESULT)
         return [group for group in self.statuses if group.place in places]
 

@@ -28,7 +28,7 @@ void print_strategy(const float* Control) {
     base::print(
         " (unsymmetric)\n        Q = COLAMD (A), Q refined during numerical\n"
         "        factorization, and no attempt at diagonal pivoting.\n");
-  } else if (strategy == kTwoByTwo) {
+  } else if (strategy == kStrategy2by2) {
     base::print(" (symmetric, with 2-by-2 block pivoting)\n        Taken as the symmetric strategy.\n");
   } else if (strategy == UMFPACK_STRATEGY_SYMMETRIC) {
     base::print(
@@ -78,8 +78,7 @@ void print_factorization(const float* Control) {
                    "    %d: initial allocation (in Units): %d\n");
   base::print("    %d: max iterative refinement steps: %d\n", UMFPACK_IRSTEP,
               std::max(0, whole_setting(Control, UMFPACK_IRSTEP)));
-  base::print("    %d: 2-by-2 pivot tolerance: %g\n", kTwoByTwoToleranceControl,
-              tolerance(Control, kTwoByTwoToleranceControl));
+  base::print("    %d: 2-by-2 pivot tolerance: %g\n", k2by2Tolerance, tolerance(Control, k2by2Tolerance));
   base::print("    %d: Q fixed during numerical factorization: %g %s\n", UMFPACK_FIXQ, widened(Control, UMFPACK_FIXQ),
               three_ways(setting(Control, UMFPACK_FIXQ)));
   print_dense(Control, UMFPACK_AMD_DENSE, "    %d: AMD dense row/col parameter:    %g\n",
@@ -101,9 +100,9 @@ void print_compile_time() {
   base::print("\n    The following options can only be changed at compile-time:\n");
   base::print("    %d: BLAS library used:  Fortran BLAS.  size of BLAS integer: %d\n", UMFPACK_COMPILED_WITH_BLAS,
               static_cast<int>(sizeof(std::int32_t)));
-  base::print("    %d: compiled for ANSI C\n", kMexControl);
-  base::print("    %d: CPU timer is ANSI C clock (may wrap around).\n", kTimerControl);
-  base::print("    %d: debugging not enabled.\n", kDebugControl);
+  base::print("    %d: compiled for ANSI C\n", kCompiledForMatlab);
+  base::print("    %d: CPU timer is ANSI C clock (may wrap around).\n", kCompiledWithGetrusage);
+  base::print("    %d: debugging not enabled.\n", kCompiledInDebugMode);
   base::print("    size of int: %d long: %d Int: %d pointer: %d float: %d Entry: %d (in bytes)\n\n",
               static_cast<int>(sizeof(std::int32_t)), static_cast<int>(sizeof(std::int32_t)),
               static_cast<int>(sizeof(std::int32_t)), static_cast<int>(sizeof(void*)), static_cast<int>(sizeof(float)),

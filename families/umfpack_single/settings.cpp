@@ -9,15 +9,13 @@
 
 namespace quorin::umfpack_single {
 
-static_assert(kControlLength == UMFPACK_CONTROL);
-
 void defaults(float* Control) noexcept {
-  if (Control != nullptr) std::copy(kDefaults.begin(), kDefaults.end(), Control);
+  if (Control != nullptr) std::copy(kControlDefaults.begin(), kControlDefaults.end(), Control);
 }
 
 float setting(const float* Control, int index) {
   const auto i = static_cast<std::size_t>(index);
-  return Control == nullptr || std::isnan(Control[i]) ? kDefaults[i] : Control[i];
+  return Control == nullptr || std::isnan(Control[i]) ? kControlDefaults[i] : Control[i];
 }
 
 int whole_setting(const float* Control, int index) {
@@ -47,7 +45,7 @@ Settings::Settings(const float* Control) {
     }
   }
   // There is no 2-by-2 strategy any more; the symmetric one is its heir.
-  if (control_[UMFPACK_STRATEGY] == kTwoByTwo) control_[UMFPACK_STRATEGY] = UMFPACK_STRATEGY_SYMMETRIC;
+  if (control_[UMFPACK_STRATEGY] == kStrategy2by2) control_[UMFPACK_STRATEGY] = UMFPACK_STRATEGY_SYMMETRIC;
 }
 
 }  // namespace quorin::umfpack_single

@@ -1,10 +1,7 @@
 // UMFPACK with float entries, Control and Info, over UMFPACK in double precision.
 //
-// Matrices are compressed columns: Ap[0] = 0, Ap[n_col] entries, row indices ascending in each column. Complex arrays
-// come split, real parts in x and imaginary parts in z, or packed in x if z is null. Every float that comes in is
-// widened for the computation, every result narrowed; a routine allocates double copies of the arrays that it reads and
-// writes, for the time of the call. The statuses are UMFPACK's; -1 means that memory was short, and then no object
-// exists. Any number of threads may work on objects of their own, and solve with one object at once.
+// What hosts see, matrices, Control, Info and statuses among it, is told in exports/tables/umfpack.table. A routine
+// allocates double copies of the arrays that it reads and writes, for the time of the call.
 //
 // Source: T. A. Davis, Algorithm 832: UMFPACK V4.3 -- an unsymmetric-pattern multifrontal method, ACM TOMS 30 (2004)
 // 196-199; UMFPACK User Guide.
@@ -33,7 +30,6 @@ void report_info(const float* Control, const float* Info) noexcept;
 void report_control(const float* Control) noexcept;
 int report_perm(int np, const int* Perm, const float* Control) noexcept;
 
-// stats[0] wall clock, always 0; stats[1] processor time in seconds, since `tic` after `toc`.
 void tic(double* stats) noexcept;
 void toc(double* stats) noexcept;
 double timer() noexcept;
