@@ -59,72 +59,108 @@ enum {
 
 /* ---- Matrices ---- */
 
-/* A new m-by-n matrix with room for nnz entries, whose arrays are not cleared, and with these flags; null without a
-   type or without memory. */
+/* A new m-by-n matrix with room for nnz entries, whose arrays are not cleared, and with these flags.
+     m: rows
+     n: columns of a matrix, elements of a vector
+     nnz: entries that there is room for
+     flags: the type of the elements, and for a matrix what is stored */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_create(int32_t m, int32_t n, int32_t nnz, int32_t flags);
 
-/* Frees a matrix and its arrays; null does nothing. */
+/* Frees a matrix and its arrays; null does nothing.
+     A: may be null: a matrix */
 QUORIN_API void QUORIN_CDECL taucs_ccs_free(taucs_ccs_matrix* A);
 
 /* A^T, rows ascending in each column. A stored triangle becomes the other one, with TAUCS_LOWER and TAUCS_UPPER
-   exchanged; nothing is conjugated. */
+   exchanged; nothing is conjugated.
+     A: a matrix */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_transpose(const taucs_ccs_matrix* A);
 
-/* P A P^T for a symmetric or Hermitian matrix whose lower triangle is stored; so is that of the result. Entry (i, j)
-   goes to (invperm[i], invperm[j]).
-     perm: [A.n]
-     invperm: [A.n] */
+/* P A P^T for a symmetric or Hermitian matrix; entry (i, j) goes to (invperm[i], invperm[j]).
+     A: the matrix, its lower triangle stored; so is that of the result
+     perm: [A.n]: a permutation
+     invperm: [A.n]: its inverse */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_permute_symmetrically(const taucs_ccs_matrix* A,
                                                                           const int32_t* perm, const int32_t* invperm);
 
 /* Row i becomes row perm[i]. Matrices of doubles only; others stay as they are.
-     perm: [A.m] */
+     A: a matrix
+     perm: [A.m]: the new place of each row */
 QUORIN_API void QUORIN_CDECL taucs_ccs_permute_rows_inplace(taucs_ccs_matrix* A, const int32_t* perm);
 
 /* Cuts a lower-stored matrix behind its first p columns: L, n-by-p, takes these as they are, as a general matrix
    flagged TAUCS_LOWER; R, of order n-p and with A's flags, takes the other columns, renumbered from zero. Both are null
-   if there is no memory, or for p < 0 or p > n.
-     L: out
-     R: out */
+   if there is no memory, or for a wrong p.
+     A: a matrix of which the lower triangle is stored
+     L: out: the first columns; null if there is none
+     R: out: the other columns; null if there is none
+     p: number of columns of L, from 0 to n */
 QUORIN_API void QUORIN_CDECL taucs_ccs_split(const taucs_ccs_matrix* A, taucs_ccs_matrix** L, taucs_ccs_matrix** R,
                                              int32_t p);
 
-/* b <- A x; symmetric and Hermitian matrices act as the full matrix. x has n elements, of b the first n are set, and
-   beyond them those in whose rows A has entries: b needs max(m, n). */
+/* b <- A x; symmetric and Hermitian matrices act as the full matrix.
+     A: a matrix
+     x: n elements
+     b: the product, max(m, n) elements: the first n are set, and beyond them those in whose rows A has entries */
 QUORIN_API void QUORIN_CDECL taucs_ccs_times_vec(const taucs_ccs_matrix* A, const void* x, void* b);
 
-/* B <- A X, as taucs_ccs_times_vec for each of the columns, which are n elements apart; for m <= n. */
+/* B <- A X, as taucs_ccs_times_vec for each of the columns, which are n elements apart; for m <= n.
+     A: a matrix
+     count: number of vectors
+     X: the vectors
+     B: the products */
 QUORIN_API void QUORIN_CDECL taucs_ccs_times_vec_many(const taucs_ccs_matrix* A, int32_t count, const void* X, void* B);
 
 /* For a symmetric or Hermitian lower-stored A = D + N + P (diagonal, off-diagonal entries of non-positive and of
    positive real part) the matrix M = [D+N, -P; -P, D+N] of order 2n, which has no positive off-diagonal entry: M [x;
-   -x] = [A x; -A x]. Null for another structure. */
+   -x] = [A x; -A x]. Null for another structure.
+     A: a matrix */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_augment_nonpositive_offdiagonals(const taucs_ccs_matrix* A);
 
 /* ---- Vectors ---- */
 
-/* A new vector of n elements, not cleared; null without a type or without memory. */
+/* A new vector of n elements, not cleared.
+     n: columns of a matrix, elements of a vector
+     flags: the type of the elements, and for a matrix what is stored */
 QUORIN_API void* QUORIN_CDECL taucs_vec_create(int32_t n, int32_t flags);
 
-/* r <- a x + b y; a and b are real for complex vectors, too. r may be x or y. */
+/* r <- a x + b y; a and b are real for complex vectors, too.
+     n: columns of a matrix, elements of a vector
+     flags: the type of the elements, and for a matrix what is stored
+     a: factor of x
+     x: a vector
+     b: factor of y
+     y: a vector
+     r: the sum; may be x or y */
 QUORIN_API void QUORIN_CDECL taucs_vec_axpby(int32_t n, int32_t flags, double a, const void* x, double b, const void* y,
                                              void* r);
 
 /* pv[i] <- v[p[i]].
-     p: [n] */
+     n: columns of a matrix, elements of a vector
+     flags: the type of the elements, and for a matrix what is stored
+     v: a vector
+     pv: v permuted, another array than v
+     p: [n]: a permutation */
 QUORIN_API void QUORIN_CDECL taucs_vec_permute(int32_t n, int32_t flags, const void* v, void* pv, const int32_t* p);
 
 /* pv[p[i]] <- v[i].
-     p: [n] */
+     n: columns of a matrix, elements of a vector
+     flags: the type of the elements, and for a matrix what is stored
+     v: a vector
+     pv: v permuted, another array than v
+     p: [n]: a permutation */
 QUORIN_API void QUORIN_CDECL taucs_vec_ipermute(int32_t n, int32_t flags, const void* v, void* pv, const int32_t* p);
 
-/* The Euclidean norm, without overflow or underflow on the way; NaN without a type. */
+/* The Euclidean norm, without overflow or underflow on the way.
+     n: columns of a matrix, elements of a vector
+     flags: the type of the elements, and for a matrix what is stored
+     v: a vector */
 QUORIN_API double QUORIN_CDECL taucs_vec_norm2(int32_t n, int32_t flags, const void* v);
 
 /* ---- Time, memory, text ---- */
 
-/* Keeps the name of a log file, cut to 511 characters, which nothing is ever written to; stderr, stdout and none change
-   nothing. To be called before any concurrent use. */
+/* Keeps the name of a log file, which nothing is ever written to; stderr, stdout and none change nothing. To be called
+   before any concurrent use.
+     name: the name, of which 511 characters are kept */
 QUORIN_API void QUORIN_CDECL taucs_logfile(const char* name);
 
 /* Seconds since midnight, universal time, so that an interval across midnight is negative. */
@@ -140,60 +176,78 @@ QUORIN_API double QUORIN_CDECL taucs_system_memory_size(void);
    given back at once), but not more than the physical memory that is free. */
 QUORIN_API double QUORIN_CDECL taucs_available_memory_size(void);
 
-/* Not supported: -1. */
+/* Not supported. */
 QUORIN_API int32_t QUORIN_CDECL taucs_maximize_stacksize(void);
 
 /* ---- Orderings ---- */
 
-/* A permutation that keeps factors sparse, and its inverse, in new arrays of n. name, exactly: metis, genmmd, camd or
-   tree for symmetric and Hermitian matrices whose lower triangle is stored; colamd for others, whose columns it orders;
-   random (the same one for the same n) or identity for any. Both arrays are null for any other name (amd, amdbar and md
-   among them), for a matrix of another structure or with an index outside of it, and without memory; but colamd stops
-   the process if there is none for the two arrays.
-     perm: out
-     invperm: out */
+/* A permutation that keeps factors sparse, and its inverse, in new arrays of n. Both are null for another name (amd,
+   amdbar and md among them), for a matrix of another structure or with an index outside of it, and without memory; but
+   colamd stops the process if there is none for the two arrays.
+     A: a matrix
+     perm: out: the permutation
+     invperm: out: its inverse
+     name: the method, exactly (metis, genmmd, camd, tree, colamd, random, identity) */
 QUORIN_API void QUORIN_CDECL taucs_ccs_order(const taucs_ccs_matrix* A, int32_t** perm, int32_t** invperm,
                                              const char* name);
 
 /* ---- Files ---- */
 
 /* Reads lines 'row column value' (complex: 'row column real imaginary'), one-based, until no further entry stands.
-   flags: the type and, for a symmetric matrix, TAUCS_SYMMETRIC or TAUCS_HERMITIAN: then entries above the diagonal are
-   dropped. Entries are not merged. In the result n is the largest row and m the largest column that was kept, the other
-   way round than elsewhere; colptr goes on to the larger of the two. */
+   Entries are not merged. In the result n is the largest row and m the largest column that was kept, the other way
+   round than elsewhere; colptr goes on to the larger of the two.
+     filename: name of a file, ended by a zero
+     flags: the type and, for a symmetric matrix, TAUCS_SYMMETRIC or TAUCS_HERMITIAN: then entries above the diagonal
+         are dropped */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_read_ijv(const char* filename, int32_t flags);
 
-/* As taucs_ccs_read_ijv, with zero-based indices. */
+/* As taucs_ccs_read_ijv, with zero-based indices.
+     filename: name of a file, ended by a zero
+     flags: the type and, for a symmetric matrix, TAUCS_SYMMETRIC or TAUCS_HERMITIAN: then entries above the diagonal
+         are dropped */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_read_ijv_zero_based(const char* filename, int32_t flags);
 
 /* Reads three integers (rows, columns, entries; not used), then entries as taucs_ccs_read_ijv does; there is no banner
    and no comment. Entries off the diagonal become -1, whatever the file says. With TAUCS_SYMMETRIC, entries above the
-   diagonal move below it. */
+   diagonal move below it.
+     filename: name of a file, ended by a zero
+     flags: the type of the elements, and for a matrix what is stored */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_read_mtx(const char* filename, int32_t flags);
 
 /* Reads a square matrix, zero-based: n, n+1 column pointers, row indices, values. With TAUCS_SYMMETRIC, a row above the
-   diagonal stops the process. */
+   diagonal stops the process.
+     filename: name of a file, ended by a zero
+     flags: the type of the elements, and for a matrix what is stored */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_read_ccs(const char* filename, int32_t flags);
 
-/* Reads m, n, flags, colptr, rowind, values as they stand in memory, integers of 32 bits, lowest byte first. */
+/* Reads m, n, flags, colptr, rowind, values as they stand in memory, integers of 32 bits, lowest byte first.
+     filename: name of a file, ended by a zero */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_read_binary(const char* filename);
 
 /* Reads a Harwell-Boeing file of an assembled matrix, in the formats I, F, E, D and G; Rutherford-Boeing files of the
    same types, too. The entries of a pattern become 1. A real matrix is always double; to read a complex one without
-   asking for TAUCS_DCOMPLEX stops the process. */
+   asking for TAUCS_DCOMPLEX stops the process.
+     filename: name of a file, ended by a zero
+     flags: the type of the elements, and for a matrix what is stored */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_read_hb(const char* filename, int32_t flags);
 
 /* Writes lines 'row column value', one-based, with 18 significant digits. In a symmetric matrix each entry off the
-   diagonal is followed by its mirror image; a Hermitian one is written as it is stored. Returns 0, or -1 if the file
-   cannot be opened or written. */
+   diagonal is followed by its mirror image; a Hermitian one is written as it is stored.
+     A: a matrix
+     filename: name of a file, ended by a zero */
 QUORIN_API int32_t QUORIN_CDECL taucs_ccs_write_ijv(const taucs_ccs_matrix* A, const char* filename);
 
-/* Reads n elements as they stand in memory into a new vector. TAUCS_SINGLE and TAUCS_SCOMPLEX are types here, too. Null
-   for a file that is too short; zeros if it cannot be opened. */
+/* Reads n elements as they stand in memory into a new vector.
+     n: columns of a matrix, elements of a vector
+     flags: the type; TAUCS_SINGLE and TAUCS_SCOMPLEX are types here, too
+     filename: name of a file, ended by a zero */
 QUORIN_API void* QUORIN_CDECL taucs_vec_read_binary(int32_t n, int32_t flags, const char* filename);
 
-/* Writes over the first n elements of a file, which is made if there is none; the rest of a longer one stays. Returns
-   0, whatever happens. */
+/* Writes over the first n elements of a file, which is made if there is none; the rest of a longer one stays.
+     n: columns of a matrix, elements of a vector
+     flags: the type; TAUCS_SINGLE and TAUCS_SCOMPLEX are types here, too
+     v: a vector
+     filename: name of a file, ended by a zero */
 QUORIN_API int32_t QUORIN_CDECL taucs_vec_write_binary(int32_t n, int32_t flags, const void* v, const char* filename);
 
 #ifdef __cplusplus
