@@ -14,6 +14,7 @@ from pathlib import Path
 
 from generator import constants, headers, linking, loader, manual, released, tables, thunks
 from generator.model import Family
+from generator.product import PRODUCT
 
 ROOT = Path(__file__).resolve().parent.parent
 
@@ -38,7 +39,7 @@ def committed_files(families: list[Family]) -> dict[str, str]:
 
 def build_files(families: list[Family]) -> dict[str, str]:
     files = {
-        "Quorin.Lapacks.6.2.def": linking.public_definition(families),
+        f"{PRODUCT}.def": linking.public_definition(families),
         "link.def": linking.link_definition(families),
         "exports.map": linking.version_script(families),
         "reference_everything.c": linking.reference_everything(families),

@@ -19,7 +19,10 @@ from dataclasses import dataclass
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
-PRODUCT = "Quorin.Lapacks.6.2"
+sys.path.insert(0, str(ROOT / "exports"))
+
+from generator.product import PRODUCT  # noqa: E402
+
 WINDOWS_LIBRARIES = {"advapi32.dll", "kernel32.dll", "msvcrt.dll", "ntdll.dll", "user32.dll"}
 
 

@@ -5,6 +5,7 @@ from __future__ import annotations
 from generator import constants, model
 from generator.declarations import callback, parameters, record, result_type, wrapped
 from generator.model import Family, Routine
+from generator.product import LIBRARY
 from generator.text import fill
 
 # Longer lists of options are given by their names alone.
@@ -92,6 +93,6 @@ def header(family: Family, table: str) -> str:
 def umbrella(families: list[Family]) -> str:
     includes = "".join(f'#include "quorin/{family.name}.h"\n' for family in families)
     return (
-        "/* Everything that Quorin.Lapacks.6.2.dll exports. Generated from the export tables. Do not edit. */\n"
+        f"/* Everything that {LIBRARY} exports. Generated from the export tables. Do not edit. */\n"
         f"#ifndef QUORIN_QUORIN_H\n#define QUORIN_QUORIN_H\n\n{includes}\n#endif\n"
     )

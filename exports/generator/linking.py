@@ -5,8 +5,7 @@ from __future__ import annotations
 from generator import model
 from generator.declarations import parameters, result_type, wrapped
 from generator.model import Argument, Family, Routine
-
-LIBRARY = "Quorin.Lapacks.6.2.dll"
+from generator.product import LIBRARY
 
 
 def export_names(families: list[Family]) -> list[str]:

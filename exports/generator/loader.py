@@ -3,7 +3,7 @@
 from __future__ import annotations
 
 from generator.declarations import parameters, result_type, wrapped
-from generator.linking import LIBRARY
+from generator.product import LIBRARY
 from generator.model import Family, Routine
 
 TEXT = """/* All exports as function pointers in one struct, for hosts that load the library at run time instead of linking it.

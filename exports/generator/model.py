@@ -209,7 +209,6 @@ class Family:
     text: list[str] = field(default_factory=list)  # paragraphs of the header's and the manual's introduction
     has_index_forms: bool = True
     prefix: str = ""  # of the names of its constants
-    missing_meanings: int = 0  # how many arguments the table does not explain yet
     sections: list[Section] = field(default_factory=list)
     notes: dict[str, Note] = field(default_factory=dict)
     quantities: dict[str, Value] = field(default_factory=dict)  # names in sizes that are no arguments

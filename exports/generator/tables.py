@@ -95,9 +95,6 @@ class Reader:
     def directive_prefix(self, family: Family, rest: str) -> None:
         family.prefix = rest
 
-    def directive_missing_meanings(self, family: Family, rest: str) -> None:
-        family.missing_meanings = self.integer(rest)
-
     def directive_quantity(self, family: Family, rest: str) -> None:
         words, text, _ = self.words_and_text(rest, 1)
         family.quantities[words[0]] = self.last = Value("", words[0], text)
@@ -378,10 +375,10 @@ class Reader:
         return Argument(name, element, direction, kind, shape or "", "kept" in flags, "nullable" in flags)
 
 
-def parse(texts: dict[Path, str]) -> list[Family]:
+def parse(texts: dict[Path, str], need_meanings: bool = True) -> list[Family]:
     reader = Reader()
     families = [reader.read_family(path, text) for path, text in texts.items()]
-    faults = reader.faults + checks.faults(families)
+    faults = reader.faults + checks.faults(families, need_meanings)
     if faults:
         raise TableError("\n".join(faults))
     return families

@@ -11,11 +11,11 @@ sys.path.insert(0, str(ROOT / "exports"))
 
 from generator import constants, declarations, headers, linking, manual, tables, thunks  # noqa: E402
 
-HEAD = 'title "T"\nfacade "f.hpp"\nprefix T_\nmissing-meanings 99\nsection "S"\n'
+HEAD = 'title "T"\nfacade "f.hpp"\nprefix T_\nsection "S"\n'
 
 
-def parse(rows: str):
-    return tables.parse({Path("t.table"): HEAD + rows})
+def parse(rows: str, need_meanings: bool = False):
+    return tables.parse({Path("t.table"): HEAD + rows}, need_meanings)
 
 
 def declared(rows: str, is_index_form: bool) -> str:
@@ -25,19 +25,19 @@ def declared(rows: str, is_index_form: bool) -> str:
 class MalformedRows(unittest.TestCase):
     def test_each_fault_is_named_with_its_line(self):
         cases = {
-            'f = a::f  x:flaot\n  "s"\n': "t.table:6: argument 'x': unknown type 'flaot'",
-            'f = a::f  x:float[n]\n  "s"\n': "t.table:6: argument 'x': its shape names 'n', which is no argument",
-            'f = a::f  n:int n:int\n  "s"\n': "t.table:6: argument 'n' stands twice",
-            'f = a::f  float n:int\n  "s"\n': "t.table:6: 'float' stands before the first argument",
-            'f = a::f  n:\n  "s"\n': "t.table:6: argument 'n' has no type",
-            'f = a::f  n:both int\n  "s"\n': "t.table:6: argument 'n': unknown word 'both'",
-            'f = a::f  n:out value int\n  "s"\n': "t.table:6: argument 'n': a value cannot be 'out'",
-            'f = a::f  x:plain float\n  "s"\n': "t.table:6: argument 'x': 'plain' and 'float' do not go together",
-            'f = a::f  n:int -> number\n  "s"\n': "t.table:6: unknown result type 'number'",
-            "f = a::f  n:int\n": "t.table:6: 'f' has no summary",
-            'f = a::f  n:int\n  frobnicate\n  "s"\n': "t.table:7: unknown attribute 'frobnicate'",
-            'f = a::f  n:int\n  "s"\nf_Idx = a::f  n:int\n  "s"\n': "t.table:8: 'f_Idx' is exported at t.table:6 already",
-            "f(x) = a\n": "t.table:6: expected 'name = implementation  argument:type ... -> result'",
+            'f = a::f  x:flaot\n  "s"\n': "t.table:5: argument 'x': unknown type 'flaot'",
+            'f = a::f  x:float[n]\n  "s"\n': "t.table:5: argument 'x': its shape names 'n', which is no argument",
+            'f = a::f  n:int n:int\n  "s"\n': "t.table:5: argument 'n' stands twice",
+            'f = a::f  float n:int\n  "s"\n': "t.table:5: 'float' stands before the first argument",
+            'f = a::f  n:\n  "s"\n': "t.table:5: argument 'n' has no type",
+            'f = a::f  n:both int\n  "s"\n': "t.table:5: argument 'n': unknown word 'both'",
+            'f = a::f  n:out value int\n  "s"\n': "t.table:5: argument 'n': a value cannot be 'out'",
+            'f = a::f  x:plain float\n  "s"\n': "t.table:5: argument 'x': 'plain' and 'float' do not go together",
+            'f = a::f  n:int -> number\n  "s"\n': "t.table:5: unknown result type 'number'",
+            "f = a::f  n:int\n": "t.table:5: 'f' has no summary",
+            'f = a::f  n:int\n  frobnicate\n  "s"\n': "t.table:6: unknown attribute 'frobnicate'",
+            'f = a::f  n:int\n  "s"\nf_Idx = a::f  n:int\n  "s"\n': "t.table:7: 'f_Idx' is exported at t.table:5 already",
+            "f(x) = a\n": "t.table:5: expected 'name = implementation  argument:type ... -> result'",
         }
         for rows, message in cases.items():
             with self.subTest(rows=rows), self.assertRaises(tables.TableError) as caught:
@@ -47,43 +47,47 @@ class MalformedRows(unittest.TestCase):
     def test_each_fault_of_a_description_is_named(self):
         row = 'f = a::f  c:char n:int x:float[n] -> int\n  "s"\n'
         cases = {
-            'argument z "m"\n' + row: "t.table:6: no routine has an argument 'z'",
-            'argument n "m"\nargument n "m"\n' + row: "t.table:7: the argument 'n' is explained twice",
-            'argument c "m"\n  option UP "t"\n' + row: "t.table:7: 'UP' is not one character",
-            'argument n "m"\n  option U "t"\n' + row: "t.table:7: 'U' is no integer",
-            'argument c "m"\n  option U "t"\n  option U "t"\n' + row: "t.table:8: the option 'U' stands twice",
-            'argument x "m"\n  option 1 "t"\n' + row: "t.table:6: 'x' of 'f' is neither a character nor an integer",
-            row + '  arg z "m"\n': "t.table:8: 'f' has no argument 'z'",
-            row + '  arg n "m"\n  arg n "m"\n': "t.table:9: the argument 'n' is explained twice",
-            row + '  option U "m"\n': "t.table:8: an option stands below no 'arg'",
-            row + '  minimum lwork "n"\n': "t.table:8: 'f' has no argument 'lwork'",
-            row + '  minimum n "2*k"\n': "t.table:8: '2*k' names 'k', which is no argument",
-            row + '  minimum n "2*"\n': "t.table:8: '2*' is no expression",
-            row + '  minimum n "n/2"\n': "t.table:8: 'n/2': no minimum is made of 'Div'",
-            row + "  like g\n": "t.table:6: 'f' is like 'g', which is no other routine that speaks for itself",
-            row + '  status 1 "c"\n': "t.table:8: 'f' has no statuses in 'result'",
-            'status 1 "c"\n' + row: "t.table:6: a status stands before the first 'statuses'",
+            'argument z "m"\n' + row: "t.table:5: no routine has an argument 'z'",
+            'argument n "m"\nargument n "m"\n' + row: "t.table:6: the argument 'n' is explained twice",
+            'argument c "m"\n  option UP "t"\n' + row: "t.table:6: 'UP' is not one character",
+            'argument n "m"\n  option U "t"\n' + row: "t.table:6: 'U' is no integer",
+            'argument c "m"\n  option U "t"\n  option U "t"\n' + row: "t.table:7: the option 'U' stands twice",
+            'argument x "m"\n  option 1 "t"\n' + row: "t.table:5: 'x' of 'f' is neither a character nor an integer",
+            row + '  arg z "m"\n': "t.table:7: 'f' has no argument 'z'",
+            row + '  arg n "m"\n  arg n "m"\n': "t.table:8: the argument 'n' is explained twice",
+            row + '  option U "m"\n': "t.table:7: an option stands below no 'arg'",
+            row + '  minimum lwork "n"\n': "t.table:7: 'f' has no argument 'lwork'",
+            row + '  minimum n "2*k"\n': "t.table:7: '2*k' names 'k', which is no argument",
+            row + '  minimum n "2*"\n': "t.table:7: '2*' is no expression",
+            row + '  minimum n "n/2"\n': "t.table:7: 'n/2': no minimum is made of 'Div'",
+            row + "  like g\n": "t.table:5: 'f' is like 'g', which is no other routine that speaks for itself",
+            row + '  status 1 "c"\n': "t.table:7: 'f' has no statuses in 'result'",
+            'status 1 "c"\n' + row: "t.table:5: a status stands before the first 'statuses'",
             'statuses info "t"\n' + row: "exports/tables/t.table: no routine has an argument 'info'",
-            'statuses result "t"\nstatus i T_I "c"\n' + row: "t.table:7: 'i' is no integer, and cannot be the constant 'T_I'",
-            'statuses result "t"\nstatus 1 X_I "c"\n' + row: "t.table:7: 'X_I' is no constant that begins with 'T_'",
-            'statuses result "t"\nstatus 1 "c" for g*\n' + row: "t.table:7: no routine is called 'g*'",
-            'statuses result "t"\nstatus 1 "c" for f\nstatus 1 "d" for f\n' + row: "t.table:9: 'f' has two statuses 1",
-            'statuses result "t"\n' + row + "  status 1\n": "t.table:9: '1' names 0 statuses of the table",
-            'constant T_A 1 "t"\nconstant T_A 2 "t"\n' + row: "t.table:7: 'T_A' stands at t.table:6 already",
-            'constant T_A one "t"\n' + row: "t.table:6: 'one' is no integer",
-            'parameters x base 2 "t"\n' + row: "t.table:6: expected 'parameters ARRAY base 0|1 \"text\"'",
-            'entry x 1 T_A "t"\n' + row: "t.table:6: no 'parameters x' stands above",
-            'parameters x base 1 "t"\nentry x 0 T_A "t"\n' + row: "t.table:7: x has no entries 0 to 0",
-            'parameters x base 1 "t"\nentry x 1-3 T_A "t"\nentry x 3 T_B "t"\n' + row: "t.table:8: 'f' finds both T_A and T_B there",
-            "record r = c_r a::R\n" + row: "t.table:6: expected a text in double quotes, found nothing",
-            'record r = c_r a::R "t"\n  field k:flaot "t"\n' + row: "t.table:7: field 'k': unknown type 'flaot'",
-            "callback c = c_c\n" + row: "t.table:6: expected 'callback NAME = C_NAME CPP_NAME  argument:type ... -> result'",
-            "missing-meanings 2\n" + row: "exports/tables/t.table: 3 arguments have no meaning, more than 2: c of f, n of f, x of f",
+            'statuses result "t"\nstatus i T_I "c"\n' + row: "t.table:6: 'i' is no integer, and cannot be the constant 'T_I'",
+            'statuses result "t"\nstatus 1 X_I "c"\n' + row: "t.table:6: 'X_I' is no constant that begins with 'T_'",
+            'statuses result "t"\nstatus 1 "c" for g*\n' + row: "t.table:6: no routine is called 'g*'",
+            'statuses result "t"\nstatus 1 "c" for f\nstatus 1 "d" for f\n' + row: "t.table:8: 'f' has two statuses 1",
+            'statuses result "t"\n' + row + "  status 1\n": "t.table:8: '1' names 0 statuses of the table",
+            'constant T_A 1 "t"\nconstant T_A 2 "t"\n' + row: "t.table:6: 'T_A' stands at t.table:5 already",
+            'constant T_A one "t"\n' + row: "t.table:5: 'one' is no integer",
+            'parameters x base 2 "t"\n' + row: "t.table:5: expected 'parameters ARRAY base 0|1 \"text\"'",
+            'entry x 1 T_A "t"\n' + row: "t.table:5: no 'parameters x' stands above",
+            'parameters x base 1 "t"\nentry x 0 T_A "t"\n' + row: "t.table:6: x has no entries 0 to 0",
+            'parameters x base 1 "t"\nentry x 1-3 T_A "t"\nentry x 3 T_B "t"\n' + row: "t.table:7: 'f' finds both T_A and T_B there",
+            "record r = c_r a::R\n" + row: "t.table:5: expected a text in double quotes, found nothing",
+            'record r = c_r a::R "t"\n  field k:flaot "t"\n' + row: "t.table:6: field 'k': unknown type 'flaot'",
+            "callback c = c_c\n" + row: "t.table:5: expected 'callback NAME = C_NAME CPP_NAME  argument:type ... -> result'",
         }
         for rows, message in cases.items():
             with self.subTest(rows=rows), self.assertRaises(tables.TableError) as caught:
                 parse(rows)
             self.assertIn(message, str(caught.exception).splitlines())
+
+    def test_every_argument_needs_a_meaning(self):
+        with self.assertRaises(tables.TableError) as caught:
+            parse('argument m "m"\nf = a::f  n:int m:int\n  "s"\n', need_meanings=True)
+        self.assertEqual(str(caught.exception), "exports/tables/t.table: 1 arguments have no meaning: n of f")
 
     def test_all_faults_are_reported_at_once(self):
         with self.assertRaises(tables.TableError) as caught:
