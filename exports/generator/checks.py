@@ -67,9 +67,9 @@ class Checker:
         for name, minimum in routine.minima.items():
             if not routine.argument(name):
                 self.fault(minimum.where, f"'{routine.name}' has no argument '{name}'")
-            self.check_expression(minimum, known)
+            self.check_expression(family, routine, minimum, known)
 
-    def check_expression(self, minimum: Value, known: set[str]) -> None:
+    def check_expression(self, family: Family, routine: Routine, minimum: Value, known: set[str]) -> None:
         try:
             nodes = list(ast.walk(ast.parse(minimum.value, mode="eval")))
         except SyntaxError:
@@ -80,6 +80,16 @@ class Checker:
                 self.fault(minimum.where, f"'{minimum.value}': no minimum is made of '{type(node).__name__}'")
             elif isinstance(node, ast.Name) and node.id not in known:
                 self.fault(minimum.where, f"'{minimum.value}' names '{node.id}', which is no argument")
+            elif isinstance(node, ast.Compare) and isinstance(node.left, ast.Name):
+                self.check_letters(family, routine, minimum, node)
+
+    def check_letters(self, family: Family, routine: Routine, minimum: Value, node: ast.Compare) -> None:
+        """`uplo == 'U'`, `side in 'LB'`: letters that the option has."""
+        note = family.note(routine, node.left.id)
+        options = {option.value for option in note.options} if note else set()
+        for item in node.comparators:
+            if isinstance(item, ast.Constant) and isinstance(item.value, str) and not set(item.value) <= options:
+                self.fault(minimum.where, f"'{minimum.value}': '{item.value}' is no option of '{node.left.id}'")
 
     # ---- meanings ----
 

@@ -60,6 +60,9 @@ class MalformedRows(unittest.TestCase):
             row + '  minimum n "2*k"\n': "t.table:7: '2*k' names 'k', which is no argument",
             row + '  minimum n "2*"\n': "t.table:7: '2*' is no expression",
             row + '  minimum n "n/2"\n': "t.table:7: 'n/2': no minimum is made of 'Div'",
+            row + '  arg c "m"\n    option U "t"\n  minimum n "2 if c in \'UL\' else 1"\n': (
+                "t.table:9: '2 if c in 'UL' else 1': 'UL' is no option of 'c'"
+            ),
             row + "  like g\n": "t.table:5: 'f' is like 'g', which is no other routine that speaks for itself",
             row + '  status 1 "c"\n': "t.table:7: 'f' has no statuses in 'result'",
             'status 1 "c"\n' + row: "t.table:5: a status stands before the first 'statuses'",
@@ -174,6 +177,25 @@ class Descriptions(unittest.TestCase):
         self.assertEqual([[r.name for r in group] for group in self.family.twins(self.family.sections[1])], [["f"], ["g"], ["h"]])
         self.g.own_statuses, self.family.statuses[0].values = [], self.family.statuses[0].values[:2]
         self.assertEqual([[r.name for r in group] for group in self.family.twins(self.family.sections[1])], [["f", "g"], ["h"]])
+
+
+class TheTables(unittest.TestCase):
+    def test_every_minimum_is_a_number(self):
+        count = 0
+        for family in tables.read(ROOT / "exports/tables", ROOT):
+            for routine in family.routines:
+                notes = {a.name: family.note(routine, a.name) for a in routine.arguments}
+                values = {name: 7 for name in [*family.quantities, *notes]}
+                values.update({name: note.options[0].value for name, note in notes.items() if note.options})
+                values.update({a.name: dict.fromkeys(range(200), 7) for a in routine.arguments if a.is_array})
+                for name in notes:
+                    if values[name] in ("0", "1", "2", "11"):
+                        values[name] = int(values[name])
+                for name, minimum in family.minima(routine).items():
+                    with self.subTest(routine=routine.name, argument=name):
+                        self.assertGreaterEqual(eval(minimum.value, {"max": max, "min": min}, values), 0)
+                    count += 1
+        self.assertGreater(count, 100)
 
 
 class Contents(unittest.TestCase):
