@@ -123,7 +123,9 @@ class Descriptions(unittest.TestCase):
         'argument c "which triangle"\n  option U "upper"\n  option L "lower"\n'
         'argument x "a vector"\nargument ipar "settings"\n'
         'statuses info Status "How a call ended"\n'
-        'status 0 T_DONE "done"\nstatus >0 "failed"\nstatus 7 T_SEVEN "seven" for g\n'
+        'status 0 "done by h" for h\nstatus 0 T_DONE "done"\nstatus >0 "failed"\nstatus 7 T_SEVEN "seven" for g\n'
+        'statuses result Answer "Answers"\nstatus 1 T_ANSWER_YES "yes"\nstatus 2 T_ANSWER_NO "no"\n'
+        'parameters eps base 0 "Tolerances."\nentry eps 0 T_EPS_SMALL "small" default 1\nentry eps 1 T_EPS_TINY "tiny" default 1e-3\n'
         'parameters ipar base 1 "Settings."\n'
         'entry ipar 1-2 T_TOP_SIZE "sizes" default 5\nentry ipar 3 T_LIMIT "limit" default 2e1\nentry ipar 4 T_OTHER "other" for g\n'
         'callback visit = t_visit a::Visit  n:int -> int\n  "A visitor."\n  stdcall\n'
@@ -131,13 +133,14 @@ class Descriptions(unittest.TestCase):
         'section "S"\n'
         'f = a::f  c:char n:int x:kept nullable float[n] ipar:int[4] info:out int\n  "Does f."\n'
         '  arg n "size"\n  minimum x "2*n if c == \'U\' else n"\n  status i "failed at i"\n  status >0 "failed for f"\n'
-        "g = a::f  c:char n:int x:kept nullable float[n] ipar:int[4] info:out int\n  like f\n"
+        "g = a::f  c:char n:int x:kept nullable float[n] ipar:int[4] info:out int\n  like f\n  status i \"failed at row i\"\n"
         'h = a::h  c:char x:value r w:value visit info:out int\n  "Does h."\n  status 7\n'
+        'k = a::k  info:int eps:float[2] -> double\n  "Does k."\nl = a::l  n:int -> int\n  "Does l."\n'
     )
 
     def setUp(self):
         self.family = parse(self.TABLE)[0]
-        self.f, self.g, self.h = self.family.routines
+        self.f, self.g, self.h, self.k, self.l = self.family.routines
 
     def statuses(self, routine):
         return {v.value: v.text for v in self.family.statuses_of(routine, self.family.statuses[0])}
@@ -147,8 +150,12 @@ class Descriptions(unittest.TestCase):
         self.assertEqual(self.family.note(self.g, "c").text, "which triangle")
         self.assertEqual(self.g.summary, "Does f.")
         self.assertEqual(self.statuses(self.f), {"0": "done", ">0": "failed for f", "i": "failed at i"})
-        self.assertEqual(self.statuses(self.g), {"0": "done", ">0": "failed for f", "i": "failed at i", "7": "seven"})
-        self.assertEqual(self.statuses(self.h), {"0": "done", ">0": "failed", "7": "seven"})
+        self.assertEqual(self.statuses(self.g), {"0": "done", ">0": "failed for f", "i": "failed at row i", "7": "seven"})
+        self.assertEqual(self.statuses(self.h), {"0": "done by h", ">0": "failed", "7": "seven"})
+
+    def test_only_what_is_written_or_returned_as_int_answers(self):
+        groups = {routine.name: [g.place for g in self.family.status_groups(routine)] for routine in self.family.routines}
+        self.assertEqual(groups, {"f": ["info"], "g": ["info"], "h": ["info"], "k": [], "l": ["result"]})
 
     def test_the_manual_shows_what_a_routine_needs_and_answers(self):
         page = manual.page(self.family, "t.table")
@@ -164,6 +171,8 @@ class Descriptions(unittest.TestCase):
         cpp = constants.cpp_header(self.family, "t.table")
         self.assertIn("namespace quorin::f {", cpp)
         self.assertIn("enum class Status : std::int32_t {\n  kDone = 0,\n  kSeven = 7,\n};", cpp)
+        self.assertIn("enum class Answer : std::int32_t {\n  kYes = 1,\n  kNo = 2,\n};", cpp)
+        self.assertIn("std::array<float, 2> kEpsDefaults = {\n    1.0F,\n    1e-3F,\n};", cpp)
         self.assertIn("inline constexpr int kTopSize = 1;", cpp)
         self.assertIn("inline constexpr std::int32_t kLimitDefault = 2e1;", cpp)
 
@@ -174,9 +183,9 @@ class Descriptions(unittest.TestCase):
         self.assertIn("h(const char* c, t_r* x, t_visit w, int32_t* info);", header)
 
     def test_twins_share_an_entry(self):
-        self.assertEqual([[r.name for r in group] for group in self.family.twins(self.family.sections[1])], [["f"], ["g"], ["h"]])
-        self.g.own_statuses, self.family.statuses[0].values = [], self.family.statuses[0].values[:2]
-        self.assertEqual([[r.name for r in group] for group in self.family.twins(self.family.sections[1])], [["f", "g"], ["h"]])
+        self.assertEqual([[r.name for r in group] for group in self.family.twins(self.family.sections[1])], [["f"], ["g"], ["h"], ["k"], ["l"]])
+        self.g.own_statuses, self.family.statuses[0].values = [], self.family.statuses[0].values[:3]
+        self.assertEqual([[r.name for r in group] for group in self.family.twins(self.family.sections[1])], [["f", "g"], ["h"], ["k"], ["l"]])
 
 
 class TheTables(unittest.TestCase):
