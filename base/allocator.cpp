@@ -20,7 +20,7 @@ constinit Allocator current;
 
 // The function whose address the exported variable `name` holds, or null.
 template <class Function>
-Function* exported_function(platform::Module module, const char* name) noexcept {
+Function* exported_function(platform::Module module, const char* name) {
   const void* const variable = platform::find_symbol(module, name);
   Function* function = nullptr;
   if (variable != nullptr) std::memcpy(&function, variable, sizeof function);
@@ -28,19 +28,19 @@ Function* exported_function(platform::Module module, const char* name) noexcept 
 }
 
 template <class Function>
-bool is_function_mapped(Function* function) noexcept {
+bool is_function_mapped(Function* function) {
   return platform::is_code_mapped(reinterpret_cast<const void*>(function));
 }
 
 // Whether none of the four functions is missing, null or gone.
-bool is_whole(const Allocator& allocator) noexcept {
+bool is_whole(const Allocator& allocator) {
   return is_function_mapped(allocator.allocate) && is_function_mapped(allocator.allocate_zeroed) &&
          is_function_mapped(allocator.reallocate) && is_function_mapped(allocator.release);
 }
 
 }  // namespace
 
-void choose_allocator() noexcept {
+void choose_allocator() {
   const platform::Module module = platform::open_module(platform::kAllocatorLibrary);
   if (module == nullptr) return;
   const Allocator found{
@@ -63,6 +63,6 @@ void release(void* memory) noexcept {
   if (memory != nullptr) current.release(memory);
 }
 
-bool allocator_is_mapped() noexcept { return is_function_mapped(current.release); }
+bool allocator_is_mapped() { return is_function_mapped(current.release); }
 
 }  // namespace quorin::base

@@ -12,15 +12,15 @@ namespace quorin::base {
 // Chooses the allocator: libimalloc's if it can be found, has all four variables and none is null, else the C
 // runtime's. The reference to libimalloc is given back at once; a host that uses one keeps it loaded, and one that
 // vanishes with the reference is not taken. Called once, at load.
-void choose_allocator() noexcept;
+void choose_allocator();
 
-// As the C library's functions: null if there is no memory, and `release(nullptr)` does nothing.
-void* allocate(std::size_t bytes) noexcept;
-void* allocate_zeroed(std::size_t count, std::size_t bytes_each) noexcept;
-void* reallocate(void* memory, std::size_t bytes) noexcept;
+// These behave like the C library's functions: null if there is no memory, and `release(nullptr)` does nothing.
+[[nodiscard]] void* allocate(std::size_t bytes) noexcept;
+[[nodiscard]] void* allocate_zeroed(std::size_t count, std::size_t bytes_each) noexcept;
+[[nodiscard]] void* reallocate(void* memory, std::size_t bytes) noexcept;
 void release(void* memory) noexcept;
 
 // False once the host has unloaded the library behind the allocator: memory from it can then only be abandoned.
-bool allocator_is_mapped() noexcept;
+bool allocator_is_mapped();
 
 }  // namespace quorin::base

@@ -41,7 +41,7 @@ void format_message(char* text, std::size_t size, const char* name, int code) {
 
 }  // namespace
 
-void report_argument_error(const char* routine, int length, int code) noexcept {
+void report_argument_error(const char* routine, int length, int code) {
   if (routine == nullptr || length < 0) return;
   char name[kLongestName + 1] = {};
   std::memcpy(name, routine, static_cast<std::size_t>(std::min(length, kLongestName)));

@@ -11,13 +11,13 @@ constinit std::atomic<std::uintptr_t> serial{0x6000'0000};
 
 }  // namespace
 
-HandleNode** HandleList::link_to(std::uintptr_t handle) noexcept {
+HandleNode** HandleList::link_to(std::uintptr_t handle) {
   HandleNode** link = &buckets_[handle / 2 % kBuckets];
   while (*link != nullptr && (*link)->handle_ != handle) link = &(*link)->next_;
   return link;
 }
 
-void* HandleList::insert(HandleNode& node) noexcept {
+void* HandleList::insert(HandleNode& node) {
   const std::lock_guard lock(mutex_);
   HandleNode** link = nullptr;
   do {  // until a number that is free, should all have been in use once
@@ -28,12 +28,12 @@ void* HandleList::insert(HandleNode& node) noexcept {
   return reinterpret_cast<void*>(node.handle_);
 }
 
-HandleNode* HandleList::find(const void* handle) noexcept {
+HandleNode* HandleList::find(const void* handle) {
   const std::lock_guard lock(mutex_);
   return *link_to(reinterpret_cast<std::uintptr_t>(handle));
 }
 
-HandleNode* HandleList::remove(const void* handle) noexcept {
+HandleNode* HandleList::remove(const void* handle) {
   const std::lock_guard lock(mutex_);
   HandleNode** const link = link_to(reinterpret_cast<std::uintptr_t>(handle));
   HandleNode* const node = *link;

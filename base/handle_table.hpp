@@ -34,20 +34,20 @@ class HandleList {
 
   // The new handle of `node`. Handles are odd, which no address of an array is, and of all lists together each comes up
   // once in 2^31 calls.
-  void* insert(HandleNode& node) noexcept;
-  HandleNode* find(const void* handle) noexcept;
-  HandleNode* remove(const void* handle) noexcept;
+  [[nodiscard]] void* insert(HandleNode& node);
+  [[nodiscard]] HandleNode* find(const void* handle);
+  [[nodiscard]] HandleNode* remove(const void* handle);
 
  private:
   static constexpr std::size_t kBuckets = 64;
 
-  HandleNode** link_to(std::uintptr_t handle) noexcept;
+  HandleNode** link_to(std::uintptr_t handle);
 
   platform::Mutex mutex_;
   std::array<HandleNode*, kBuckets> buckets_{};
 };
 
-// The same for objects of type T, which it makes and destroys.
+// A list of objects of type T, which it makes and destroys.
 template <class T>
 class HandleTable {
  public:
@@ -55,7 +55,7 @@ class HandleTable {
 
   // Null if there is no memory for the object, or if it says, by being false, that it found none for its parts.
   template <class... Arguments>
-  void* create(Arguments&&... arguments) noexcept {
+  [[nodiscard]] void* create(Arguments&&... arguments) {
     static_assert(alignof(T) <= alignof(std::max_align_t));
     void* const memory = allocate(sizeof(T));
     if (memory == nullptr) return nullptr;
@@ -68,17 +68,17 @@ class HandleTable {
   }
 
   // Null for what is no live handle of this table.
-  T* find(const void* handle) noexcept { return static_cast<T*>(list_.find(handle)); }
+  [[nodiscard]] T* find(const void* handle) { return static_cast<T*>(list_.find(handle)); }
 
   // False for what is no live handle of this table.
-  bool erase(const void* handle) noexcept {
+  [[nodiscard]] bool erase(const void* handle) {
     T* const object = static_cast<T*>(list_.remove(handle));
     if (object != nullptr) destroy(object);
     return object != nullptr;
   }
 
  private:
-  static void destroy(T* object) noexcept {
+  static void destroy(T* object) {
     object->~T();
     release(object);
   }

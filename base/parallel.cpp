@@ -12,7 +12,7 @@ namespace {
 
 // One parallel region; lives on the stack of the thread that runs it.
 struct Region {
-  Region(void (*part_function)(void*, int), void* part_context, int part_count) noexcept
+  Region(void (*part_function)(void*, int), void* part_context, int part_count)
       : part(part_function), context(part_context), parts(part_count) {}
 
   void (*part)(void*, int);
@@ -25,7 +25,7 @@ struct Region {
   Region* following = nullptr;
   platform::ConditionVariable left;
 
-  void run_parts() noexcept {
+  void run_parts() {
     for (int i = next.fetch_add(1); i < parts; i = next.fetch_add(1)) part(context, i);
   }
 };
@@ -34,7 +34,7 @@ constinit platform::ThreadSlot region_slot;
 
 class RegionMark {
  public:
-  RegionMark() noexcept { region_slot.set(&region_slot); }
+  RegionMark() { region_slot.set(&region_slot); }
   ~RegionMark() { region_slot.set(nullptr); }
   RegionMark(const RegionMark&) = delete;
   RegionMark& operator=(const RegionMark&) = delete;
@@ -42,7 +42,7 @@ class RegionMark {
 
 class Pool {
  public:
-  void run(Region& region, int helpers) noexcept {
+  void run(Region& region, int helpers) {
     open(region, helpers);
     {
       const RegionMark mark;
@@ -51,15 +51,15 @@ class Pool {
     close(region);
   }
 
-  void wake_idle() noexcept {
+  void wake_idle() {
     const std::lock_guard lock(mutex_);
     work_arrived_.notify_all();
   }
 
  private:
-  static void worker_main(void* pool) { static_cast<Pool*>(pool)->work(); }
+  static void worker_main(void* pool) noexcept { static_cast<Pool*>(pool)->work(); }
 
-  void open(Region& region, int helpers) noexcept {
+  void open(Region& region, int helpers) {
     mutex_.lock();
     region.wanted = helpers;
     region.following = regions_;
@@ -80,7 +80,7 @@ class Pool {
   }
 
   // No worker joins any more; waits for those that have.
-  void close(Region& region) noexcept {
+  void close(Region& region) {
     const std::lock_guard lock(mutex_);
     for (Region** link = &regions_; *link != nullptr; link = &(*link)->following) {
       if (*link == &region) {
@@ -92,14 +92,14 @@ class Pool {
     while (region.working > 0) region.left.wait(mutex_);
   }
 
-  Region* joinable() noexcept {
+  Region* joinable() {
     Region* region = regions_;
     while (region != nullptr && (region->wanted == 0 || region->next.load() >= region->parts))
       region = region->following;
     return region;
   }
 
-  void work() noexcept {
+  void work() {
     const RegionMark mark;
     mutex_.lock();
     while (Region* const region = wait_for_region()) {
@@ -118,7 +118,7 @@ class Pool {
   }
 
   // The next region to join, or null after the block time. Called and left with the mutex held.
-  Region* wait_for_region() noexcept {
+  Region* wait_for_region() {
     Region* region = joinable();
     if (region == nullptr && block_time() > 0) region = spin_for_region();
     while (region == nullptr) {
@@ -133,7 +133,7 @@ class Pool {
   }
 
   // Loops of small regions follow each other faster than a sleeping thread wakes up.
-  Region* spin_for_region() noexcept {
+  Region* spin_for_region() {
     constexpr int kSpins = 2000;
     mutex_.unlock();
     for (int i = 0; i < kSpins && open_regions_.load(std::memory_order_relaxed) == 0; ++i) platform::spin_pause();
@@ -153,14 +153,14 @@ constinit Pool pool;
 
 }  // namespace
 
-void start_parallel() noexcept { region_slot.create(); }
-void stop_parallel() noexcept { region_slot.destroy(); }
+void start_parallel() { region_slot.create(); }
+void stop_parallel() { region_slot.destroy(); }
 
-void apply_block_time() noexcept { pool.wake_idle(); }
+void apply_block_time() { pool.wake_idle(); }
 
-bool in_parallel_region() noexcept { return region_slot.get() != nullptr; }
+bool in_parallel_region() { return region_slot.get() != nullptr; }
 
-void detail::run_region(int parts, int threads, void (*part)(void*, int), void* context) noexcept {
+void detail::run_region(int parts, int threads, void (*part)(void*, int), void* context) {
   const int helpers = std::min(parts, threads) - 1;
   if (helpers < 1 || in_parallel_region()) {
     for (int i = 0; i < parts; ++i) part(context, i);

@@ -10,16 +10,16 @@ constinit std::atomic<TextOutputCallback> slot{nullptr};
 
 }  // namespace
 
-void set_text_output(TextOutputCallback callback) noexcept { slot.store(callback, std::memory_order_release); }
+void set_text_output(TextOutputCallback callback) { slot.store(callback, std::memory_order_release); }
 
-int print_list(const char* format, std::va_list arguments) noexcept {
+int print_list(const char* format, std::va_list arguments) {
   char buffer[kTextOutputLimit + 1] = {};
   const int length = std::vsnprintf(buffer, sizeof buffer, format, arguments);
   if (const TextOutputCallback callback = slot.load(std::memory_order_acquire)) callback(buffer);
   return length > kTextOutputLimit ? -1 : length;
 }
 
-int print(const char* format, ...) noexcept {
+int print(const char* format, ...) {
   std::va_list arguments;
   va_start(arguments, format);
   const int length = print_list(format, arguments);

@@ -58,7 +58,7 @@ void read_variable(const char* name, Parse parse, Value& value) {
 
 }  // namespace
 
-std::optional<int> parse_count(std::string_view text) noexcept {
+std::optional<int> parse_count(std::string_view text) {
   text = trimmed(text);
   int base = 10;
   if (text.starts_with("0x") || text.starts_with("0X")) {
@@ -73,7 +73,7 @@ std::optional<int> parse_count(std::string_view text) noexcept {
   return value;
 }
 
-std::optional<bool> parse_flag(std::string_view text) noexcept {
+std::optional<bool> parse_flag(std::string_view text) {
   text = trimmed(text);
   for (const std::string_view word : {"TRUE", ".TRUE.", "T", "1"}) {
     if (equals(text, word)) return true;
@@ -84,7 +84,7 @@ std::optional<bool> parse_flag(std::string_view text) noexcept {
   return std::nullopt;
 }
 
-std::optional<int> parse_block_time(std::string_view text) noexcept {
+std::optional<int> parse_block_time(std::string_view text) {
   text = trimmed(text);
   if (equals(text, "INFINITE")) return platform::kForever;
   std::int64_t value = 0;
@@ -105,7 +105,7 @@ std::optional<int> parse_block_time(std::string_view text) noexcept {
   return std::nullopt;
 }
 
-std::array<int, kDomainCount> parse_domain_counts(std::string_view text) noexcept {
+std::array<int, kDomainCount> parse_domain_counts(std::string_view text) {
   std::array<int, kDomainCount> counts{};
   std::string_view word = next_word(text);
   while (!word.empty()) {
@@ -120,7 +120,7 @@ std::array<int, kDomainCount> parse_domain_counts(std::string_view text) noexcep
   return counts;
 }
 
-ThreadEnvironment read_thread_environment() noexcept {
+ThreadEnvironment read_thread_environment() {
   ThreadEnvironment environment;
   // The first of the two that is set decides.
   read_variable("OMP_NUM_THREADS", parse_count, environment.count);

@@ -17,13 +17,13 @@ struct ThreadEnvironment {
   int block_time = 200;
 };
 
-ThreadEnvironment read_thread_environment() noexcept;
+[[nodiscard]] ThreadEnvironment read_thread_environment();
 
 // The grammars, apart from where the text comes from.
-std::optional<int> parse_count(std::string_view text) noexcept;       // positive; decimal, 0octal or 0xhexadecimal
-std::optional<bool> parse_flag(std::string_view text) noexcept;       // TRUE, FALSE, T, F, .TRUE., 1, 0, in any case
-std::optional<int> parse_block_time(std::string_view text) noexcept;  // 200, 200ms, 3s, 1m, 1h, 1d, infinite
+[[nodiscard]] std::optional<int> parse_count(std::string_view text);  // positive; decimal, 0octal or 0xhexadecimal
+[[nodiscard]] std::optional<bool> parse_flag(std::string_view text);  // TRUE, FALSE, T, F, .TRUE., 1, 0, in any case
+[[nodiscard]] std::optional<int> parse_block_time(std::string_view text);  // 200, 200ms, 3s, 1m, 1h, 1d, infinite
 // "MKL_DOMAIN_ALL=2, MKL_DOMAIN_BLAS 1 : MKL_FFT,4"; malformed pairs are skipped.
-std::array<int, kDomainCount> parse_domain_counts(std::string_view text) noexcept;
+[[nodiscard]] std::array<int, kDomainCount> parse_domain_counts(std::string_view text);
 
 }  // namespace quorin::base

@@ -27,7 +27,7 @@ constinit std::atomic<bool> defaults_ready{false};
 constinit platform::Mutex defaults_mutex;
 
 // Read at the first question instead of at load, so that a host can set variables after loading the library.
-const Defaults& defaults() noexcept {
+const Defaults& defaults() {
   if (!defaults_ready.load(std::memory_order_acquire)) {
     const std::lock_guard lock(defaults_mutex);
     if (!defaults_ready.load(std::memory_order_relaxed)) {
@@ -48,33 +48,33 @@ int first_set(std::initializer_list<int> counts) {
 
 }  // namespace
 
-void set_thread_count(Domain domain, int count) noexcept {
+void set_thread_count(Domain domain, int count) {
   set_counts[index_of(domain)].store(count, std::memory_order_relaxed);
 }
 
-int thread_count(Domain domain) noexcept {
+int thread_count(Domain domain) {
   const ThreadEnvironment& environment = defaults().environment;
   return first_set({call_count(domain), call_count(Domain::kAll), environment.domain_count[index_of(domain)],
                     environment.domain_count[index_of(Domain::kAll)], environment.count, defaults().cores});
 }
 
-void set_dynamic(bool enabled) noexcept { set_dynamic_flag.store(enabled ? 1 : 0, std::memory_order_relaxed); }
+void set_dynamic(bool enabled) { set_dynamic_flag.store(enabled ? 1 : 0, std::memory_order_relaxed); }
 
-bool dynamic() noexcept {
+bool dynamic() {
   const int flag = set_dynamic_flag.load(std::memory_order_relaxed);
   return flag == kUnset ? defaults().environment.dynamic : flag != 0;
 }
 
-void set_block_time(int milliseconds) noexcept {
+void set_block_time(int milliseconds) {
   if (milliseconds >= 0) set_block_milliseconds.store(milliseconds, std::memory_order_relaxed);
 }
 
-int block_time() noexcept {
+int block_time() {
   const int milliseconds = set_block_milliseconds.load(std::memory_order_relaxed);
   return milliseconds == kUnset ? defaults().environment.block_time : milliseconds;
 }
 
-int region_threads(Domain domain) noexcept {
+int region_threads(Domain domain) {
   const int count = std::min(thread_count(domain), kMostThreads);
   return dynamic() ? std::min(count, defaults().cores) : count;
 }

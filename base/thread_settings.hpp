@@ -14,19 +14,19 @@ inline constexpr int kDomainCount = 5;
 inline constexpr int kMostThreads = 64;
 
 // A count of 0 means unset: the environment and then the core count decide again.
-void set_thread_count(Domain domain, int count) noexcept;
-int thread_count(Domain domain) noexcept;
+void set_thread_count(Domain domain, int count);
+[[nodiscard]] int thread_count(Domain domain);
 
 // With dynamic adjustment, the default, no more threads run than there are physical cores, and fewer on small problems.
-void set_dynamic(bool enabled) noexcept;
-bool dynamic() noexcept;
+void set_dynamic(bool enabled);
+[[nodiscard]] bool dynamic();
 
 // Milliseconds that an idle worker waits before it ends; platform::kForever never ends it. Negative values are ignored.
-void set_block_time(int milliseconds) noexcept;
-int block_time() noexcept;
+void set_block_time(int milliseconds);
+[[nodiscard]] int block_time();
 
 // The number of threads on which a region of the domain should run: thread_count limited by the physical cores while
 // dynamic adjustment is on, by kMostThreads always.
-int region_threads(Domain domain) noexcept;
+[[nodiscard]] int region_threads(Domain domain);
 
 }  // namespace quorin::base

@@ -13,7 +13,7 @@
 namespace quorin::base {
 
 // a * b, or the largest size_t if that overflows, which no allocator grants.
-constexpr std::size_t saturating_product(std::size_t a, std::size_t b) noexcept {
+[[nodiscard]] constexpr std::size_t saturating_product(std::size_t a, std::size_t b) {
   constexpr std::size_t kMost = std::numeric_limits<std::size_t>::max();
   return a != 0 && b > kMost / a ? kMost : a * b;
 }
@@ -28,7 +28,7 @@ class Workspace {
   static constexpr std::size_t kAlignment = 64;
 
   Workspace() = default;
-  explicit Workspace(std::size_t count) noexcept {
+  explicit Workspace(std::size_t count) {
     const std::size_t bytes = saturating_product(count, sizeof(T));
     if (bytes > std::numeric_limits<std::size_t>::max() - kAlignment) return;
     block_ = allocate(bytes + kAlignment);
@@ -50,14 +50,14 @@ class Workspace {
     std::swap(size_, other.size_);
   }
 
-  explicit operator bool() const noexcept { return block_ != nullptr; }
-  T* data() noexcept { return data_; }
-  const T* data() const noexcept { return data_; }
-  std::size_t size() const noexcept { return size_; }
-  T* begin() noexcept { return data_; }
-  T* end() noexcept { return data_ + size_; }
-  T& operator[](std::size_t i) noexcept { return data_[i]; }
-  const T& operator[](std::size_t i) const noexcept { return data_[i]; }
+  explicit operator bool() const { return block_ != nullptr; }
+  T* data() { return data_; }
+  const T* data() const { return data_; }
+  std::size_t size() const { return size_; }
+  T* begin() { return data_; }
+  T* end() { return data_ + size_; }
+  T& operator[](std::size_t i) { return data_[i]; }
+  const T& operator[](std::size_t i) const { return data_[i]; }
 
  private:
   void* block_ = nullptr;

@@ -16,8 +16,8 @@ class Mutex {
   constexpr Mutex() = default;
   Mutex(const Mutex&) = delete;
   Mutex& operator=(const Mutex&) = delete;
-  void lock() noexcept;
-  void unlock() noexcept;
+  void lock();
+  void unlock();
 
  private:
   friend class ConditionVariable;
@@ -29,11 +29,11 @@ class ConditionVariable {
   constexpr ConditionVariable() = default;
   ConditionVariable(const ConditionVariable&) = delete;
   ConditionVariable& operator=(const ConditionVariable&) = delete;
-  void wait(Mutex& mutex) noexcept;
+  void wait(Mutex& mutex);
   // False after `milliseconds` without a notification; kForever never times out.
-  bool wait_for(Mutex& mutex, std::int32_t milliseconds) noexcept;
-  void notify_one() noexcept;
-  void notify_all() noexcept;
+  bool wait_for(Mutex& mutex, std::int32_t milliseconds);
+  void notify_one();
+  void notify_all();
 
  private:
   alignas(std::max_align_t) std::byte storage_[64] = {};
@@ -42,24 +42,24 @@ class ConditionVariable {
 inline constexpr std::int32_t kForever = INT32_MAX;
 
 // Tells the processor that this thread spins.
-void spin_pause() noexcept;
+void spin_pause();
 
 // --- Threads ---------------------------------------------------------------------------------------------------------
 
 // Starts a detached thread that runs `body(argument)`. The thread keeps the library mapped until it has left it, so
 // that a host may unload the library at any time. False if the system has no thread to give.
-bool start_worker(void (*body)(void*), void* argument) noexcept;
+[[nodiscard]] bool start_worker(void (*body)(void*), void* argument);
 
 // Physical cores that this process may run on, at least 1.
-int physical_core_count() noexcept;
+[[nodiscard]] int physical_core_count();
 
 // One pointer-sized value per thread, null at first. Creating it can fail; then it reads null and ignores writes.
 class ThreadSlot {
  public:
-  void create() noexcept;
-  void destroy() noexcept;
-  void* get() const noexcept;
-  void set(void* value) noexcept;
+  void create();
+  void destroy();
+  void* get() const;
+  void set(void* value);
 
  private:
   std::uint32_t key_ = 0;
@@ -70,13 +70,13 @@ class ThreadSlot {
 
 // A shared library's handle, or null. `open_module` adds a reference, `find_loaded_module` does not.
 using Module = void*;
-Module open_module(const char* name) noexcept;
-Module find_loaded_module(const char* name) noexcept;
-void close_module(Module module) noexcept;
-void* find_symbol(Module module, const char* name) noexcept;
+[[nodiscard]] Module open_module(const char* name);
+[[nodiscard]] Module find_loaded_module(const char* name);
+void close_module(Module module);
+[[nodiscard]] void* find_symbol(Module module, const char* name);
 
 // Whether there is still code at this address: not after the module that held it was unloaded.
-bool is_code_mapped(const void* address) noexcept;
+[[nodiscard]] bool is_code_mapped(const void* address);
 
 // The file name under which a library is known here: "libimalloc" is libimalloc.dll or libimalloc.so.
 #if defined(_WIN32)
@@ -90,7 +90,7 @@ inline constexpr const char* kOpenMpLibrary = "libiomp5.so";
 // --- Clock, memory ---------------------------------------------------------------------------------------------------
 
 // Seconds since midnight, universal time, to the millisecond.
-double seconds_of_day() noexcept;
+double seconds_of_day();
 
 // What the system tells about memory, in bytes. On 32-bit Windows the figures stop below 4 GiB.
 struct MemoryStatus {
@@ -99,7 +99,7 @@ struct MemoryStatus {
   double total_page_file = 0, available_page_file = 0;
   double total_virtual = 0, available_virtual = 0;
 };
-MemoryStatus memory_status() noexcept;
+MemoryStatus memory_status();
 
 // --- Files -----------------------------------------------------------------------------------------------------------
 
@@ -111,19 +111,19 @@ class File {
   File& operator=(const File&) = delete;
   ~File();
 
-  void open_for_reading(const char* name) noexcept;
-  // As the C library's mode "w": made or emptied, and a line ends as the system's text files want it.
-  void open_for_text(const char* name) noexcept;
+  void open_for_reading(const char* name);
+  // The C library's mode "w": the file is made or emptied, and a line ends as the system's text files want it.
+  void open_for_text(const char* name);
   // Made with mode 0700 if there is none; what an existing file holds stays until it is written over.
-  void open_for_overwriting(const char* name) noexcept;
+  void open_for_overwriting(const char* name);
 
-  explicit operator bool() const noexcept { return handle_ >= 0; }
+  explicit operator bool() const { return handle_ >= 0; }
   // Bytes in all; the largest number if the system cannot tell, as for a pipe.
-  std::uint64_t size() const noexcept;
+  std::uint64_t size() const;
   // Bytes read, fewer only at the end of the file or after an error.
-  std::size_t read(void* buffer, std::size_t bytes) noexcept;
+  [[nodiscard]] std::size_t read(void* buffer, std::size_t bytes);
   // Whether all of it was written.
-  bool write(const void* buffer, std::size_t bytes) noexcept;
+  bool write(const void* buffer, std::size_t bytes);
 
  private:
   int handle_ = -1;
@@ -132,12 +132,12 @@ class File {
 // --- Environment, output ---------------------------------------------------------------------------------------------
 
 // Copies the value of an environment variable, zero-terminated; false if it is unset or longer than the buffer.
-bool read_environment(const char* name, char* buffer, std::size_t size) noexcept;
+[[nodiscard]] bool read_environment(const char* name, char* buffer, std::size_t size);
 
 // The one door to the process's standard output; flushed at once.
-void write_standard_output(const char* text) noexcept;
+void write_standard_output(const char* text);
 
 // The one door through which the library stops the process: the C runtime's assertion handler.
-[[noreturn]] void fail_assertion(const char* expression, const char* file, unsigned line) noexcept;
+[[noreturn]] void fail_assertion(const char* expression, const char* file, unsigned line);
 
 }  // namespace quorin::platform

@@ -10,9 +10,9 @@ namespace quorin::jacobi {
 
 using enum Request;
 
-/// J(:,j) = (F(x + h e_j) - F(x - h e_j)) / 2 h for j = 1...n, h = eps. The entry of x becomes a float on either side;
-/// what is divided by is the distance of the two, so that their rounding leaves no trace. If both round to the same
-/// number, h = |x_j| / 256. A side that would be infinite is x_j itself.
+// J(:,j) = (F(x + h e_j) - F(x - h e_j)) / 2 h for j = 1...n, h = eps. The entry of x becomes a float on either side;
+// what is divided by is the distance of the two, so that their rounding leaves no trace. If both round to the same
+// number, h = |x_j| / 256. A side that would be infinite is x_j itself.
 class CentralDifferences : public base::HandleNode {
  public:
   CentralDifferences(std::size_t n, std::size_t m, float* x, float* jacobian, float eps)
@@ -20,9 +20,9 @@ class CentralDifferences : public base::HandleNode {
 
   explicit operator bool() const { return true; }
 
-  /// Takes F of the last request and changes x for the next one; x is as it was, bit for bit, when there are no more. A
-  /// further call begins anew.
-  Request advance(const float* forward, const float* backward);
+  // Takes F of the last request and changes x for the next one; x is as it was, bit for bit, when there are no more. A
+  // further call begins anew.
+  [[nodiscard]] Request advance(const float* forward, const float* backward);
 
  private:
   Request begin_column();

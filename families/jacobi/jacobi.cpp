@@ -37,42 +37,50 @@ Status differentiate_by(const Evaluate& evaluate, const int* n, const int* m, fl
   }
 }
 
+Status create(void** handle, const int* n, const int* m, float* x, float* fjac, const float* eps) {
+  if (handle == nullptr) return kInvalid;
+  *handle = nullptr;
+  if (!are_valid(n, m, x, fjac, eps)) return kInvalid;
+  *handle = computations.create(static_cast<std::size_t>(*n), static_cast<std::size_t>(*m), x, fjac, *eps);
+  return *handle == nullptr ? kNoMemory : kSuccess;
+}
+
+Status advance(void** handle, const float* f1, const float* f2, int* request) {
+  if (handle == nullptr || f1 == nullptr || f2 == nullptr || request == nullptr) return kInvalid;
+  CentralDifferences* const differences = computations.find(*handle);
+  if (differences == nullptr) return kInvalid;
+  *request = static_cast<int>(differences->advance(f1, f2));
+  return kSuccess;
+}
+
+Status erase(void** handle) {
+  if (handle == nullptr || !computations.erase(*handle)) return kInvalid;
+  *handle = nullptr;
+  return kSuccess;
+}
+
 }  // namespace
 
-int init(void** handle, const int* n, const int* m, float* x, float* fjac, const float* eps) {
-  if (handle == nullptr) return static_cast<int>(kInvalid);
-  *handle = nullptr;
-  if (!are_valid(n, m, x, fjac, eps)) return static_cast<int>(kInvalid);
-  *handle = computations.create(static_cast<std::size_t>(*n), static_cast<std::size_t>(*m), x, fjac, *eps);
-  return static_cast<int>(*handle == nullptr ? kNoMemory : kSuccess);
+int init(void** handle, const int* n, const int* m, float* x, float* fjac, const float* eps) noexcept {
+  return static_cast<int>(create(handle, n, m, x, fjac, eps));
 }
 
-int solve(void** handle, const float* f1, const float* f2, int* request) {
-  if (handle == nullptr || f1 == nullptr || f2 == nullptr || request == nullptr) return static_cast<int>(kInvalid);
-  CentralDifferences* const differences = computations.find(*handle);
-  if (differences == nullptr) return static_cast<int>(kInvalid);
-  *request = static_cast<int>(differences->advance(f1, f2));
-  return static_cast<int>(kSuccess);
+int solve(void** handle, const float* f1, const float* f2, int* request) noexcept {
+  return static_cast<int>(advance(handle, f1, f2, request));
 }
 
-int destroy(void** handle) {
-  if (handle == nullptr || !computations.erase(*handle)) return static_cast<int>(kInvalid);
-  *handle = nullptr;
-  return static_cast<int>(kSuccess);
-}
+int destroy(void** handle) noexcept { return static_cast<int>(erase(handle)); }
 
-int differentiate(Function fcn, const int* n, const int* m, float* fjac, float* x, const float* eps) {
-  if (fcn == nullptr) return static_cast<int>(kInvalid);
-  return static_cast<int>(differentiate_by(fcn, n, m, fjac, x, eps));
+int differentiate(Function fcn, const int* n, const int* m, float* fjac, float* x, const float* eps) noexcept {
+  return static_cast<int>(fcn == nullptr ? kInvalid : differentiate_by(fcn, n, m, fjac, x, eps));
 }
 
 int differentiate_with_data(FunctionWithData fcn, const int* n, const int* m, float* fjac, float* x, const float* eps,
-                            void* user_data) {
-  if (fcn == nullptr) return static_cast<int>(kInvalid);
+                            void* user_data) noexcept {
   const auto evaluate = [&](int* rows, int* columns, float* point, float* f) {
     fcn(rows, columns, point, f, user_data);
   };
-  return static_cast<int>(differentiate_by(evaluate, n, m, fjac, x, eps));
+  return static_cast<int>(fcn == nullptr ? kInvalid : differentiate_by(evaluate, n, m, fjac, x, eps));
 }
 
 }  // namespace quorin::jacobi

@@ -80,7 +80,7 @@ std::ptrdiff_t offset(int index) { return index; }
 
 }  // namespace
 
-void pack_increment(const int* n, const float* a, const int* inca, float* y) {
+void pack_increment(const int* n, const float* a, const int* inca, float* y) noexcept {
   if (!has_work("VSPACKI", n, {a, inca, y}, 3)) return;
   const auto length = static_cast<std::size_t>(*n);
   const auto step = static_cast<std::size_t>(*inca);
@@ -97,19 +97,19 @@ void pack_increment(const int* n, const float* a, const int* inca, float* y) {
   for (; j < length; ++j, a += step) copy(a, y++);
 }
 
-void pack_index(const int* n, const float* a, const int* ia, float* y) {
+void pack_index(const int* n, const float* a, const int* ia, float* y) noexcept {
   if (!has_work("VSPACKV", n, {a, ia, y}, kNoIncrement)) return;
   const auto length = static_cast<std::size_t>(*n);
   for (std::size_t j = 0; j < length; ++j) copy(a + offset(ia[j]), y + j);
 }
 
-void pack_mask(const int* n, const float* a, const int* ma, float* y) {
+void pack_mask(const int* n, const float* a, const int* ma, float* y) noexcept {
   if (!has_work("VSPACKM", n, {a, ma, y}, kNoIncrement)) return;
   const auto length = static_cast<std::size_t>(*n);
   for_selected(length, ma, [&](std::size_t j) { copy(a + j, y++); });
 }
 
-void unpack_increment(const int* n, const float* a, float* y, const int* incy) {
+void unpack_increment(const int* n, const float* a, float* y, const int* incy) noexcept {
   if (!has_work("VSUNPACKI", n, {a, y, incy}, 4)) return;
   const auto length = static_cast<std::size_t>(*n);
   const auto step = static_cast<std::size_t>(*incy);
@@ -122,13 +122,13 @@ void unpack_increment(const int* n, const float* a, float* y, const int* incy) {
   }
 }
 
-void unpack_index(const int* n, const float* a, float* y, const int* iy) {
+void unpack_index(const int* n, const float* a, float* y, const int* iy) noexcept {
   if (!has_work("VSUNPACKV", n, {a, y, iy}, kNoIncrement)) return;
   const auto length = static_cast<std::size_t>(*n);
   for (std::size_t j = 0; j < length; ++j) copy(a + j, y + offset(iy[j]));
 }
 
-void unpack_mask(const int* n, const float* a, float* y, const int* my) {
+void unpack_mask(const int* n, const float* a, float* y, const int* my) noexcept {
   if (!has_work("VSUNPACKM", n, {a, y, my}, kNoIncrement)) return;
   const auto length = static_cast<std::size_t>(*n);
   if (y != a) {

@@ -7,7 +7,7 @@
 
 namespace quorin::rci {
 
-void cg_init(int n, const double*, const double*, int* request, int* ipar, double* dpar, double* tmp) {
+void cg_init(int n, const double*, const double*, int* request, int* ipar, double* dpar, double* tmp) noexcept {
   *request = static_cast<int>(kNotCompleted);
   if (n <= 0) return;
   set_cg_defaults(n, Ipar(ipar), Dpar(dpar));
@@ -15,26 +15,28 @@ void cg_init(int n, const double*, const double*, int* request, int* ipar, doubl
   *request = static_cast<int>(kFinished);
 }
 
-void cg_check(int, const double*, const double*, int* request, int* ipar, const double* dpar, const double*) {
+void cg_check(int, const double*, const double*, int* request, int* ipar, const double* dpar, const double*) noexcept {
   const Messages messages("dcg_check", kCgFiles, ConstIpar(ipar));
   *request = static_cast<int>(check_cg(true, Ipar(ipar), ConstDpar(dpar), messages));
 }
 
-void cg(int, double* x, const double* b, int* request, int* ipar, double* dpar, double* tmp) {
+void cg(int, double* x, const double* b, int* request, int* ipar, double* dpar, double* tmp) noexcept {
   const Ipar parameters(ipar);
   const int n = parameters.size();
   Request what = kEndlessLoop;
   if (n > 0) {
     const auto column = [=](int index) { return tmp + static_cast<std::ptrdiff_t>(index) * n; };
     const CgVectors vectors{n, x, b, column(0), column(1), column(2), column(3)};
-    what = advance_cg(vectors, parameters.stage(), parameters, Dpar(dpar));
+    CgStage stage{parameters.stage()};
+    what = advance_cg(vectors, stage, parameters, Dpar(dpar));
+    parameters.stage() = static_cast<int>(stage);
   }
   report_cg(what, Messages("dcg", kCgFiles, ConstIpar(ipar)));
   *request = static_cast<int>(what);
 }
 
 void cg_get(int, const double*, const double*, const int*, const int* ipar, const double*, const double*,
-            int* itercount) {
+            int* itercount) noexcept {
   *itercount = ConstIpar(ipar).iteration();
 }
 

@@ -17,14 +17,14 @@ class StageEntry {
  public:
   explicit StageEntry(Ipar ipar) : entry_(ipar.private_stage()) {
     const bool marked = (entry_ & ~kStageBits) == kStageMark;
-    value = marked ? entry_ & kStageBits : static_cast<int>(kCgStart);
+    value = marked ? CgStage{entry_ & kStageBits} : kCgStart;
     const bool between_requests = value == kCgInitialTest || value == kCgPlainTest || value == kCgPreconditionedTest;
     // First call of a further solve with the same arrays: the host has put the counters back.
     if (between_requests && ipar.right_hand_side() == 1 && ipar.iteration() == 0) value = kCgStart;
   }
-  void store() const { entry_ = kStageMark | value; }
+  void store() const { entry_ = kStageMark | static_cast<int>(value); }
 
-  int value;
+  CgStage value;
 
  private:
   int& entry_;
@@ -60,7 +60,7 @@ Request advance_all(int n, double* x, int nrhs, const double* b, Ipar ipar, Dpar
 }  // namespace
 
 void cg_mrhs_init(int n, const double*, int nrhs, const double*, int method, int* request, int* ipar, double* dpar,
-                  double* tmp) {
+                  double* tmp) noexcept {
   *request = static_cast<int>(kNotCompleted);
   if (n <= 0 || nrhs <= 0 || method != kIndependentRuns) return;
   const int length = kParameters + 2 * nrhs;
@@ -72,12 +72,12 @@ void cg_mrhs_init(int n, const double*, int nrhs, const double*, int method, int
 }
 
 void cg_mrhs_check(int, const double*, int nrhs, const double*, int* request, int* ipar, const double* dpar,
-                   const double*) {
+                   const double*) noexcept {
   const Messages messages("dcgmrhs_check", kCgFiles, ConstIpar(ipar));
   *request = static_cast<int>(check_cg(nrhs > 0, Ipar(ipar), ConstDpar(dpar), messages));
 }
 
-void cg_mrhs(int, double* x, int nrhs, const double* b, int* request, int* ipar, double* dpar, double* tmp) {
+void cg_mrhs(int, double* x, int nrhs, const double* b, int* request, int* ipar, double* dpar, double* tmp) noexcept {
   const Ipar parameters(ipar);
   const Request what = advance_all(parameters.size(), x, nrhs, b, parameters, Dpar(dpar), tmp);
   report_cg(what, Messages("dcgmrhs", kCgFiles, ConstIpar(ipar)));
@@ -85,7 +85,7 @@ void cg_mrhs(int, double* x, int nrhs, const double* b, int* request, int* ipar,
 }
 
 void cg_mrhs_get(int, const double*, int nrhs, const double*, const int*, const int* ipar, const double*, const double*,
-                 int* itercount) {
+                 int* itercount) noexcept {
   const ConstIpar parameters(ipar);
   for (int k = 1; k <= nrhs; ++k) itercount[k - 1] = parameters.iterations_of(k);
 }

@@ -15,7 +15,7 @@ bool is_squared_norm(double value) { return std::isfinite(value) && value >= 0.0
 // direction.
 class CgRun {
  public:
-  CgRun(const CgVectors& v, int& stage, Ipar ipar, Dpar dpar)
+  CgRun(const CgVectors& v, CgStage& stage, Ipar ipar, Dpar dpar)
       : v_(v), n_(static_cast<std::size_t>(v.n)), stage_(stage), ipar_(ipar), dpar_(dpar) {}
 
   Request advance() {
@@ -130,14 +130,21 @@ class CgRun {
 
   const CgVectors& v_;
   std::size_t n_;
-  int& stage_;
+  CgStage& stage_;
   Ipar ipar_;
   Dpar dpar_;
 };
 
+constexpr Messages::Meaning<Request> kMeanings[] = {
+    {kIterationLimit, "the iteration limit was reached before the residual test was met"},
+    {kCgZeroDivision, "division by zero; the matrix is not, or almost not, positive definite"},
+    {kCgInvalidNorm, "the residual norm is invalid; dpar was altered or the check routine was skipped"},
+    {kEndlessLoop, "endless loop; no stopping test is on, or the size or stage in ipar was altered"},
+};
+
 }  // namespace
 
-Request advance_cg(const CgVectors& v, int& stage, Ipar ipar, Dpar dpar) {
+Request advance_cg(const CgVectors& v, CgStage& stage, Ipar ipar, Dpar dpar) {
   if (!ipar.has_stopping_test()) return kEndlessLoop;
   const bool has_residual = stage > kCgInitialProduct && stage < kCgBroken;
   if (has_residual && !(is_squared_norm(dpar.residual()) && is_squared_norm(dpar.previous_residual()))) {
@@ -147,7 +154,7 @@ Request advance_cg(const CgVectors& v, int& stage, Ipar ipar, Dpar dpar) {
 }
 
 void set_cg_defaults(int n, Ipar ipar, Dpar dpar) {
-  set_stopping_defaults(n, kCgStart, ipar, dpar);
+  set_stopping_defaults(n, static_cast<int>(kCgStart), ipar, dpar);
   dpar.alpha() = 0.0;
   dpar.beta() = 0.0;
 }
@@ -156,19 +163,6 @@ Check check_cg(bool sizes_valid, Ipar ipar, ConstDpar dpar, Messages messages) {
   return check_stopping(sizes_valid && ipar.size() > 0, ipar, dpar, messages);
 }
 
-void report_cg(Request request, Messages messages) {
-  switch (request) {
-    case kIterationLimit:
-      return messages.error(request, "the iteration limit was reached before the residual test was met");
-    case kCgZeroDivision:
-      return messages.error(request, "division by zero; the matrix is not, or almost not, positive definite");
-    case kCgInvalidNorm:
-      return messages.error(request, "the residual norm is invalid; dpar was altered or the check routine was skipped");
-    case kEndlessLoop:
-      return messages.error(request, "endless loop; no stopping test is on, or the size or stage in ipar was altered");
-    default:
-      return;
-  }
-}
+void report_cg(Request request, Messages messages) { messages.report(request, kMeanings); }
 
 }  // namespace quorin::rci

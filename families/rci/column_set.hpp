@@ -8,13 +8,13 @@
 
 namespace quorin::rci {
 
-/// A tree of bits: a bit of one level tells whether a word of the level below holds any. Inserting and taking out cost
-/// one word per level, at most seven, so a row costs time proportional to its fill.
+// A tree of bits: a bit of one level tells whether a word of the level below holds any. Inserting and taking out cost
+// one word per level, at most seven, so a row costs time proportional to its fill.
 class ColumnSet {
  public:
   using Word = std::size_t;
 
-  /// Words of storage for columns 0...n-1.
+  // Words of storage for columns 0...n-1.
   static std::size_t words(std::size_t n) {
     std::size_t total = 0;
     do {
@@ -24,7 +24,7 @@ class ColumnSet {
     return total;
   }
 
-  /// `storage` has words(n) words, all zero.
+  // `storage` has words(n) words, all zero.
   ColumnSet(std::size_t n, Word* storage) {
     do {
       n = words_of_level(n);

@@ -31,7 +31,7 @@ class FgmresRun {
 
  private:
   // Goes on from where the run stands.
-  Request resume(int stage) {
+  Request resume(FgmresStage stage) {
     switch (stage) {
       case kGmresStart:
         return start();
@@ -211,25 +211,16 @@ bool is_intact(ConstIpar ipar, const FgmresLayout& layout) {
          fits_stage(ipar.cycle_iteration(), mark);
 }
 
-bool has_begun(ConstIpar ipar) { return ipar.stage() != kGmresStart; }
+bool has_begun(ConstIpar ipar) { return ipar.stage() != static_cast<int>(kGmresStart); }
 
-void report(Request request, Messages messages) {
-  switch (request) {
-    case kIterationLimit:
-      return messages.error(request, "the iteration limit was reached before the residual test was met");
-    case kGmresZeroDivision:
-      return messages.error(
-          request,
-          "division by zero; the matrix is degenerate or nearly so, dpar was altered, or the iteration went "
-          "on from the solution");
-    case kEndlessLoop:
-      return messages.error(request, "endless loop; no stopping test is on");
-    case kCorruptParameters:
-      return messages.error(request, "the parameters in ipar are not those of a run under way");
-    default:
-      return;
-  }
-}
+constexpr Messages::Meaning<Request> kMeanings[] = {
+    {kIterationLimit, "the iteration limit was reached before the residual test was met"},
+    {kGmresZeroDivision,
+     "division by zero; the matrix is degenerate or nearly so, dpar was altered, or the iteration went "
+     "on from the solution"},
+    {kEndlessLoop, "endless loop; no stopping test is on"},
+    {kCorruptParameters, "the parameters in ipar are not those of a run under way"},
+};
 
 Request advance(double* x, const double* b, Ipar ipar, Dpar dpar, double* tmp) {
   const FgmresLayout layout(ipar.size(), ipar.cycle_length());
@@ -245,12 +236,12 @@ Request advance(double* x, const double* b, Ipar ipar, Dpar dpar, double* tmp) {
 
 }  // namespace
 
-void fgmres_init(int n, const double*, const double*, int* request, int* ipar, double* dpar, const double*) {
+void fgmres_init(int n, const double*, const double*, int* request, int* ipar, double* dpar, const double*) noexcept {
   *request = static_cast<int>(kNotCompleted);
   if (n <= 0) return;
   const Ipar integers(ipar);
   const Dpar reals(dpar);
-  set_stopping_defaults(n, kGmresStart, integers, reals);
+  set_stopping_defaults(n, static_cast<int>(kGmresStart), integers, reals);
   integers.zero_norm_test() = kIparZeroNormTestDefault;
   integers.solution_target() = kIparSolutionTargetDefault;
   integers.cycle_iteration() = kIparCycleIterationDefault;
@@ -268,7 +259,8 @@ void fgmres_init(int n, const double*, const double*, int* request, int* ipar, d
   *request = static_cast<int>(kFinished);
 }
 
-void fgmres_check(int, const double*, const double*, int* request, int* ipar, const double* dpar, const double*) {
+void fgmres_check(int, const double*, const double*, int* request, int* ipar, const double* dpar,
+                  const double*) noexcept {
   const Ipar parameters(ipar);
   const ConstIpar values(ipar);
   Messages messages("dfgmres_check", kFgmresFiles, values);
@@ -280,13 +272,14 @@ void fgmres_check(int, const double*, const double*, int* request, int* ipar, co
   }
 }
 
-void fgmres(int, double* x, double* b, int* request, int* ipar, double* dpar, double* tmp) {
+void fgmres(int, double* x, double* b, int* request, int* ipar, double* dpar, double* tmp) noexcept {
   const Request what = advance(x, b, Ipar(ipar), Dpar(dpar), tmp);
-  report(what, Messages("dfgmres", kFgmresFiles, ConstIpar(ipar)));
+  Messages("dfgmres", kFgmresFiles, ConstIpar(ipar)).report(what, kMeanings);
   *request = static_cast<int>(what);
 }
 
-void fgmres_get(int, double* x, double* b, int* request, const int* ipar, const double*, double* tmp, int* itercount) {
+void fgmres_get(int, double* x, double* b, int* request, const int* ipar, const double*, double* tmp,
+                int* itercount) noexcept {
   const ConstIpar parameters(ipar);
   *request = static_cast<int>(kFinished);
   *itercount = parameters.iteration();
@@ -295,7 +288,7 @@ void fgmres_get(int, double* x, double* b, int* request, const int* ipar, const 
   const FgmresLayout layout(n, parameters.cycle_length());
   if (n <= 0 || (has_begun(parameters) && !is_intact(parameters, layout))) {
     *request = static_cast<int>(kCorruptParameters);
-    return report(kCorruptParameters, Messages("dfgmres_get", kFgmresFiles, parameters));
+    return Messages("dfgmres_get", kFgmresFiles, parameters).report(kCorruptParameters, kMeanings);
   }
   const bool into_b = parameters.solution_target() > 0;
   if (into_b) copy(static_cast<std::size_t>(n), x, b);

@@ -46,12 +46,12 @@ constexpr int kLengthShift = kStageBits + 1;
 }  // namespace
 
 FgmresMark FgmresMark::unpack(int entry) {
-  if (entry < 0) return {0, false, 0};
-  return {entry & ((1 << kStageBits) - 1), ((entry >> kStageBits) & 1) != 0, entry >> kLengthShift};
+  if (entry < 0) return {FgmresStage{0}, false, 0};
+  return {FgmresStage{entry & ((1 << kStageBits) - 1)}, ((entry >> kStageBits) & 1) != 0, entry >> kLengthShift};
 }
 
 int FgmresMark::pack() const {
-  return stage | static_cast<int>(keeps_preconditioned) << kStageBits | cycle_length << kLengthShift;
+  return static_cast<int>(stage) | static_cast<int>(keeps_preconditioned) << kStageBits | cycle_length << kLengthShift;
 }
 
 void add_correction(const FgmresArrays& arrays, int k, bool keeps_preconditioned, double* target) {

@@ -86,34 +86,24 @@ Ilu0Status factorize(int n, const double* a, const int* ia, const int* ja, Pivot
   return kDone;
 }
 
-void report(Ilu0Status error, Messages messages) {
-  switch (error) {
-    case kNoDiagonal:
-      return messages.error(error, "a diagonal entry is absent from the matrix");
-    case kZeroPivot:
-      return messages.error(error, "a pivot is zero");
-    case kSmallPivot:
-      return messages.error(error, "a pivot is too small, or not finite");
-    case kNoMemory:
-      return messages.error(error, "not enough memory for work arrays");
-    case kBadSize:
-      return messages.error(error, "the size of the matrix is not positive");
-    case kUnsortedColumns:
-      return messages.error(error, "the columns of a row do not ascend, or are outside the matrix");
-    default:
-      return;
-  }
-}
+constexpr Messages::Meaning<Ilu0Status> kMeanings[] = {
+    {kNoDiagonal, "a diagonal entry is absent from the matrix"},
+    {kZeroPivot, "a pivot is zero"},
+    {kSmallPivot, "a pivot is too small, or not finite"},
+    {kNoMemory, "not enough memory for work arrays"},
+    {kBadSize, "the size of the matrix is not positive"},
+    {kUnsortedColumns, "the columns of a row do not ascend, or are outside the matrix"},
+};
 
 }  // namespace
 
 void ilu0(int n, const double* a, const int* ia, const int* ja, double* bilu0, const int* ipar, const double* dpar,
-          int* ierr) {
+          int* ierr) noexcept {
   const ConstIpar integers(ipar);
   const ConstDpar reals(dpar);
   const PivotRule rule{integers.replace_pivots() != 0, std::fabs(reals.pivot_threshold()), reals.replacement_pivot()};
   const Ilu0Status status = factorize(n, a, ia, ja, rule, bilu0);
-  report(status, Messages("dcsrilu0", kIluFiles, integers));
+  Messages("dcsrilu0", kIluFiles, integers).report(status, kMeanings);
   *ierr = static_cast<int>(status);
 }
 

@@ -161,7 +161,7 @@ class Factorization {
     return {*last, static_cast<int>(std::count(magnitudes_, last + 1, *last))};
   }
 
-  // Of the `count` columns in kept_, which ascend, stores the rule's number of largest entries. All leave the dense
+  // Stores the rule's number of largest entries among the `count` columns in kept_, which ascend. All leave the dense
   // row.
   void append_largest(int count) {
     Cut cut = find_cut(count);
@@ -225,26 +225,15 @@ IlutStatus adjust(int n, Rule& rule, Messages& messages) {
   return first;
 }
 
-void report(IlutStatus error, Messages& messages) {
-  switch (error) {
-    case kEmptyRow:
-      return messages.error(error, "a row has no elements");
-    case kBadPivot:
-      return messages.error(error, "a pivot is too small for its row, or not finite");
-    case kDecreasingRows:
-      return messages.error(error, "the row starts do not increase");
-    case kNoMemory:
-      return messages.error(error, "not enough memory for work arrays");
-    case kBadFill:
-      return messages.error(error, "the maximal fill is negative");
-    case kBadSize:
-      return messages.error(error, "the size of the matrix is not positive");
-    case kBadColumn:
-      return messages.error(error, "a column is outside the matrix");
-    default:
-      return;
-  }
-}
+constexpr Messages::Meaning<IlutStatus> kMeanings[] = {
+    {kEmptyRow, "a row has no elements"},
+    {kBadPivot, "a pivot is too small for its row, or not finite"},
+    {kDecreasingRows, "the row starts do not increase"},
+    {kNoMemory, "not enough memory for work arrays"},
+    {kBadFill, "the maximal fill is negative"},
+    {kBadSize, "the size of the matrix is not positive"},
+    {kBadColumn, "a column is outside the matrix"},
+};
 
 IlutStatus factorize(const Matrix& m, const Rule& rule, const Factors& out) {
   Scratch scratch(static_cast<std::size_t>(m.n));
@@ -260,7 +249,7 @@ IlutStatus check(const Matrix& m, const Rule& rule) {
 }  // namespace
 
 void ilut(int n, const double* a, const int* ia, const int* ja, double* bilut, int* ibilut, int* jbilut, double tol,
-          int maxfil, const int* ipar, const double* dpar, int* ierr) {
+          int maxfil, const int* ipar, const double* dpar, int* ierr) noexcept {
   const ConstIpar integers(ipar);
   Messages messages("dcsrilut", kIluFiles, integers);
   const Matrix matrix{n, a, ia, ja};
@@ -270,7 +259,7 @@ void ilut(int n, const double* a, const int* ia, const int* ja, double* bilut, i
     warning = adjust(n, rule, messages);
     error = factorize(matrix, rule, {bilut, ibilut, jbilut});
   }
-  report(error, messages);
+  messages.report(error, kMeanings);
   *ierr = static_cast<int>(error != kDone ? error : warning);
 }
 

@@ -1,15 +1,17 @@
 // What the solvers tell in words, when the host wants it: whole lines, to the screen or to a file of the family.
 #pragma once
 
+#include <cstddef>
+
 #include "families/rci/parameters.hpp"
 
 namespace quorin::rci {
 
-/// The messages of one call of `routine`. Errors and warnings each have a switch in ipar and a file for hosts that do
-/// not want them on the screen; the first line of a call that goes to a file makes that file anew.
+// The messages of one call of `routine`. Errors and warnings each have a switch in ipar and a file for hosts that do
+// not want them on the screen; the first line of a call that goes to a file makes that file anew.
 class Messages {
  public:
-  /// Files for the errors and the warnings of a family of routines.
+  // Files for the errors and the warnings of a family of routines.
   struct Files {
     const char* errors;
     const char* warnings;
@@ -22,7 +24,22 @@ class Messages {
         errors_wanted_(ipar.print_errors() != 0),
         warnings_wanted_(ipar.print_warnings() != 0) {}
 
-  /// `code` is what the routine returns; 0 is left out of the text.
+  // What a code that a routine returns means.
+  template <class Code>
+  struct Meaning {
+    Code code;
+    const char* text;
+  };
+
+  // The error message of a code that has a meaning.
+  template <class Code, std::size_t n>
+  void report(Code code, const Meaning<Code> (&meanings)[n]) {
+    for (const auto& [known, text] : meanings) {
+      if (known == code) error(code, text);
+    }
+  }
+
+  // `code` is what the routine returns; 0 is left out of the text.
   template <class Code>
   void error(Code code, const char* text) {
     if (errors_wanted_) print("error", static_cast<int>(code), text, files_.errors);

@@ -13,33 +13,35 @@
 namespace quorin::rci {
 
 // Conjugate gradients. tmp(n,4): direction, A * direction, residual, preconditioned residual.
-void cg_init(int n, const double*, const double*, int* request, int* ipar, double* dpar, double* tmp);
-void cg_check(int, const double*, const double*, int* request, int* ipar, const double* dpar, const double*);
-void cg(int, double* x, const double* b, int* request, int* ipar, double* dpar, double* tmp);
+void cg_init(int n, const double*, const double*, int* request, int* ipar, double* dpar, double* tmp) noexcept;
+void cg_check(int, const double*, const double*, int* request, int* ipar, const double* dpar, const double*) noexcept;
+void cg(int, double* x, const double* b, int* request, int* ipar, double* dpar, double* tmp) noexcept;
 void cg_get(int, const double*, const double*, const int*, const int* ipar, const double*, const double*,
-            int* itercount);
+            int* itercount) noexcept;
 
-// For one right-hand side after the other. tmp(n,3+nrhs): direction, A * direction, preconditioned residual, then the
-// residual of each right-hand side.
+// Conjugate gradients for one right-hand side after the other. tmp(n,3+nrhs): direction, A * direction, preconditioned
+// residual, then the residual of each right-hand side.
 void cg_mrhs_init(int n, const double*, int nrhs, const double*, int method, int* request, int* ipar, double* dpar,
-                  double* tmp);
+                  double* tmp) noexcept;
 void cg_mrhs_check(int, const double*, int nrhs, const double*, int* request, int* ipar, const double* dpar,
-                   const double*);
-void cg_mrhs(int, double* x, int nrhs, const double* b, int* request, int* ipar, double* dpar, double* tmp);
+                   const double*) noexcept;
+void cg_mrhs(int, double* x, int nrhs, const double* b, int* request, int* ipar, double* dpar, double* tmp) noexcept;
 void cg_mrhs_get(int, const double*, int nrhs, const double*, const int*, const int* ipar, const double*, const double*,
-                 int* itercount);
+                 int* itercount) noexcept;
 
 // Flexible GMRES; FgmresLayout tells how tmp is laid out. x changes at restarts only: between them the iterate is
 // x + Z y, which fgmres_get forms.
-void fgmres_init(int n, const double*, const double*, int* request, int* ipar, double* dpar, const double*);
-void fgmres_check(int, const double*, const double*, int* request, int* ipar, const double* dpar, const double*);
-void fgmres(int, double* x, double* b, int* request, int* ipar, double* dpar, double* tmp);
-void fgmres_get(int, double* x, double* b, int* request, const int* ipar, const double*, double* tmp, int* itercount);
+void fgmres_init(int n, const double*, const double*, int* request, int* ipar, double* dpar, const double*) noexcept;
+void fgmres_check(int, const double*, const double*, int* request, int* ipar, const double* dpar,
+                  const double*) noexcept;
+void fgmres(int, double* x, double* b, int* request, int* ipar, double* dpar, double* tmp) noexcept;
+void fgmres_get(int, double* x, double* b, int* request, const int* ipar, const double*, double* tmp,
+                int* itercount) noexcept;
 
 // Incomplete LU factorizations of a matrix in compressed rows, one-based.
 void ilu0(int n, const double* a, const int* ia, const int* ja, double* bilu0, const int* ipar, const double* dpar,
-          int* ierr);
+          int* ierr) noexcept;
 void ilut(int n, const double* a, const int* ia, const int* ja, double* bilut, int* ibilut, int* jbilut, double tol,
-          int maxfil, const int* ipar, const double* dpar, int* ierr);
+          int maxfil, const int* ipar, const double* dpar, int* ierr) noexcept;
 
 }  // namespace quorin::rci

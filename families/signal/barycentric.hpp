@@ -11,7 +11,7 @@
 
 namespace quorin::signal {
 
-// As many points as are evaluated side by side.
+// The number of points that are evaluated side by side.
 inline constexpr int kLanes = 8;
 
 class Barycentric {

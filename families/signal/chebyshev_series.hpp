@@ -17,7 +17,7 @@ class CriticalPoints {
 
   // Writes the zeros in (-1, 1) of the derivative of the interpolating series, ascending; returns how many, at most
   // kSamples - 2.
-  int find(const double* samples, double* zeros) const;
+  [[nodiscard]] int find(const double* samples, double* zeros) const;
 
  private:
   // Takes samples to coefficients: row k is T_k at the sample points, times 2 / kSamples (1 / kSamples for k = 0).

@@ -47,7 +47,7 @@ bool is_valid(const DesignRequest& r) {
   return true;
 }
 
-// So near to it a band reaches a zero of the form.
+// A band that ends nearer to a zero of the form than this reaches it.
 constexpr double kAtZero = 1e-6;
 
 // The bands in radians, cut where the form has a zero (see the header). A band keeps at least half its width.
@@ -228,7 +228,7 @@ void Designer::remember_reference() {
   }
 }
 
-// As many points in each band in proportion as were remembered, and dense where those are dense.
+// Each band gets points in proportion to those remembered there, dense where those are dense.
 void Designer::spread_like_remembered(int points) {
   apportion(points, old_in_);
   exchange_.set_count(points);
@@ -358,7 +358,7 @@ void Designer::evaluate_best(double* response, int samples) {
   precise_.level(problem_, best_.points.data(), best_.count);
   exchange_.set_count(best_.count);
   for (int i = 0; i < best_.count; ++i) exchange_.set_point(i, best_.points[i].t, best_.points[i].band);
-  exchange_.level();
+  static_cast<void>(exchange_.level());  // these points were leveled before, if there are any
   for (int begin = 0; begin < samples; begin += kLanes) {
     double x[kLanes], value[kLanes];
     for (int l = 0; l < kLanes; ++l) x[l] = std::cos(2 * pi * (begin + l) / form.taps());
@@ -385,7 +385,7 @@ bool Designer::write(double* h) {
 
 }  // namespace
 
-Outcome design_equiripple(const DesignRequest& request, double* h) noexcept {
+Outcome design_equiripple(const DesignRequest& request, double* h) {
   if (!is_valid(request)) return Outcome::kBadInput;
   const int most_iterations = request.most_iterations == 0 ? kDefaultIterations : request.most_iterations;
   const bool antisymmetric = request.type != static_cast<int>(ResponseType::kMultiband);

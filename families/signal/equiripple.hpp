@@ -38,6 +38,6 @@ inline constexpr int kFinestGrid = 4096;
 // antisymmetric ones with an odd number of taps) a band that asks for something else is cut short by
 // 0.5 / (grid_density coefficients of P).
 // Cost per iteration: about 5 taps^2 divisions; 5 to 12 iterations are usual at any length.
-Outcome design_equiripple(const DesignRequest& request, double* h) noexcept;
+[[nodiscard]] Outcome design_equiripple(const DesignRequest& request, double* h);
 
 }  // namespace quorin::signal

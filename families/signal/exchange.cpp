@@ -165,7 +165,7 @@ void Exchange::exchange() {
   std::copy_n(candidates_.begin(), count_, reference_.begin());
 }
 
-// Of neighbours with errors of the same sign the largest stays. Since the reference points are among the candidates,
+// The largest of neighbours with errors of the same sign stays. Since the reference points are among the candidates,
 // with alternating signs (signs of zeros, if need be), at least as many alternations remain.
 int Exchange::alternating_candidates() {
   const double least = std::abs(leveled_) * (1 - 1e-12);

@@ -29,8 +29,8 @@ struct Extremum {
 
 class Exchange {
  public:
-  // For references of up to `most` points. `pieces` is into how many parts the search divides the space between two
-  // reference points.
+  // `most`: the points of the longest reference. `pieces`: the parts into which the search divides the space between
+  // two reference points.
   Exchange(const Problem& problem, int most, int pieces);
   explicit operator bool() const { return polynomial_ && cosines_ && reference_ && candidates_; }
 
@@ -45,12 +45,12 @@ class Exchange {
 
   // Finds P that has the same error with alternating signs at all reference points. False if two of the points cannot
   // be told apart or the error is not a number.
-  bool level();
+  [[nodiscard]] bool level();
   double leveled_error() const { return leveled_; }
 
   // Finds the extrema of the error over all bands. The reference points themselves and the band edges are always among
   // the candidates. False if the error is not finite somewhere.
-  bool find_extrema();
+  [[nodiscard]] bool find_extrema();
   double largest_error() const { return largest_; }
 
   // Makes a new reference of as many points from the extrema, the largest among them.

@@ -17,7 +17,7 @@ DoubleDouble scale(DoubleDouble a, int power) { return {std::ldexp(a.hi, power),
 
 }  // namespace
 
-// As Barycentric::set_nodes. The differences of the nodes are exact.
+// The weights are those of Barycentric::set_nodes. The differences of the nodes are exact.
 void PrecisePolynomial::set_weights() {
   constexpr int kBetweenScalings = 8;
   int least = 0;

@@ -24,7 +24,7 @@ class PrecisePolynomial {
   struct Value {
     double value, uncertainty;
   };
-  Value evaluate(double x) const;
+  [[nodiscard]] Value evaluate(double x) const;
 
  private:
   void set_weights();

@@ -132,7 +132,7 @@ bool solve_wide(const T* row, const T* column, const T* b, T* x, ptrdiff_t m, Wi
 }  // namespace
 
 template <class T>
-bool solve_toeplitz_in_place(const T* row, const T* column, const T* b, T* x, T* work1, T* work2, int m) noexcept {
+bool solve_toeplitz_in_place(const T* row, const T* column, const T* b, T* x, T* work1, T* work2, int m) {
   return run_recursion(row, std::make_reverse_iterator(column + (m - 1)), b, x, work1, work2, m);
 }
 
@@ -150,9 +150,9 @@ template void solve_toeplitz(const float*, const float*, const float*, float*, f
 template void solve_toeplitz(const std::complex<float>*, const std::complex<float>*, const std::complex<float>*,
                              std::complex<float>*, std::complex<float>*, std::complex<float>*, int) noexcept;
 
-template bool solve_toeplitz_in_place(const float*, const float*, const float*, float*, float*, float*, int) noexcept;
+template bool solve_toeplitz_in_place(const float*, const float*, const float*, float*, float*, float*, int);
 template bool solve_toeplitz_in_place(const std::complex<float>*, const std::complex<float>*,
                                       const std::complex<float>*, std::complex<float>*, std::complex<float>*,
-                                      std::complex<float>*, int) noexcept;
+                                      std::complex<float>*, int);
 
 }  // namespace quorin::signal

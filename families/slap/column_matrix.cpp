@@ -5,7 +5,8 @@
 namespace quorin::slap {
 namespace {
 
-// In these k runs through all entries: columns follow each other, and most are so short that their ends matter.
+// The products run k through all entries without a restart at each column: columns follow each other, and most are so
+// short that their ends matter.
 template <class X, class Y>
 void add_full(const ColumnMatrix& matrix, Y factor, const X* x, Y* y) {
   int k = 0;

@@ -20,7 +20,7 @@ struct ColumnMatrix {
 
   // Columns follow each other from the first entry to the last, and rows lie within the matrix. Nothing else here
   // checks that, and products rely on it.
-  bool is_sound() const;
+  [[nodiscard]] bool is_sound() const;
 
   // y <- A x and y <- A^T x; y is not x.
   template <class X, class Y>

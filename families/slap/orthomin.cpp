@@ -60,7 +60,7 @@ void orthomin(const System<float>& system, int length, Progress& progress, float
     float* const z = directions.p(k + 1);
     system.precondition(r, z);
     if (!progress.claims_convergence(progress.tested_norm(system, r, z))) continue;
-    // So says the recurrence. Its residual drifts from the true one, which takes its place.
+    // The recurrence says so. Its residual drifts from the true one, which takes its place.
     system.residual(r);
     system.precondition(r, z);
     if (progress.is_confirmed(progress.tested_norm(system, r, z))) return;

@@ -36,22 +36,22 @@ class Progress {
 
   // Fixes the denominator of the test; `scratch` has n entries. False: the test is unknown, and that is the end.
   template <class T>
-  bool start_tests(const System<T>& system, T* scratch);
+  [[nodiscard]] bool start_tests(const System<T>& system, T* scratch);
 
   // What the test is about: the norm of r, of z = M^-1 r (read only if tests_preconditioned()), or of the error.
   template <class T>
-  float tested_norm(const System<T>& system, const T* r, const T* z) const;
+  [[nodiscard]] float tested_norm(const System<T>& system, const T* r, const T* z) const;
 
   // The test of a residual that was computed as b - A x.
-  bool has_converged(float norm);
+  [[nodiscard]] bool has_converged(float norm);
   // The test of a recurrence's residual. It asks for more once such a claim was found untrue.
-  bool claims_convergence(float norm);
+  [[nodiscard]] bool claims_convergence(float norm);
   // The test of a residual that was computed anew after a claim. True also if three in turn did not make it less:
   // rounding keeps it there, and ERR tells where.
-  bool is_confirmed(float norm);
+  [[nodiscard]] bool is_confirmed(float norm);
   // Whether nothing is left to do after a leg (or before the first, which starts the tests), r being computed anew.
   template <class T>
-  bool is_done_after(Leg leg, const System<T>& system, const T* r, const T* z, T* scratch);
+  [[nodiscard]] bool is_done_after(Leg leg, const System<T>& system, const T* r, const T* z, T* scratch);
 
   // Goes to the next iteration; false when none is left.
   bool next();
@@ -63,7 +63,7 @@ class Progress {
     return Leg::kOver;
   }
   // Goes back: the iteration that next() went to has not begun.
-  Leg lose() {
+  [[nodiscard]] Leg lose() {
     --*arguments_.iter;
     return Leg::kLost;
   }

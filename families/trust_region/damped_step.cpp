@@ -9,7 +9,7 @@
 namespace quorin::trust_region {
 namespace {
 
-// Of the upper bound on the damping, where the lower one says nothing.
+// The share of the upper bound that bounds the damping from below where nothing else does.
 constexpr double kLeastShare = 1e-12;
 
 }  // namespace

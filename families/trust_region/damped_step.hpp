@@ -8,29 +8,29 @@
 
 namespace quorin::trust_region {
 
-/// How exactly the length of a step has to meet the radius.
+// How exactly the length of a step has to meet the radius.
 struct StepLimits {
   int iterations;    // on the damping parameter
   double tolerance;  // | ||D s|| - radius | <= tolerance * radius
 };
 
-/// Minimizes ||A s + b|| over ||D s|| <= radius, D diagonal and positive: the Gauss-Newton step if that is short
-/// enough, else s(lambda) with (A^T A + lambda D^2) s = -A^T b, lambda by Newton's method on ||D s(lambda)|| with
-/// safeguards. If columns depend on each other, the least damping that gives a bounded step takes the place of none.
-///
-/// J. J. More, The Levenberg-Marquardt algorithm: implementation and theory, Lecture Notes in Mathematics 630 (1978),
-/// sections 3 and 5.
+// Minimizes ||A s + b|| over ||D s|| <= radius, D diagonal and positive: the Gauss-Newton step if that is short
+// enough, else s(lambda) with (A^T A + lambda D^2) s = -A^T b, lambda by Newton's method on ||D s(lambda)|| with
+// safeguards. If columns depend on each other, the least damping that gives a bounded step takes the place of none.
+//
+// J. J. More, The Levenberg-Marquardt algorithm: implementation and theory, Lecture Notes in Mathematics 630 (1978),
+// sections 3 and 5.
 class DampedStep {
  public:
   explicit DampedStep(std::size_t n);
   explicit operator bool() const { return factor_ && scale_ && rhs_ && step_ && change_ && spare_; }
 
-  /// `scale` is the diagonal of D and `s` the step, both in the order in which the columns were given to `qr`.
+  // `scale` is the diagonal of D and `s` the step, both in the order in which the columns were given to `qr`.
   void solve(const PivotedQr& qr, const double* scale, double radius, const StepLimits& limits, double* s);
 
-  /// Puts the entries of `s` on a grid, one after another from the least determined on: each time the later ones make
-  /// up for what rounding changed in the model, whose value then rises less than if all were rounded by themselves.
-  /// `round(j, value)` gives the grid point for entry j. (Babai, Combinatorica 6 (1986), nearest plane.)
+  // Puts the entries of `s` on a grid, one after another from the least determined on: each time the later ones make
+  // up for what rounding changed in the model, whose value then rises less than if all were rounded by themselves.
+  // `round(j, value)` gives the grid point for entry j. (Babai, Combinatorica 6 (1986), nearest plane.)
   template <class Round>
   void settle(double* s, const Round& round) {
     for (std::size_t k = count_; k-- > 0;) {

@@ -8,26 +8,26 @@
 
 namespace quorin::trust_region {
 
-/// Q^T A P = R, |r_11| >= |r_22| >= ..., by Householder reflections (Businger, Golub, Numer. Math. 7 (1965)). The norms
-/// of the columns that are left are computed anew in each step.
+// Q^T A P = R, |r_11| >= |r_22| >= ..., by Householder reflections (Businger, Golub, Numer. Math. 7 (1965)). The norms
+// of the columns that are left are computed anew in each step.
 class PivotedQr {
  public:
   explicit PivotedQr(std::size_t n);
   explicit operator bool() const { return a_ && rhs_ && order_; }
 
-  /// A: the columns columns[0...count-1] of R of the model; `rhs`, n entries, becomes Q^T rhs.
+  // A: the columns columns[0...count-1] of R of the model; `rhs`, n entries, becomes Q^T rhs.
   void factor(const LinearModel& model, const std::size_t* columns, std::size_t count, const double* rhs);
 
   std::size_t size() const { return count_; }
-  /// Of R; i <= j.
+  // Entry (i, j) of R; i <= j.
   double entry(std::size_t i, std::size_t j) const { return a_[j * n_ + i]; }
-  /// R(:,j), j + 1 entries.
+  // R(:,j), j + 1 entries.
   const double* column(std::size_t j) const { return a_.data() + j * n_; }
-  /// The first size() entries of Q^T rhs.
+  // The first size() entries of Q^T rhs.
   const double* right_side() const { return rhs_.data(); }
-  /// Which of the given columns is the k-th of A P.
+  // Which of the given columns is the k-th of A P.
   std::size_t order(std::size_t k) const { return order_[k]; }
-  /// Columns that are independent to working precision.
+  // Columns that are independent to working precision.
   std::size_t rank() const;
 
  private:

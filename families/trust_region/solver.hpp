@@ -13,7 +13,7 @@ namespace quorin::trust_region {
 
 using enum Request;
 
-/// When to stop: the host's eps.
+// When to stop: the host's eps.
 struct Tolerances {
   float radius, residual, column, step, decrease, step_precision;
 };
@@ -27,27 +27,28 @@ struct Setup {
   const float *lower, *upper;  // copied; null if there are no bounds
 };
 
-/// Levenberg-Marquardt in its trust-region form, with an ellipsoid ||D s|| <= radius, D being the largest norm so far
-/// of each column of J: More 1978 (see DampedStep), sections 4 to 7. A point where F, or its Jacobian, is not finite is
-/// treated like one where ||F|| has grown: the step is taken back and the radius shrinks.
+// Levenberg-Marquardt in its trust-region form, with an ellipsoid ||D s|| <= radius, D being the largest norm so far
+// of each column of J: More 1978 (see DampedStep), sections 4 to 7. A point where F, or its Jacobian, is not finite is
+// treated like one where ||F|| has grown: the step is taken back and the radius shrinks.
 class Solver : public base::HandleNode {
  public:
   explicit Solver(const Setup& setup);
-  /// False if there was no memory.
+  // False if there was no memory.
   explicit operator bool() const;
 
-  /// Takes what was asked for and returns the next request; negative ones repeat. False if the host's first F or
-  /// Jacobian is not finite: there is nothing to go back to, and the run ends with kIterationLimit.
-  bool advance(float* residual, const float* jacobian, int* request);
+  // Takes what was asked for and returns the next request; negative ones repeat. False if the host's first F or
+  // Jacobian is not finite: there is nothing to go back to, and the run ends with kIterationLimit.
+  [[nodiscard]] bool advance(float* residual, const float* jacobian, int* request);
 
   int iterations() const { return iterations_; }
-  /// 0 during a run, then 1...6 for the requests -1...-6.
+  // 0 during a run, then 1...6 for the requests -1...-6.
   int stop_criterion() const { return stage_ == kStopped ? -static_cast<int>(request_) : 0; }
   float first_norm() const { return static_cast<float>(first_norm_); }
   float best_norm() const { return static_cast<float>(norm_); }
 
  private:
-  enum Stage { kStart, kFirstResidual, kFirstJacobian, kTrialResidual, kTrialJacobian, kStopped };
+  enum class Stage { kStart, kFirstResidual, kFirstJacobian, kTrialResidual, kTrialJacobian, kStopped };
+  using enum Stage;
 
   Request resume(const float* residual, const float* jacobian);
   Request start();
@@ -84,7 +85,7 @@ class Solver : public base::HandleNode {
   int iterations_ = 0, failed_enlargements_ = 0, polishing_steps_ = 0;
   bool is_enlarged_ = false, failed_ = false;
   double radius_ = 0.0, first_norm_ = 0.0, norm_ = 0.0;
-  // Of the step under way; slope and decrease relative to ||F||^2.
+  // These belong to the step under way; slope and decrease relative to ||F||^2.
   double trial_norm_ = 0.0, step_length_ = 0.0, slope_ = 0.0, predicted_decrease_ = 0.0;
 };
 

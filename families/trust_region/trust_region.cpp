@@ -102,12 +102,12 @@ Status erase(Table& table, void** handle) {
 }  // namespace
 
 int init(void** handle, const int* n, const int* m, float* x, const float* eps, const int* iter1, const int* iter2,
-         const float* rs) {
+         const float* rs) noexcept {
   return static_cast<int>(make(unbounded_runs, handle, {n, m, iter1, iter2}, x, nullptr, nullptr, eps, rs));
 }
 
 int init_bounded(void** handle, const int* n, const int* m, float* x, const float* lower, const float* upper,
-                 const float* eps, const int* iter1, const int* iter2, const float* rs) {
+                 const float* eps, const int* iter1, const int* iter2, const float* rs) noexcept {
   if (has_null(lower, upper)) {
     if (handle != nullptr) *handle = nullptr;
     return static_cast<int>(kInvalid);
@@ -115,24 +115,24 @@ int init_bounded(void** handle, const int* n, const int* m, float* x, const floa
   return static_cast<int>(make(bounded_runs, handle, {n, m, iter1, iter2}, x, lower, upper, eps, rs));
 }
 
-int solve(void** handle, float* fvec, const float* fjac, int* request) {
+int solve(void** handle, float* fvec, const float* fjac, int* request) noexcept {
   return static_cast<int>(advance(unbounded_runs, handle, fvec, fjac, request));
 }
 
-int solve_bounded(void** handle, float* fvec, const float* fjac, int* request) {
+int solve_bounded(void** handle, float* fvec, const float* fjac, int* request) noexcept {
   return static_cast<int>(advance(bounded_runs, handle, fvec, fjac, request));
 }
 
-int get(void** handle, int* iter, int* st_cr, float* r1, float* r2) {
+int get(void** handle, int* iter, int* st_cr, float* r1, float* r2) noexcept {
   return static_cast<int>(report(unbounded_runs, handle, iter, st_cr, r1, r2));
 }
 
-int get_bounded(void** handle, int* iter, int* st_cr, float* r1, float* r2) {
+int get_bounded(void** handle, int* iter, int* st_cr, float* r1, float* r2) noexcept {
   return static_cast<int>(report(bounded_runs, handle, iter, st_cr, r1, r2));
 }
 
-int destroy(void** handle) { return static_cast<int>(erase(unbounded_runs, handle)); }
+int destroy(void** handle) noexcept { return static_cast<int>(erase(unbounded_runs, handle)); }
 
-int destroy_bounded(void** handle) { return static_cast<int>(erase(bounded_runs, handle)); }
+int destroy_bounded(void** handle) noexcept { return static_cast<int>(erase(bounded_runs, handle)); }
 
 }  // namespace quorin::trust_region

@@ -11,17 +11,17 @@ namespace quorin::trust_region {
 // first call and writes to it at each later one, until the handle is deleted. All else is copied. Statuses are
 // returned.
 int init(void** handle, const int* n, const int* m, float* x, const float* eps, const int* iter1, const int* iter2,
-         const float* rs);
+         const float* rs) noexcept;
 int init_bounded(void** handle, const int* n, const int* m, float* x, const float* lower, const float* upper,
-                 const float* eps, const int* iter1, const int* iter2, const float* rs);
+                 const float* eps, const int* iter1, const int* iter2, const float* rs) noexcept;
 
-int solve(void** handle, float* fvec, const float* fjac, int* request);
-int solve_bounded(void** handle, float* fvec, const float* fjac, int* request);
+int solve(void** handle, float* fvec, const float* fjac, int* request) noexcept;
+int solve_bounded(void** handle, float* fvec, const float* fjac, int* request) noexcept;
 
-int get(void** handle, int* iter, int* st_cr, float* r1, float* r2);
-int get_bounded(void** handle, int* iter, int* st_cr, float* r1, float* r2);
+int get(void** handle, int* iter, int* st_cr, float* r1, float* r2) noexcept;
+int get_bounded(void** handle, int* iter, int* st_cr, float* r1, float* r2) noexcept;
 
-int destroy(void** handle);
-int destroy_bounded(void** handle);
+int destroy(void** handle) noexcept;
+int destroy_bounded(void** handle) noexcept;
 
 }  // namespace quorin::trust_region

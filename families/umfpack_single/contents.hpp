@@ -21,6 +21,6 @@ struct Factors {
 };
 
 template <class E>
-int get_numeric(const Factors& to, const void* Numeric);
+[[nodiscard]] int get_numeric(const Factors& to, const void* Numeric);
 
 }  // namespace quorin::umfpack_single

@@ -20,10 +20,10 @@ struct MatrixOutput {
 };
 
 template <class E>
-int triplet_to_col(int n_row, int n_col, const Triplets& T, const MatrixOutput& A, int* Map);
+[[nodiscard]] int triplet_to_col(int n_row, int n_col, const Triplets& T, const MatrixOutput& A, int* Map);
 
 template <class E>
-int transpose(int n_row, int n_col, const Matrix& A, const int* P, const int* Q, const MatrixOutput& R,
-              int do_conjugate);
+[[nodiscard]] int transpose(int n_row, int n_col, const Matrix& A, const int* P, const int* Q, const MatrixOutput& R,
+                            int do_conjugate);
 
 }  // namespace quorin::umfpack_single

@@ -13,9 +13,9 @@ struct Matrix {
 };
 
 template <class E>
-int qsymbolic(int n_row, int n_col, const Matrix& A, const int* Qinit, void** Symbolic, const float* Control,
-              float* Info);
+[[nodiscard]] int qsymbolic(int n_row, int n_col, const Matrix& A, const int* Qinit, void** Symbolic,
+                            const float* Control, float* Info);
 template <class E>
-int numeric(const Matrix& A, const void* Symbolic, void** Numeric, const float* Control, float* Info);
+[[nodiscard]] int numeric(const Matrix& A, const void* Symbolic, void** Numeric, const float* Control, float* Info);
 
 }  // namespace quorin::umfpack_single

@@ -11,10 +11,10 @@ namespace quorin::umfpack_single {
 // 24 bits that a float has.
 class InfoArray {
  public:
-  // For a routine that writes some entries and leaves the others as they are; the host's Info may be null.
+  // Begins with the host's entries, most of which a routine leaves as they are; the host's Info may be null.
   explicit InfoArray(float* host);
 
-  // For the symbolic analysis, which begins with all entries at -1, "not computed".
+  // Sets all entries to -1, "not computed"; so the symbolic analysis begins.
   void clear() { values_.fill(-1); }
   // What the symbolic analysis says in any case, of the matrix and of this library.
   void describe(int n_row, int n_col, const int* Ap);
@@ -23,7 +23,7 @@ class InfoArray {
   const double* data() const { return values_.data(); }
 
   // Stores the status and all entries in the host's array, and returns the status.
-  int finish(int status);
+  [[nodiscard]] int finish(int status);
 
  private:
   float* host_;
@@ -31,6 +31,6 @@ class InfoArray {
 };
 
 // Only the status changes in the host's Info, which may be null.
-int report_status_in(float* Info, int status);
+[[nodiscard]] int report_status_in(float* Info, int status);
 
 }  // namespace quorin::umfpack_single

@@ -26,20 +26,20 @@ struct Object : base::HandleNode {
 };
 
 // An object that nobody can find yet, or null if there is no memory.
-Object* create_object(Kind kind);
+[[nodiscard]] Object* create_object(Kind kind);
 // Gives an object a handle.
-void* publish(Object* object);
+[[nodiscard]] void* publish(Object* object);
 // Frees an object that has no handle, with what UMFPACK made for it.
 void destroy(Object* object);
 
 // The object of a handle, or null if there is none of this kind.
-Object* find(const void* handle, Kind kind);
+[[nodiscard]] Object* find(const void* handle, Kind kind);
 // UMFPACK's object behind a handle, or null, which UMFPACK refuses.
-inline void* contents(const void* handle, Kind kind) {
+[[nodiscard]] inline void* contents(const void* handle, Kind kind) {
   const Object* const object = find(handle, kind);
   return object != nullptr ? object->contents : nullptr;
 }
 // Removes the handle and returns its object, or null if there is none of this kind.
-Object* withdraw(const void* handle, Kind kind);
+[[nodiscard]] Object* withdraw(const void* handle, Kind kind);
 
 }  // namespace quorin::umfpack_single

@@ -14,10 +14,10 @@ inline constexpr const char* kVersionDate = "May 31, 2007";
 int print_for_umfpack(const char* format, ...) noexcept;
 
 template <class E>
-int report_matrix(int n_row, int n_col, const Matrix& A, int col_form, const float* Control);
+[[nodiscard]] int report_matrix(int n_row, int n_col, const Matrix& A, int col_form, const float* Control);
 template <class E>
-int report_triplet(int n_row, int n_col, const Triplets& T, const float* Control);
+[[nodiscard]] int report_triplet(int n_row, int n_col, const Triplets& T, const float* Control);
 template <class E>
-int report_vector(int n, FloatInput X, const float* Control);
+[[nodiscard]] int report_vector(int n, FloatInput X, const float* Control);
 
 }  // namespace quorin::umfpack_single

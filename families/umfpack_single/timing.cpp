@@ -7,7 +7,7 @@
 namespace quorin::umfpack_single {
 namespace {
 
-// Of the process. What is below the clock's own precision is 0.
+// Processor time of the process. What is below the clock's own precision is 0.
 double cpu_time() {
   constexpr double kLeast = 1e-4;
   const double now = timer();

@@ -53,7 +53,7 @@ class Scratch {
   Scratch(float* memory, std::size_t floats) : memory_(memory), bytes_(memory ? floats * sizeof(float) : 0) {}
 
   // Null if less is left.
-  double* take(std::size_t doubles);
+  [[nodiscard]] double* take(std::size_t doubles);
 
  private:
   void* memory_ = nullptr;
@@ -80,7 +80,7 @@ class Doubles {
     if (data_ != nullptr) widen<E>(from, count, data_);
   }
 
-  bool has_failed() const { return has_failed_; }
+  [[nodiscard]] bool has_failed() const { return has_failed_; }
   Entries<const double> input() const { return {data_}; }
   Entries<double> output() { return {data_}; }
   // The first `count` entries, into an array that may be missing.

@@ -34,7 +34,7 @@ struct WorkerStart {
 };
 
 // The shared object is linked with -z nodelete, so the code stays mapped without a reference of the thread's own.
-void* worker_main(void* parameter) {
+void* worker_main(void* parameter) noexcept {
   const WorkerStart start = *static_cast<WorkerStart*>(parameter);
   std::free(parameter);
   start.body(start.argument);
@@ -53,14 +53,12 @@ int read_number(const char* path) {
 
 }  // namespace
 
-void Mutex::lock() noexcept { pthread_mutex_lock(as_mutex(storage_)); }
-void Mutex::unlock() noexcept { pthread_mutex_unlock(as_mutex(storage_)); }
+void Mutex::lock() { pthread_mutex_lock(as_mutex(storage_)); }
+void Mutex::unlock() { pthread_mutex_unlock(as_mutex(storage_)); }
 
-void ConditionVariable::wait(Mutex& mutex) noexcept {
-  pthread_cond_wait(as_condition(storage_), as_mutex(mutex.storage_));
-}
+void ConditionVariable::wait(Mutex& mutex) { pthread_cond_wait(as_condition(storage_), as_mutex(mutex.storage_)); }
 
-bool ConditionVariable::wait_for(Mutex& mutex, std::int32_t milliseconds) noexcept {
+bool ConditionVariable::wait_for(Mutex& mutex, std::int32_t milliseconds) {
   if (milliseconds == kForever) {
     wait(mutex);
     return true;
@@ -77,12 +75,12 @@ bool ConditionVariable::wait_for(Mutex& mutex, std::int32_t milliseconds) noexce
   return pthread_cond_timedwait(as_condition(storage_), as_mutex(mutex.storage_), &deadline) == 0;
 }
 
-void ConditionVariable::notify_one() noexcept { pthread_cond_signal(as_condition(storage_)); }
-void ConditionVariable::notify_all() noexcept { pthread_cond_broadcast(as_condition(storage_)); }
+void ConditionVariable::notify_one() { pthread_cond_signal(as_condition(storage_)); }
+void ConditionVariable::notify_all() { pthread_cond_broadcast(as_condition(storage_)); }
 
-void spin_pause() noexcept { __builtin_ia32_pause(); }
+void spin_pause() { __builtin_ia32_pause(); }
 
-bool start_worker(void (*body)(void*), void* argument) noexcept {
+bool start_worker(void (*body)(void*), void* argument) {
   auto* start = static_cast<WorkerStart*>(std::malloc(sizeof(WorkerStart)));
   if (start == nullptr) return false;
   *start = {body, argument};
@@ -95,7 +93,7 @@ bool start_worker(void (*body)(void*), void* argument) noexcept {
   return true;
 }
 
-int physical_core_count() noexcept {
+int physical_core_count() {
   cpu_set_t allowed;
   CPU_ZERO(&allowed);
   if (sched_getaffinity(0, sizeof allowed, &allowed) != 0) return 1;
@@ -111,36 +109,36 @@ int physical_core_count() noexcept {
   return cores > 0 ? cores : 1;
 }
 
-void ThreadSlot::create() noexcept {
+void ThreadSlot::create() {
   pthread_key_t key{};
   created_ = pthread_key_create(&key, nullptr) == 0;
   key_ = key;
 }
-void ThreadSlot::destroy() noexcept {
+void ThreadSlot::destroy() {
   if (created_) pthread_key_delete(key_);
   created_ = false;
 }
-void* ThreadSlot::get() const noexcept { return created_ ? pthread_getspecific(key_) : nullptr; }
-void ThreadSlot::set(void* value) noexcept {
+void* ThreadSlot::get() const { return created_ ? pthread_getspecific(key_) : nullptr; }
+void ThreadSlot::set(void* value) {
   if (created_) pthread_setspecific(key_, value);
 }
 
-Module open_module(const char* name) noexcept { return dlopen(name, RTLD_NOW | RTLD_LOCAL); }
-Module find_loaded_module(const char* name) noexcept {
+Module open_module(const char* name) { return dlopen(name, RTLD_NOW | RTLD_LOCAL); }
+Module find_loaded_module(const char* name) {
   void* const module = dlopen(name, RTLD_NOW | RTLD_NOLOAD);
   if (module != nullptr) dlclose(module);
   return module;
 }
-void close_module(Module module) noexcept {
+void close_module(Module module) {
   if (module != nullptr) dlclose(module);
 }
-void* find_symbol(Module module, const char* name) noexcept { return dlsym(module, name); }
-bool is_code_mapped(const void* address) noexcept {
+void* find_symbol(Module module, const char* name) { return dlsym(module, name); }
+bool is_code_mapped(const void* address) {
   Dl_info info{};
   return dladdr(address, &info) != 0;
 }
 
-double seconds_of_day() noexcept {
+double seconds_of_day() {
   constexpr std::time_t kDay = 86400;
   timespec now{};
   clock_gettime(CLOCK_REALTIME, &now);
@@ -148,7 +146,7 @@ double seconds_of_day() noexcept {
   return static_cast<double>(now.tv_sec % kDay) + static_cast<double>(milliseconds) * 0.001;
 }
 
-MemoryStatus memory_status() noexcept {
+MemoryStatus memory_status() {
   struct sysinfo info {};
   if (sysinfo(&info) != 0) return {};
   const auto bytes = [&](unsigned long units) { return static_cast<double>(units) * info.mem_unit; };
@@ -168,21 +166,21 @@ MemoryStatus memory_status() noexcept {
 File::~File() {
   if (handle_ >= 0) close(handle_);
 }
-void File::open_for_reading(const char* name) noexcept {
+void File::open_for_reading(const char* name) {
   if (name != nullptr) handle_ = open(name, O_RDONLY | O_CLOEXEC);
 }
-void File::open_for_text(const char* name) noexcept {
+void File::open_for_text(const char* name) {
   if (name != nullptr) handle_ = open(name, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
 }
-void File::open_for_overwriting(const char* name) noexcept {
+void File::open_for_overwriting(const char* name) {
   if (name != nullptr) handle_ = open(name, O_WRONLY | O_CREAT | O_CLOEXEC, 0700);
 }
-std::uint64_t File::size() const noexcept {
+std::uint64_t File::size() const {
   struct stat status {};
   const bool is_known = fstat(handle_, &status) == 0 && S_ISREG(status.st_mode);
   return is_known ? static_cast<std::uint64_t>(status.st_size) : UINT64_MAX;
 }
-std::size_t File::read(void* buffer, std::size_t bytes) noexcept {
+std::size_t File::read(void* buffer, std::size_t bytes) {
   std::size_t done = 0;
   while (handle_ >= 0 && done < bytes) {
     const ssize_t got = ::read(handle_, static_cast<char*>(buffer) + done, bytes - done);
@@ -191,7 +189,7 @@ std::size_t File::read(void* buffer, std::size_t bytes) noexcept {
   }
   return done;
 }
-bool File::write(const void* buffer, std::size_t bytes) noexcept {
+bool File::write(const void* buffer, std::size_t bytes) {
   std::size_t done = 0;
   while (handle_ >= 0 && done < bytes) {
     const ssize_t put = ::write(handle_, static_cast<const char*>(buffer) + done, bytes - done);
@@ -201,7 +199,7 @@ bool File::write(const void* buffer, std::size_t bytes) noexcept {
   return handle_ >= 0 && done == bytes;
 }
 
-bool read_environment(const char* name, char* buffer, std::size_t size) noexcept {
+bool read_environment(const char* name, char* buffer, std::size_t size) {
   const char* const value = std::getenv(name);
   const std::size_t length = value == nullptr ? 0 : std::strlen(value);
   if (length == 0 || length >= size) return false;
@@ -209,12 +207,12 @@ bool read_environment(const char* name, char* buffer, std::size_t size) noexcept
   return true;
 }
 
-void write_standard_output(const char* text) noexcept {
+void write_standard_output(const char* text) {
   std::fputs(text, stdout);
   std::fflush(stdout);
 }
 
-void fail_assertion(const char* expression, const char* file, unsigned line) noexcept {
+void fail_assertion(const char* expression, const char* file, unsigned line) {
   __assert_fail(expression, file, line, "");
 }
 

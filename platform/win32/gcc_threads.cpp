@@ -30,7 +30,7 @@ constinit std::size_t key_count = 0;
 constinit DWORD slot = FLS_OUT_OF_INDEXES;
 
 // Runs for a thread that ends and, when the slot is freed, for every thread.
-void WINAPI destroy_values(void* memory) {
+void WINAPI destroy_values(void* memory) noexcept {
   auto* const values = static_cast<Values*>(memory);
   for (std::size_t key = 0; key < kMostKeys; ++key) {
     if (values->of_key[key] != nullptr && destructors[key] != nullptr) destructors[key](values->of_key[key]);
@@ -38,7 +38,7 @@ void WINAPI destroy_values(void* memory) {
   HeapFree(GetProcessHeap(), 0, values);
 }
 
-Values* values_of_this_thread() noexcept {
+Values* values_of_this_thread() {
   // Reading a slot clears the calling thread's last error, which belongs to the host.
   const DWORD error = GetLastError();
   void* const values = slot == FLS_OUT_OF_INDEXES ? nullptr : FlsGetValue(slot);
@@ -46,7 +46,7 @@ Values* values_of_this_thread() noexcept {
   return static_cast<Values*>(values);
 }
 
-Values* create_values_of_this_thread() noexcept {
+Values* create_values_of_this_thread() {
   if (slot == FLS_OUT_OF_INDEXES) return nullptr;
   void* const values = HeapAlloc(GetProcessHeap(), HEAP_ZERO_MEMORY, sizeof(Values));
   if (values != nullptr && !FlsSetValue(slot, values)) {
@@ -58,7 +58,7 @@ Values* create_values_of_this_thread() noexcept {
 
 static_assert(sizeof(pthread_mutex_t) == sizeof(SRWLOCK));
 
-SRWLOCK* as_lock(pthread_mutex_t* mutex) noexcept {
+SRWLOCK* as_lock(pthread_mutex_t* mutex) {
   // The static initialiser is not zero; the first use makes it so.
   auto* const word = reinterpret_cast<volatile LONG*>(mutex);
   if (*word == static_cast<LONG>(PTHREAD_MUTEX_INITIALIZER)) {
@@ -69,7 +69,7 @@ SRWLOCK* as_lock(pthread_mutex_t* mutex) noexcept {
 
 }  // namespace
 
-void release_gcc_threads() noexcept {
+void release_gcc_threads() {
   if (slot != FLS_OUT_OF_INDEXES) FlsFree(slot);
   slot = FLS_OUT_OF_INDEXES;
 }

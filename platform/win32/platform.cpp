@@ -38,7 +38,7 @@ struct WorkerStart {
   HMODULE module;
 };
 
-DWORD WINAPI worker_main(void* parameter) {
+DWORD WINAPI worker_main(void* parameter) noexcept {
   const WorkerStart start = *static_cast<WorkerStart*>(parameter);
   HeapFree(GetProcessHeap(), 0, parameter);
   start.body(start.argument);
@@ -48,22 +48,22 @@ DWORD WINAPI worker_main(void* parameter) {
 
 }  // namespace
 
-void Mutex::lock() noexcept { AcquireSRWLockExclusive(as_lock(storage_)); }
-void Mutex::unlock() noexcept { ReleaseSRWLockExclusive(as_lock(storage_)); }
+void Mutex::lock() { AcquireSRWLockExclusive(as_lock(storage_)); }
+void Mutex::unlock() { ReleaseSRWLockExclusive(as_lock(storage_)); }
 
-void ConditionVariable::wait(Mutex& mutex) noexcept { wait_for(mutex, kForever); }
+void ConditionVariable::wait(Mutex& mutex) { wait_for(mutex, kForever); }
 
-bool ConditionVariable::wait_for(Mutex& mutex, std::int32_t milliseconds) noexcept {
+bool ConditionVariable::wait_for(Mutex& mutex, std::int32_t milliseconds) {
   const DWORD timeout = milliseconds == kForever ? INFINITE : static_cast<DWORD>(milliseconds);
   return SleepConditionVariableSRW(as_condition(storage_), as_lock(mutex.storage_), timeout, 0) != 0;
 }
 
-void ConditionVariable::notify_one() noexcept { WakeConditionVariable(as_condition(storage_)); }
-void ConditionVariable::notify_all() noexcept { WakeAllConditionVariable(as_condition(storage_)); }
+void ConditionVariable::notify_one() { WakeConditionVariable(as_condition(storage_)); }
+void ConditionVariable::notify_all() { WakeAllConditionVariable(as_condition(storage_)); }
 
-void spin_pause() noexcept { YieldProcessor(); }
+void spin_pause() { YieldProcessor(); }
 
-bool start_worker(void (*body)(void*), void* argument) noexcept {
+bool start_worker(void (*body)(void*), void* argument) {
   auto* start = static_cast<WorkerStart*>(HeapAlloc(GetProcessHeap(), 0, sizeof(WorkerStart)));
   if (start == nullptr) return false;
   *start = {body, argument, nullptr};
@@ -81,7 +81,7 @@ bool start_worker(void (*body)(void*), void* argument) noexcept {
   return false;
 }
 
-int physical_core_count() noexcept {
+int physical_core_count() {
   DWORD_PTR process_mask = 0, system_mask = 0;
   GetProcessAffinityMask(GetCurrentProcess(), &process_mask, &system_mask);
   constexpr std::size_t kMost = 256;
@@ -96,16 +96,16 @@ int physical_core_count() noexcept {
   return cores > 0 ? cores : 1;
 }
 
-void ThreadSlot::create() noexcept {
+void ThreadSlot::create() {
   const DWORD key = TlsAlloc();
   created_ = key != TLS_OUT_OF_INDEXES;
   key_ = key;
 }
-void ThreadSlot::destroy() noexcept {
+void ThreadSlot::destroy() {
   if (created_) TlsFree(key_);
   created_ = false;
 }
-void* ThreadSlot::get() const noexcept {
+void* ThreadSlot::get() const {
   if (!created_) return nullptr;
   // TlsGetValue clears the calling thread's last error, which belongs to the host.
   const DWORD error = GetLastError();
@@ -113,25 +113,25 @@ void* ThreadSlot::get() const noexcept {
   SetLastError(error);
   return value;
 }
-void ThreadSlot::set(void* value) noexcept {
+void ThreadSlot::set(void* value) {
   if (created_) TlsSetValue(key_, value);
 }
 
-Module open_module(const char* name) noexcept {
+Module open_module(const char* name) {
   // A missing library must not raise a message box in the host.
   const UINT mode = SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
   HMODULE module = LoadLibraryA(name);
   SetErrorMode(mode);
   return module;
 }
-Module find_loaded_module(const char* name) noexcept { return GetModuleHandleA(name); }
-void close_module(Module module) noexcept {
+Module find_loaded_module(const char* name) { return GetModuleHandleA(name); }
+void close_module(Module module) {
   if (module != nullptr) FreeLibrary(static_cast<HMODULE>(module));
 }
-void* find_symbol(Module module, const char* name) noexcept {
+void* find_symbol(Module module, const char* name) {
   return reinterpret_cast<void*>(GetProcAddress(static_cast<HMODULE>(module), name));
 }
-bool is_code_mapped(const void* address) noexcept {
+bool is_code_mapped(const void* address) {
   // Asked of the memory, because run-time systems make functions outside of modules.
   MEMORY_BASIC_INFORMATION area{};
   constexpr DWORD kExecutable = PAGE_EXECUTE | PAGE_EXECUTE_READ | PAGE_EXECUTE_READWRITE | PAGE_EXECUTE_WRITECOPY;
@@ -139,13 +139,13 @@ bool is_code_mapped(const void* address) noexcept {
          (area.Protect & kExecutable) != 0;
 }
 
-double seconds_of_day() noexcept {
+double seconds_of_day() {
   SYSTEMTIME now{};
   GetSystemTime(&now);
   return now.wHour * 3600.0 + now.wMinute * 60.0 + now.wSecond + now.wMilliseconds * 0.001;
 }
 
-MemoryStatus memory_status() noexcept {
+MemoryStatus memory_status() {
   MEMORYSTATUS status{};
   status.dwLength = sizeof status;
   GlobalMemoryStatus(&status);
@@ -163,20 +163,20 @@ MemoryStatus memory_status() noexcept {
 File::~File() {
   if (handle_ >= 0) _close(handle_);
 }
-void File::open_for_reading(const char* name) noexcept {
+void File::open_for_reading(const char* name) {
   if (name != nullptr) handle_ = _open(name, _O_RDONLY | _O_BINARY);
 }
-void File::open_for_text(const char* name) noexcept {
+void File::open_for_text(const char* name) {
   if (name != nullptr) handle_ = _open(name, _O_WRONLY | _O_CREAT | _O_TRUNC | _O_TEXT, _S_IREAD | _S_IWRITE);
 }
-void File::open_for_overwriting(const char* name) noexcept {
+void File::open_for_overwriting(const char* name) {
   if (name != nullptr) handle_ = _open(name, _O_WRONLY | _O_CREAT | _O_BINARY, _S_IREAD | _S_IWRITE | _S_IEXEC);
 }
-std::uint64_t File::size() const noexcept {
+std::uint64_t File::size() const {
   const __int64 size = _filelengthi64(handle_);
   return size >= 0 ? static_cast<std::uint64_t>(size) : UINT64_MAX;
 }
-std::size_t File::read(void* buffer, std::size_t bytes) noexcept {
+std::size_t File::read(void* buffer, std::size_t bytes) {
   constexpr std::size_t kMost = std::size_t{1} << 26;
   std::size_t done = 0;
   while (handle_ >= 0 && done < bytes) {
@@ -187,7 +187,7 @@ std::size_t File::read(void* buffer, std::size_t bytes) noexcept {
   }
   return done;
 }
-bool File::write(const void* buffer, std::size_t bytes) noexcept {
+bool File::write(const void* buffer, std::size_t bytes) {
   constexpr std::size_t kMost = std::size_t{1} << 26;
   std::size_t done = 0;
   while (handle_ >= 0 && done < bytes) {
@@ -199,17 +199,17 @@ bool File::write(const void* buffer, std::size_t bytes) noexcept {
   return handle_ >= 0 && done == bytes;
 }
 
-bool read_environment(const char* name, char* buffer, std::size_t size) noexcept {
+bool read_environment(const char* name, char* buffer, std::size_t size) {
   const DWORD length = GetEnvironmentVariableA(name, buffer, static_cast<DWORD>(size));
   return length > 0 && length < size;
 }
 
-void write_standard_output(const char* text) noexcept {
+void write_standard_output(const char* text) {
   std::fputs(text, stdout);
   std::fflush(stdout);
 }
 
-void fail_assertion(const char* expression, const char* file, unsigned line) noexcept {
+void fail_assertion(const char* expression, const char* file, unsigned line) {
   _assert(expression, file, line);
   __builtin_unreachable();
 }
