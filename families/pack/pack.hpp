@@ -1,10 +1,6 @@
-// Gathers elements of a vector into contiguous memory, and scatters them back. Bits are moved, nothing is computed: NaN
-// payloads, -0 and denormal numbers stay what they are.
-//
-// n <= 0 elements touch nothing. n < 0, an increment that is not positive, and a null array with n > 0 are reported
-// through base::report_argument_error, by position, and touch nothing. Elements go in ascending order, so that of
-// repeated targets the last one stays. Packing may be done in place, y being a, and so may the unpacking with an
-// increment or a mask; other overlaps are not supported. Indices are zero-based and not checked.
+// Gathers elements of a vector into contiguous memory, and scatters them back. Bits are moved, nothing is computed.
+// Wrong arguments are reported through base::report_argument_error, by position, and touch nothing. What may overlap
+// and what hosts see else is told in exports/tables/pack.table.
 #pragma once
 
 namespace quorin::pack {
