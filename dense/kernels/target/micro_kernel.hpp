@@ -27,9 +27,10 @@ void multiply_tile(int k, const Real* a, std::ptrdiff_t a_step, const Real* b, s
   }
   V sums[kColumns][kVectors] = {};
   // Columns of B by three pointers and multiples of one step: 32-bit code has seven registers for addresses.
-  const Real *b0 = b, *b3 = b + 3 * b_column, *b6 = b + 6 * b_column;
-  if constexpr (kColumns > 3) asm("" : "+r"(b3));
-  if constexpr (kColumns > 6) asm("" : "+r"(b6));
+  // They are in an array, because the compiler may read through both sides of a choice between two pointers.
+  const Real* thirds[] = {b, b + 3 * b_column, b + 6 * b_column};
+  if constexpr (kColumns > 3) asm("" : "+r"(thirds[1]));
+  if constexpr (kColumns > 6) asm("" : "+r"(thirds[2]));
   for (; k > 0; --k) {
     V only;
     if constexpr (kVectors == 1) {
@@ -38,7 +39,7 @@ void multiply_tile(int k, const Real* a, std::ptrdiff_t a_step, const Real* b, s
     }
 #pragma GCC unroll 8
     for (int j = 0; j < kColumns; ++j) {
-      const V bj = all<Isa>((j < 3 ? b0 : j < 6 ? b3 : b6)[j % 3 * b_column]);
+      const V bj = all<Isa>(thirds[j / 3][j % 3 * b_column]);
       if constexpr (kVectors == 1) {
         sums[j][0] += only * bj;
       } else {
@@ -47,9 +48,9 @@ void multiply_tile(int k, const Real* a, std::ptrdiff_t a_step, const Real* b, s
       }
     }
     a += a_step;
-    b0 += b_step;
-    if constexpr (kColumns > 3) b3 += b_step;
-    if constexpr (kColumns > 6) b6 += b_step;
+    thirds[0] += b_step;
+    if constexpr (kColumns > 3) thirds[1] += b_step;
+    if constexpr (kColumns > 6) thirds[2] += b_step;
   }
 #pragma GCC unroll 8
   for (int j = 0; j < kColumns; ++j) {
