@@ -3,7 +3,7 @@
 from __future__ import annotations
 
 import re
-from dataclasses import dataclass, field
+from dataclasses import dataclass, field, replace
 from fnmatch import fnmatchcase
 from itertools import groupby
 from pathlib import PurePath
@@ -260,8 +260,8 @@ class Family:
         for source in reversed(self.sources(routine)):
             ranked += [value for value in source.own_statuses if value.place == group.place]
         for value in ranked:
-            if value.text or value.value not in chosen:
-                chosen[value.value] = value
+            general = chosen.get(value.value)
+            chosen[value.value] = replace(value, name=general.name) if general and not value.name else value
         return list(chosen.values())
 
     @staticmethod

@@ -162,6 +162,7 @@ class Descriptions(unittest.TestCase):
         self.assertIn("| `c` | in | char | 1 | by reference | which triangle<br>`U`: upper<br>`L`: lower |", page)
         self.assertIn("| `x` | in | float | n | array | a vector; may be null<br>at least `2*n if c == 'U' else n` elements<br>**Kept**", page)
         self.assertIn("| `info` | meaning |\n|---|---|\n| `>0` | failed for f |\n| `i` | failed at i |\n\nAlso `info` `0`: see", page)
+        self.assertIn("| `0` | `T_DONE` | done by h |\n", page)
         self.assertIn("| 1 to 2 | `T_TOP_SIZE` | sizes | 5 | |", page)
 
     def test_constants_in_c_and_cpp(self):
