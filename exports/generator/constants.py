@@ -5,7 +5,7 @@ from __future__ import annotations
 import os
 import re
 
-from generator.model import Entry, Family, Group, ParameterArray, Value
+from generator.model import Entry, Family, Group, ParameterArray
 from generator.text import fill
 
 NUMBER = re.compile(r"-?\d+(\.\d*)?(e-?\d+)?\Z")
@@ -28,8 +28,7 @@ def snake_case(name: str) -> str:
 
 
 def c_enum(tag: str, title: str, items: list[tuple[str, int, str]]) -> str:
-    lines = [fill(f"/* {title} */", "").replace("\n", "\n * ").rstrip(" *")]
-    lines.append(f"enum {tag} {{\n" if tag else "enum {\n")
+    lines = [fill(f"/* {title} */", "", indent=" * "), f"enum {tag} {{\n" if tag else "enum {\n"]
     for position, (name, value, text) in enumerate(items):
         comma = "," if position + 1 < len(items) else ""
         lines.append(fill(f"  {name} = {value}{comma}" + (f" /* {text} */" if text else ""), "  ", indent="      "))
