@@ -46,8 +46,8 @@ auto sequence_call(Function* function, double order, double size, Complex direct
   };
 }
 
-auto y_call(const Amos& amos, double order, double size) {
-  return [y = amos.y, order, arguments = Arguments(size)]() mutable {
+auto y_call(const quorin_library& library, double order, double size) {
+  return [y = library.CBESY, order, arguments = Arguments(size)]() mutable {
     const quorin_double_complex z{arguments.next(), 0};
     const std::int32_t kode = 1, n = 1;
     quorin_double_complex value{}, work{};
@@ -57,8 +57,8 @@ auto y_call(const Amos& amos, double order, double size) {
   };
 }
 
-auto airy_call(const Amos& amos, double x) {
-  return [ai = amos.ai, arguments = Arguments(x)]() mutable {
+auto airy_call(const quorin_library& library, double x) {
+  return [ai = library.CAIRY, arguments = Arguments(x)]() mutable {
     const quorin_double_complex z{arguments.next(), 0};
     const std::int32_t id = 0, kode = 1;
     quorin_double_complex value{};
@@ -91,7 +91,7 @@ Row time_row(const std::string& operation, int size) {
 }  // namespace
 
 void add_amos_rows(Suite& suite) {
-  const Amos& amos = suite.libraries().amos;
+  const quorin_library& library = suite.libraries().product;
   const std::vector<BesselPeer> peers = bessel_peers();
   // Each order with all sizes: series, continued fractions, large argument; recurrence; large order below, at and
   // beyond the turning point.
@@ -105,31 +105,34 @@ void add_amos_rows(Suite& suite) {
     };
     for (const int size : sizes) {
       const Row row = bessel_row("CBESJ on the real axis", size);
-      suite.measure(row, "quorin", [&amos, order = order, size] { return sequence_call(amos.j, order, size, 1.0); });
+      suite.measure(row, "quorin",
+                    [&library, order = order, size] { return sequence_call(library.CBESJ, order, size, 1.0); });
       for (const BesselPeer& peer : peers) {
         suite.measure(row, peer.side, [f = peer.j, order = order, size] { return peer_call(f, order, size); });
       }
     }
     for (const int size : sizes) {
       const Row row = bessel_row("CBESY on the real axis", size);
-      suite.measure(row, "quorin", [&amos, order = order, size] { return y_call(amos, order, size); });
+      suite.measure(row, "quorin", [&library, order = order, size] { return y_call(library, order, size); });
       for (const BesselPeer& peer : peers) {
         suite.measure(row, peer.side, [f = peer.y, order = order, size] { return peer_call(f, order, size); });
       }
     }
     const Complex oblique = std::polar(1.0, 0.5);
     for (const int size : sizes) {
-      suite.measure(bessel_row("CBESJ off the axis", size), "quorin",
-                    [&amos, order = order, size, oblique] { return sequence_call(amos.j, order, size, oblique); });
+      suite.measure(bessel_row("CBESJ off the axis", size), "quorin", [&library, order = order, size, oblique] {
+        return sequence_call(library.CBESJ, order, size, oblique);
+      });
     }
     for (const int size : sizes) {
-      suite.measure(bessel_row("CBESK off the axis", size), "quorin",
-                    [&amos, order = order, size, oblique] { return sequence_call(amos.k, order, size, oblique); });
+      suite.measure(bessel_row("CBESK off the axis", size), "quorin", [&library, order = order, size, oblique] {
+        return sequence_call(library.CBESK, order, size, oblique);
+      });
     }
   }
   for (const int x : suite.sizes({-60, -5, 1, 4, 30}, {-60, -5, 4})) {
     const Row row = time_row("CAIRY on the real axis", x);
-    suite.measure(row, "quorin", [&amos, x] { return airy_call(amos, x); });
+    suite.measure(row, "quorin", [&library, x] { return airy_call(library, x); });
     for (const BesselPeer& peer : peers) suite.measure(row, peer.side, [f = peer.ai, x] { return peer_call(f, x); });
   }
 }

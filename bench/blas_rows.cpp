@@ -25,7 +25,7 @@ auto gemm_call(Gemm* gemm, int n) {
 }
 
 // C <- A A^T, one triangle
-auto syrk_call(const Blas& blas, int n) {
+auto syrk_call(const Library& blas, int n) {
   return [syrk = blas.ssyrk, n, a = square_matrix<float>(n), c = square_matrix<float>(n)] {
     const float one = 1, zero = 0;
     syrk("L", "N", &n, &n, &one, a.data(), &n, &zero, c.data(), &n);
@@ -51,7 +51,7 @@ Array<float> triangular_involution(int n) {
 }
 
 // B <- A^-1 B
-auto trsm_call(const Blas& blas, int n) {
+auto trsm_call(const Library& blas, int n) {
   return [trsm = blas.strsm, n, a = triangular_involution(n), b = square_matrix<float>(n)] {
     const float one = 1;
     trsm("L", "L", "N", "N", &n, &n, &one, a.data(), &n, b.data(), &n);
@@ -59,7 +59,7 @@ auto trsm_call(const Blas& blas, int n) {
 }
 
 // y <- A x
-auto gemv_call(const Blas& blas, int n) {
+auto gemv_call(const Library& blas, int n) {
   const auto length = static_cast<std::size_t>(n);
   return [gemv = blas.sgemv, n, a = square_matrix<float>(n), x = Array<float>(length), y = Array<float>(length)] {
     const float one = 1, zero = 0;
@@ -67,7 +67,7 @@ auto gemv_call(const Blas& blas, int n) {
   };
 }
 
-auto dot_call(const Blas& blas, int n) {
+auto dot_call(const Library& blas, int n) {
   const auto length = static_cast<std::size_t>(n);
   return [dot = blas.sdot, n, x = Array<float>(length), y = Array<float>(length)] {
     benchmark::DoNotOptimize(dot(&n, x.data(), &kOne, y.data(), &kOne));
@@ -93,16 +93,16 @@ void add_blas_rows(Suite& suite) {
     for (const int n : orders) {
       const double cube = static_cast<double>(n) * n * n;
       suite.compare(arithmetic_row("sgemm", n, threads, 2 * cube),
-                    [n](const Blas& blas) { return gemm_call<float>(blas.sgemm, n); });
+                    [n](const Library& blas) { return gemm_call<float>(blas.sgemm, n); });
       suite.compare(arithmetic_row("cgemm", n, threads, 8 * cube),
-                    [n](const Blas& blas) { return gemm_call<quorin_complex>(blas.cgemm, n); });
-      suite.compare(arithmetic_row("strsm", n, threads, cube), [n](const Blas& blas) { return trsm_call(blas, n); });
-      suite.compare(arithmetic_row("ssyrk", n, threads, cube), [n](const Blas& blas) { return syrk_call(blas, n); });
+                    [n](const Library& blas) { return gemm_call<quorin_complex>(blas.cgemm, n); });
+      suite.compare(arithmetic_row("strsm", n, threads, cube), [n](const Library& blas) { return trsm_call(blas, n); });
+      suite.compare(arithmetic_row("ssyrk", n, threads, cube), [n](const Library& blas) { return syrk_call(blas, n); });
       suite.compare(reading_row("sgemv", n, threads, static_cast<double>(n) * n),
-                    [n](const Blas& blas) { return gemv_call(blas, n); });
+                    [n](const Library& blas) { return gemv_call(blas, n); });
     }
     for (const int n : lengths) {
-      suite.compare(reading_row("sdot", n, threads, 2.0 * n), [n](const Blas& blas) { return dot_call(blas, n); });
+      suite.compare(reading_row("sdot", n, threads, 2.0 * n), [n](const Library& blas) { return dot_call(blas, n); });
     }
   }
 }

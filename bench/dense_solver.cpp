@@ -38,8 +38,7 @@ void xerbla_(const char*, const int*, std::size_t) {}
 }
 
 DenseSolver* dense_solver(const Libraries& libraries) {
-  g_blas = {libraries.product.sgemm, libraries.product.strsm, libraries.vector_forms.sscal,
-            libraries.vector_forms.isamax};
+  g_blas = {libraries.product.sgemm, libraries.product.strsm, libraries.product.sscal, libraries.product.isamax};
   return sgesv_;
 }
 

@@ -19,7 +19,7 @@ Array<T> indexed_array(std::size_t length) {
   return Array<T>(length + kIndex);
 }
 
-auto plain_axpy(const Blas& blas, int n) {
+auto plain_axpy(const Library& blas, int n) {
   const auto length = static_cast<std::size_t>(n);
   return [axpy = blas.saxpy, n, x = indexed_array<float>(length), y = indexed_array<float>(length)] {
     const float a = 0x1p-10F;
@@ -27,29 +27,29 @@ auto plain_axpy(const Blas& blas, int n) {
   };
 }
 
-auto index_axpy(const IndexForms& forms, int n) {
+auto index_axpy(const quorin_library& library, int n) {
   const auto length = static_cast<std::size_t>(n);
-  return [axpy = forms.saxpy, n, x = indexed_array<float>(length), y = indexed_array<float>(length)] {
+  return [axpy = library.saxpy_Idx, n, x = indexed_array<float>(length), y = indexed_array<float>(length)] {
     const float a = 0x1p-10F;
     axpy(&n, &a, x.data(), kIndex, &kOne, y.data(), kIndex, &kOne);
   };
 }
 
-auto plain_dot(const Blas& blas, int n) {
+auto plain_dot(const Library& blas, int n) {
   const auto length = static_cast<std::size_t>(n);
   return [dot = blas.sdot, n, x = indexed_array<float>(length), y = indexed_array<float>(length)] {
     benchmark::DoNotOptimize(dot(&n, x.data() + kIndex, &kOne, y.data() + kIndex, &kOne));
   };
 }
 
-auto index_dot(const IndexForms& forms, int n) {
+auto index_dot(const quorin_library& library, int n) {
   const auto length = static_cast<std::size_t>(n);
-  return [dot = forms.sdot, n, x = indexed_array<float>(length), y = indexed_array<float>(length)] {
+  return [dot = library.sdot_Idx, n, x = indexed_array<float>(length), y = indexed_array<float>(length)] {
     benchmark::DoNotOptimize(dot(&n, x.data(), kIndex, &kOne, y.data(), kIndex, &kOne));
   };
 }
 
-auto plain_gemm(const Blas& blas, int n) {
+auto plain_gemm(const Library& blas, int n) {
   const auto size = static_cast<std::size_t>(n) * static_cast<std::size_t>(n);
   return [gemm = blas.sgemm, n, a = indexed_array<float>(size), b = indexed_array<float>(size),
           c = indexed_array<float>(size)] {
@@ -58,9 +58,9 @@ auto plain_gemm(const Blas& blas, int n) {
   };
 }
 
-auto index_gemm(const IndexForms& forms, int n) {
+auto index_gemm(const quorin_library& library, int n) {
   const auto size = static_cast<std::size_t>(n) * static_cast<std::size_t>(n);
-  return [gemm = forms.sgemm, n, a = indexed_array<float>(size), b = indexed_array<float>(size),
+  return [gemm = library.sgemm_Idx, n, a = indexed_array<float>(size), b = indexed_array<float>(size),
           c = indexed_array<float>(size)] {
     const float one = 1, zero = 0;
     gemm("N", "N", &n, &n, &n, &one, a.data(), kIndex, &n, b.data(), kIndex, &n, &zero, c.data(), kIndex, &n);
@@ -70,8 +70,8 @@ auto index_gemm(const IndexForms& forms, int n) {
 template <class Plain, class Indexed>
 void add_row(Suite& suite, const char* operation, int n, double flops, Plain plain, Indexed indexed) {
   const Row row{"calls", operation, n, 1, flops};
-  suite.compare(row, [n, plain](const Blas& blas) { return plain(blas, n); });
-  suite.measure(row, kIndexSide, [n, indexed, &forms = suite.libraries().index_forms] { return indexed(forms, n); });
+  suite.compare(row, [n, plain](const Library& blas) { return plain(blas, n); });
+  suite.measure(row, kIndexSide, [n, indexed, &library = suite.libraries().product] { return indexed(library, n); });
 }
 
 }  // namespace

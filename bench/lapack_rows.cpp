@@ -43,7 +43,7 @@ auto getrf_call(Getrf* getrf, int n) {
   };
 }
 
-auto potrf_call(const Lapack& lapack, int n) {
+auto potrf_call(const quorin_library& lapack, int n) {
   return [potrf = lapack.spotrf, p = Problem<float>(n)] {
     std::int32_t info = 0;
     potrf("L", &p.n, p.fresh(), &p.n, &info);
@@ -61,7 +61,7 @@ auto geqrf_call(Geqrf* geqrf, int n) {
 }
 
 // All singular values and vectors.
-auto gesdd_call(const Lapack& lapack, int n) {
+auto gesdd_call(const quorin_library& lapack, int n) {
   const auto side = static_cast<std::size_t>(n);
   const auto lwork = static_cast<std::int32_t>(4 * n * n + 200 * n);
   return [gesdd = lapack.sgesdd, lwork, p = Problem<float>(n), s = Array<float>(side), u = square_matrix<float>(n),
@@ -74,7 +74,7 @@ auto gesdd_call(const Lapack& lapack, int n) {
 }
 
 // All eigenvalues and vectors of a symmetric matrix.
-auto syevr_call(const Lapack& lapack, int n) {
+auto syevr_call(const quorin_library& lapack, int n) {
   const auto side = static_cast<std::size_t>(n);
   return [syevr = lapack.ssyevr, p = Problem<float>(n), w = Array<float>(side), z = square_matrix<float>(n),
           support = std::vector<std::int32_t>(2 * side), work = Array<float>(100 * side),
@@ -87,7 +87,7 @@ auto syevr_call(const Lapack& lapack, int n) {
   };
 }
 
-auto heevr_call(const Lapack& lapack, int n) {
+auto heevr_call(const quorin_library& lapack, int n) {
   const auto side = static_cast<std::size_t>(n);
   return [heevr = lapack.cheevr, p = Problem<quorin_complex>(n), w = Array<float>(side),
           z = square_matrix<quorin_complex>(n), support = std::vector<std::int32_t>(2 * side),
@@ -102,7 +102,7 @@ auto heevr_call(const Lapack& lapack, int n) {
 }
 
 // All eigenvalues and right vectors of a general matrix.
-auto geev_call(const Lapack& lapack, int n) {
+auto geev_call(const quorin_library& lapack, int n) {
   const auto side = static_cast<std::size_t>(n);
   return [geev = lapack.sgeev, p = Problem<float>(n), re = Array<float>(side), im = Array<float>(side),
           v = square_matrix<float>(n), work = Array<float>(100 * side)] {
@@ -124,15 +124,16 @@ void add_lapack_rows(Suite& suite) {
       };
       const auto compare = [&](const char* operation, double flops, auto prepare) {
         suite.compare(
-            row(operation, flops), [prepare, n](const Blas& blas) { return prepare(*blas.lapack, n); },
-            [](const Blas& blas) { return blas.lapack.has_value(); });
+            row(operation, flops), [prepare, n](const Library& blas) { return prepare(blas, n); },
+            [](const Library& blas) { return blas.has_lapack(); });
       };
-      compare("sgetrf", 2.0 / 3 * cube, [](const Lapack& l, int m) { return getrf_call<float>(l.sgetrf, m); });
-      compare("cgetrf", 8.0 / 3 * cube, [](const Lapack& l, int m) { return getrf_call<quorin_complex>(l.cgetrf, m); });
+      compare("sgetrf", 2.0 / 3 * cube, [](const quorin_library& l, int m) { return getrf_call<float>(l.sgetrf, m); });
+      compare("cgetrf", 8.0 / 3 * cube,
+              [](const quorin_library& l, int m) { return getrf_call<quorin_complex>(l.cgetrf, m); });
       compare("spotrf", 1.0 / 3 * cube, potrf_call);
-      compare("sgeqrf", 4.0 / 3 * cube, [](const Lapack& l, int m) { return geqrf_call<float>(l.sgeqrf, m); });
+      compare("sgeqrf", 4.0 / 3 * cube, [](const quorin_library& l, int m) { return geqrf_call<float>(l.sgeqrf, m); });
       compare("cgeqrf", 16.0 / 3 * cube,
-              [](const Lapack& l, int m) { return geqrf_call<quorin_complex>(l.cgeqrf, m); });
+              [](const quorin_library& l, int m) { return geqrf_call<quorin_complex>(l.cgeqrf, m); });
       compare("ssyevr", 10.0 / 3 * cube, syevr_call);
       compare("cheevr", 40.0 / 3 * cube, heevr_call);
       compare("sgesdd", 20.0 / 3 * cube, gesdd_call);

@@ -73,8 +73,8 @@ class Ordering {
 
 class ProductOrdering : public Ordering {
  public:
-  ProductOrdering(const Taucs& taucs, const char* name, Grid grid)
-      : Ordering(std::move(grid)), order_(taucs.ccs_order), name_(name) {}
+  ProductOrdering(const quorin_library& library, const char* name, Grid grid)
+      : Ordering(std::move(grid)), order_(library.taucs_ccs_order), name_(name) {}
 
   void operator()() {
     taucs_ccs_matrix matrix{};
@@ -111,7 +111,7 @@ void add_rows(Suite& suite, const char* operation, int a, int b, int c, int thre
   const Row row{"orderings", operation, a * b * c, threads, kOperations * a * b * c, Unit::kTime};
   suite.measure(row, "quorin", [=, &libraries] {
     libraries.product.set_threads(threads);
-    return ProductOrdering(libraries.taucs, "genmmd", Grid(a, b, c));
+    return ProductOrdering(libraries.product, "genmmd", Grid(a, b, c));
   });
   suite.measure(row, "amd", [=] { return AmdOrdering(Grid(a, b, c)); });
 }

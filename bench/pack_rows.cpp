@@ -64,27 +64,31 @@ void add_rows(Suite& suite, const char* operation, int n, const Call& call, cons
 }  // namespace
 
 void add_pack_rows(Suite& suite) {
-  const Pack& pack = suite.libraries().pack;
+  const quorin_library& library = suite.libraries().product;
   for (const int n : suite.sizes({100, 10'000, 1'000'000}, {100, 100'000})) {
     add_rows(
         suite, "vspacki", n,
-        [pack](const int* length, const Operands& o) {
+        [&library](const int* length, const Operands& o) {
           constexpr int kTwo = 2;
-          pack.increment(length, o.a.data(), &kTwo, o.y.data());
+          library.vspacki(length, o.a.data(), &kTwo, o.y.data());
         },
         Loops::pack_increment);
     add_rows(
         suite, "vspackv", n,
-        [pack](const int* length, const Operands& o) { pack.index(length, o.a.data(), o.index.data(), o.y.data()); },
+        [&library](const int* length, const Operands& o) {
+          library.vspackv(length, o.a.data(), o.index.data(), o.y.data());
+        },
         Loops::pack_index);
     add_rows(
         suite, "vspackm", n,
-        [pack](const int* length, const Operands& o) { pack.mask(length, o.a.data(), o.mask.data(), o.y.data()); },
+        [&library](const int* length, const Operands& o) {
+          library.vspackm(length, o.a.data(), o.mask.data(), o.y.data());
+        },
         Loops::pack_mask);
     add_rows(
         suite, "vsunpackm", n,
-        [pack](const int* length, const Operands& o) {
-          pack.unpack_mask(length, o.a.data(), o.y.data(), o.mask.data());
+        [&library](const int* length, const Operands& o) {
+          library.vsunpackm(length, o.a.data(), o.y.data(), o.mask.data());
         },
         Loops::unpack_mask);
   }

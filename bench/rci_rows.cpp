@@ -45,9 +45,10 @@ void require(bool holds, const char* routine) {
 // a half. The solver's vectors then keep their sizes, and its work is that of any other iteration.
 class CgIteration {
  public:
-  CgIteration(const Rci& rci, int n) : step_(rci.cg), n_(n), x_(length(n)), b_(length(n)), tmp_(4 * length(n)) {
+  CgIteration(const quorin_library& library, int n)
+      : step_(library.DCG), n_(n), x_(length(n)), b_(length(n)), tmp_(4 * length(n)) {
     int request = -1;
-    rci.cg_init(&n_, x_.data(), b_.data(), &request, p_.ipar(), p_.dpar(), tmp_.data());
+    library.DCG_INIT(&n_, x_.data(), b_.data(), &request, p_.ipar(), p_.dpar(), tmp_.data());
     require(request == 0, "DCG_INIT");
     p_.limit_test() = 0;
     p_.host_test() = 1;
@@ -88,9 +89,10 @@ class FgmresCycle {
  public:
   static constexpr int kSteps = 20;
 
-  FgmresCycle(const Rci& rci, int n) : step_(rci.fgmres), n_(n), x_(length(n)), b_(length(n)), tmp_(work_length(n)) {
+  FgmresCycle(const quorin_library& library, int n)
+      : step_(library.DFGMRES), n_(n), x_(length(n)), b_(length(n)), tmp_(work_length(n)) {
     int request = -1;
-    rci.fgmres_init(&n_, x_.data(), b_.data(), &request, p_.ipar(), p_.dpar(), tmp_.data());
+    library.DFGMRES_INIT(&n_, x_.data(), b_.data(), &request, p_.ipar(), p_.dpar(), tmp_.data());
     require(request == 0, "DFGMRES_INIT");
     p_.warnings() = 0;  // of positions that the check makes suit the cycle's length
     p_.cycle_length() = kSteps;
@@ -99,7 +101,7 @@ class FgmresCycle {
     p_.residual_test() = 1;  // passes never: the tolerances are zero
     p_.relative_tolerance() = 0;
     p_.zero_norm_test() = 1;
-    rci.fgmres_check(&n_, x_.data(), b_.data(), &request, p_.ipar(), p_.dpar(), tmp_.data());
+    library.DFGMRES_CHECK(&n_, x_.data(), b_.data(), &request, p_.ipar(), p_.dpar(), tmp_.data());
     require(request == 0, "DFGMRES_CHECK");
     require(step() == kMultiply, "DFGMRES");
   }
@@ -138,7 +140,7 @@ void add_iteration_row(Suite& suite, const char* routine, int n) {
   const double vector = 8.0 * n;
   const Row row{
       "rci", routine, n, 1, Work::kVectorsMoved * vector, Unit::kByte, Limit::kTriad, Work::kVectorsHeld * vector};
-  suite.measure(row, "quorin", [&rci = suite.libraries().rci, n] { return Work(rci, n); });
+  suite.measure(row, "quorin", [&library = suite.libraries().product, n] { return Work(library, n); });
   suite.add_limit(row);
 }
 
@@ -168,7 +170,8 @@ SparseMatrix convection_diffusion(int side) {
 
 class PatternFactorization {
  public:
-  PatternFactorization(const Rci& rci, SparseMatrix a) : ilu0_(rci.ilu0), a_(std::move(a)), factors_(a_.values.size()) {
+  PatternFactorization(const quorin_library& library, SparseMatrix a)
+      : ilu0_(library.DCSRILU0), a_(std::move(a)), factors_(a_.values.size()) {
     p_.least_pivot() = 1e-16;
   }
 
@@ -189,8 +192,8 @@ class PatternFactorization {
 
 class ThresholdFactorization {
  public:
-  ThresholdFactorization(const Rci& rci, SparseMatrix a, double tolerance, int most)
-      : ilut_(rci.ilut), a_(std::move(a)), tolerance_(tolerance), most_(most) {
+  ThresholdFactorization(const quorin_library& library, SparseMatrix a, double tolerance, int most)
+      : ilut_(library.DCSRILUT), a_(std::move(a)), tolerance_(tolerance), most_(most) {
     const auto order = static_cast<std::size_t>(a_.order), width = static_cast<std::size_t>(most);
     const std::size_t capacity = (2 * width + 1) * order - width * (width + 1) + 1;
     values_.resize(capacity);
@@ -228,7 +231,7 @@ class PeerFactorization {
 };
 
 void add_factorization_rows(Suite& suite, int side) {
-  const Rci& rci = suite.libraries().rci;
+  const quorin_library& library = suite.libraries().product;
   const int order = side * side;
   // The peer has no factorization on a pattern; the nearest thing is its least factor, which keeps fewer entries. For
   // the other row kMost is such that both keep about as many: the peer's ordering saves fill.
@@ -243,7 +246,7 @@ void add_factorization_rows(Suite& suite, int side) {
     return Row{"rci", kind.routine, order, 1, kind.flops * order, Unit::kTime};
   };
   suite.measure(row(kPattern), "quorin",
-                [&rci, side] { return PatternFactorization(rci, convection_diffusion(side)); });
+                [&library, side] { return PatternFactorization(library, convection_diffusion(side)); });
   const auto add_peer = [&](const Kind& kind) {
     if (!EigenIncompleteLu::is_there()) return;
     suite.measure(row(kind), "eigen", [kind, side] {
@@ -251,8 +254,8 @@ void add_factorization_rows(Suite& suite, int side) {
     });
   };
   add_peer(kPattern);
-  suite.measure(row(kThreshold), "quorin", [&rci, side, tolerance = kThreshold.tolerance] {
-    return ThresholdFactorization(rci, convection_diffusion(side), tolerance, kMost);
+  suite.measure(row(kThreshold), "quorin", [&library, side, tolerance = kThreshold.tolerance] {
+    return ThresholdFactorization(library, convection_diffusion(side), tolerance, kMost);
   });
   add_peer(kThreshold);
 }

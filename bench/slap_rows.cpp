@@ -70,8 +70,8 @@ std::vector<float> right_hand_side(int order) {
 
 struct Solver {
   std::string name;
-  decltype(&::SSDCG) Slap::*common;
-  decltype(&::SSDGMR) Slap::*with_directions;
+  decltype(quorin_library::SSDCG) quorin_library::*common;
+  decltype(quorin_library::SSDGMR) quorin_library::*with_directions;
   bool is_symmetric;
   // Of an iteration: products with A, solves with a whole set of factors, passes over vectors of n.
   double products, solves, vectors;
@@ -84,6 +84,7 @@ struct Solver {
 std::vector<Solver> solvers() {
   using I = PeerIteration;
   using M = PeerPreconditioner;
+  using L = quorin_library;
   constexpr double kCg = 2 + 3 + 2 + 3 + 3 + 1, kDiagonal = 3;
   // In double; x and its low part are floats. Its products touch three vectors less: one adds to the residual at once,
   // the other, with A^T, reads and writes.
@@ -93,21 +94,21 @@ std::vector<Solver> solvers() {
   // A new direction is made orthogonal to 0, 1 .. m others.
   constexpr double kOrthomin = m * (2 + 3 + 3) + 2 + 2 + 3 + 3 + 1, kGmres = (m + 1) / 2 * (2 + 3) + 1 + 1 + 2 + 3;
   return {
-      {"SSDCG", &Slap::ssdcg, nullptr, true, 1, 0, kCg + kDiagonal, I::kCg, M::kDiagonal},
-      {"SSICCG", &Slap::ssiccg, nullptr, true, 1, 1, kCg, I::kCg, M::kIncomplete},
-      {"SSDCGN", &Slap::ssdcgn, nullptr, false, 2, 0, kNormal + kDiagonal, I::kLeastSquaresCg, M::kDiagonal, 8},
-      {"SSLUCN", &Slap::sslucn, nullptr, false, 2, 2, kNormal, I::kLeastSquaresCg, M::kDiagonal, 8},
-      {"SSDBCG", &Slap::ssdbcg, nullptr, false, 2, 0, kBicg + 2 * kDiagonal, I::kBicgstab, M::kDiagonal},
-      {"SSLUBC", &Slap::sslubc, nullptr, false, 2, 2, kBicg, I::kBicgstab, M::kIncomplete},
-      {"SSDCGS", &Slap::ssdcgs, nullptr, false, 2, 0, kCgs + 2 * kDiagonal, I::kBicgstab, M::kDiagonal},
-      {"SSLUCS", &Slap::sslucs, nullptr, false, 2, 2, kCgs, I::kBicgstab, M::kIncomplete},
-      {"SSDGMR", nullptr, &Slap::ssdgmr, false, 1, 0, kGmres + kDiagonal, I::kGmres, M::kDiagonal},
-      {"SSLUGM", nullptr, &Slap::sslugm, false, 1, 1, kGmres, I::kGmres, M::kIncomplete},
-      {"SSDOMN", nullptr, &Slap::ssdomn, false, 1, 0, kOrthomin + kDiagonal, I::kGmres, M::kDiagonal},
-      {"SSLUOM", nullptr, &Slap::ssluom, false, 1, 1, kOrthomin, I::kGmres, M::kIncomplete},
-      {"SSJAC", &Slap::ssjac, nullptr, false, 1, 0, kRefinement + kDiagonal, I::kBicgstab, M::kDiagonal},
-      {"SSGS", &Slap::ssgs, nullptr, false, 1, 0.5, kRefinement, I::kBicgstab, M::kDiagonal},
-      {"SSILUR", &Slap::ssilur, nullptr, false, 1, 1, kRefinement, I::kBicgstab, M::kIncomplete},
+      {"SSDCG", &L::SSDCG, nullptr, true, 1, 0, kCg + kDiagonal, I::kCg, M::kDiagonal},
+      {"SSICCG", &L::SSICCG, nullptr, true, 1, 1, kCg, I::kCg, M::kIncomplete},
+      {"SSDCGN", &L::SSDCGN, nullptr, false, 2, 0, kNormal + kDiagonal, I::kLeastSquaresCg, M::kDiagonal, 8},
+      {"SSLUCN", &L::SSLUCN, nullptr, false, 2, 2, kNormal, I::kLeastSquaresCg, M::kDiagonal, 8},
+      {"SSDBCG", &L::SSDBCG, nullptr, false, 2, 0, kBicg + 2 * kDiagonal, I::kBicgstab, M::kDiagonal},
+      {"SSLUBC", &L::SSLUBC, nullptr, false, 2, 2, kBicg, I::kBicgstab, M::kIncomplete},
+      {"SSDCGS", &L::SSDCGS, nullptr, false, 2, 0, kCgs + 2 * kDiagonal, I::kBicgstab, M::kDiagonal},
+      {"SSLUCS", &L::SSLUCS, nullptr, false, 2, 2, kCgs, I::kBicgstab, M::kIncomplete},
+      {"SSDGMR", nullptr, &L::SSDGMR, false, 1, 0, kGmres + kDiagonal, I::kGmres, M::kDiagonal},
+      {"SSLUGM", nullptr, &L::SSLUGM, false, 1, 1, kGmres, I::kGmres, M::kIncomplete},
+      {"SSDOMN", nullptr, &L::SSDOMN, false, 1, 0, kOrthomin + kDiagonal, I::kGmres, M::kDiagonal},
+      {"SSLUOM", nullptr, &L::SSLUOM, false, 1, 1, kOrthomin, I::kGmres, M::kIncomplete},
+      {"SSJAC", &L::SSJAC, nullptr, false, 1, 0, kRefinement + kDiagonal, I::kBicgstab, M::kDiagonal},
+      {"SSGS", &L::SSGS, nullptr, false, 1, 0.5, kRefinement, I::kBicgstab, M::kDiagonal},
+      {"SSILUR", &L::SSILUR, nullptr, false, 1, 1, kRefinement, I::kBicgstab, M::kIncomplete},
   };
 }
 
@@ -129,12 +130,12 @@ double footprint(const Solver& s, const Triads& a) {
 class SlapCall {
  public:
   // `limit` iterations if that is positive, else until the residual is 1e-4 of the right-hand side.
-  SlapCall(const Slap& slap, const Solver& s, const Triads& a, int limit)
-      : solver_(s), slap_(slap), n_(a.order), limit_(limit), a_(a), b_(right_hand_side(a.order)) {
+  SlapCall(const quorin_library& library, const Solver& s, const Triads& a, int limit)
+      : solver_(s), library_(library), n_(a.order), limit_(limit), a_(a), b_(right_hand_side(a.order)) {
     const auto n = static_cast<std::size_t>(n_), entries = a.values.size();
     nelt_ = static_cast<int>(entries);
     a_.columns.resize(std::max(entries, n + 2));
-    slap_.to_columns(&n_, &nelt_, a_.rows.data(), a_.columns.data(), a_.values.data(), &kFull);
+    library_.SS2Y(&n_, &nelt_, a_.rows.data(), a_.columns.data(), a_.values.data(), &kFull);
     rwork_.resize(2 * entries + n * (3 * kDirections + 12) + kDirections * (kDirections + 4));
     iwork_.resize(2 * entries + 5 * n + 64);
     x_.resize(n);
@@ -146,13 +147,13 @@ class SlapCall {
     const int itol = 1, most = limit_ > 0 ? limit_ : 20000, unit = 0, length = 0;
     int iterations = 0, status = -1;
     if (solver_.common != nullptr) {
-      (slap_.*solver_.common)(&n_, b_.data(), x_.data(), &nelt_, a_.rows.data(), a_.columns.data(), a_.values.data(),
-                              &kFull, &itol, &tolerance, &most, &iterations, &error, &status, &unit, rwork_.data(),
-                              &length, iwork_.data(), &length);
+      (library_.*solver_.common)(&n_, b_.data(), x_.data(), &nelt_, a_.rows.data(), a_.columns.data(), a_.values.data(),
+                                 &kFull, &itol, &tolerance, &most, &iterations, &error, &status, &unit, rwork_.data(),
+                                 &length, iwork_.data(), &length);
     } else {
-      (slap_.*solver_.with_directions)(&n_, b_.data(), x_.data(), &nelt_, a_.rows.data(), a_.columns.data(),
-                                       a_.values.data(), &kFull, &kDirections, &itol, &tolerance, &most, &iterations,
-                                       &error, &status, &unit, rwork_.data(), &length, iwork_.data(), &length);
+      (library_.*solver_.with_directions)(&n_, b_.data(), x_.data(), &nelt_, a_.rows.data(), a_.columns.data(),
+                                          a_.values.data(), &kFull, &kDirections, &itol, &tolerance, &most, &iterations,
+                                          &error, &status, &unit, rwork_.data(), &length, iwork_.data(), &length);
     }
     if (status != (limit_ > 0 ? 2 : 0)) throw std::runtime_error(solver_.name + " does not do what the row expects");
   }
@@ -160,7 +161,7 @@ class SlapCall {
  private:
   static constexpr int kFull = 0;
   Solver solver_;
-  const Slap& slap_;
+  const quorin_library& library_;
   int n_, nelt_ = 0, limit_;
   Triads a_;
   std::vector<float> b_, x_, rwork_;
@@ -173,13 +174,14 @@ void add_iteration_row(Suite& suite, const Solver& s, int side) {
   const Triads a = grid(side, 0);
   const Row row{"slap-iteration", s.name,        a.order,        1, kIterations * bytes_per_iteration(s, a),
                 Unit::kByte,      Limit::kTriad, footprint(s, a)};
-  suite.measure(row, "quorin", [&slap = suite.libraries().slap, s, a] { return SlapCall(slap, s, a, kIterations); });
+  suite.measure(row, "quorin",
+                [&library = suite.libraries().product, s, a] { return SlapCall(library, s, a, kIterations); });
   suite.add_limit(row);
 }
 
 void add_solution_row(Suite& suite, const Solver& s, const Triads& a) {
   const Row row{"slap-solution", s.name, a.order, 1, 3e9, Unit::kTime};
-  suite.measure(row, "quorin", [&slap = suite.libraries().slap, s, a] { return SlapCall(slap, s, a, 0); });
+  suite.measure(row, "quorin", [&library = suite.libraries().product, s, a] { return SlapCall(library, s, a, 0); });
   if (!EigenSolver::is_there()) return;
   suite.measure(row, "eigen", [s, a] {
     return [b = right_hand_side(a.order), peer = EigenSolver(a, s.peer, s.peer_preconditioner, kDirections)]() mutable {

@@ -78,9 +78,9 @@ class Suite {
 
   // Adds a row with every BLAS there is as one side, and the limit: `prepare(blas)` makes the operands and returns the
   // call. A peer that is not `able` to do the operation is left out.
-  template <class Prepare, class Able = bool (*)(const Blas&)>
+  template <class Prepare, class Able = bool (*)(const Library&)>
   void compare(
-      const Row& row, Prepare prepare, Able able = [](const Blas&) { return true; }) {
+      const Row& row, Prepare prepare, Able able = [](const Library&) { return true; }) {
     measure_blas(row, libraries_.product, prepare);
     if (libraries_.peer && able(*libraries_.peer)) measure_blas(row, *libraries_.peer, prepare);
     add_limit(row);
@@ -94,7 +94,7 @@ class Suite {
 
  private:
   template <class Prepare>
-  void measure_blas(const Row& row, const Blas& blas, Prepare prepare) {
+  void measure_blas(const Row& row, const Library& blas, Prepare prepare) {
     measure(row, blas.name, [row, &blas, prepare] {
       blas.set_threads(row.threads);
       if (row.threads > 1) std::this_thread::sleep_for(kRest);

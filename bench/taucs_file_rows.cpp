@@ -101,11 +101,11 @@ void add_rows(Suite& suite, const Format& format, const char* digits, const char
   const auto file = [write = format.write, number, count] {
     return std::make_shared<TextFile>([=](std::FILE* stream) { write(stream, number, count); });
   };
-  suite.measure(row, "quorin", [&taucs = suite.libraries().taucs, read = format.read, file, count] {
-    return [&taucs, read, count, file = file()] {
+  suite.measure(row, "quorin", [&library = suite.libraries().product, read = format.read, file, count] {
+    return [&library, read, count, file = file()] {
       taucs_ccs_matrix* const A = read(file->name(), TAUCS_DOUBLE);
       if (A == nullptr || A->colptr[A->m] != count) throw std::runtime_error("a matrix file is not read");
-      taucs.ccs_free(A);
+      library.taucs_ccs_free(A);
     };
   });
   suite.measure(row, "fscanf", [scan = format.scan, file, count] {
@@ -121,9 +121,9 @@ void add_rows(Suite& suite, const Format& format, const char* digits, const char
 }  // namespace
 
 void add_taucs_file_rows(Suite& suite) {
-  const auto& taucs = suite.libraries().taucs;
-  const Format formats[] = {{"taucs_ccs_read_ccs", taucs.ccs_read_ccs, write_columns, scan_columns},
-                            {"taucs_ccs_read_ijv", taucs.ccs_read_ijv, write_entries, scan_entries}};
+  const quorin_library& library = suite.libraries().product;
+  const Format formats[] = {{"taucs_ccs_read_ccs", library.taucs_ccs_read_ccs, write_columns, scan_columns},
+                            {"taucs_ccs_read_ijv", library.taucs_ccs_read_ijv, write_entries, scan_entries}};
   for (const int count : suite.sizes({10'000, 1'000'000}, {100'000})) {
     for (const Format& format : formats) {
       add_rows(suite, format, ", 6 digits", "%g", count);

@@ -77,8 +77,8 @@ ColumnMatrix<double> grid(int side) {
 
 class FloatSolution {
  public:
-  FloatSolution(const Umfpack& umfpack, const ColumnMatrix<double>& a)
-      : u_(umfpack), a_{a.order, a.starts, a.rows, {a.re.begin(), a.re.end()}, {a.im.begin(), a.im.end()}} {
+  FloatSolution(const quorin_library& library, const ColumnMatrix<double>& a)
+      : u_(library), a_{a.order, a.starts, a.rows, {a.re.begin(), a.re.end()}, {a.im.begin(), a.im.end()}} {
     b_.assign(static_cast<std::size_t>(a.order), 1.0F);
     x_ = z_ = b_;
   }
@@ -89,21 +89,21 @@ class FloatSolution {
     const float *const re = a_.re.data(), *const im = a_.im.data(), *const b = b_.data();
     int status = 0;
     if (a_.is_complex()) {
-      u_.zi_symbolic(n, n, starts, rows, re, im, &symbolic, nullptr, info_);
-      u_.zi_numeric(starts, rows, re, im, symbolic, &numeric, nullptr, info_);
-      status = u_.zi_solve(0, starts, rows, re, im, x_.data(), z_.data(), b, b, numeric, nullptr, info_);
+      u_.umfpack_zi_symbolic(n, n, starts, rows, re, im, &symbolic, nullptr, info_);
+      u_.umfpack_zi_numeric(starts, rows, re, im, symbolic, &numeric, nullptr, info_);
+      status = u_.umfpack_zi_solve(0, starts, rows, re, im, x_.data(), z_.data(), b, b, numeric, nullptr, info_);
     } else {
-      u_.di_symbolic(n, n, starts, rows, re, &symbolic, nullptr, info_);
-      u_.di_numeric(starts, rows, re, symbolic, &numeric, nullptr, info_);
-      status = u_.di_solve(0, starts, rows, re, x_.data(), b, numeric, nullptr, info_);
+      u_.umfpack_di_symbolic(n, n, starts, rows, re, &symbolic, nullptr, info_);
+      u_.umfpack_di_numeric(starts, rows, re, symbolic, &numeric, nullptr, info_);
+      status = u_.umfpack_di_solve(0, starts, rows, re, x_.data(), b, numeric, nullptr, info_);
     }
-    u_.free_symbolic(&symbolic);
-    u_.free_numeric(&numeric);
+    u_.umfpack_di_free_symbolic(&symbolic);
+    u_.umfpack_di_free_numeric(&numeric);
     require_solved(status);
   }
 
  private:
-  Umfpack u_;
+  const quorin_library& u_;
   ColumnMatrix<float> a_;
   std::vector<float> b_, x_, z_;
   float info_[90] = {};
@@ -123,7 +123,7 @@ class DoubleSolution {
 
 void add_rows(Suite& suite, const std::string& name, const ColumnMatrix<double>& a) {
   const Row row{"umfpack", name, a.order, 1, 500.0 * static_cast<double>(a.rows.size()), Unit::kTime};
-  suite.measure(row, "quorin", [&suite, a] { return FloatSolution(suite.libraries().umfpack, a); });
+  suite.measure(row, "quorin", [&suite, a] { return FloatSolution(suite.libraries().product, a); });
   suite.measure(row, "umfpack", [a] { return DoubleSolution(a); });
 }
 
