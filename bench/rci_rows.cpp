@@ -144,57 +144,33 @@ void add_iteration_row(Suite& suite, const char* routine, int n) {
   suite.add_limit(row);
 }
 
-// Convection and diffusion on a square grid of side * side points, five-point differences.
-SparseMatrix convection_diffusion(int side) {
-  SparseMatrix a;
-  a.order = side * side;
-  a.row_starts = {1};
-  constexpr double kConvection = 0.3;
-  for (int i = 0; i < side; ++i) {
-    for (int j = 0; j < side; ++j) {
-      const auto add = [&](int row, int column, double value) {
-        if (row < 0 || row >= side || column < 0 || column >= side) return;
-        a.columns.push_back(row * side + column + 1);
-        a.values.push_back(value);
-      };
-      add(i - 1, j, -1 - kConvection);
-      add(i, j - 1, -1 - kConvection / 2);
-      add(i, j, 4.1);
-      add(i, j + 1, -1 + kConvection / 2);
-      add(i + 1, j, -1 + kConvection);
-      a.row_starts.push_back(static_cast<int>(a.values.size()) + 1);
-    }
-  }
-  return a;
-}
-
 class PatternFactorization {
  public:
-  PatternFactorization(const quorin_library& library, SparseMatrix a)
-      : ilu0_(library.DCSRILU0), a_(std::move(a)), factors_(a_.values.size()) {
+  PatternFactorization(const quorin_library& library, const test::SparseMatrix& a)
+      : ilu0_(library.DCSRILU0), order_(a.rows), a_(compressed_rows(a, 1)), factors_(a_.re.size()) {
     p_.least_pivot() = 1e-16;
   }
 
   void operator()() {
     int error = -1;
-    ilu0_(&a_.order, a_.values.data(), a_.row_starts.data(), a_.columns.data(), factors_.data(), p_.ipar(), p_.dpar(),
-          &error);
+    ilu0_(&order_, a_.re.data(), a_.starts.data(), a_.indices.data(), factors_.data(), p_.ipar(), p_.dpar(), &error);
     require(error == 0, "DCSRILU0");
   }
   double fill() const { return static_cast<double>(factors_.size()); }
 
  private:
   decltype(&::DCSRILU0) ilu0_;
-  SparseMatrix a_;
+  int order_;
+  test::CompressedArrays a_;
   std::vector<double> factors_;
   Parameters p_;
 };
 
 class ThresholdFactorization {
  public:
-  ThresholdFactorization(const quorin_library& library, SparseMatrix a, double tolerance, int most)
-      : ilut_(library.DCSRILUT), a_(std::move(a)), tolerance_(tolerance), most_(most) {
-    const auto order = static_cast<std::size_t>(a_.order), width = static_cast<std::size_t>(most);
+  ThresholdFactorization(const quorin_library& library, const test::SparseMatrix& a, double tolerance, int most)
+      : ilut_(library.DCSRILUT), order_(a.rows), a_(compressed_rows(a, 1)), tolerance_(tolerance), most_(most) {
+    const auto order = static_cast<std::size_t>(order_), width = static_cast<std::size_t>(most);
     const std::size_t capacity = (2 * width + 1) * order - width * (width + 1) + 1;
     values_.resize(capacity);
     columns_.resize(capacity);
@@ -204,7 +180,7 @@ class ThresholdFactorization {
 
   void operator()() {
     int error = -1;
-    ilut_(&a_.order, a_.values.data(), a_.row_starts.data(), a_.columns.data(), values_.data(), row_starts_.data(),
+    ilut_(&order_, a_.re.data(), a_.starts.data(), a_.indices.data(), values_.data(), row_starts_.data(),
           columns_.data(), &tolerance_, &most_, p_.ipar(), p_.dpar(), &error);
     require(error == 0, "DCSRILUT");
   }
@@ -212,7 +188,8 @@ class ThresholdFactorization {
 
  private:
   decltype(&::DCSRILUT) ilut_;
-  SparseMatrix a_;
+  int order_;
+  test::CompressedArrays a_;
   double tolerance_;
   int most_;
   std::vector<double> values_;
@@ -222,7 +199,7 @@ class ThresholdFactorization {
 
 class PeerFactorization {
  public:
-  PeerFactorization(const SparseMatrix& a, double tolerance, int fill_factor) : lu_(a, tolerance, fill_factor) {}
+  PeerFactorization(const test::SparseMatrix& a, double tolerance, int fill_factor) : lu_(a, tolerance, fill_factor) {}
   void operator()() { lu_.factorize(); }
   double fill() const { return lu_.fill(); }
 
@@ -246,16 +223,16 @@ void add_factorization_rows(Suite& suite, int side) {
     return Row{"rci", kind.routine, order, 1, kind.flops * order, Unit::kTime};
   };
   suite.measure(row(kPattern), "quorin",
-                [&library, side] { return PatternFactorization(library, convection_diffusion(side)); });
+                [&library, side] { return PatternFactorization(library, test::central_convection(side)); });
   const auto add_peer = [&](const Kind& kind) {
     if (!EigenIncompleteLu::is_there()) return;
     suite.measure(row(kind), "eigen", [kind, side] {
-      return PeerFactorization(convection_diffusion(side), kind.tolerance, kind.fill_factor);
+      return PeerFactorization(test::central_convection(side), kind.tolerance, kind.fill_factor);
     });
   };
   add_peer(kPattern);
   suite.measure(row(kThreshold), "quorin", [&library, side, tolerance = kThreshold.tolerance] {
-    return ThresholdFactorization(library, convection_diffusion(side), tolerance, kMost);
+    return ThresholdFactorization(library, test::central_convection(side), tolerance, kMost);
   });
   add_peer(kThreshold);
 }

@@ -15,49 +15,27 @@ namespace {
 
 constexpr int kDirections = 20;
 
-// Five-point differences on side x side inner points of the unit square: -laplace u + wind (u_x + u_y / 2), upwind.
-Triads grid(int side, double wind) {
-  Triads a;
-  a.order = side * side;
-  const double w = wind / (side + 1);
-  const auto add = [&](int row, int column, double value) {
-    a.rows.push_back(row);
-    a.columns.push_back(column);
-    a.values.push_back(static_cast<float>(value));
-  };
-  for (int row = 1; row <= a.order; ++row) {
-    const int i = (row - 1) / side, j = (row - 1) % side;
-    if (i > 0) add(row, row - side, -1 - w / 2);
-    if (j > 0) add(row, row - 1, -1 - w);
-    add(row, row, 4 + 1.5 * w);
-    if (j + 1 < side) add(row, row + 1, -1);
-    if (i + 1 < side) add(row, row + side, -1);
-  }
-  return a;
-}
+using test::SparseMatrix;
 
 // Symmetric, barely dominant, with about 11 entries a row at places without order: little is found in a cache.
-Triads scattered(int order) {
-  Triads a;
-  a.order = order;
-  std::vector<float> sums(static_cast<std::size_t>(order) + 1);
+SparseMatrix scattered(int order) {
+  SparseMatrix a;
+  std::vector<float> sums(static_cast<std::size_t>(order));
   std::uint32_t bits = 0x9E3779B9;
-  const auto add = [&](int row, int column, float value) {
-    a.rows.push_back(row);
-    a.columns.push_back(column);
-    a.values.push_back(value);
-    sums[static_cast<std::size_t>(row)] += std::fabs(value);
+  const auto add = [&](int row, int column) {
+    a.add(row, column, -1);
+    ++sums[static_cast<std::size_t>(row)];
   };
-  for (int row = 1; row <= order; ++row) {
+  for (int row = 0; row < order; ++row) {
     for (int k = 0; k < 5; ++k) {
       bits = bits * 1664525 + 1013904223;
-      const int column = 1 + static_cast<int>(bits >> 8) % order;
+      const int column = static_cast<int>(bits >> 8) % order;
       if (column == row) continue;
-      add(row, column, -1);
-      add(column, row, -1);
+      add(row, column);
+      add(column, row);
     }
   }
-  for (int row = 1; row <= order; ++row) add(row, row, 1.01F * sums[static_cast<std::size_t>(row)]);
+  for (int row = 0; row < order; ++row) a.add(row, row, 1.01F * sums[static_cast<std::size_t>(row)]);
   return a;
 }
 
@@ -114,15 +92,15 @@ std::vector<Solver> solvers() {
 
 // Bytes that an iteration has to touch: a product reads A and x, and clears, reads and writes y; a solve reads the
 // factors, and each entry of the vector twice and writes it twice.
-double bytes_per_iteration(const Solver& s, const Triads& a) {
-  const double n = a.order, entries = static_cast<double>(a.values.size());
+double bytes_per_iteration(const Solver& s, const SparseMatrix& a) {
+  const double n = a.rows, entries = static_cast<double>(a.entries.size());
   const double product = 8 * entries + 4 * n + 4 * (s.entry * n);
   const double solve = 8 * (entries - n) + 2 * 4 * n + 4 * n + 4 * (s.entry * n);
   return s.products * product + s.solves * solve + s.vectors * s.entry * n;
 }
 
-double footprint(const Solver& s, const Triads& a) {
-  const double n = a.order, entries = static_cast<double>(a.values.size());
+double footprint(const Solver& s, const SparseMatrix& a) {
+  const double n = a.rows, entries = static_cast<double>(a.entries.size());
   const double directions = s.with_directions == nullptr ? 0 : 2 * kDirections;
   return 8 * entries * (s.solves > 0 ? 2 : 1) + 4 * n * (8 + directions);
 }
@@ -130,12 +108,17 @@ double footprint(const Solver& s, const Triads& a) {
 class SlapCall {
  public:
   // `limit` iterations if that is positive, else until the residual is 1e-4 of the right-hand side.
-  SlapCall(const quorin_library& library, const Solver& s, const Triads& a, int limit)
-      : solver_(s), library_(library), n_(a.order), limit_(limit), a_(a), b_(right_hand_side(a.order)) {
-    const auto n = static_cast<std::size_t>(n_), entries = a.values.size();
+  SlapCall(const quorin_library& library, const Solver& s, const SparseMatrix& a, int limit)
+      : solver_(s), library_(library), n_(a.rows), limit_(limit), b_(right_hand_side(a.rows)) {
+    const auto n = static_cast<std::size_t>(n_), entries = a.entries.size();
     nelt_ = static_cast<int>(entries);
-    a_.columns.resize(std::max(entries, n + 2));
-    library_.SS2Y(&n_, &nelt_, a_.rows.data(), a_.columns.data(), a_.values.data(), &kFull);
+    for (const test::Entry& e : a.entries) {
+      rows_.push_back(e.row + 1);
+      columns_.push_back(e.column + 1);
+      values_.push_back(static_cast<float>(e.value.real()));
+    }
+    columns_.resize(std::max(entries, n + 2));
+    library_.SS2Y(&n_, &nelt_, rows_.data(), columns_.data(), values_.data(), &kFull);
     rwork_.resize(2 * entries + n * (3 * kDirections + 12) + kDirections * (kDirections + 4));
     iwork_.resize(2 * entries + 5 * n + 64);
     x_.resize(n);
@@ -147,12 +130,12 @@ class SlapCall {
     const int itol = 1, most = limit_ > 0 ? limit_ : 20000, unit = 0, length = 0;
     int iterations = 0, status = -1;
     if (solver_.common != nullptr) {
-      (library_.*solver_.common)(&n_, b_.data(), x_.data(), &nelt_, a_.rows.data(), a_.columns.data(), a_.values.data(),
+      (library_.*solver_.common)(&n_, b_.data(), x_.data(), &nelt_, rows_.data(), columns_.data(), values_.data(),
                                  &kFull, &itol, &tolerance, &most, &iterations, &error, &status, &unit, rwork_.data(),
                                  &length, iwork_.data(), &length);
     } else {
-      (library_.*solver_.with_directions)(&n_, b_.data(), x_.data(), &nelt_, a_.rows.data(), a_.columns.data(),
-                                          a_.values.data(), &kFull, &kDirections, &itol, &tolerance, &most, &iterations,
+      (library_.*solver_.with_directions)(&n_, b_.data(), x_.data(), &nelt_, rows_.data(), columns_.data(),
+                                          values_.data(), &kFull, &kDirections, &itol, &tolerance, &most, &iterations,
                                           &error, &status, &unit, rwork_.data(), &length, iwork_.data(), &length);
     }
     if (status != (limit_ > 0 ? 2 : 0)) throw std::runtime_error(solver_.name + " does not do what the row expects");
@@ -163,7 +146,8 @@ class SlapCall {
   Solver solver_;
   const quorin_library& library_;
   int n_, nelt_ = 0, limit_;
-  Triads a_;
+  std::vector<int> rows_, columns_;
+  std::vector<float> values_;
   std::vector<float> b_, x_, rwork_;
   std::vector<int> iwork_;
 };
@@ -171,20 +155,21 @@ class SlapCall {
 void add_iteration_row(Suite& suite, const Solver& s, int side) {
   // The set-up counts as nothing, so there are enough iterations to make it little. None converges in so many.
   constexpr int kIterations = 40;
-  const Triads a = grid(side, 0);
-  const Row row{"slap-iteration", s.name,        a.order,        1, kIterations * bytes_per_iteration(s, a),
+  const SparseMatrix a = test::convection_diffusion(side, 0);
+  const Row row{"slap-iteration", s.name,        a.rows,         1, kIterations * bytes_per_iteration(s, a),
                 Unit::kByte,      Limit::kTriad, footprint(s, a)};
-  suite.measure(row, "quorin",
-                [&library = suite.libraries().product, s, a] { return SlapCall(library, s, a, kIterations); });
+  suite.measure(row, "quorin", [&library = suite.libraries().product, s, side] {
+    return SlapCall(library, s, test::convection_diffusion(side, 0), kIterations);
+  });
   suite.add_limit(row);
 }
 
-void add_solution_row(Suite& suite, const Solver& s, const Triads& a) {
-  const Row row{"slap-solution", s.name, a.order, 1, 3e9, Unit::kTime};
+void add_solution_row(Suite& suite, const Solver& s, const SparseMatrix& a) {
+  const Row row{"slap-solution", s.name, a.rows, 1, 3e9, Unit::kTime};
   suite.measure(row, "quorin", [&library = suite.libraries().product, s, a] { return SlapCall(library, s, a, 0); });
   if (!EigenSolver::is_there()) return;
   suite.measure(row, "eigen", [s, a] {
-    return [b = right_hand_side(a.order), peer = EigenSolver(a, s.peer, s.peer_preconditioner, kDirections)]() mutable {
+    return [b = right_hand_side(a.rows), peer = EigenSolver(a, s.peer, s.peer_preconditioner, kDirections)]() mutable {
       peer.solve(b, 1e-4F);
     };
   });
@@ -197,7 +182,8 @@ void add_slap_rows(Suite& suite) {
     for (const int side : suite.sizes({100, 1000}, {300})) add_iteration_row(suite, s, side);
   }
   // The orders tell the problems apart in the tables.
-  const Triads poisson = grid(100, 0), wind = grid(150, 200), random = scattered(5000);
+  const SparseMatrix poisson = test::convection_diffusion(100, 0), wind = test::convection_diffusion(150, 200),
+                     random = scattered(5000);
   for (const Solver& s : solvers()) {
     add_solution_row(suite, s, poisson);
     if (!s.is_symmetric) add_solution_row(suite, s, wind);

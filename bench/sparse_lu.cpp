@@ -17,16 +17,10 @@ namespace {
 
 using EigenMatrix = Eigen::SparseMatrix<double, Eigen::RowMajor, int>;
 
-// Zero-based.
-EigenMatrix eigen_matrix(const SparseMatrix& matrix) {
+EigenMatrix eigen_matrix(const test::SparseMatrix& matrix) {
   std::vector<Eigen::Triplet<double>> entries;
-  for (int row = 0; row < matrix.order; ++row) {
-    const auto end = static_cast<std::size_t>(matrix.row_starts[static_cast<std::size_t>(row) + 1] - 1);
-    for (auto k = static_cast<std::size_t>(matrix.row_starts[static_cast<std::size_t>(row)] - 1); k < end; ++k) {
-      entries.emplace_back(row, matrix.columns[k] - 1, matrix.values[k]);
-    }
-  }
-  EigenMatrix a(matrix.order, matrix.order);
+  for (const test::Entry& e : matrix.entries) entries.emplace_back(e.row, e.column, e.value.real());
+  EigenMatrix a(matrix.rows, matrix.columns);
   a.setFromTriplets(entries.begin(), entries.end());
   return a;
 }
@@ -46,7 +40,7 @@ struct EigenIncompleteLu::Factors {
 
 bool EigenIncompleteLu::is_there() { return true; }
 
-EigenIncompleteLu::EigenIncompleteLu(const SparseMatrix& matrix, double tolerance, int fill_factor)
+EigenIncompleteLu::EigenIncompleteLu(const test::SparseMatrix& matrix, double tolerance, int fill_factor)
     : factors_(std::make_unique<Factors>()) {
   factors_->a = eigen_matrix(matrix);
   factors_->lu.setDroptol(tolerance);
@@ -66,7 +60,7 @@ double EigenIncompleteLu::fill() const { return factors_->lu.entries(); }
 struct EigenIncompleteLu::Factors {};
 
 bool EigenIncompleteLu::is_there() { return false; }
-EigenIncompleteLu::EigenIncompleteLu(const SparseMatrix&, double, int) {
+EigenIncompleteLu::EigenIncompleteLu(const test::SparseMatrix&, double, int) {
   throw std::logic_error("this program was built without Eigen");
 }
 void EigenIncompleteLu::factorize() {}

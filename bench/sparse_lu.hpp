@@ -2,16 +2,10 @@
 #pragma once
 
 #include <memory>
-#include <vector>
+
+#include "tests/support/sparse.hpp"
 
 namespace quorin::bench {
-
-// Compressed rows, one-based, columns ascending.
-struct SparseMatrix {
-  int order = 0;
-  std::vector<int> row_starts, columns;
-  std::vector<double> values;
-};
 
 class EigenIncompleteLu {
  public:
@@ -20,7 +14,7 @@ class EigenIncompleteLu {
 
   // At most fill_factor times as many entries as A has, those above `tolerance` in relation to their row. Orders the
   // unknowns to save fill.
-  EigenIncompleteLu(const SparseMatrix& matrix, double tolerance, int fill_factor);
+  EigenIncompleteLu(const test::SparseMatrix& matrix, double tolerance, int fill_factor);
   EigenIncompleteLu(EigenIncompleteLu&&) noexcept;
   ~EigenIncompleteLu();
 

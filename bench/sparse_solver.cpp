@@ -24,12 +24,10 @@ using Lu = Eigen::IncompleteLUT<float, int>;
 template <class M>
 using Cg = Eigen::ConjugateGradient<Matrix, Eigen::Lower | Eigen::Upper, M>;
 
-Matrix eigen_matrix(const Triads& triads) {
+Matrix eigen_matrix(const test::SparseMatrix& matrix) {
   std::vector<Eigen::Triplet<float>> entries;
-  for (std::size_t k = 0; k < triads.values.size(); ++k) {
-    entries.emplace_back(triads.rows[k] - 1, triads.columns[k] - 1, triads.values[k]);
-  }
-  Matrix a(triads.order, triads.order);
+  for (const test::Entry& e : matrix.entries) entries.emplace_back(e.row, e.column, static_cast<float>(e.value.real()));
+  Matrix a(matrix.rows, matrix.columns);
   a.setFromTriplets(entries.begin(), entries.end());
   return a;
 }
@@ -82,7 +80,8 @@ struct EigenSolver::Solver {
 
 bool EigenSolver::is_there() { return true; }
 
-EigenSolver::EigenSolver(const Triads& matrix, PeerIteration iteration, PeerPreconditioner preconditioner, int restart)
+EigenSolver::EigenSolver(const test::SparseMatrix& matrix, PeerIteration iteration, PeerPreconditioner preconditioner,
+                         int restart)
     : solver_(std::make_unique<Solver>(Solver{eigen_matrix(matrix), iteration, preconditioner, restart})) {}
 
 void EigenSolver::solve(const std::vector<float>& b, float tolerance) {
@@ -113,7 +112,7 @@ void EigenSolver::solve(const std::vector<float>& b, float tolerance) {
 struct EigenSolver::Solver {};
 
 bool EigenSolver::is_there() { return false; }
-EigenSolver::EigenSolver(const Triads&, PeerIteration, PeerPreconditioner, int) {
+EigenSolver::EigenSolver(const test::SparseMatrix&, PeerIteration, PeerPreconditioner, int) {
   throw std::logic_error("this program was built without Eigen");
 }
 void EigenSolver::solve(const std::vector<float>&, float) {}

@@ -5,14 +5,9 @@
 #include <memory>
 #include <vector>
 
-namespace quorin::bench {
+#include "tests/support/sparse.hpp"
 
-// Triads, one-based.
-struct Triads {
-  int order = 0;
-  std::vector<int> rows, columns;
-  std::vector<float> values;
-};
+namespace quorin::bench {
 
 enum class PeerIteration { kCg, kLeastSquaresCg, kBicgstab, kGmres };
 enum class PeerPreconditioner { kDiagonal, kIncomplete };  // Cholesky for kCg, else LU with as many entries as A
@@ -22,7 +17,8 @@ class EigenSolver {
   // Whether the functions below may be called.
   static bool is_there();
 
-  EigenSolver(const Triads& matrix, PeerIteration iteration, PeerPreconditioner preconditioner, int restart);
+  EigenSolver(const test::SparseMatrix& matrix, PeerIteration iteration, PeerPreconditioner preconditioner,
+              int restart);
   EigenSolver(EigenSolver&&) noexcept;
   ~EigenSolver();
 

@@ -21,14 +21,14 @@ void blas_memory_free(void*) {}
 
 namespace quorin::bench {
 
-int solve_with_umfpack(const ColumnMatrix<double>& a, const std::vector<double>& b, std::vector<double>& x,
+int solve_with_umfpack(const test::CompressedArrays& a, const std::vector<double>& b, std::vector<double>& x,
                        std::vector<double>& z) {
   void *symbolic = nullptr, *numeric = nullptr;
-  const int n = a.order, *const starts = a.starts.data(), *const rows = a.rows.data();
+  const int n = static_cast<int>(b.size()), *const starts = a.starts.data(), *const rows = a.indices.data();
   const double *const re = a.re.data(), *const im = a.im.data();
   double info[UMFPACK_INFO];
   int status = 0;
-  if (a.is_complex()) {
+  if (!a.im.empty()) {
     umfpack_zi_symbolic(n, n, starts, rows, re, im, &symbolic, nullptr, info);
     umfpack_zi_numeric(starts, rows, re, im, symbolic, &numeric, nullptr, info);
     status = umfpack_zi_solve(UMFPACK_A, starts, rows, re, im, x.data(), z.data(), b.data(), b.data(), numeric, nullptr,

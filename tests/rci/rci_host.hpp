@@ -15,6 +15,7 @@
 #include "quorin/rci.h"
 #include "tests/support/guarded.hpp"
 #include "tests/support/index_form.hpp"
+#include "tests/support/sparse.hpp"
 
 namespace rci_test {
 
@@ -127,23 +128,13 @@ inline Vector random_vector(int n, std::mt19937& random) {
   return x;
 }
 
-// About `density` n^2 entries, diagonal dominant by `dominance`; symmetric (then positive definite) or not.
+inline Csr csr(const quorin::test::SparseMatrix& A) {
+  quorin::test::CompressedArrays rows = compressed_rows(A, 1);
+  return {A.rows, std::move(rows.starts), std::move(rows.indices), std::move(rows.re)};
+}
+
 inline Csr random_matrix(int n, double density, double dominance, bool symmetric, std::mt19937& random) {
-  std::uniform_real_distribution<double> entry(-1.0, 1.0), chance(0.0, 1.0);
-  Dense m(n, Vector(n, 0.0));
-  for (int i = 0; i < n; ++i) {
-    for (int j = 0; j < n; ++j) {
-      if (i == j || chance(random) >= density) continue;
-      m[i][j] = entry(random);
-      if (symmetric) m[j][i] = m[i][j];
-    }
-  }
-  for (int i = 0; i < n; ++i) {
-    double sum = 0.0;
-    for (int j = 0; j < n; ++j) sum += std::fabs(m[i][j]);
-    m[i][i] = dominance * sum + 0.1 + chance(random);
-  }
-  return sparse(m);
+  return csr(quorin::test::random_dominant(n, density, dominance, symmetric, random));
 }
 
 using quorin::test::call_index_form;

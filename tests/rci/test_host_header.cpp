@@ -12,23 +12,7 @@ namespace {
 
 namespace rci = quorin::rci;
 
-// Five-point convection-diffusion on the unit square, k x k inner points, upwind; a Poisson problem when wind is 0.
-Csr grid(int k, double wind) {
-  const double w = wind / (k + 1);
-  Rows rows(k * k);
-  for (int i = 0; i < k; ++i) {
-    for (int j = 0; j < k; ++j) {
-      const int here = i * k + j;
-      auto& row = rows[here];
-      row[here] = 4.0 + 1.5 * w;
-      if (i > 0) row[here - k] = -1.0 - w;
-      if (j > 0) row[here - 1] = -1.0 - 0.5 * w;
-      if (j + 1 < k) row[here + 1] = -1.0;
-      if (i + 1 < k) row[here + k] = -1.0;
-    }
-  }
-  return from_rows(rows);
-}
+Csr grid(int k, double wind) { return csr(quorin::test::convection_diffusion(k, wind)); }
 
 auto product(const Csr& A) {
   return [&A](std::span<const double> in, std::span<double> out) { A.multiply(in.data(), out.data()); };

@@ -1,25 +1,17 @@
 // The preconditioners and solvers on matrices from applications, that come with the dependencies.
 #include <gtest/gtest.h>
 
-#include <fstream>
-
 #include "tests/rci/ilu_oracle.hpp"
 #include "tests/rci/rci_host.hpp"
 
 namespace rci_test {
 namespace {
 
-// Zero-based triplets, a line each; of a symmetric matrix one triangle.
 Csr read_triplets(const std::string& name, bool symmetric, int size) {
-  std::ifstream file(std::string(QUORIN_MATRICES_DIR) + "/cxsparse/" + name);
-  Rows rows(size);
-  int i = 0, j = 0;
-  double value = 0.0;
-  while (file >> i >> j >> value) {
-    rows.at(i)[j] += value;
-    if (symmetric && i != j) rows.at(j)[i] += value;
-  }
-  return from_rows(rows);
+  auto A = quorin::test::read_triplets(std::string(QUORIN_MATRICES_DIR) + "/cxsparse/" + name);
+  if (symmetric) A.mirror();
+  EXPECT_EQ(A.rows, size);
+  return csr(A);
 }
 
 const Csr& stiffness() {

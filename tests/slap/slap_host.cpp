@@ -75,45 +75,17 @@ double relative_residual(const Triads& a, const Floats& b, const Floats& x) {
   return norm(r) / norm(to_double(b));
 }
 
-Triads grid(int k, double wind) {
+Triads triads(const quorin::test::SparseMatrix& A) {
   Triads a;
-  a.n = k * k;
-  const double w = wind / (k + 1);
-  for (int i = 0; i < k; ++i) {
-    for (int j = 0; j < k; ++j) {
-      const int row = i * k + j + 1;
-      if (i > 0) a.add(row, row - k, -1 - w / 2);
-      if (j > 0) a.add(row, row - 1, -1 - w);
-      a.add(row, row, 4 + 1.5 * w);
-      if (j + 1 < k) a.add(row, row + 1, -1);
-      if (i + 1 < k) a.add(row, row + k, -1);
-    }
-  }
+  a.n = A.rows;
+  for (const quorin::test::Entry& e : A.entries) a.add(e.row + 1, e.column + 1, e.value.real());
   return a;
 }
 
+Triads grid(int k, double wind) { return triads(quorin::test::convection_diffusion(k, wind)); }
+
 Triads random_dominant(int n, double density, double dominance, bool symmetric, std::mt19937& random) {
-  std::uniform_real_distribution<double> entry(-1.0, 1.0), chance(0.0, 1.0);
-  Triads a;
-  a.n = n;
-  Doubles sums(n, 0.0);
-  std::set<std::pair<int, int>> there;
-  const auto add = [&](int i, int j, double value) {
-    if (!there.insert({i, j}).second) return;
-    a.add(i + 1, j + 1, value);
-    sums[i] += std::fabs(value);
-  };
-  for (int i = 0; i < n; ++i) {
-    for (int j = 0; j < n; ++j) {
-      if (i == j || chance(random) >= density) continue;
-      const double value = entry(random);
-      if (symmetric && there.count({i, j}) != 0) continue;
-      add(i, j, value);
-      if (symmetric) add(j, i, value);
-    }
-  }
-  for (int i = 0; i < n; ++i) a.add(i + 1, i + 1, dominance * sums[i] + 0.1 + chance(random));
-  return a;
+  return triads(quorin::test::random_dominant(n, density, dominance, symmetric, random));
 }
 
 Doubles random_solution(int n, std::mt19937& random) {

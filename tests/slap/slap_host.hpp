@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "quorin/slap.h"
+#include "tests/support/sparse.hpp"
 
 namespace slap_test {
 
@@ -37,9 +38,9 @@ double norm(const Doubles& x);
 double relative_residual(const Triads& a, const Floats& b, const Floats& x);
 Doubles to_double(const Floats& x);
 
-// Five-point differences for -laplace u + wind (u_x + u_y / 2) on k x k inner points, upwind.
+Triads triads(const quorin::test::SparseMatrix& A);
+// convection_diffusion() and random_dominant() of tests/support.
 Triads grid(int k, double wind);
-// About `density` n^2 entries, the diagonal positive and `dominance` times the sum of the others of its row.
 Triads random_dominant(int n, double density, double dominance, bool symmetric, std::mt19937& random);
 Doubles random_solution(int n, std::mt19937& random);
 

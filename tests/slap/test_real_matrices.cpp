@@ -3,37 +3,21 @@
 
 #include <algorithm>
 #include <cmath>
-#include <fstream>
 
 #include "tests/slap/slap_host.hpp"
 
 namespace slap_test {
 namespace {
 
-// Zero-based triplets, a line each; of a symmetric matrix one triangle.
-Triads read_triplets(const std::string& name, bool is_symmetric) {
-  std::ifstream file(std::string(QUORIN_MATRICES_DIR) + "/cxsparse/" + name);
-  Triads t;
-  Doubles values;
-  int i = 0, j = 0;
-  double value = 0;
-  const auto add = [&](int row, int column) {
-    t.n = std::max({t.n, row + 1, column + 1});
-    t.add(row + 1, column + 1, 0);
-    values.push_back(value);
-  };
-  while (file >> i >> j >> value) {
-    add(i, j);
-    if (is_symmetric && i != j) add(j, i);
+Triads scaled(const std::string& name, bool is_symmetric) {
+  quorin::test::SparseMatrix A = quorin::test::read_triplets(std::string(QUORIN_MATRICES_DIR) + "/cxsparse/" + name);
+  if (is_symmetric) A.mirror();
+  Doubles scale(A.rows, 1.0);
+  for (const auto& e : A.entries) {
+    if (e.row == e.column && e.value != 0.0) scale[e.row] = 1 / std::sqrt(std::abs(e.value));
   }
-  Doubles scale(t.n, 1.0);
-  for (int k = 0; k < t.nelt(); ++k) {
-    if (t.ia[k] == t.ja[k] && values[k] != 0) scale[t.ia[k] - 1] = 1 / std::sqrt(std::fabs(values[k]));
-  }
-  for (int k = 0; k < t.nelt(); ++k) {
-    t.a[k] = static_cast<float>(values[k] * scale[t.ia[k] - 1] * scale[t.ja[k] - 1]);
-  }
-  return t;
+  for (auto& e : A.entries) e.value *= scale[e.row] * scale[e.column];
+  return triads(A);
 }
 
 struct Case {
@@ -53,7 +37,7 @@ TEST(RealMatrices, ScaledSystems) {
       {"fs_183_1", false, 183, {"SSLUBC", "SSLUCS", "SSLUGM", "SSLUOM", "SSILUR", "SSLUCN"}},
   };
   for (const Case& c : cases) {
-    const Triads a = read_triplets(c.name, c.is_symmetric);
+    const Triads a = scaled(c.name, c.is_symmetric);
     ASSERT_EQ(a.n, c.size) << c.name;
     const Floats b = right_hand_side(a, Doubles(a.n, 1.0));
     for (const char* name : c.solvers) {

@@ -2,17 +2,15 @@
 #pragma once
 
 #include <algorithm>
-#include <array>
 #include <fstream>
 #include <random>
-#include <set>
-#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "sparse/sparse.hpp"
+#include "tests/support/sparse.hpp"
 
 namespace quorin::sparse::test {
 
@@ -24,9 +22,12 @@ struct Matrix {
   Pattern pattern() const { return {rows, columns, starts.data(), indices.data()}; }
 };
 
-using Columns = std::vector<std::set<int>>;
+inline Matrix pattern_of(const quorin::test::SparseMatrix& A, std::string name) {
+  quorin::test::CompressedArrays arrays = compressed_columns(A);
+  return {std::move(name), A.rows, A.columns, std::move(arrays.starts), std::move(arrays.indices)};
+}
 
-inline Matrix from_columns(std::string name, int rows, const Columns& columns) {
+inline Matrix from_columns(std::string name, int rows, const std::vector<std::vector<int>>& columns) {
   Matrix A{std::move(name), rows, static_cast<int>(columns.size()), {0}, {}};
   for (const auto& column : columns) {
     A.indices.insert(A.indices.end(), column.begin(), column.end());
@@ -38,40 +39,22 @@ inline Matrix from_columns(std::string name, int rows, const Columns& columns) {
 // A lower triangle with its diagonal.
 class Edges {
  public:
-  explicit Edges(int n) : columns_(n) {
-    for (int i = 0; i < n; ++i) columns_[i].insert(i);
+  explicit Edges(int n) {
+    for (int i = 0; i < n; ++i) lower_.add(i, i);
   }
   Edges& add(int i, int j) {
-    columns_[std::min(i, j)].insert(std::max(i, j));
+    lower_.add(std::max(i, j), std::min(i, j));
     return *this;
   }
-  Matrix matrix(std::string name) const {
-    return from_columns(std::move(name), static_cast<int>(columns_.size()), columns_);
-  }
+  Matrix matrix(std::string name) const { return pattern_of(lower_, std::move(name)); }
 
  private:
-  Columns columns_;
+  quorin::test::SparseMatrix lower_;
 };
 
-// a * b * c points, each joined to those at a distance of 1, or, if `corners`, to those whose coordinates differ by at
-// most 1.
 inline Matrix grid(int a, int b, int c, bool corners) {
-  const auto number = [=](int x, int y, int z) { return (z * b + y) * a + x; };
-  Edges edges(a * b * c);
-  for (int z = 0; z < c; ++z) {
-    for (int y = 0; y < b; ++y) {
-      for (int x = 0; x < a; ++x) {
-        for (int step = 0; step < 27; ++step) {
-          const int dx = step % 3 - 1, dy = step / 3 % 3 - 1, dz = step / 9 - 1;
-          if (!corners && std::abs(dx) + std::abs(dy) + std::abs(dz) > 1) continue;
-          const int u = x + dx, v = y + dy, w = z + dz;
-          if (u < 0 || u >= a || v < 0 || v >= b || w < 0 || w >= c) continue;
-          edges.add(number(x, y, z), number(u, v, w));
-        }
-      }
-    }
-  }
-  return edges.matrix(std::to_string(a) + "x" + std::to_string(b) + "x" + std::to_string(c) + (corners ? "c" : ""));
+  const quorin::test::SparseMatrix A = quorin::test::grid(a, b, c, corners);
+  return pattern_of(A, A.name);
 }
 
 inline Matrix random_matrix(int n, int edge_count, unsigned seed) {
@@ -112,24 +95,14 @@ inline Matrix complete_bipartite(int a, int b) {
   return edges.matrix("bipartite");
 }
 
-// Square patterns from the collections of triplets (zero-based), of Matrix Market files and of compressed columns.
-inline Matrix read_triplets(const std::string& name, int base, bool header) {
-  std::ifstream file(std::string(QUORIN_MATRICES_DIR) + "/" + name);
-  std::vector<std::pair<int, int>> entries;
-  int n = 0;
-  for (std::string line; std::getline(file, line);) {
-    double i = 0, j = 0;
-    if (line.empty() || line[0] == '%' || !(std::istringstream(line) >> i >> j)) continue;
-    const int row = static_cast<int>(i) - base, column = static_cast<int>(j) - base;
-    if (std::exchange(header, false)) continue;
-    entries.emplace_back(row, column);
-    n = std::max({n, row + 1, column + 1});
-  }
-  Columns columns(n);
-  for (const auto& [row, column] : entries) columns[column].insert(row);
-  return from_columns(name, n, columns);
+// The pattern of a file of triplets, made square.
+inline Matrix read_triplets(const std::string& name, int base) {
+  quorin::test::SparseMatrix A = quorin::test::read_triplets(std::string(QUORIN_MATRICES_DIR) + "/" + name, base);
+  A.rows = A.columns = std::max(A.rows, A.columns);
+  return pattern_of(A, name);
 }
 
+// Compressed columns, as they stand in the file.
 inline Matrix read_columns(const std::string& name) {
   std::ifstream file(std::string(QUORIN_MATRICES_DIR) + "/" + name);
   std::string title;
@@ -148,13 +121,13 @@ inline std::vector<Matrix> real_matrices() {
   std::vector<Matrix> all;
   for (const char* name : {"bcsstk01", "bcsstk16", "fs_183_1", "west0067", "mhd1280b", "qc324", "young1c", "neumann",
                            "mbeacxc", "ibm32a", "ibm32b", "t1"}) {
-    all.push_back(read_triplets(std::string("cxsparse/") + name, 0, false));
+    all.push_back(read_triplets(std::string("cxsparse/") + name, 0));
   }
   for (const char* name : {"GD99_cc", "w156", "impcol_a", "ctina", "arrow"}) {
-    all.push_back(read_triplets(std::string("klu/") + name + ".mtx", 1, true));
+    all.push_back(read_triplets(std::string("klu/") + name + ".mtx", 1));
   }
   for (const char* name : {"bcsstk02.tri", "can___24.mtx", "n5"}) {
-    all.push_back(read_triplets(std::string("cholmod/") + name, 1, true));
+    all.push_back(read_triplets(std::string("cholmod/") + name, 1));
   }
   for (int k = 1; k <= 30; ++k) {
     all.push_back(read_columns("ldl/A" + std::to_string(100 + k).substr(1)));

@@ -2,11 +2,14 @@
 #include <gtest/gtest.h>
 
 #include <numeric>
+#include <set>
 
 #include "tests/sparse/matrices.hpp"
 
 namespace quorin::sparse::test {
 namespace {
+
+using Columns = std::vector<std::set<int>>;
 
 Columns neighbour_sets(const Matrix& A) {
   Columns sets(A.columns);

@@ -5,6 +5,7 @@
 #include <set>
 #include <thread>
 
+#include "tests/support/sparse.hpp"
 #include "tests/taucs/taucs_host.hpp"
 
 namespace taucs_test {
@@ -52,16 +53,12 @@ Matrix pattern(int m, int flags, const std::vector<std::vector<int>>& columns) {
 
 constexpr int kLowerSymmetric = TAUCS_DOUBLE | TAUCS_SYMMETRIC | TAUCS_LOWER;
 
-// The five-point (in space, seven-point) pattern of a grid.
 Matrix grid(int a, int b, int c, int flags = kLowerSymmetric) {
-  std::vector<std::vector<int>> columns;
-  for (int v = 0; v < a * b * c; ++v) {
-    columns.push_back({v});
-    if ((v + 1) % a != 0) columns.back().push_back(v + 1);
-    if (v / a % b != b - 1) columns.back().push_back(v + a);
-    if (v / (a * b) != c - 1) columns.back().push_back(v + a * b);
-  }
-  return pattern(a * b * c, flags, columns);
+  const auto arrays = compressed_columns(quorin::test::grid(a, b, c));
+  Matrix A(taucs_ccs_create(a * b * c, a * b * c, static_cast<int>(arrays.indices.size()), flags));
+  std::copy(arrays.starts.begin(), arrays.starts.end(), A->colptr);
+  std::copy(arrays.indices.begin(), arrays.indices.end(), A->rowind);
+  return A;
 }
 
 const char* const kSymmetricOrderings[] = {"camd", "metis", "genmmd", "tree"};

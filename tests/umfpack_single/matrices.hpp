@@ -1,4 +1,4 @@
-// Matrices in compressed columns, made and read from files.
+// Matrices as UMFPACK takes them.
 #pragma once
 
 #include <cstddef>
@@ -6,8 +6,11 @@
 #include <utility>
 #include <vector>
 
+#include "tests/support/sparse.hpp"
+
 namespace umfpack_test {
 
+using quorin::test::SparseMatrix;
 using Integers = std::vector<int>;
 using Doubles = std::vector<double>;
 using Floats = std::vector<float>;
@@ -31,6 +34,8 @@ struct Matrix {
         Ax(std::move(x)),
         Az(std::move(z)) {}
 
+  explicit Matrix(const SparseMatrix& A);
+
   bool is_complex() const { return !Az.empty(); }
   int nz() const { return Ap.back(); }
   std::size_t order() const { return size_of(n_row); }
@@ -40,10 +45,6 @@ struct Matrix {
   Integers Ap{0}, Ai;
   Doubles Ax, Az;
 };
-
-// Sums entries of the same place.
-Matrix from_triplets(int n_row, int n_col, const Integers& Ti, const Integers& Tj, const Doubles& Tx,
-                     const Doubles& Tz = {});
 
 // Square matrices with a few entries a column, unsymmetric and diagonally dominant.
 Matrix random_matrix(int n, bool is_complex, unsigned seed = 1);
