@@ -3,5 +3,9 @@
 
 #include "sparse/orderings/minimum_degree.hpp"
 #include "sparse/orderings/orderings.hpp"
+#include "sparse/pattern/compressed.hpp"
 #include "sparse/pattern/graph.hpp"
+#include "sparse/pattern/permutation.hpp"
+#include "sparse/pattern/product.hpp"
+#include "sparse/pattern/transpose.hpp"
 #include "sparse/symbolic/elimination_tree.hpp"

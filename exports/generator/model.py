@@ -29,6 +29,8 @@ TYPES = {
     "pointer": ElementType("void*", "void*", "pointer"),
     "const_pointer": ElementType("const void*", "const void*", "pointer"),
     "int_array": ElementType("int32_t*", "std::int32_t*", "array of int"),
+    "double_array": ElementType("double*", "double*", "array of double"),
+    "dcomplex_array": ElementType("quorin_double_complex*", "std::complex<double>*", "array of double complex"),
 }
 
 # An implementation that is no function of ours: the published LAPACK's Fortran routine of the same name.

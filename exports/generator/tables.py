@@ -13,7 +13,7 @@ from generator.model import Argument, Callback, ElementType, Entry, Family, Fiel
 from generator.model import Routine, Section, Value
 
 NAME = re.compile(r"[A-Za-z]\w*\Z")
-ROW = re.compile(r"(?P<name>\w+)\s*(?:=\s*(?P<implementation>[\w:]+)\s*)?(?P<arguments>(?:\s.*?)?)(?:\s*->\s*(?P<result>\w+))?\Z")
+ROW = re.compile(r"(?P<name>\w+)\s*(?:=\s*(?P<implementation>[\w:<>]+)\s*)?(?P<arguments>(?:\s.*?)?)(?:\s*->\s*(?P<result>\w+))?\Z")
 CALLBACK = re.compile(r"(?P<name>\w+)\s*=\s*(?P<c>\w+)\s+(?P<cpp>[\w:]+)(?P<arguments>(?:\s.*?)?)(?:\s*->\s*(?P<result>\w+))?\Z")
 CONTINUATION = re.compile(r"\s+\w+:")
 TYPE = re.compile(r"(?P<type>\w+)(?:\[(?P<shape>[^\]]*)\])?\Z")

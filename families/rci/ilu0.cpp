@@ -5,6 +5,7 @@
 #include "base/workspace.hpp"
 #include "families/rci/messages.hpp"
 #include "families/rci/rci.hpp"
+#include "sparse/sparse.hpp"
 
 namespace quorin::rci {
 namespace {
@@ -35,24 +36,18 @@ struct RowRange {
 
 RowRange row_of(const int* ia, int i) { return {ia[i] - 1, ia[i + 1] - 1}; }
 
-// Columns ascend within 1..n and the diagonal is there; `diagonal` receives its place.
-Ilu0Status check_row(int n, int i, RowRange row, const int* ja, int& diagonal) {
-  int previous = 0;
-  diagonal = -1;
-  if (row.begin < 0) return kUnsortedColumns;
-  for (int k = row.begin; k < row.end; ++k) {
-    if (ja[k] <= previous || ja[k] > n) return kUnsortedColumns;
-    previous = ja[k];
-    if (ja[k] == i + 1) diagonal = k;
+// The first row may begin behind the first entry. A row that ends before it begins has no diagonal either.
+Ilu0Status check_pattern(int n, const int* ia, const int* ja) {
+  const sparse::PatternRules rules{.base = 1, .begins_at_base = false, .ascends = true, .has_diagonal = true};
+  switch (sparse::check_compressed(n, n, ia, ja, rules).fault) {
+    case sparse::PatternFault::kNoFault:
+      return kDone;
+    case sparse::PatternFault::kDecreasingStarts:
+    case sparse::PatternFault::kNoDiagonal:
+      return kNoDiagonal;
+    default:
+      return kUnsortedColumns;
   }
-  return diagonal < 0 ? kNoDiagonal : kDone;
-}
-
-Ilu0Status check_pattern(int n, const int* ia, const int* ja, int* diagonal) {
-  for (int i = 0; i < n; ++i) {
-    if (const Ilu0Status error = check_row(n, i, row_of(ia, i), ja, diagonal[i]); error != kDone) return error;
-  }
-  return kDone;
 }
 
 // Row i of the factors from rows above it. `place`, all zero between calls, maps a column to 1 + its place in row i.
@@ -75,10 +70,11 @@ Ilu0Status factorize(int n, const double* a, const int* ia, const int* ja, Pivot
   base::Workspace<int> diagonal(static_cast<std::size_t>(n)), place(static_cast<std::size_t>(n));
   if (!diagonal || !place) return kNoMemory;
   std::fill_n(place.data(), n, 0);
-  if (const Ilu0Status error = check_pattern(n, ia, ja, diagonal.data()); error != kDone) return error;
+  if (const Ilu0Status error = check_pattern(n, ia, ja); error != kDone) return error;
   for (int i = 0; i < n; ++i) {
     const RowRange row = row_of(ia, i);
-    const int pivot_place = diagonal.data()[i];
+    const auto pivot_place = static_cast<int>(std::lower_bound(ja + row.begin, ja + row.end, i + 1) - ja);
+    diagonal[i] = pivot_place;
     if (a != b) std::copy(a + row.begin, a + row.end, b + row.begin);
     eliminate_row(row, pivot_place, ia, ja, diagonal.data(), place.data(), b);
     if (const Ilu0Status error = rule.apply(b[pivot_place]); error != kDone) return error;

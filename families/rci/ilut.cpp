@@ -11,6 +11,7 @@
 #include "families/rci/column_set.hpp"
 #include "families/rci/messages.hpp"
 #include "families/rci/rci.hpp"
+#include "sparse/sparse.hpp"
 
 namespace quorin::rci {
 namespace {
@@ -46,16 +47,19 @@ struct Rule {
   }
 };
 
-// One-based pattern; the two descriptions of a row without entries have a code each.
+// The first row may begin behind the first entry.
 IlutStatus check_pattern(const Matrix& m) {
-  for (int i = 0; i < m.n; ++i) {
-    if (m.ia[i + 1] == m.ia[i]) return kEmptyRow;
-    if (m.ia[i + 1] < m.ia[i] || m.ia[i] < 1) return kDecreasingRows;
-    for (int k = m.ia[i] - 1; k < m.ia[i + 1] - 1; ++k) {
-      if (m.ja[k] < 1 || m.ja[k] > m.n) return kBadColumn;
-    }
+  const sparse::PatternRules rules{.base = 1, .begins_at_base = false, .has_no_empty_list = true};
+  switch (sparse::check_compressed(m.n, m.n, m.ia, m.ja, rules).fault) {
+    case sparse::PatternFault::kNoFault:
+      return kDone;
+    case sparse::PatternFault::kEmptyList:
+      return kEmptyRow;
+    case sparse::PatternFault::kOutside:
+      return kBadColumn;
+    default:
+      return kDecreasingRows;
   }
-  return kDone;
 }
 
 // Memory for the factorization of n rows.

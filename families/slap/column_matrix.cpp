@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "sparse/sparse.hpp"
+
 namespace quorin::slap {
 namespace {
 
@@ -45,10 +47,7 @@ void add_lower(const ColumnMatrix& matrix, Y factor, const X* x, Y* y) {
 
 }  // namespace
 
-bool ColumnMatrix::is_sound() const {
-  if (ja[0] != 1 || ja[n] != nelt + 1 || !std::is_sorted(ja, ja + n + 1)) return false;
-  return std::all_of(ia, ia + nelt, [this](int i) { return i >= 1 && i <= n; });
-}
+bool ColumnMatrix::is_sound() const { return ja[n] == nelt + 1 && sparse::check_compressed(n, n, ja, ia, {.base = 1}); }
 
 template <class X, class Y>
 void ColumnMatrix::add_product(Y factor, const X* x, Y* y) const {

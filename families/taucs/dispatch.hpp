@@ -1,9 +1,6 @@
 // From the type bits of a flag word to the typed routine.
 #pragma once
 
-#include <complex>
-#include <cstdint>
-
 #include "families/taucs/matrix.hpp"
 #include "platform/platform.hpp"
 
@@ -13,27 +10,33 @@ namespace quorin::taucs {
 inline constexpr const char* kOperationsSource = "src\\taucs_ccs_ops";
 inline constexpr const char* kFilesSource = "src\\taucs_ccs_io";
 
-/// Calls routine.operator()<T>() for the type that the flags name and returns true; false if they name none. Where they
-/// name both, complex numbers it is: their result would replace the other.
-template <class Routine>
-bool dispatch(std::int32_t flags, Routine&& routine) noexcept {
-  if ((flags & kDcomplex) != 0) {
-    routine.template operator()<std::complex<double>>();
-  } else if ((flags & kDouble) != 0) {
-    routine.template operator()<double>();
-  } else {
-    return false;
-  }
-  return true;
+enum class Type { kNeither, kReal, kComplex };
+
+// The element type that the flags name. Where they name both it is complex: that result would replace the other.
+inline Type type_of(int flags) {
+  if ((flags & kDcomplex) != 0) return Type::kComplex;
+  return (flags & kDouble) != 0 ? Type::kReal : Type::kNeither;
 }
 
-/// The same for routines that return a matrix or a status; without a type the process stops.
+// Calls routine.operator()<T>() for that type, if there is one.
 template <class Routine>
-auto dispatch_or_stop(std::int32_t flags, const char* source, unsigned line, Routine&& routine) noexcept {
-  decltype(routine.template operator()<double>()) result{};
-  const bool has_type = dispatch(flags, [&]<class T>() { result = routine.template operator()<T>(); });
-  if (!has_type) platform::fail_assertion("0", source, line);
-  return result;
+void dispatch(int flags, Routine routine) {
+  switch (type_of(flags)) {
+    case Type::kReal:
+      return routine.template operator()<double>();
+    case Type::kComplex:
+      return routine.template operator()<Complex>();
+    case Type::kNeither:
+      return;
+  }
+}
+
+// Whether the flags name complex elements. Flags without a type stop the process, which then shows `source` and the
+// line of the call.
+inline bool is_complex_or_stop(int flags, const char* source, unsigned line = __builtin_LINE()) {
+  const Type type = type_of(flags);
+  if (type == Type::kNeither) platform::fail_assertion("0", source, line);
+  return type == Type::kComplex;
 }
 
 }  // namespace quorin::taucs

@@ -2,176 +2,157 @@
 
 #include <algorithm>
 #include <limits>
-#include <tuple>
-#include <utility>
 
-#include "base/workspace.hpp"
-#include "families/taucs/arithmetic.hpp"
 #include "families/taucs/dispatch.hpp"
-#include "families/taucs/messages.hpp"
+#include "families/taucs/engine_view.hpp"
 
 namespace quorin::taucs {
 namespace {
 
-std::int32_t entry_count(const CcsMatrix& A) noexcept { return A.colptr[A.n]; }
+using Indices = base::Workspace<int>;
 
-// Calls visit(i, j, value) for every stored entry, column by column.
-template <Element T, class Visit>
-void for_each_entry(const CcsMatrix& A, Visit visit) noexcept {
-  const T* const values = A.elements<T>();
-  for (std::int32_t j = 0; j < A.n; ++j) {
-    for (std::int32_t k = A.colptr[j]; k < A.colptr[j + 1]; ++k) visit(A.rowind[k], j, values[k]);
-  }
+std::size_t length(int n) { return static_cast<std::size_t>(n); }
+
+bool is_lower_stored(const CcsMatrix& A) { return A.is_symmetric_or_hermitian() && A.has(kLower); }
+
+// Whether all entries lie in the n x n matrix.
+bool is_within_order(const CcsMatrix& A) {
+  return static_cast<bool>(sparse::check_compressed(A.n, A.n, A.colptr, A.rowind));
 }
 
-// An m-by-n matrix of the entries that produce(emit) gives to emit(i, j, value), in that order within each column.
-// `produce` is called twice, first to count the columns. Null if there is no memory.
-template <Element T, class Produce>
-CcsMatrix* assemble(std::int32_t m, std::int32_t n, std::int32_t nnz, Produce produce) noexcept {
-  base::Workspace<std::int32_t> memory(static_cast<std::size_t>(n) + 1);
-  CcsMatrix* const A = memory ? create<T>(m, n, nnz) : nullptr;
-  if (A == nullptr) return nullptr;
-  std::int32_t* const next = memory.data();  // the next free slot of each column
-  std::fill_n(next, n + 1, 0);
-  produce([&](std::int32_t, std::int32_t j, T) { ++next[j]; });
-  std::int32_t sum = 0;
-  for (std::int32_t j = 0; j <= n; ++j) {
-    A->colptr[j] = sum;
-    sum += std::exchange(next[j], sum);
-  }
-  T* const values = A->elements<T>();
-  produce([&](std::int32_t i, std::int32_t j, T value) {
-    const std::int32_t k = next[j]++;
-    A->rowind[k] = i;
-    values[k] = value;
-  });
-  return A;
+bool are_indices(const int* list, int count, int bound) {
+  return std::all_of(list, list + count, [bound](int i) { return i >= 0 && i < bound; });
 }
 
+// Columns first, ..., last - 1 of A as a matrix of `rows` rows, counted from `offset`.
 template <Element T>
-CcsMatrix* transpose(const CcsMatrix& A) noexcept {
-  CcsMatrix* const result = assemble<T>(A.n, A.m, entry_count(A), [&](auto emit) {
-    for_each_entry<T>(A, [&](std::int32_t i, std::int32_t j, T value) { emit(j, i, value); });
-  });
-  if (result == nullptr) return nullptr;
-  result->flags = A.flags & ~(kLower | kUpper);
-  if (A.has(kLower)) result->flags |= kUpper;
-  if (A.has(kUpper)) result->flags |= kLower;
-  return result;
-}
-
-template <Element T>
-CcsMatrix* permute_symmetrically(const CcsMatrix& A, const std::int32_t* invperm) noexcept {
-  const bool conjugates = !A.has(kSymmetric);
-  CcsMatrix* const result = assemble<T>(A.n, A.n, entry_count(A), [&](auto emit) {
-    for_each_entry<T>(A, [&](std::int32_t i, std::int32_t j, T value) {
-      const std::int32_t row = invperm[i], column = invperm[j];
-      if (row >= column) return emit(row, column, value);
-      emit(column, row, conjugates ? conjugate(value) : value);
-    });
-  });
-  if (result == nullptr) {
-    print("taucs_ccs_permute_symmetrically: out of memory\n");
-  } else {
-    result->flags = A.flags;
-  }
-  return result;
-}
-
-// Columns first, ..., last - 1 of A, rows and columns renumbered from `offset`.
-template <Element T>
-void copy_columns(const CcsMatrix& A, std::int32_t first, std::int32_t last, std::int32_t offset,
-                  CcsMatrix& result) noexcept {
-  const std::int32_t begin = A.colptr[first], count = A.colptr[last] - begin;
-  for (std::int32_t j = first; j <= last; ++j) result.colptr[j - first] = A.colptr[j] - begin;
-  for (std::int32_t k = 0; k < count; ++k) result.rowind[k] = A.rowind[begin + k] - offset;
-  std::copy_n(A.elements<T>() + begin, count, result.elements<T>());
-}
-
-template <Element T>
-std::pair<CcsMatrix*, CcsMatrix*> split(const CcsMatrix& A, std::int32_t p) noexcept {
-  const std::int32_t of_left = A.colptr[p], of_right = entry_count(A) - of_left;
-  CcsMatrix* const L = create<T>(A.n, p, of_left);
-  if (L == nullptr) {
-    print("taucs_ccs_split: out of memory (3): p=%d nnz=%d\n", p, of_left);
-    return {};
-  }
-  CcsMatrix* const R = create<T>(A.n - p, A.n - p, of_right);
-  if (R == nullptr) {
-    print("taucs_ccs_split: out of memory: n=%d nnz=%d\n", A.n - p, of_right);
-    print("taucs_ccs_split: out of memory\n");
-    ccs_free(L);
-    return {};
-  }
-  copy_columns<T>(A, 0, p, 0, *L);
-  copy_columns<T>(A, p, A.n, p, *R);
-  L->flags |= kLower;
-  R->flags = A.flags;
-  return {L, R};
-}
-
-template <Element T>
-CcsMatrix* augment(const CcsMatrix& A) noexcept {
-  constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max() / 2;
-  const std::int32_t n = A.n, nnz = entry_count(A);
-  const bool is_too_big = n > kMost || nnz > kMost;
-  CcsMatrix* const M = is_too_big ? nullptr : assemble<T>(2 * n, 2 * n, 2 * nnz, [&](auto emit) {
-    for_each_entry<T>(A, [&](std::int32_t i, std::int32_t j, T value) {
-      if (i == j || !(real_part(value) > 0)) {
-        emit(i, j, value);
-        emit(n + i, n + j, value);
-      } else {
-        // Both triangles of -P lie below the diagonal of M.
-        emit(n + i, j, -value);
-        emit(n + j, i, -(A.has(kSymmetric) ? value : conjugate(value)));
-      }
-    });
-  });
-  if (M == nullptr) {
-    print("taucs_ccs_augment_nonpositive_offdiagonal: out of memory\n");
-  } else {
-    M->flags = A.flags;
-  }
-  return M;
+CcsMatrix* copy_columns(const CcsMatrix& A, int first, int last, int rows, int offset) {
+  const int begin = A.colptr[first], count = A.colptr[last] - begin;
+  CcsMatrix* const B = create<T>(rows, last - first, count);
+  if (B == nullptr) return nullptr;
+  for (int j = first; j <= last; ++j) B->colptr[j - first] = A.colptr[j] - begin;
+  for (int k = 0; k < count; ++k) B->rowind[k] = A.rowind[begin + k] - offset;
+  std::copy_n(A.elements<T>() + begin, count, B->elements<T>());
+  return B;
 }
 
 }  // namespace
 
-CcsMatrix* ccs_transpose(const CcsMatrix* A) noexcept {
-  if (A == nullptr) return nullptr;
-  return dispatch_or_stop(A->flags, kOperationsSource, __LINE__, [&]<class T>() { return transpose<T>(*A); });
+template <Element T>
+CcsMatrix* transpose(const CcsMatrix* A) noexcept {
+  const int rows = holds<T>(A) ? rows_of(*A) : sparse::kNone;
+  if (rows == sparse::kNone) return nullptr;
+  Indices next(length(rows));
+  CcsMatrix* const B = next ? create<T>(A->n, rows, A->colptr[A->n]) : nullptr;
+  if (B == nullptr) return nullptr;
+  sparse::transpose(columns_of<T>(*A, rows), arrays_of<T>(*B), next.data());
+  B->flags = A->flags & ~(kLower | kUpper);
+  if (A->has(kLower)) B->flags |= kUpper;
+  if (A->has(kUpper)) B->flags |= kLower;
+  return B;
 }
 
-CcsMatrix* ccs_permute_symmetrically(const CcsMatrix* A, const std::int32_t*, const std::int32_t* invperm) noexcept {
-  if (A == nullptr) return nullptr;
-  return dispatch_or_stop(A->flags, kOperationsSource, __LINE__, [&]<class T>() -> CcsMatrix* {
-    if (A->is_symmetric_or_hermitian() && A->has(kLower)) return permute_symmetrically<T>(*A, invperm);
-    print("taucs_ccs_permute_symmetrically: the lower part must be represented\n");
-    return nullptr;
-  });
+template <Element T>
+CcsMatrix* permute_symmetrically(const CcsMatrix* A, const std::int32_t*, const std::int32_t* invperm) noexcept {
+  if (!holds<T>(A) || !is_lower_stored(*A) || !is_within_order(*A) || !are_indices(invperm, A->n, A->n)) return nullptr;
+  Indices next(length(A->n));
+  CcsMatrix* const B = next ? create<T>(A->n, A->n, A->colptr[A->n]) : nullptr;
+  if (B == nullptr) return nullptr;
+  sparse::permute_symmetrically(columns_of<T>(*A, A->n), symmetry_of(*A), invperm, arrays_of<T>(*B), next.data());
+  B->flags = A->flags;
+  return B;
 }
 
 void ccs_permute_rows_inplace(CcsMatrix* A, const std::int32_t* perm) noexcept {
-  if (A == nullptr || !A->has(kDouble)) return;
-  for (std::int32_t k = 0; k < entry_count(*A); ++k) A->rowind[k] = perm[A->rowind[k]];
+  if (!holds<double>(A) || !sparse::check_compressed(A->n, A->m, A->colptr, A->rowind)) return;
+  int* const end = A->rowind + A->colptr[A->n];
+  if (!std::all_of(A->rowind, end, [&](int i) { return perm[i] >= 0 && perm[i] < A->m; })) return;
+  for (int* row = A->rowind; row != end; ++row) *row = perm[*row];
+}
+
+template <Element T>
+void split(const CcsMatrix* A, CcsMatrix** L, CcsMatrix** R, std::int32_t p) noexcept {
+  *L = *R = nullptr;
+  if (!holds<T>(A) || p < 0 || p > A->n) return;
+  if (!sparse::check_compressed(A->n, A->n, A->colptr, A->rowind, {.is_lower = true})) return;
+  OwnedMatrix left(copy_columns<T>(*A, 0, p, A->n, 0));
+  OwnedMatrix right(copy_columns<T>(*A, p, A->n, A->n - p, p));
+  if (left == nullptr || right == nullptr) return;
+  left->flags |= kLower;
+  right->flags = A->flags;
+  *L = left.release();
+  *R = right.release();
+}
+
+// Count, cumulate, scatter.
+template <Element T>
+CcsMatrix* augment(const CcsMatrix* A) noexcept {
+  constexpr int kMost = std::numeric_limits<int>::max() / 2;
+  if (!holds<T>(A) || !is_lower_stored(*A) || !is_within_order(*A)) return nullptr;
+  const int n = A->n, nnz = A->colptr[n];
+  if (n > kMost || nnz > kMost) return nullptr;
+  Indices next(length(2 * n));
+  CcsMatrix* const M = next ? create<T>(2 * n, 2 * n, 2 * nnz) : nullptr;
+  if (M == nullptr) return nullptr;
+
+  const T* const values = A->elements<T>();
+  const sparse::ColumnArrays<T> to = arrays_of<T>(*M);
+  const bool is_hermitian = symmetry_of(*A) == sparse::Symmetry::kHermitian;
+  const auto moves = [values](int i, int j, int k) { return i != j && real_part(values[k]) > 0; };
+  std::fill(next.begin(), next.end(), 0);
+  for (int j = 0; j < n; ++j) {
+    for (int k = A->colptr[j]; k < A->colptr[j + 1]; ++k) {
+      const int i = A->rowind[k];
+      ++next[j], ++next[moves(i, j, k) ? i : n + j];
+    }
+  }
+  sparse::cumulate(2 * n, next.data(), to.starts);
+  for (int j = 0; j < n; ++j) {
+    for (int k = A->colptr[j]; k < A->colptr[j + 1]; ++k) {
+      const int i = A->rowind[k];
+      if (moves(i, j, k)) {  // both triangles of -P lie below the diagonal of M
+        to.put(next[j]++, n + i, -values[k]);
+        to.put(next[i]++, n + j, -(is_hermitian ? conjugate(values[k]) : values[k]));
+      } else {
+        to.put(next[j]++, i, values[k]);
+        to.put(next[n + j]++, n + i, values[k]);
+      }
+    }
+  }
+  M->flags = A->flags;
+  return M;
+}
+
+template CcsMatrix* transpose<double>(const CcsMatrix*) noexcept;
+template CcsMatrix* transpose<Complex>(const CcsMatrix*) noexcept;
+template CcsMatrix* permute_symmetrically<double>(const CcsMatrix*, const std::int32_t*, const std::int32_t*) noexcept;
+template CcsMatrix* permute_symmetrically<Complex>(const CcsMatrix*, const std::int32_t*, const std::int32_t*) noexcept;
+template void split<double>(const CcsMatrix*, CcsMatrix**, CcsMatrix**, std::int32_t) noexcept;
+template void split<Complex>(const CcsMatrix*, CcsMatrix**, CcsMatrix**, std::int32_t) noexcept;
+template CcsMatrix* augment<double>(const CcsMatrix*) noexcept;
+template CcsMatrix* augment<Complex>(const CcsMatrix*) noexcept;
+
+CcsMatrix* ccs_transpose(const CcsMatrix* A) noexcept {
+  if (A == nullptr) return nullptr;
+  return is_complex_or_stop(A->flags, kOperationsSource) ? transpose<Complex>(A) : transpose<double>(A);
+}
+
+CcsMatrix* ccs_permute_symmetrically(const CcsMatrix* A, const std::int32_t* perm,
+                                     const std::int32_t* invperm) noexcept {
+  if (A == nullptr) return nullptr;
+  return is_complex_or_stop(A->flags, kOperationsSource) ? permute_symmetrically<Complex>(A, perm, invperm)
+                                                         : permute_symmetrically<double>(A, perm, invperm);
 }
 
 void ccs_split(const CcsMatrix* A, CcsMatrix** L, CcsMatrix** R, std::int32_t p) noexcept {
   *L = *R = nullptr;
   if (A == nullptr) return;
-  dispatch_or_stop(A->flags, kOperationsSource, __LINE__, [&]<class T>() {
-    if (p >= 0 && p <= A->n) std::tie(*L, *R) = split<T>(*A, p);
-    return 0;
-  });
+  is_complex_or_stop(A->flags, kOperationsSource) ? split<Complex>(A, L, R, p) : split<double>(A, L, R, p);
 }
 
 CcsMatrix* ccs_augment_nonpositive_offdiagonals(const CcsMatrix* A) noexcept {
   if (A == nullptr) return nullptr;
-  return dispatch_or_stop(A->flags, kOperationsSource, __LINE__, [&]<class T>() -> CcsMatrix* {
-    if (A->is_symmetric_or_hermitian() && A->has(kLower)) return augment<T>(*A);
-    print("taucs_ccs_augment_nonpositive_offdiagonal: matrix not symmetric or not lower\n");
-    return nullptr;
-  });
+  return is_complex_or_stop(A->flags, kOperationsSource) ? augment<Complex>(A) : augment<double>(A);
 }
 
 }  // namespace quorin::taucs

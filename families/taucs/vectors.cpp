@@ -1,77 +1,60 @@
 #include "families/taucs/vectors.hpp"
 
-#include <algorithm>
-#include <cmath>
 #include <cstddef>
 #include <limits>
 
-#include "base/workspace.hpp"
+#include "base/sums.hpp"
 #include "families/taucs/dispatch.hpp"
+#include "families/taucs/engine_view.hpp"
 
 namespace quorin::taucs {
-namespace {
 
-// Squares of numbers between kSmall and kBig neither underflow nor overflow, nor do sums of 2^32 of them; the others
-// are scaled by powers of two first (Anderson 2017, table 1, after J. L. Blue, ACM TOMS 4 (1978) 15-23).
-constexpr double kSmall = 0x1p-511, kSmallScale = 0x1p537;
-constexpr double kBig = 0x1p486, kBigScale = 0x1p-538;
-
-double norm2(std::size_t n, const double* v) noexcept {
-  double small = 0, medium = 0, big = 0;
-  for (std::size_t i = 0; i < n; ++i) {
-    const double size = std::fabs(v[i]);
-    if (size > kBig) {
-      big += (size * kBigScale) * (size * kBigScale);
-    } else if (size < kSmall) {
-      small += (size * kSmallScale) * (size * kSmallScale);
-    } else {
-      medium += size * size;  // NaN too
-    }
-  }
-  if (big > 0) return std::sqrt(big + (medium * kBigScale) * kBigScale) / kBigScale;
-  if (small == 0 || medium > 0 || std::isnan(medium)) {
-    return std::sqrt(medium + (small / kSmallScale) / kSmallScale);
-  }
-  return std::sqrt(small) / kSmallScale;
+template <Element T>
+T* create_vector(std::int32_t n) noexcept {
+  return n < 0 ? nullptr : new_array<T>(static_cast<std::size_t>(n));
 }
 
-}  // namespace
+template <Element T>
+void axpby(std::int32_t n, double a, const T* x, double b, const T* y, T* r) noexcept {
+  for (int i = 0; i < n; ++i) r[i] = a * x[i] + b * y[i];
+}
+
+template <Element T>
+void permute(std::int32_t n, const T* v, T* pv, const std::int32_t* p) noexcept {
+  sparse::permute(n, p, v, pv);
+}
+
+template <Element T>
+void permute_back(std::int32_t n, const T* v, T* pv, const std::int32_t* p) noexcept {
+  sparse::permute_back(n, p, v, pv);
+}
+
+template double* create_vector(std::int32_t) noexcept;
+template Complex* create_vector(std::int32_t) noexcept;
+template void axpby(std::int32_t, double, const double*, double, const double*, double*) noexcept;
+template void axpby(std::int32_t, double, const Complex*, double, const Complex*, Complex*) noexcept;
+template void permute(std::int32_t, const double*, double*, const std::int32_t*) noexcept;
+template void permute(std::int32_t, const Complex*, Complex*, const std::int32_t*) noexcept;
+template void permute_back(std::int32_t, const double*, double*, const std::int32_t*) noexcept;
+template void permute_back(std::int32_t, const Complex*, Complex*, const std::int32_t*) noexcept;
 
 void* vec_create(std::int32_t n, std::int32_t flags) noexcept {
   void* vector = nullptr;
-  if (n < 0) return vector;
-  dispatch(flags, [&]<class T>() {
-    const auto count = std::max<std::size_t>(static_cast<std::size_t>(n), 1);
-    vector = base::allocate(base::saturating_product(count, sizeof(T)));
-  });
+  dispatch(flags, [&]<class T>() { vector = create_vector<T>(n); });
   return vector;
 }
 
 void vec_axpby(std::int32_t n, std::int32_t flags, double a, const void* x, double b, const void* y, void* r) noexcept {
-  dispatch(flags, [&]<class T>() {
-    const auto* const from_x = static_cast<const T*>(x);
-    const auto* const from_y = static_cast<const T*>(y);
-    auto* const to = static_cast<T*>(r);
-    for (std::int32_t i = 0; i < n; ++i) to[i] = a * from_x[i] + b * from_y[i];
-  });
+  dispatch(flags,
+           [&]<class T>() { axpby(n, a, static_cast<const T*>(x), b, static_cast<const T*>(y), static_cast<T*>(r)); });
 }
 
 void vec_permute(std::int32_t n, std::int32_t flags, const void* v, void* pv, const std::int32_t* p) noexcept {
-  dispatch(flags, [&]<class T>() {
-    const auto* const from = static_cast<const T*>(v);
-    auto* const to = static_cast<T*>(pv);
-#pragma GCC unroll 8
-    for (std::int32_t i = 0; i < n; ++i) to[i] = from[p[i]];
-  });
+  dispatch(flags, [&]<class T>() { permute(n, static_cast<const T*>(v), static_cast<T*>(pv), p); });
 }
 
 void vec_ipermute(std::int32_t n, std::int32_t flags, const void* v, void* pv, const std::int32_t* p) noexcept {
-  dispatch(flags, [&]<class T>() {
-    const auto* const from = static_cast<const T*>(v);
-    auto* const to = static_cast<T*>(pv);
-#pragma GCC unroll 8
-    for (std::int32_t i = 0; i < n; ++i) to[p[i]] = from[i];
-  });
+  dispatch(flags, [&]<class T>() { permute_back(n, static_cast<const T*>(v), static_cast<T*>(pv), p); });
 }
 
 double vec_norm2(std::int32_t n, std::int32_t flags, const void* v) noexcept {
@@ -79,7 +62,7 @@ double vec_norm2(std::int32_t n, std::int32_t flags, const void* v) noexcept {
   dispatch(flags, [&]<class T>() {
     // A complex vector's norm is that of its parts.
     const std::size_t count = n > 0 ? static_cast<std::size_t>(n) * kParts<T> : 0;
-    norm = norm2(count, static_cast<const double*>(v));
+    norm = base::norm(count, static_cast<const double*>(v));
   });
   return norm;
 }

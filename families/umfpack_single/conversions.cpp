@@ -1,7 +1,7 @@
 #include "families/umfpack_single/conversions.hpp"
 
-#include "families/umfpack_single/pattern.hpp"
 #include "families/umfpack_single/umfpack_single.hpp"
+#include "sparse/sparse.hpp"
 
 namespace quorin::umfpack_single {
 
@@ -23,7 +23,8 @@ template <class E>
 int transpose(int n_row, int n_col, const Matrix& A, const int* P, const int* Q, const MatrixOutput& R,
               int do_conjugate) {
   // UMFPACK says what is wrong with starts that are not sound; nothing is read through them here.
-  const bool has_values = n_row > 0 && has_valid_starts(n_col, A.Ap) && A.Ai != nullptr && A.Ax && R.Ax;
+  const bool has_values =
+      n_row > 0 && n_col > 0 && sparse::check_starts(n_col, A.Ap) && A.Ai != nullptr && A.Ax && R.Ax;
   const std::size_t nz = has_values ? length(A.Ap[n_col]) : 0;
   const Doubles<E> Ax(has_values ? A.Ax : FloatInput{}, nz);
   Doubles<E> Rx(has_values, nz);

@@ -6,6 +6,7 @@
 #include "families/umfpack_single/pattern.hpp"
 #include "families/umfpack_single/settings.hpp"
 #include "families/umfpack_single/umfpack_single.hpp"
+#include "sparse/sparse.hpp"
 
 namespace quorin::umfpack_single {
 namespace {
@@ -24,7 +25,7 @@ template <class E>
 int factorize(const Matrix& A, const Object& symbolic, Object* object, const float* Control, double* info) {
   const bool has_all = A.Ap != nullptr && A.Ai != nullptr && A.Ax;
   if (has_all) {
-    const bool is_same = has_valid_starts(symbolic.n_col, A.Ap) && A.Ap[symbolic.n_col] == symbolic.nz &&
+    const bool is_same = sparse::check_starts(symbolic.n_col, A.Ap) && A.Ap[symbolic.n_col] == symbolic.nz &&
                          fingerprint(symbolic.n_col, A.Ap, A.Ai) == symbolic.fingerprint;
     if (!is_same) return UMFPACK_ERROR_different_pattern;
   }
@@ -56,7 +57,7 @@ int qsymbolic(int n_row, int n_col, const Matrix& A, const int* Qinit, void** Sy
   if (Symbolic != nullptr) *Symbolic = nullptr;
   Object* const object = create_object(kSymbolicOf<E>);
   // Nothing is read through starts that are not sound; UMFPACK then says what is wrong with them.
-  const bool is_readable = n_row > 0 && A.Ai != nullptr && has_valid_starts(n_col, A.Ap);
+  const bool is_readable = n_row > 0 && n_col > 0 && A.Ai != nullptr && sparse::check_starts(n_col, A.Ap);
   const int nz = is_readable ? A.Ap[n_col] : 0;
   const Doubles<E> Ax(is_readable ? A.Ax : FloatInput{}, length(nz));
   int status = UMFPACK_ERROR_out_of_memory;

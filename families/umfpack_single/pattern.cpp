@@ -2,25 +2,6 @@
 
 namespace quorin::umfpack_single {
 
-bool has_valid_starts(int n, const int* Ap) noexcept {
-  if (n <= 0 || Ap == nullptr || Ap[0] != 0) return false;
-  for (int j = 0; j < n; ++j) {
-    if (Ap[j + 1] < Ap[j]) return false;
-  }
-  return true;
-}
-
-bool are_in_range(int nz, const int* Ai, int bound) noexcept {
-  // The sign bit of i | (bound - 1 - i) is set where i is out of range: no comparison, and several entries at a time.
-  const auto last = static_cast<std::uint32_t>(bound) - 1;
-  std::uint32_t signs = 0;
-  for (int k = 0; k < nz; ++k) {
-    const auto i = static_cast<std::uint32_t>(Ai[k]);
-    signs |= i | (last - i);
-  }
-  return signs >> 31U == 0;
-}
-
 namespace {
 
 // The sum of (v[k] + c[k]) * (v[k + 1] + c[k + 1]) over pairs of values, with constants c that step through all 32-bit

@@ -7,9 +7,9 @@
 #include "base/text_output.hpp"
 #include "families/umfpack_single/info.hpp"
 #include "families/umfpack_single/objects.hpp"
-#include "families/umfpack_single/pattern.hpp"
 #include "families/umfpack_single/settings.hpp"
 #include "families/umfpack_single/umfpack_single.hpp"
+#include "sparse/sparse.hpp"
 
 namespace quorin::umfpack_single {
 namespace {
@@ -89,7 +89,7 @@ int report_perm(int np, const int* Perm, const float* Control) noexcept {
 template <class E>
 int report_matrix(int n_row, int n_col, const Matrix& A, int col_form, const float* Control) {
   const int n = col_form != 0 ? n_col : n_row;
-  const bool is_readable = n_row > 0 && n_col > 0 && has_valid_starts(n, A.Ap) && A.Ai != nullptr;
+  const bool is_readable = n_row > 0 && n_col > 0 && sparse::check_starts(n, A.Ap) && A.Ai != nullptr;
   const FloatInput values = shown(is_readable ? A.Ax : FloatInput{}, Control);
   const Doubles<E> Ax(values, values ? length(A.Ap[n]) : 0);
   if (Ax.has_failed()) return report_no_memory();

@@ -4,8 +4,8 @@
 
 #include "families/umfpack_single/info.hpp"
 #include "families/umfpack_single/objects.hpp"
-#include "families/umfpack_single/pattern.hpp"
 #include "families/umfpack_single/settings.hpp"
+#include "sparse/sparse.hpp"
 
 namespace quorin::umfpack_single {
 
@@ -29,7 +29,7 @@ int solve_into(int sys, const Matrix& A, FloatOutput X, FloatInput B, const Obje
                double* info, int* Wi, float* W) {
   const std::size_t n = length(numeric.n_row);
   const bool refined = is_refined(sys, numeric, Control);
-  if (refined && !(has_valid_starts(numeric.n_col, A.Ap) && are_in_range(A.Ap[numeric.n_col], A.Ai, numeric.n_row))) {
+  if (refined && !(sparse::check_compressed(numeric.n_col, numeric.n_row, A.Ap, A.Ai))) {
     return UMFPACK_ERROR_invalid_matrix;
   }
   // The right-hand side and the solution live in the caller's workspace as far as it holds them.

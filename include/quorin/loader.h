@@ -19,7 +19,7 @@
 #define QUORIN_LIBRARY_NAME "libquorin_lapacks.so"
 #endif
 
-#define QUORIN_EXPORT_COUNT 712
+#define QUORIN_EXPORT_COUNT 735
 
 #ifdef __cplusplus
 extern "C" {
@@ -1847,6 +1847,38 @@ typedef struct quorin_library {
   void(QUORIN_CDECL* taucs_vec_permute)(int32_t n, int32_t flags, const void* v, void* pv, const int32_t* p);
   void(QUORIN_CDECL* taucs_vec_ipermute)(int32_t n, int32_t flags, const void* v, void* pv, const int32_t* p);
   double(QUORIN_CDECL* taucs_vec_norm2)(int32_t n, int32_t flags, const void* v);
+  taucs_ccs_matrix*(QUORIN_CDECL* taucs_dccs_create)(int32_t m, int32_t n, int32_t nnz);
+  void(QUORIN_CDECL* taucs_dccs_free)(taucs_ccs_matrix* A);
+  taucs_ccs_matrix*(QUORIN_CDECL* taucs_dccs_transpose)(const taucs_ccs_matrix* A);
+  taucs_ccs_matrix*(QUORIN_CDECL* taucs_dccs_permute_symmetrically)(const taucs_ccs_matrix* A, const int32_t* perm,
+                                                                    const int32_t* invperm);
+  void(QUORIN_CDECL* taucs_dccs_split)(const taucs_ccs_matrix* A, taucs_ccs_matrix** L, taucs_ccs_matrix** R,
+                                       int32_t p);
+  void(QUORIN_CDECL* taucs_dccs_times_vec)(const taucs_ccs_matrix* A, const double* x, double* b);
+  void(QUORIN_CDECL* taucs_dccs_times_vec_many)(const taucs_ccs_matrix* A, int32_t count, const double* X, double* B);
+  taucs_ccs_matrix*(QUORIN_CDECL* taucs_dccs_augment_nonpositive_offdiagonals)(const taucs_ccs_matrix* A);
+  double*(QUORIN_CDECL* taucs_dvec_create)(int32_t n);
+  void(QUORIN_CDECL* taucs_dvec_axpby)(int32_t n, double a, const double* x, double b, const double* y, double* r);
+  void(QUORIN_CDECL* taucs_dvec_permute)(int32_t n, const double* v, double* pv, const int32_t* p);
+  void(QUORIN_CDECL* taucs_dvec_ipermute)(int32_t n, const double* v, double* pv, const int32_t* p);
+  taucs_ccs_matrix*(QUORIN_CDECL* taucs_zccs_create)(int32_t m, int32_t n, int32_t nnz);
+  taucs_ccs_matrix*(QUORIN_CDECL* taucs_zccs_transpose)(const taucs_ccs_matrix* A);
+  taucs_ccs_matrix*(QUORIN_CDECL* taucs_zccs_permute_symmetrically)(const taucs_ccs_matrix* A, const int32_t* perm,
+                                                                    const int32_t* invperm);
+  void(QUORIN_CDECL* taucs_zccs_split)(const taucs_ccs_matrix* A, taucs_ccs_matrix** L, taucs_ccs_matrix** R,
+                                       int32_t p);
+  void(QUORIN_CDECL* taucs_zccs_times_vec)(const taucs_ccs_matrix* A, const quorin_double_complex* x,
+                                           quorin_double_complex* b);
+  void(QUORIN_CDECL* taucs_zccs_times_vec_many)(const taucs_ccs_matrix* A, int32_t count,
+                                                const quorin_double_complex* X, quorin_double_complex* B);
+  taucs_ccs_matrix*(QUORIN_CDECL* taucs_zccs_augment_nonpositive_offdiagonals)(const taucs_ccs_matrix* A);
+  quorin_double_complex*(QUORIN_CDECL* taucs_zvec_create)(int32_t n);
+  void(QUORIN_CDECL* taucs_zvec_axpby)(int32_t n, double a, const quorin_double_complex* x, double b,
+                                       const quorin_double_complex* y, quorin_double_complex* r);
+  void(QUORIN_CDECL* taucs_zvec_permute)(int32_t n, const quorin_double_complex* v, quorin_double_complex* pv,
+                                         const int32_t* p);
+  void(QUORIN_CDECL* taucs_zvec_ipermute)(int32_t n, const quorin_double_complex* v, quorin_double_complex* pv,
+                                          const int32_t* p);
   void(QUORIN_CDECL* taucs_logfile)(const char* name);
   double(QUORIN_CDECL* taucs_wtime)(void);
   double(QUORIN_CDECL* taucs_ctime)(void);
@@ -2771,6 +2803,29 @@ static const char* const quorin_export_names[QUORIN_EXPORT_COUNT] = {
     "taucs_vec_permute",
     "taucs_vec_ipermute",
     "taucs_vec_norm2",
+    "taucs_dccs_create",
+    "taucs_dccs_free",
+    "taucs_dccs_transpose",
+    "taucs_dccs_permute_symmetrically",
+    "taucs_dccs_split",
+    "taucs_dccs_times_vec",
+    "taucs_dccs_times_vec_many",
+    "taucs_dccs_augment_nonpositive_offdiagonals",
+    "taucs_dvec_create",
+    "taucs_dvec_axpby",
+    "taucs_dvec_permute",
+    "taucs_dvec_ipermute",
+    "taucs_zccs_create",
+    "taucs_zccs_transpose",
+    "taucs_zccs_permute_symmetrically",
+    "taucs_zccs_split",
+    "taucs_zccs_times_vec",
+    "taucs_zccs_times_vec_many",
+    "taucs_zccs_augment_nonpositive_offdiagonals",
+    "taucs_zvec_create",
+    "taucs_zvec_axpby",
+    "taucs_zvec_permute",
+    "taucs_zvec_ipermute",
     "taucs_logfile",
     "taucs_wtime",
     "taucs_ctime",

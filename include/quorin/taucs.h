@@ -6,6 +6,9 @@
  * routines that return a matrix then stop the process through the C runtime's assertion handler, and the others do
  * nothing.
  *
+ * taucs_dccs_... and taucs_dvec_... are the routines for doubles, taucs_zccs_... and taucs_zvec_... those for double
+ * complex numbers. For a matrix of another type they return null, or do nothing.
+ *
  * Scalars are passed by value here and arrays by their address. A matrix that is returned belongs to the caller, who
  * gives it back with taucs_ccs_free; no routine frees its input. Vectors and permutations come from the library's
  * allocator, which is the C runtime's unless the host has put another one under the library, and are given back to
@@ -71,25 +74,28 @@ QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_create(int32_t m, int32_t n,
 QUORIN_API void QUORIN_CDECL taucs_ccs_free(taucs_ccs_matrix* A);
 
 /* A^T, rows ascending in each column. A stored triangle becomes the other one, with TAUCS_LOWER and TAUCS_UPPER
-   exchanged; nothing is conjugated.
+   exchanged; nothing is conjugated. A record whose n and m are exchanged (as taucs_ccs_read_ijv leaves them) gets as
+   many columns as its rows need; null for an entry outside of both.
      A: a matrix */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_transpose(const taucs_ccs_matrix* A);
 
-/* P A P^T for a symmetric or Hermitian matrix; entry (i, j) goes to (invperm[i], invperm[j]).
+/* P A P^T for a symmetric or Hermitian matrix; entry (i, j) goes to (invperm[i], invperm[j]). Null if an entry lies
+   outside of the n-by-n matrix, or a number of invperm does not lie from 0 to n-1.
      A: the matrix, its lower triangle stored; so is that of the result
      perm: [A.n]: a permutation
      invperm: [A.n]: its inverse */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_permute_symmetrically(const taucs_ccs_matrix* A,
                                                                           const int32_t* perm, const int32_t* invperm);
 
-/* Row i becomes row perm[i]. Matrices of doubles only; others stay as they are.
+/* Row i becomes row perm[i]. Matrices of doubles only; others stay as they are, and so does one with an entry outside
+   of its m rows, or with one that would get there.
      A: a matrix
      perm: [A.m]: the new place of each row */
 QUORIN_API void QUORIN_CDECL taucs_ccs_permute_rows_inplace(taucs_ccs_matrix* A, const int32_t* perm);
 
 /* Cuts a lower-stored matrix behind its first p columns: L, n-by-p, takes these as they are, as a general matrix
    flagged TAUCS_LOWER; R, of order n-p and with A's flags, takes the other columns, renumbered from zero. Both are null
-   if there is no memory, or for a wrong p.
+   if there is no memory, for a wrong p, or if an entry lies above the diagonal.
      A: a matrix of which the lower triangle is stored
      L: out: the first columns; null if there is none
      R: out: the other columns; null if there is none
@@ -156,6 +162,174 @@ QUORIN_API void QUORIN_CDECL taucs_vec_ipermute(int32_t n, int32_t flags, const 
      v: a vector */
 QUORIN_API double QUORIN_CDECL taucs_vec_norm2(int32_t n, int32_t flags, const void* v);
 
+/* ---- Matrices and vectors of one type ---- */
+
+/* A new m-by-n matrix of doubles with room for nnz entries, whose arrays are not cleared; its flags are TAUCS_DOUBLE
+   alone. Null without memory.
+     m: rows
+     n: columns of a matrix, elements of a vector
+     nnz: entries that there is room for */
+QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_dccs_create(int32_t m, int32_t n, int32_t nnz);
+
+/* As taucs_ccs_free, for matrices of either type.
+     A: may be null: a matrix */
+QUORIN_API void QUORIN_CDECL taucs_dccs_free(taucs_ccs_matrix* A);
+
+/* A^T, rows ascending in each column. A stored triangle becomes the other one, with TAUCS_LOWER and TAUCS_UPPER
+   exchanged; nothing is conjugated. A record whose n and m are exchanged (as taucs_ccs_read_ijv leaves them) gets as
+   many columns as its rows need; null for an entry outside of both.
+     A: a matrix */
+QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_dccs_transpose(const taucs_ccs_matrix* A);
+
+/* P A P^T for a symmetric or Hermitian matrix; entry (i, j) goes to (invperm[i], invperm[j]). Null if an entry lies
+   outside of the n-by-n matrix, or a number of invperm does not lie from 0 to n-1.
+     A: the matrix, its lower triangle stored; so is that of the result
+     perm: [A.n]: a permutation
+     invperm: [A.n]: its inverse */
+QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_dccs_permute_symmetrically(const taucs_ccs_matrix* A,
+                                                                           const int32_t* perm, const int32_t* invperm);
+
+/* Cuts a lower-stored matrix behind its first p columns: L, n-by-p, takes these as they are, as a general matrix
+   flagged TAUCS_LOWER; R, of order n-p and with A's flags, takes the other columns, renumbered from zero. Both are null
+   if there is no memory, for a wrong p, or if an entry lies above the diagonal.
+     A: a matrix of which the lower triangle is stored
+     L: out: the first columns; null if there is none
+     R: out: the other columns; null if there is none
+     p: number of columns of L, from 0 to n */
+QUORIN_API void QUORIN_CDECL taucs_dccs_split(const taucs_ccs_matrix* A, taucs_ccs_matrix** L, taucs_ccs_matrix** R,
+                                              int32_t p);
+
+/* b <- A x; symmetric and Hermitian matrices act as the full matrix.
+     A: a matrix
+     x: [A.n]: n elements
+     b: out, [max(A.m,A.n)]: the product, max(m, n) elements: the first n are set, and beyond them those in whose rows A
+         has entries */
+QUORIN_API void QUORIN_CDECL taucs_dccs_times_vec(const taucs_ccs_matrix* A, const double* x, double* b);
+
+/* B <- A X, as taucs_ccs_times_vec for each of the columns, which are n elements apart; for m <= n.
+     A: a matrix
+     count: number of vectors
+     X: [A.n x count]: the vectors
+     B: out, [A.n x count]: the products */
+QUORIN_API void QUORIN_CDECL taucs_dccs_times_vec_many(const taucs_ccs_matrix* A, int32_t count, const double* X,
+                                                       double* B);
+
+/* For a symmetric or Hermitian lower-stored A = D + N + P (diagonal, off-diagonal entries of non-positive and of
+   positive real part) the matrix M = [D+N, -P; -P, D+N] of order 2n, which has no positive off-diagonal entry: M [x;
+   -x] = [A x; -A x]. Null for another structure.
+     A: a matrix */
+QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_dccs_augment_nonpositive_offdiagonals(const taucs_ccs_matrix* A);
+
+/* A new vector of n doubles, not cleared; null without memory.
+     n: columns of a matrix, elements of a vector */
+QUORIN_API double* QUORIN_CDECL taucs_dvec_create(int32_t n);
+
+/* r <- a x + b y; a and b are real for complex vectors, too.
+     n: columns of a matrix, elements of a vector
+     a: factor of x
+     x: [n]: a vector
+     b: factor of y
+     y: [n]: a vector
+     r: out, [n]: the sum; may be x or y */
+QUORIN_API void QUORIN_CDECL taucs_dvec_axpby(int32_t n, double a, const double* x, double b, const double* y,
+                                              double* r);
+
+/* pv[i] <- v[p[i]].
+     n: columns of a matrix, elements of a vector
+     v: [n]: a vector
+     pv: out, [n]: v permuted, another array than v
+     p: [n]: a permutation */
+QUORIN_API void QUORIN_CDECL taucs_dvec_permute(int32_t n, const double* v, double* pv, const int32_t* p);
+
+/* pv[p[i]] <- v[i].
+     n: columns of a matrix, elements of a vector
+     v: [n]: a vector
+     pv: out, [n]: v permuted, another array than v
+     p: [n]: a permutation */
+QUORIN_API void QUORIN_CDECL taucs_dvec_ipermute(int32_t n, const double* v, double* pv, const int32_t* p);
+
+/* As taucs_dccs_create, for double complex numbers and TAUCS_DCOMPLEX.
+     m: rows
+     n: columns of a matrix, elements of a vector
+     nnz: entries that there is room for */
+QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_zccs_create(int32_t m, int32_t n, int32_t nnz);
+
+/* A^T, rows ascending in each column. A stored triangle becomes the other one, with TAUCS_LOWER and TAUCS_UPPER
+   exchanged; nothing is conjugated. A record whose n and m are exchanged (as taucs_ccs_read_ijv leaves them) gets as
+   many columns as its rows need; null for an entry outside of both.
+     A: a matrix */
+QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_zccs_transpose(const taucs_ccs_matrix* A);
+
+/* P A P^T for a symmetric or Hermitian matrix; entry (i, j) goes to (invperm[i], invperm[j]). Null if an entry lies
+   outside of the n-by-n matrix, or a number of invperm does not lie from 0 to n-1.
+     A: the matrix, its lower triangle stored; so is that of the result
+     perm: [A.n]: a permutation
+     invperm: [A.n]: its inverse */
+QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_zccs_permute_symmetrically(const taucs_ccs_matrix* A,
+                                                                           const int32_t* perm, const int32_t* invperm);
+
+/* Cuts a lower-stored matrix behind its first p columns: L, n-by-p, takes these as they are, as a general matrix
+   flagged TAUCS_LOWER; R, of order n-p and with A's flags, takes the other columns, renumbered from zero. Both are null
+   if there is no memory, for a wrong p, or if an entry lies above the diagonal.
+     A: a matrix of which the lower triangle is stored
+     L: out: the first columns; null if there is none
+     R: out: the other columns; null if there is none
+     p: number of columns of L, from 0 to n */
+QUORIN_API void QUORIN_CDECL taucs_zccs_split(const taucs_ccs_matrix* A, taucs_ccs_matrix** L, taucs_ccs_matrix** R,
+                                              int32_t p);
+
+/* b <- A x; symmetric and Hermitian matrices act as the full matrix.
+     A: a matrix
+     x: [A.n]: n elements
+     b: out, [max(A.m,A.n)]: the product, max(m, n) elements: the first n are set, and beyond them those in whose rows A
+         has entries */
+QUORIN_API void QUORIN_CDECL taucs_zccs_times_vec(const taucs_ccs_matrix* A, const quorin_double_complex* x,
+                                                  quorin_double_complex* b);
+
+/* B <- A X, as taucs_ccs_times_vec for each of the columns, which are n elements apart; for m <= n.
+     A: a matrix
+     count: number of vectors
+     X: [A.n x count]: the vectors
+     B: out, [A.n x count]: the products */
+QUORIN_API void QUORIN_CDECL taucs_zccs_times_vec_many(const taucs_ccs_matrix* A, int32_t count,
+                                                       const quorin_double_complex* X, quorin_double_complex* B);
+
+/* For a symmetric or Hermitian lower-stored A = D + N + P (diagonal, off-diagonal entries of non-positive and of
+   positive real part) the matrix M = [D+N, -P; -P, D+N] of order 2n, which has no positive off-diagonal entry: M [x;
+   -x] = [A x; -A x]. Null for another structure.
+     A: a matrix */
+QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_zccs_augment_nonpositive_offdiagonals(const taucs_ccs_matrix* A);
+
+/* A new vector of n double complex numbers, not cleared; null without memory.
+     n: columns of a matrix, elements of a vector */
+QUORIN_API quorin_double_complex* QUORIN_CDECL taucs_zvec_create(int32_t n);
+
+/* r <- a x + b y; a and b are real for complex vectors, too.
+     n: columns of a matrix, elements of a vector
+     a: factor of x
+     x: [n]: a vector
+     b: factor of y
+     y: [n]: a vector
+     r: out, [n]: the sum; may be x or y */
+QUORIN_API void QUORIN_CDECL taucs_zvec_axpby(int32_t n, double a, const quorin_double_complex* x, double b,
+                                              const quorin_double_complex* y, quorin_double_complex* r);
+
+/* pv[i] <- v[p[i]].
+     n: columns of a matrix, elements of a vector
+     v: [n]: a vector
+     pv: out, [n]: v permuted, another array than v
+     p: [n]: a permutation */
+QUORIN_API void QUORIN_CDECL taucs_zvec_permute(int32_t n, const quorin_double_complex* v, quorin_double_complex* pv,
+                                                const int32_t* p);
+
+/* pv[p[i]] <- v[i].
+     n: columns of a matrix, elements of a vector
+     v: [n]: a vector
+     pv: out, [n]: v permuted, another array than v
+     p: [n]: a permutation */
+QUORIN_API void QUORIN_CDECL taucs_zvec_ipermute(int32_t n, const quorin_double_complex* v, quorin_double_complex* pv,
+                                                 const int32_t* p);
+
 /* ---- Time, memory, text ---- */
 
 /* Keeps the name of a log file, which nothing is ever written to; stderr, stdout and none change nothing. To be called
@@ -195,7 +369,8 @@ QUORIN_API void QUORIN_CDECL taucs_ccs_order(const taucs_ccs_matrix* A, int32_t*
 
 /* Reads lines 'row column value' (complex: 'row column real imaginary'), one-based, until no further entry stands.
    Entries are not merged. In the result n is the largest row and m the largest column that was kept, the other way
-   round than elsewhere; colptr goes on to the larger of the two.
+   round than elsewhere; colptr goes on to the larger of the two. Null if that is larger than 1,000,000 and 64 times the
+   number of entries, too: it must be a slip.
      filename: name of a file, ended by a zero
      flags: the type and, for a symmetric matrix, TAUCS_SYMMETRIC or TAUCS_HERMITIAN: then entries above the diagonal
          are dropped */

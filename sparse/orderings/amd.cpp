@@ -11,22 +11,25 @@ namespace quorin::sparse {
 
 using base::Workspace;
 
-Outcome order_amd(const Pattern& pattern, const Ordering& ordering, int& code) noexcept {
-  code = 0;
-  if (pattern.rows != pattern.columns) return Outcome::kBadPattern;
-  if (const Outcome outcome = pattern.check(); outcome != Outcome::kDone) return outcome;
+Outcome order_amd(const Pattern& pattern, const Ordering& ordering) noexcept {
+  if (pattern.rows != pattern.columns || !pattern.check()) return Outcome::kBadPattern;
   const int n = pattern.columns;
   if (n == 0) return Outcome::kDone;
-  code = amd_order(n, pattern.starts, pattern.indices, ordering.permutation, nullptr, nullptr);
-  if (code == AMD_OUT_OF_MEMORY) return Outcome::kOutOfMemory;
-  if (code != AMD_OK && code != AMD_OK_BUT_JUMBLED) return Outcome::kFailed;
-  invert(n, ordering);
-  return Outcome::kDone;
+  switch (amd_order(n, pattern.starts, pattern.indices, ordering.permutation, nullptr, nullptr)) {
+    case AMD_OK:
+    case AMD_OK_BUT_JUMBLED:
+      invert(n, ordering);
+      return Outcome::kDone;
+    case AMD_OUT_OF_MEMORY:
+      return Outcome::kOutOfMemory;
+    default:
+      return Outcome::kFailed;
+  }
 }
 
 // COLAMD works in place on the pattern, in an array with room for its own records behind it.
 Outcome order_colamd(const Pattern& pattern, const Ordering& ordering) noexcept {
-  if (const Outcome outcome = pattern.check(); outcome != Outcome::kDone) return outcome;
+  if (!pattern.check()) return Outcome::kBadPattern;
   const int n = pattern.columns;
   if (n == 0) return Outcome::kDone;
   const std::size_t length = colamd_recommended(pattern.entries(), pattern.rows, n);

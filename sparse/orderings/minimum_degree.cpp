@@ -33,8 +33,6 @@ class MinimumDegree {
   void run(Passes passes, const Ordering& ordering) noexcept;
 
  private:
-  static constexpr int kNobody = DegreeLists::kNobody;
-
   void load() noexcept;
   void eliminate(int p) noexcept;
   void form_element(int p) noexcept;
@@ -130,10 +128,10 @@ void MinimumDegree::run(Passes passes, const Ordering& ordering) noexcept {
   while (left_ > 0) {
     const int pass = pivot_count_;
     touched_count_ = 0;
-    // What is left in the list are no neighbours of the ones taken: those were taken out of it.
-    for (int p = degrees_.take_least(); p != kNobody;) {
+    // The pass takes only vertices that are pairwise not adjacent: elimination takes neighbours out of the lists.
+    for (int p = degrees_.take_least(); p != kNone;) {
       eliminate(p);
-      p = passes == Passes::kOfMany ? degrees_.take_another() : kNobody;
+      p = passes == Passes::kOfMany ? degrees_.take_another() : kNone;
     }
     for (int k = pass; k < pivot_count_; ++k) update_degrees(pivots_[k]);
     // The lists give out first what they got last. After a pass of many, the next begins where this one did.
@@ -150,7 +148,7 @@ void MinimumDegree::load() noexcept {
     weight_[i] = mark_[i] = takes_part ? 1 : 0;
     left_ += weight_[i];
     elements_[i] = 0;
-    first_equal_[i] = next_member_[i] = kNobody;
+    first_equal_[i] = next_member_[i] = kNone;
     last_member_[i] = i;
   }
   for (int i = 0; i < n_; ++i) {
@@ -335,15 +333,15 @@ void MinimumDegree::merge_indistinguishable(int p) noexcept {
   new_marks();
   for (const int k : variables_of(p)) {
     int i = first_equal_[hash_[k]];
-    first_equal_[hash_[k]] = kNobody;
-    for (; i != kNobody && next_equal_[i] != kNobody; i = next_equal_[i]) merge_equals(i);
+    first_equal_[hash_[k]] = kNone;
+    for (; i != kNone && next_equal_[i] != kNone; i = next_equal_[i]) merge_equals(i);
   }
 }
 
 void MinimumDegree::merge_equals(int i) noexcept {
   ++base_;
   for (int k = 0; k < length_[i]; ++k) mark_[list(i)[k]] = base_;
-  for (int before = i, j = next_equal_[i]; j != kNobody; j = next_equal_[before]) {
+  for (int before = i, j = next_equal_[i]; j != kNone; j = next_equal_[before]) {
     if (length_[j] == length_[i] && elements_[j] == elements_[i] && has_marked_list(j)) {
       degree_[i] = std::min(degree_[i] - weight_[j], degree_[j] - weight_[i]);
       weight_[i] += weight_[j];
@@ -405,7 +403,7 @@ void MinimumDegree::new_marks() noexcept {
 void MinimumDegree::write(const Ordering& ordering) noexcept {
   int step = 0;
   for (int k = 0; k < pivot_count_; ++k) {
-    for (int i = pivots_[k]; i != kNobody; i = next_member_[i]) ordering.place(i, step++);
+    for (int i = pivots_[k]; i != kNone; i = next_member_[i]) ordering.place(i, step++);
   }
   // What was left out, the vertices with the fewest neighbours first.
   int* const postponed = touched_;

@@ -58,26 +58,24 @@ void order_random(int n, std::uint64_t seed, const Ordering& ordering) noexcept 
 
 namespace {
 
-constexpr int kRemoved = -1;
-
 // The neighbour of a leaf; kNone for a vertex that is left alone.
 int neighbour_left(const Graph& graph, int leaf, const Workspace<int>& degree) noexcept {
   for (const int w : graph.neighbours(leaf)) {
-    if (degree[w] != kRemoved) return w;
+    if (degree[w] != kNone) return w;
   }
   return kNone;
 }
 
 // Removes vertices with at most one neighbour left, until there are none. degree[v] becomes the number of neighbours
-// left, kRemoved for what was removed. Returns how many those are; they have the first steps of the ordering.
+// left, kNone for what was removed. Returns how many those are; they have the first steps of the ordering.
 int peel_leaves(const Graph& graph, const Ordering& ordering, Workspace<int>& degree) noexcept {
   int step = 0;
   for (int v = 0; v < graph.size(); ++v) degree[v] = graph.degree(v);
   for (int first = 0; first < graph.size(); ++first) {
     // Up the branch for as long as it has no other.
-    for (int v = first; v != kNone && degree[v] != kRemoved && degree[v] <= 1;) {
+    for (int v = first; v != kNone && degree[v] != kNone && degree[v] <= 1;) {
       const int parent = neighbour_left(graph, v, degree);
-      degree[v] = kRemoved;
+      degree[v] = kNone;
       ordering.place(v, step++);
       if (parent != kNone) --degree[parent];
       v = parent;
@@ -100,7 +98,7 @@ Outcome order_tree(const Graph& graph, const Ordering& ordering) noexcept {
   if (!core || !order) return Outcome::kOutOfMemory;
   int count = 0;
   for (int v = 0; v < graph.size(); ++v) {
-    if (number[v] == kRemoved) continue;
+    if (number[v] == kNone) continue;
     number[v] = count;
     core[count++] = v;
   }

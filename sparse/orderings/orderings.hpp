@@ -14,8 +14,8 @@ namespace quorin::sparse {
 Outcome order_metis(const Graph& graph, const Ordering& ordering) noexcept;
 
 // Approximate minimum degree by AMD with its default settings, on the graph of A + A^T for a square pattern.
-// `code` is what AMD returned, 0 if it was not called. kBadPattern, kOutOfMemory.
-Outcome order_amd(const Pattern& pattern, const Ordering& ordering, int& code) noexcept;
+// kBadPattern, kOutOfMemory, kFailed.
+Outcome order_amd(const Pattern& pattern, const Ordering& ordering) noexcept;
 
 // Columns, by COLAMD with its default settings: for LU with row exchanges, or the Cholesky factor of A^T A. The pattern
 // may be rectangular; the ordering is one of its columns. kBadPattern, kOutOfMemory, kTooLarge, kFailed.

@@ -1,4 +1,4 @@
-// Patterns of sparse matrices, and their adjacency graphs.
+// Adjacency graphs of sparse matrices, and orders of elimination.
 #pragma once
 
 #include <cstdint>
@@ -6,31 +6,15 @@
 #include <utility>
 
 #include "base/workspace.hpp"
+#include "sparse/pattern/compressed.hpp"
 
 namespace quorin::sparse {
 
-enum class Outcome {
-  kDone,
-  kOutOfMemory,
-  kBadPattern,  // column starts that decrease or begin elsewhere than at 0, an index outside the matrix, not square
-  kTooLarge,    // more entries than the 32-bit indices can count
-  kFailed,      // a library that we call gave up
-};
-
-// The pattern of a rows x columns matrix in compressed columns, zero-based; borrowed. Column j has the rows
-// indices[starts[j]], ..., indices[starts[j + 1] - 1], in any order and perhaps more than once.
-struct Pattern {
-  int rows = 0;
-  int columns = 0;
-  const int* starts = nullptr;
-  const int* indices = nullptr;
-
-  int entries() const noexcept { return starts[columns]; }
-  std::span<const int> column(int j) const noexcept {
-    return {indices + starts[j], static_cast<std::size_t>(starts[j + 1] - starts[j])};
-  }
-  // kDone or kBadPattern. Time: O(columns + entries).
-  Outcome check() const noexcept;
+enum class [[nodiscard]] Outcome{
+    kDone,       kOutOfMemory,
+    kBadPattern,  // column starts that decrease or begin elsewhere than at 0, an index outside the matrix, not square
+    kTooLarge,    // more entries than the 32-bit indices can count
+    kFailed,      // a library that we call gave up
 };
 
 // An undirected graph: each edge in the lists of both its ends, no vertex in its own list, lists ascending.

@@ -7,8 +7,6 @@
 
 namespace quorin::sparse {
 
-inline constexpr int kNone = -1;
-
 // The tree of P A P^T, where the graph is A's: parent[k] is the row of the first entry below the diagonal in column k
 // of the factor, kNone at a root. Nodes are steps of the ordering. `scratch`: n. Time: O(edges log n), near linear in
 // practice. Liu, ACM TOMS 12 (1986).

@@ -1,6 +1,7 @@
 // Graphs, elimination trees and counts against elimination on sets.
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <numeric>
 #include <set>
 
@@ -69,6 +70,53 @@ TEST(Graph, OfWrongPatternsIsRefused) {
     EXPECT_EQ(build_graph(read_columns(name).pattern(), graph), Outcome::kBadPattern) << name;
   }
   EXPECT_EQ(build_graph({-1, -1, nullptr, nullptr}, graph), Outcome::kBadPattern);
+}
+
+// Each rule alone, and where it is broken.
+TEST(Compressed, TellsTheRuleThatIsBroken) {
+  using Fault = PatternFault;
+  const PatternRules plain, one_based{.base = 1}, later{.base = 1, .begins_at_base = false};
+  const PatternRules full{.has_no_empty_list = true}, ascending{.ascends = true}, lower{.is_lower = true};
+  const PatternRules diagonal{.base = 1, .has_diagonal = true};
+  const struct {
+    int m;
+    std::vector<int> starts, indices;
+    PatternRules rules;
+    Fault fault;
+    int list, entry;
+  } cases[] = {
+      {3, {0, 2, 2, 3}, {2, 0, 2}, plain, Fault::kNoFault, kNone, kNone},
+      {3, {1, 3, 3, 4}, {3, 1, 3}, one_based, Fault::kNoFault, kNone, kNone},
+      {3, {3, 4, 4, 4}, {9, 9, 3}, later, Fault::kNoFault, kNone, kNone},
+      {0, {0, 0}, {}, plain, Fault::kNoFault, kNone, kNone},
+      {-1, {0, 0}, {}, plain, Fault::kNegativeSize, kNone, kNone},
+      {3, {1, 2}, {0, 0}, plain, Fault::kFirstStart, 0, kNone},
+      {3, {0, 1}, {1}, later, Fault::kFirstStart, 0, kNone},
+      {3, {0, 2, 1}, {0, 1}, plain, Fault::kDecreasingStarts, 1, kNone},
+      {3, {0, 1, 1}, {0}, full, Fault::kEmptyList, 1, kNone},
+      {3, {0, 1, 3}, {0, 2, 3}, plain, Fault::kOutside, 1, 2},
+      {3, {0, 1, 3}, {0, -1, 2}, plain, Fault::kOutside, 1, 1},
+      {3, {1, 2, 4}, {1, 0, 3}, one_based, Fault::kOutside, 1, 1},
+      {3, {1, 2, 4}, {1, 3, 4}, one_based, Fault::kOutside, 1, 2},
+      {3, {1, 2}, {std::numeric_limits<int>::min()}, one_based, Fault::kOutside, 0, 0},
+      {3, {1, 2}, {std::numeric_limits<int>::max()}, one_based, Fault::kOutside, 0, 0},
+      {0, {0, 1}, {0}, plain, Fault::kOutside, 0, 0},
+      {3, {0, 2, 3}, {0, 0, 2}, ascending, Fault::kNotAscending, 0, 1},
+      {3, {0, 2, 4}, {1, 2, 2, 0}, ascending, Fault::kNotAscending, 1, 3},
+      {3, {0, 2, 4}, {0, 2, 2, 0}, lower, Fault::kAboveDiagonal, 1, 3},
+      {3, {1, 3, 4}, {2, 1, 1}, diagonal, Fault::kNoDiagonal, 1, kNone},
+  };
+  for (const auto& c : cases) {
+    const int n = static_cast<int>(c.starts.size()) - 1;
+    const PatternCheck check = check_compressed(n, c.m, c.starts.data(), c.indices.data(), c.rules);
+    EXPECT_EQ(check.fault, c.fault) << "case " << &c - cases;
+    EXPECT_EQ(check.list, c.list) << "case " << &c - cases;
+    EXPECT_EQ(check.entry, c.entry) << "case " << &c - cases;
+  }
+  const int starts[] = {0, 1};
+  EXPECT_EQ(check_starts(1, nullptr).fault, Fault::kMissingArray);
+  EXPECT_EQ(check_compressed(1, 1, starts, nullptr).fault, Fault::kMissingArray);
+  EXPECT_EQ(check_starts(-1, starts).fault, Fault::kNegativeSize);
 }
 
 struct Factor {

@@ -114,11 +114,10 @@ TEST(Amd, IsItsOrder) {
   matrices.insert(matrices.end(), {grid(316, 316, 1, false), grid(46, 46, 46, false), Matrix{}});
   for (const Matrix& A : matrices) {
     Arrays ours(A.columns), theirs(A.columns);
-    int code = -7;
-    ASSERT_EQ(order_amd(A.pattern(), ours.ordering(), code), Outcome::kDone);
+    ASSERT_EQ(order_amd(A.pattern(), ours.ordering()), Outcome::kDone);
     if (A.columns > 0) {
-      EXPECT_EQ(code,
-                amd_order(A.columns, A.starts.data(), A.indices.data(), theirs.permutation.data(), nullptr, nullptr));
+      EXPECT_GE(amd_order(A.columns, A.starts.data(), A.indices.data(), theirs.permutation.data(), nullptr, nullptr),
+                AMD_OK);
     }
     EXPECT_TRUE(ours.is_valid()) << A.name;
     EXPECT_EQ(ours.permutation, theirs.permutation) << A.name;

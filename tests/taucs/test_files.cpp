@@ -67,6 +67,20 @@ TEST(Ijv, BothIndexBasesGiveTheSameRecord) {
   expect_record(read(taucs_ccs_read_ijv_zero_based, "0 0 1.5\n2.9 0 -2\n2 2 7 # ends here\n9 9 9", 2056), expected);
 }
 
+// An index that no file of this size could mean takes no memory.
+TEST(Ijv, TakesAnEnormousIndexForASlip) {
+  for (const char* const text : {"100000000 1 5\n", "1 100000000 5\n1 1 1\n", "1000001 1 5\n", "2147483646 1 5\n"}) {
+    EXPECT_EQ(read(taucs_ccs_read_ijv, text, TAUCS_DOUBLE), nullptr) << text;
+    EXPECT_EQ(read(taucs_ccs_read_mtx, std::string("1 1 1 ") + text, TAUCS_DOUBLE), nullptr) << text;
+  }
+  const Matrix A = read(taucs_ccs_read_ijv, "1000000 1 5\n", TAUCS_DOUBLE);
+  ASSERT_NE(A, nullptr);
+  EXPECT_EQ(A->n, 1000000);
+  std::string text;
+  for (int k = 0; k < 40000; ++k) text += std::to_string(50 * k + 1) + " 1 1\n";
+  EXPECT_NE(read(taucs_ccs_read_ijv, text, TAUCS_DOUBLE), nullptr);
+}
+
 TEST(Ijv, ComplexValuesAreTwoNumbers) {
   expect_record(read(taucs_ccs_read_ijv, "1 1 2 0\n2 1 3 -4\n1 2 3 4\n2 2 5", TAUCS_DCOMPLEX | TAUCS_HERMITIAN),
                 {1, 2, TAUCS_DCOMPLEX | kHermitianLower, {0, 2, 2}, {0, 1}, {2, 0, 3, -4}});

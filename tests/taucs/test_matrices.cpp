@@ -15,6 +15,36 @@ static_assert(sizeof(void*) != 4 || sizeof(taucs_ccs_matrix) == 24);
 static_assert(offsetof(taucs_ccs_matrix, n) == 0 && offsetof(taucs_ccs_matrix, m) == 4 &&
               offsetof(taucs_ccs_matrix, flags) == 8);
 
+// The typed routines under one name.
+template <class T>
+struct Typed {
+  static constexpr auto create = taucs_dccs_create;
+  static constexpr auto transpose = taucs_dccs_transpose;
+  static constexpr auto permute_symmetrically = taucs_dccs_permute_symmetrically;
+  static constexpr auto split = taucs_dccs_split;
+  static constexpr auto times_vec = taucs_dccs_times_vec;
+  static constexpr auto times_vec_many = taucs_dccs_times_vec_many;
+  static constexpr auto augment = taucs_dccs_augment_nonpositive_offdiagonals;
+  static constexpr auto create_vector = taucs_dvec_create;
+  static constexpr auto axpby = taucs_dvec_axpby;
+  static constexpr auto permute = taucs_dvec_permute;
+  static constexpr auto ipermute = taucs_dvec_ipermute;
+};
+template <>
+struct Typed<Complex> {
+  static constexpr auto create = taucs_zccs_create;
+  static constexpr auto transpose = taucs_zccs_transpose;
+  static constexpr auto permute_symmetrically = taucs_zccs_permute_symmetrically;
+  static constexpr auto split = taucs_zccs_split;
+  static constexpr auto times_vec = taucs_zccs_times_vec;
+  static constexpr auto times_vec_many = taucs_zccs_times_vec_many;
+  static constexpr auto augment = taucs_zccs_augment_nonpositive_offdiagonals;
+  static constexpr auto create_vector = taucs_zvec_create;
+  static constexpr auto axpby = taucs_zvec_axpby;
+  static constexpr auto permute = taucs_zvec_permute;
+  static constexpr auto ipermute = taucs_zvec_ipermute;
+};
+
 constexpr int kStructures[] = {0, TAUCS_SYMMETRIC, TAUCS_HERMITIAN};
 constexpr int kSizes[] = {0, 1, 2, 9, 40};
 
@@ -36,6 +66,24 @@ class TypedMatrices : public testing::Test {
 using Types = testing::Types<double, Complex>;
 TYPED_TEST_SUITE(TypedMatrices, Types);
 
+// Numbers as the headers declare them.
+double* scalars(std::vector<double>& x) { return x.data(); }
+const double* scalars(const std::vector<double>& x) { return x.data(); }
+quorin_double_complex* scalars(std::vector<Complex>& x) { return reinterpret_cast<quorin_double_complex*>(x.data()); }
+const quorin_double_complex* scalars(const std::vector<Complex>& x) {
+  return reinterpret_cast<const quorin_double_complex*>(x.data());
+}
+
+// Whether two matrices are the same to the last bit of their records.
+template <class T>
+bool are_same(const Matrix& A, const Matrix& B) {
+  if (A == nullptr || B == nullptr) return A == B;
+  const int nnz = A->colptr[A->n];
+  return A->n == B->n && A->m == B->m && A->flags == B->flags &&
+         std::equal(A->colptr, A->colptr + A->n + 1, B->colptr) && std::equal(A->rowind, A->rowind + nnz, B->rowind) &&
+         std::equal(values<T>(*A), values<T>(*A) + nnz, values<T>(*B));
+}
+
 template <class T>
 std::vector<T> product(const Dense<T>& A, const T* x, int length) {
   std::vector<T> b(length);
@@ -51,7 +99,10 @@ TYPED_TEST(TypedMatrices, Product) {
     std::vector<TypeParam> b(std::max(A.m, A.n) + 1, TypeParam{77});
     // Of the rows beyond n only those with entries are the library's to clear.
     for (int i = A.n; i < A.m; ++i) b[i] = TypeParam{};
+    std::vector<TypeParam> typed = b;
     taucs_ccs_times_vec(&A, x.data(), b.data());
+    Typed<TypeParam>::times_vec(&A, scalars(x), scalars(typed));
+    EXPECT_EQ(typed, b);
     EXPECT_EQ(b.back(), TypeParam{77});
     b.pop_back();
     EXPECT_EQ(b, product(Dense<TypeParam>(A), x.data(), std::max(A.m, A.n)));
@@ -73,6 +124,9 @@ TYPED_TEST(TypedMatrices, ProductWithManyVectors) {
     const auto X = whole_vector<TypeParam>(kCount * A.n, this->random_);
     std::vector<TypeParam> B(X.size(), TypeParam{77});
     taucs_ccs_times_vec_many(&A, kCount, X.data(), B.data());
+    std::vector<TypeParam> typed(X.size(), TypeParam{77});
+    Typed<TypeParam>::times_vec_many(&A, kCount, scalars(X), scalars(typed));
+    EXPECT_EQ(typed, B);
     for (int k = 0; k < kCount; ++k) {
       const auto b = product(Dense<TypeParam>(A), X.data() + k * A.n, A.n);
       EXPECT_TRUE(std::equal(b.begin(), b.end(), B.begin() + k * A.n)) << "column " << k;
@@ -84,6 +138,7 @@ TYPED_TEST(TypedMatrices, Transpose) {
   const auto check = [](const taucs_ccs_matrix& A) {
     const Matrix B(taucs_ccs_transpose(&A));
     ASSERT_NE(B, nullptr);
+    EXPECT_TRUE(are_same<TypeParam>(B, Matrix(Typed<TypeParam>::transpose(&A))));
     const Dense<TypeParam> a(A), b(*B);
     ASSERT_EQ(b.m, a.n);
     ASSERT_EQ(b.n, a.m);
@@ -109,6 +164,8 @@ TYPED_TEST(TypedMatrices, SymmetricPermutation) {
     for (int i = 0; i < A.n; ++i) invperm[perm[i]] = i;
     const Matrix B(taucs_ccs_permute_symmetrically(&A, perm.data(), invperm.data()));
     ASSERT_EQ(B != nullptr, (A.flags & TAUCS_LOWER) != 0);
+    EXPECT_TRUE(
+        are_same<TypeParam>(B, Matrix(Typed<TypeParam>::permute_symmetrically(&A, perm.data(), invperm.data()))));
     if (B == nullptr) return;
     EXPECT_EQ(B->flags, A.flags);
     const Dense<TypeParam> a(A), b(*B);
@@ -123,6 +180,7 @@ TYPED_TEST(TypedMatrices, Augmentation) {
   this->for_square_matrices([&](const taucs_ccs_matrix& A) {
     const Matrix M(taucs_ccs_augment_nonpositive_offdiagonals(&A));
     ASSERT_EQ(M != nullptr, (A.flags & TAUCS_LOWER) != 0);
+    EXPECT_TRUE(are_same<TypeParam>(M, Matrix(Typed<TypeParam>::augment(&A))));
     if (M == nullptr) return;
     EXPECT_EQ(M->flags, A.flags);
     ASSERT_EQ(M->n, 2 * A.n);
@@ -147,6 +205,8 @@ TYPED_TEST(TypedMatrices, SplitKeepsEveryEntry) {
       taucs_ccs_split(A.get(), &left, &right, p);
       const Matrix L(left), R(right);
       ASSERT_TRUE(L != nullptr && R != nullptr);
+      Typed<TypeParam>::split(A.get(), &left, &right, p);
+      EXPECT_TRUE(are_same<TypeParam>(L, Matrix(left)) && are_same<TypeParam>(R, Matrix(right)));
       EXPECT_EQ(L->flags, kType<TypeParam> | TAUCS_LOWER);
       EXPECT_EQ(R->flags, A->flags);
       ASSERT_EQ(L->m, 12);
@@ -182,6 +242,17 @@ TYPED_TEST(TypedMatrices, Vectors) {
     taucs_vec_ipermute(n, kType<TypeParam>, permuted.data(), back.data(), p.data());
     EXPECT_EQ(back, x);
     taucs_vec_axpby(n, kType<TypeParam>, 2.0, x.data(), -3.0, sum.data(), sum.data());
+    std::vector<TypeParam> typed(n);
+    Typed<TypeParam>::permute(n, scalars(x), scalars(typed), p.data());
+    EXPECT_EQ(typed, permuted);
+    Typed<TypeParam>::ipermute(n, scalars(permuted), scalars(typed), p.data());
+    EXPECT_EQ(typed, x);
+    Typed<TypeParam>::axpby(n, 2.0, scalars(x), -3.0, scalars(y), scalars(typed));
+    EXPECT_EQ(typed, sum);
+    void* const typed_vector = Typed<TypeParam>::create_vector(n);
+    ASSERT_NE(typed_vector, nullptr);
+    std::memset(typed_vector, 0, n * sizeof(TypeParam));
+    std::free(typed_vector);
     double squares = 0;
     for (int i = 0; i < n; ++i) {
       EXPECT_EQ(permuted[i], x[p[i]]);
@@ -194,6 +265,81 @@ TYPED_TEST(TypedMatrices, Vectors) {
     std::copy(x.begin(), x.end(), made);
     std::free(made);
   }
+}
+
+// The typed routines leave the other type alone.
+TYPED_TEST(TypedMatrices, OfTheOtherTypeAreRefused) {
+  using Other = std::conditional_t<std::is_same_v<TypeParam, double>, Complex, double>;
+  using Routines = Typed<TypeParam>;
+  const Matrix empty(Routines::create(3, 2, 0)), A = random_matrix<Other>(4, 4, TAUCS_SYMMETRIC, this->random_);
+  ASSERT_NE(empty, nullptr);
+  EXPECT_TRUE(empty->m == 3 && empty->n == 2 && empty->flags == kType<TypeParam>);
+  EXPECT_EQ(Routines::create(3, -1, 0), nullptr);
+  EXPECT_EQ(Routines::create_vector(-1), nullptr);
+  const std::vector<int> p = {0, 1, 2, 3};
+  for (const taucs_ccs_matrix* matrix : {A.get(), static_cast<taucs_ccs_matrix*>(nullptr)}) {
+    EXPECT_EQ(Routines::transpose(matrix), nullptr);
+    EXPECT_EQ(Routines::permute_symmetrically(matrix, p.data(), p.data()), nullptr);
+    EXPECT_EQ(Routines::augment(matrix), nullptr);
+    taucs_ccs_matrix *left = A.get(), *right = A.get();
+    Routines::split(matrix, &left, &right, 2);
+    EXPECT_TRUE(left == nullptr && right == nullptr);
+    const std::vector<TypeParam> x(4, TypeParam{1}), sevens(4, TypeParam{77});
+    std::vector<TypeParam> b = sevens;
+    Routines::times_vec(matrix, scalars(x), scalars(b));
+    EXPECT_EQ(b, sevens);
+  }
+  taucs_dccs_free(nullptr);
+}
+
+// Records whose n and m are exchanged, as the readers of triplets leave them, and records with entries outside.
+TYPED_TEST(TypedMatrices, WhoseEntriesLieBesideTheRecord) {
+  const std::string imaginary = std::is_same_v<TypeParam, double> ? "\n" : " 0\n";
+  const TemporaryFile file("5 1 5" + imaginary + "2 3 1" + imaginary);
+  const Matrix tall(taucs_ccs_read_ijv(file.name(), kType<TypeParam>));
+  ASSERT_TRUE(tall != nullptr && tall->n == 5 && tall->m == 3);
+  const Matrix B(taucs_ccs_transpose(tall.get()));
+  ASSERT_NE(B, nullptr);
+  tall->m = 5;
+  const Dense<TypeParam> a(*tall), b(*B);
+  ASSERT_TRUE(b.m == 5 && b.n == 5);
+  for (int j = 0; j < 5; ++j) {
+    for (int i = 0; i < 5; ++i) EXPECT_EQ(b.at(j, i), a.at(i, j));
+  }
+
+  const int order = 6;
+  std::vector<int> p(order);
+  std::iota(p.begin(), p.end(), 0);
+  const auto expect_refused = [&](const taucs_ccs_matrix& A) {
+    EXPECT_EQ(taucs_ccs_transpose(&A), nullptr);
+    EXPECT_EQ(taucs_ccs_permute_symmetrically(&A, p.data(), p.data()), nullptr);
+    EXPECT_EQ(taucs_ccs_augment_nonpositive_offdiagonals(&A), nullptr);
+    taucs_ccs_matrix *left = nullptr, *right = nullptr;
+    taucs_ccs_split(&A, &left, &right, 2);
+    EXPECT_TRUE(left == nullptr && right == nullptr);
+  };
+  for (const int wrong : {-1, order, 1 << 30}) {
+    const Matrix A = random_matrix<TypeParam>(order, order, TAUCS_SYMMETRIC, this->random_);
+    A->rowind[A->colptr[order] - 1] = wrong;
+    expect_refused(*A);
+  }
+  const Matrix A = random_matrix<TypeParam>(order, order, TAUCS_SYMMETRIC, this->random_);
+  for (const int wrong : {-1, order}) {
+    std::vector<int> inverse = p;
+    inverse[order - 1] = wrong;
+    EXPECT_EQ(taucs_ccs_permute_symmetrically(A.get(), p.data(), inverse.data()), nullptr);
+  }
+  A->colptr[1] = A->colptr[2] + 1;
+  expect_refused(*A);
+}
+
+TEST(Matrices, SplitRefusesAnUpperEntry) {
+  const TemporaryFile file("2 0 1 2 0 0 1.5 2.5");
+  const Matrix A(taucs_ccs_read_ccs(file.name(), TAUCS_DOUBLE));
+  ASSERT_NE(A, nullptr);
+  taucs_ccs_matrix *left = nullptr, *right = nullptr;
+  taucs_ccs_split(A.get(), &left, &right, 1);
+  EXPECT_TRUE(left == nullptr && right == nullptr);
 }
 
 TEST(Vectors, NormAtTheEndsOfTheRange) {
@@ -222,6 +368,21 @@ TEST(Matrices, RowsAreRenumberedInPlace) {
   for (int j = 0; j < 4; ++j) {
     for (int i = 0; i < 6; ++i) EXPECT_EQ(after.at(perm[i], j), before.at(i, j));
   }
+  // Nothing is touched where a row, or what it would become, lies outside.
+  const std::vector<int> rows(A->rowind, A->rowind + A->colptr[4]);
+  const auto expect_unchanged = [&](const int* permutation) {
+    taucs_ccs_permute_rows_inplace(A.get(), permutation);
+    EXPECT_EQ(std::vector<int>(A->rowind, A->rowind + A->colptr[4]), rows);
+  };
+  for (const int wrong : {-1, 6}) {
+    std::vector<int> permutation(perm, perm + 6);
+    permutation[rows.back()] = wrong;
+    expect_unchanged(permutation.data());
+  }
+  const int largest = *std::max_element(rows.begin(), rows.end());
+  A->m = largest;
+  expect_unchanged(std::vector<int>(perm, perm + largest).data());
+  A->m = 6;
 }
 
 TEST(Matrices, CreationNeedsATypeAndMemory) {

@@ -113,6 +113,16 @@ TEST(Orderings, OfMatricesAtTheEdge) {
   }
 }
 
+// The last diagonal entry of a symmetric file may be missing: n is its order, m less.
+TEST(Orderings, OfRecordsWithFewerColumnsThanRows) {
+  const TemporaryFile triangle("4 4 6\n1 1 2\n2 1 1\n3 2 1\n4 3 1\n"), general("1 1 2\n4 1 1\n3 2 1\n");
+  const Matrix A(taucs_ccs_read_mtx(triangle.name(), TAUCS_DOUBLE | TAUCS_SYMMETRIC));
+  const Matrix B(taucs_ccs_read_ijv(general.name(), TAUCS_DOUBLE));
+  ASSERT_TRUE(A != nullptr && A->n == 4 && A->m == 3 && B != nullptr && B->n == 4 && B->m == 2);
+  for (const char* name : kSymmetricOrderings) EXPECT_TRUE(Ordering(A.get(), name).is_valid(4)) << name;
+  EXPECT_TRUE(Ordering(B.get(), "colamd").is_valid(4));
+}
+
 TEST(Orderings, RefusePatternsThatAreNone) {
   std::vector<Matrix> matrices;
   matrices.push_back(pattern(2, kLowerSymmetric, {{0}, {2}}));

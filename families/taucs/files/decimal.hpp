@@ -10,7 +10,7 @@
 
 namespace quorin::taucs {
 
-/// The decimal digits at the start of eight characters.
+// The decimal digits at the start of eight characters.
 struct Digits {
   std::uint32_t value;
   int count;
@@ -47,7 +47,7 @@ constexpr double product_error(double x, double y, double product) noexcept {
 constexpr std::array<double, 23> kPowersOfTen{1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
                                               1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 
-/// A positive number to 106 bits, the sum of two doubles.
+// A positive number to 106 bits, the sum of two doubles.
 struct TwoDoubles {
   double high, low;
 };
@@ -60,9 +60,9 @@ constexpr auto kInversePowersOfTen = [] {
   return inverses;
 }();
 
-/// value <- whole * 10^exponent, correctly rounded; false if that is hard to tell. Where the number and the power of
-/// ten are both exact, one operation is enough: W. D. Clinger, How to read floating point numbers accurately, PLDI
-/// (1990) 92-101. Else a product of twice the precision tells, unless it is as good as half-way between two doubles.
+// value <- whole * 10^exponent, correctly rounded; false if that is hard to tell. Where the number and the power of
+// ten are both exact, one operation is enough: W. D. Clinger, How to read floating point numbers accurately, PLDI
+// (1990) 92-101. Else a product of twice the precision tells, unless it is as good as half-way between two doubles.
 inline bool scale_by_power_of_ten(std::uint64_t whole, int exponent, double& value) noexcept {
   const auto size = static_cast<std::size_t>(std::abs(exponent));
   if (size >= kPowersOfTen.size()) return false;

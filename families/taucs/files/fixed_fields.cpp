@@ -85,7 +85,7 @@ bool FieldFormat::parse(std::string_view text) noexcept {
          width > 0 && width <= kWidest && decimals >= 0 && decimals <= kWidest;
 }
 
-bool parse_field(std::string_view field, std::int32_t& number) noexcept {
+bool parse_field(std::string_view field, int& number) noexcept {
   field = trimmed(field);
   const char* const end = field.data() + field.size();
   return !field.empty() && parse_number(field.data(), end, number) == end;
@@ -98,7 +98,7 @@ bool parse_field(std::string_view field, const FieldFormat& format, double& numb
   const std::size_t mark = field.find_first_of("EeDdQq+-", 1);
   const std::string_view mantissa = field.substr(0, mark);
   if (mantissa.find_first_not_of("+-.0123456789") != std::string_view::npos) return false;
-  std::int32_t exponent = 0;
+  int exponent = 0;
   if (mark != std::string_view::npos) {
     std::string_view written = field.substr(mark);
     if (written.front() != '+' && written.front() != '-') written.remove_prefix(1);

@@ -132,7 +132,7 @@ const char* parse_usual(const char* p, double& value) noexcept {
   std::uint64_t number = 0;
   int count = append_digits(p, number);
   if (*p <= ' ' && count > 0 && count < 10) {  // most are indices
-    value = static_cast<std::int32_t>(number);
+    value = static_cast<int>(number);
     return p;
   }
   int exponent = 0;
@@ -170,7 +170,7 @@ const char* parse_number(const char* begin, const char* end, double& value) noex
   return stop;
 }
 
-const char* parse_number(const char* begin, const char* end, std::int32_t& value) noexcept {
+const char* parse_number(const char* begin, const char* end, int& value) noexcept {
   if (begin != end && *begin == '+') {
     ++begin;
     if (begin == end || !is_digit(*begin)) return nullptr;

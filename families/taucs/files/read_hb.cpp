@@ -7,8 +7,7 @@
 #include "families/taucs/files/files.hpp"
 #include "families/taucs/files/fixed_fields.hpp"
 #include "families/taucs/files/text_scanner.hpp"
-#include "families/taucs/messages.hpp"
-#include "families/taucs/pattern_check.hpp"
+#include "sparse/sparse.hpp"
 
 namespace quorin::taucs {
 namespace {
@@ -23,7 +22,7 @@ char lower(char c) noexcept { return c >= 'A' && c <= 'Z' ? static_cast<char>(c 
 
 struct Header {
   char value_type = '\0', structure = '\0';  // lower case
-  std::int32_t m = 0, n = 0, nnz = 0;
+  int m = 0, n = 0, nnz = 0;
   FieldFormat pointers, rows, values;
 
   bool is_pattern() const noexcept { return value_type == 'p'; }
@@ -32,7 +31,7 @@ struct Header {
   bool read(TextScanner& text) noexcept {
     std::string_view line;
     if (!text.next_line(line) || !text.next_line(line)) return false;  // the title, the numbers of lines
-    std::int32_t right_hand_side_lines = 0;
+    int right_hand_side_lines = 0;
     parse_field(columns(line, 4 * kCountWidth, kCountWidth), right_hand_side_lines);
     return text.next_line(line) && read_type(line) && text.next_line(line) && read_formats(line) &&
            (right_hand_side_lines <= 0 || text.next_line(line));
@@ -43,7 +42,7 @@ struct Header {
     if (line.size() < 3 || lower(line[2]) != 'a') return false;  // elemental matrices are not assembled
     value_type = lower(line[0]);
     structure = lower(line[1]);
-    const auto count = [&](std::size_t position, std::int32_t& number) {
+    const auto count = [&](std::size_t position, int& number) {
       return parse_field(columns(line, position * kCountWidth, kCountWidth), number) && number >= 0;
     };
     const bool has_known_type = value_type == 'p' || value_type == 'r' || value_type == 'c';
@@ -59,9 +58,7 @@ struct Header {
   }
 };
 
-bool convert(std::string_view field, const FieldFormat&, std::int32_t& number) noexcept {
-  return parse_field(field, number);
-}
+bool convert(std::string_view field, const FieldFormat&, int& number) noexcept { return parse_field(field, number); }
 bool convert(std::string_view field, const FieldFormat& format, double& number) noexcept {
   return parse_field(field, format, number);
 }
@@ -82,9 +79,9 @@ bool read_section(TextScanner& text, const FieldFormat& format, std::size_t coun
 }
 
 // Indices, counted from one in the file. What is out of range is found when the pattern is checked.
-bool read_indices(TextScanner& text, const FieldFormat& format, std::int32_t* indices, std::size_t count) noexcept {
+bool read_indices(TextScanner& text, const FieldFormat& format, int* indices, std::size_t count) noexcept {
   bool is_good = true;
-  const bool is_read = read_section<std::int32_t>(text, format, count, [&](std::size_t k, std::int32_t number) {
+  const bool is_read = read_section<int>(text, format, count, [&](std::size_t k, int number) {
     is_good = is_good && number > 0;
     indices[k] = is_good ? number - 1 : -1;
   });
@@ -105,53 +102,42 @@ bool read_values(TextScanner& text, const Header& header, T* values) noexcept {
 
 bool read_body(TextScanner& text, const Header& header, CcsMatrix& A) noexcept {
   if (!read_indices(text, header.pointers, A.colptr, static_cast<std::size_t>(A.n) + 1) ||
-      !are_column_starts(A.colptr, A.n) || A.colptr[A.n] != header.nnz ||
-      !read_indices(text, header.rows, A.rowind, static_cast<std::size_t>(header.nnz)) ||
-      !are_rows_of(A.rowind, header.nnz, A.m)) {
+      A.colptr[A.n] != header.nnz || !read_indices(text, header.rows, A.rowind, static_cast<std::size_t>(header.nnz)) ||
+      !sparse::check_compressed(A.n, A.m, A.colptr, A.rowind)) {
     return false;
   }
   return A.has(kDcomplex) ? read_values(text, header, A.values.z) : read_values(text, header, A.values.d);
 }
 
 // The flags of the matrix. What cannot be asked for stops the process.
-std::int32_t matrix_flags(const Header& header, std::int32_t requested) noexcept {
+int matrix_flags(const Header& header, int requested) noexcept {
   const bool wants_complex = (requested & kDcomplex) != 0;
   if (!wants_complex && ((requested & kDouble) == 0 || header.is_complex())) {
     platform::fail_assertion("0", kFilesSource, __LINE__);
   }
-  std::int32_t flags = kDouble;
-  if (header.value_type == 'r' && wants_complex) {
-    print("taucs_ccs_read_hb: warning: requested a complex type, matrix is real\n");
-  } else if (wants_complex) {
-    flags = kDcomplex;
-  }
+  int flags = wants_complex && header.value_type != 'r' ? kDcomplex : kDouble;
   if (header.structure == 's') flags |= kSymmetric | kLower;
   if (header.structure == 'h') flags |= kHermitian | kLower;
   return flags;
 }
 
-CcsMatrix* read_hb(platform::File& file, std::int32_t requested) noexcept {
+CcsMatrix* read_hb(platform::File& file, int requested) noexcept {
   TextScanner text(file);
   Header header;
   if (!text || !header.read(text)) return nullptr;
-  const std::int32_t flags = matrix_flags(header, requested);
+  const int flags = matrix_flags(header, requested);
   // A pointer and an index take a character at least, so larger counts are none that this file can have.
   if (static_cast<std::uint64_t>(header.n) + static_cast<std::uint64_t>(header.nnz) > file.size()) return nullptr;
-  CcsMatrix* const A = ccs_create(header.m, header.n, header.nnz, flags);
-  if (A == nullptr || read_body(text, header, *A)) return A;
-  ccs_free(A);
-  return nullptr;
+  OwnedMatrix A(ccs_create(header.m, header.n, header.nnz, flags));
+  return A != nullptr && read_body(text, header, *A) ? A.release() : nullptr;
 }
 
 }  // namespace
 
 CcsMatrix* ccs_read_hb(const char* filename, std::int32_t flags) noexcept {
-  print("taucs_ccs_read_hb: reading HB matrix %s\n", filename);
   platform::File file;
   file.open_for_reading(filename);
-  CcsMatrix* const A = file ? read_hb(file, flags) : nullptr;
-  print(A != nullptr ? "taucs_ccs_read_hb: done reading\n" : "taucs_ccs_read_hb: no HB matrix, or out of memory\n");
-  return A;
+  return file ? read_hb(file, flags) : nullptr;
 }
 
 }  // namespace quorin::taucs

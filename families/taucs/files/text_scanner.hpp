@@ -17,11 +17,11 @@ class TextScanner {
     position_ = end_ = buffer_.data();
   }
 
-  /// False if there is no memory for the buffer; then there is nothing to read.
+  // False if there is no memory for the buffer; then there is nothing to read.
   explicit operator bool() const noexcept { return static_cast<bool>(buffer_); }
 
-  /// The next number, an int or a double, behind any blanks and line ends. False at the end of the file and where
-  /// something else stands.
+  // The next number, an int or a double, behind any blanks and line ends. False at the end of the file and where
+  // something else stands.
   template <class Number>
   bool next(Number& number) noexcept {
     skip_blanks();
@@ -34,7 +34,7 @@ class TextScanner {
     return true;
   }
 
-  /// A complex number: its real part, then its imaginary part.
+  // A complex number: its real part, then its imaginary part.
   bool next(std::complex<double>& number) noexcept {
     double real = 0, imaginary = 0;
     const bool is_there = next(real) && next(imaginary);
@@ -42,8 +42,8 @@ class TextScanner {
     return is_there;
   }
 
-  /// The next line without its end, valid until the next call. False at the end of the file, or if the line is longer
-  /// than the buffer.
+  // The next line without its end, valid until the next call. False at the end of the file, or if the line is longer
+  // than the buffer.
   bool next_line(std::string_view& line) noexcept;
 
  private:

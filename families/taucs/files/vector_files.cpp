@@ -3,17 +3,16 @@
 #include "base/workspace.hpp"
 #include "families/taucs/dispatch.hpp"
 #include "families/taucs/files/files.hpp"
-#include "families/taucs/messages.hpp"
 
 namespace quorin::taucs {
 namespace {
 
 // Bytes of n elements of the type that the flags name; without one the process stops.
-std::size_t vector_bytes(std::int32_t n, std::int32_t flags) noexcept {
+std::size_t vector_bytes(int n, int flags) noexcept {
   std::size_t element = 0;
   if ((flags & kDouble) != 0) element = sizeof(double);
   if ((flags & kSingle) != 0) element = sizeof(float);
-  if ((flags & kDcomplex) != 0) element = sizeof(std::complex<double>);
+  if ((flags & kDcomplex) != 0) element = sizeof(Complex);
   if ((flags & kScomplex) != 0) element = sizeof(std::complex<float>);
   if (element == 0) platform::fail_assertion("0", kFilesSource, __LINE__);
   return base::saturating_product(static_cast<std::size_t>(n), element);
@@ -22,7 +21,6 @@ std::size_t vector_bytes(std::int32_t n, std::int32_t flags) noexcept {
 }  // namespace
 
 void* vec_read_binary(std::int32_t n, std::int32_t flags, const char* filename) noexcept {
-  print("taucs_vec_read_binary: reading binary vector %s\n", filename);
   if (n < 0) return nullptr;
   const std::size_t bytes = vector_bytes(n, flags);
   platform::File file;
@@ -36,17 +34,14 @@ void* vec_read_binary(std::int32_t n, std::int32_t flags, const char* filename) 
     base::release(v);
     return nullptr;
   }
-  print("taucs_vec_read_binary: done reading\n");
   return v;
 }
 
 std::int32_t vec_write_binary(std::int32_t n, std::int32_t flags, const void* v, const char* filename) noexcept {
-  print("taucs_vec_write_binary: writing binary vector %s\n", filename);
   const std::size_t bytes = vector_bytes(n < 0 ? 0 : n, flags);
   platform::File file;
   file.open_for_overwriting(filename);
   file.write(v, bytes);
-  print("taucs_vec_read_binary: done reading\n");
   return 0;
 }
 

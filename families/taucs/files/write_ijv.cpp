@@ -4,7 +4,6 @@
 
 #include "families/taucs/dispatch.hpp"
 #include "families/taucs/files/files.hpp"
-#include "families/taucs/messages.hpp"
 
 namespace quorin::taucs {
 namespace {
@@ -14,7 +13,7 @@ class TextWriter {
  public:
   explicit TextWriter(platform::File& file) noexcept : file_(file) {}
 
-  void put(std::int32_t number) noexcept {
+  void put(int number) noexcept {
     take(std::to_chars(end_, buffer_.data() + buffer_.size(), number));
     *end_++ = ' ';
   }
@@ -44,13 +43,13 @@ class TextWriter {
   bool is_good_ = true;
 };
 
-void put_entry(TextWriter& text, std::int32_t i, std::int32_t j, double value) noexcept {
+void put_entry(TextWriter& text, int i, int j, double value) noexcept {
   text.begin_line();
   text.put(i + 1);
   text.put(j + 1);
   text.put(value, '\n');
 }
-void put_entry(TextWriter& text, std::int32_t i, std::int32_t j, std::complex<double> value) noexcept {
+void put_entry(TextWriter& text, int i, int j, Complex value) noexcept {
   text.begin_line();
   text.put(i + 1);
   text.put(j + 1);
@@ -59,18 +58,15 @@ void put_entry(TextWriter& text, std::int32_t i, std::int32_t j, std::complex<do
 }
 
 template <Element T>
-std::int32_t write_ijv(const CcsMatrix& A, const char* filename) noexcept {
+int write_ijv(const CcsMatrix& A, const char* filename) noexcept {
   platform::File file;
   file.open_for_text(filename);
-  if (!file) {
-    print("taucs_ccs_write_ijv: could not open ijv file %s\n", filename);
-    return -1;
-  }
+  if (!file) return -1;
   TextWriter text(file);
   const T* const values = A.elements<T>();
-  for (std::int32_t j = 0; j < A.n; ++j) {
-    for (std::int32_t k = A.colptr[j]; k < A.colptr[j + 1]; ++k) {
-      const std::int32_t i = A.rowind[k];
+  for (int j = 0; j < A.n; ++j) {
+    for (int k = A.colptr[j]; k < A.colptr[j + 1]; ++k) {
+      const int i = A.rowind[k];
       put_entry(text, i, j, values[k]);
       if (A.has(kSymmetric) && i != j) put_entry(text, j, i, values[k]);
     }
@@ -82,7 +78,8 @@ std::int32_t write_ijv(const CcsMatrix& A, const char* filename) noexcept {
 
 std::int32_t ccs_write_ijv(const CcsMatrix* A, const char* filename) noexcept {
   if (A == nullptr) return -1;
-  return dispatch_or_stop(A->flags, kFilesSource, __LINE__, [&]<class T>() { return write_ijv<T>(*A, filename); });
+  return is_complex_or_stop(A->flags, kFilesSource) ? write_ijv<Complex>(*A, filename)
+                                                    : write_ijv<double>(*A, filename);
 }
 
 }  // namespace quorin::taucs

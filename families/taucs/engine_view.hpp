@@ -1,0 +1,35 @@
+// A record as the engine in sparse/ sees it.
+#pragma once
+
+#include "families/taucs/matrix.hpp"
+#include "sparse/sparse.hpp"
+
+namespace quorin::taucs {
+
+inline sparse::Symmetry symmetry_of(const CcsMatrix& A) {
+  if (A.has(kSymmetric)) return sparse::Symmetry::kSymmetric;
+  return A.has(kHermitian) ? sparse::Symmetry::kHermitian : sparse::Symmetry::kGeneral;
+}
+
+// The columns of a matrix of `rows` rows, to be read.
+template <Element T>
+sparse::ColumnMatrix<T> columns_of(const CcsMatrix& A, int rows) {
+  return {{rows, A.n, A.colptr, A.rowind}, A.elements<T>()};
+}
+
+// The columns of a new matrix, to be filled.
+template <Element T>
+sparse::ColumnArrays<T> arrays_of(const CcsMatrix& A) {
+  return {A.colptr, A.rowind, A.elements<T>()};
+}
+
+// The rows that the entries of A need: m, or n where the two are exchanged, as two of the readers leave them. kNone if
+// an entry lies outside of both, or the columns do not follow each other.
+inline int rows_of(const CcsMatrix& A) {
+  for (const int rows : {A.m, A.n}) {
+    if (sparse::check_compressed(A.n, rows, A.colptr, A.rowind)) return rows;
+  }
+  return sparse::kNone;
+}
+
+}  // namespace quorin::taucs
