@@ -5,7 +5,7 @@
 //
 //   0  done
 //   1  input error: fnu < 0, kode not 1 or 2, n < 1, m or id out of range, z = 0 where the function has no value there
-//   2  overflow: a member would exceed exp(700.92), or |z| < 2.2e-305 for H, K and Y; cy holds no result
+//   2  overflow: a member does not fit a double, or |z| < 2.2e-305 for H, K and Y; cy holds no result
 //   3  |z| or fnu + n - 1 above 32767.99: done, with at most half of the digits
 //   4  |z| or fnu + n - 1 above 1073741823.5 (or not a number): no digit would be left, nothing is computed
 //   5  a method did not converge; cy holds no result (docs/accuracy-amos.md says why no input leads to it)

@@ -1,43 +1,23 @@
 // The five Bessel functions: input checks, and each function as a combination of I and K in the right half plane.
-#include <numbers>
+#include <algorithm>
+#include <optional>
 
 #include "families/amos/amos.hpp"
-#include "families/amos/cylinder_ratio.hpp"
+#include "families/amos/combination.hpp"
 #include "families/amos/finish.hpp"
 #include "families/amos/limits.hpp"
+#include "families/amos/second_look.hpp"
 #include "families/amos/sequences.hpp"
 
 namespace quorin::amos {
 namespace {
 
-constexpr double kPi = std::numbers::pi;
-constexpr Complex kImaginary{0.0, 1.0};
-
-// One term of a combination: coefficient * i^(step j) * factor * f_{nu+j}, f being e^-w I or e^w K.
-struct Term {
-  bool used = false;
-  Complex coefficient = 1.0;
-  int step = 0;
-  Scaled factor{1.0};
-
-  Scaled member(int j, Scaled f) const { return f * factor * times_i_power(coefficient, step * (j & 3)); }
-};
-
-// A function at z as the sum of two terms in functions of w, Re w >= 0.
-struct Combination {
-  Complex w;
-  Term i;
-  Term k;
-  bool mirrored = false;  // the function was asked for at the conjugate of the argument
-  bool real = false;      // the function is real there
-  bool unscaled = false;  // kode 1
-  bool is_y = false;
-};
-
 struct Request {
   double nu;
   int kode;
   int n;
+
+  bool scaled() const { return kode == 2; }
 };
 
 struct Result {
@@ -57,7 +37,7 @@ bool accept(Complex z, const Request& request, bool other_input_error, bool sing
       request.kode > 2 || request.n < 1) {
     return stop(Status::kInputError);
   }
-  const double size = std::hypot(z.real(), z.imag());
+  const double size = modulus(z);
   const double order = request.nu + (static_cast<double>(request.n) - 1.0);
   if (!(size <= kRangeLimit) || !(order <= kRangeLimit)) return stop(Status::kNoPrecision);
   if (singular_at_zero && size < kUnderflowGuard) return stop(Status::kOverflow);
@@ -66,102 +46,105 @@ bool accept(Complex z, const Request& request, bool other_input_error, bool sing
   return true;
 }
 
-// In the region of the large-argument expansion e^w itself overflows before I does.
-bool exponential_overflows(const Combination& c, const Request& request) {
-  const double top = request.nu + (request.n - 1);
-  return c.unscaled && c.i.used && c.w.real() > kElim && (top <= 1.0 || top * top <= 2.0 * std::abs(c.w));
-}
-
+// The members of index `from` to `to` - 1 of a combination.
 class Evaluation {
  public:
-  Evaluation(const Combination& c, const Request& request, const Result& result)
-      : c_(c), request_(request), result_(result) {}
+  Evaluation(const Combination& c, const Request& request, bool mirrored, const Result& result)
+      : c_(c), request_(request), mirrored_(mirrored), result_(result) {
+    for (auto [term, factor] : {std::pair{&c_.i, &i_}, std::pair{&c_.k, &k_}}) {
+      if (!term->used) continue;
+      const Complex turn = quarter_turns(static_cast<double>(term->turns) * request.nu);
+      *factor = exponential(term->exponent) * times_i_power(turn * term->size.hi, term->power);
+    }
+  }
 
-  void run() {
-    if (exponential_overflows(c_, request_)) {
-      status_ = Status::kOverflow;
-    } else {
-      if (c_.i.used) descend_i(request_.nu, request_.n, c_.w, [this](int j, Scaled f) { return take_i(j, f); });
-      if (c_.k.used && status_ == Status::kOk) {
-        ascend_k(request_.nu, request_.n, c_.w, [this](int j, Scaled f) { return take_k(j, f); });
-      }
+  void run(int from, int to) {
+    if (c_.i.used) descend_i(request_.nu, from, to, c_.w, [this](int j, Scaled f) { return take_i(j, f); });
+    if (c_.k.used && status_ == Status::kOk) {
+      ascend_k(request_.nu, from, to, c_.w, [this](int j, Scaled f) { return take_k(j, f); });
     }
     if (status_ == Status::kOk) {
-      *result_.nz = underflows_;
+      *result_.nz += underflows_;
     } else {
+      *result_.nz = 0;
       *result_.ierr = static_cast<int>(status_);
     }
   }
 
+  bool is_ok() const { return status_ == Status::kOk; }
+
  private:
-  // The part of I waits in cy until the recurrence for K, which runs the other way, comes by.
+  Scaled i_part(int j, Scaled f) const { return normalized(f * i_ * times_i_power(1.0, c_.i.turns * (j & 3))); }
+  Scaled k_part(int j, Scaled f) const { return normalized(f * k_ * times_i_power(1.0, c_.k.turns * (j & 3))); }
+
+  // The part of I waits in cy until the recurrence for K, which runs the other way, comes by. Near underflow it would
+  // lose digits, and is computed once more then; far below that, only next to a part of K that counts as little.
   bool take_i(int j, Scaled f) {
-    const Scaled part = normalized(c_.i.member(j, f));
-    if (!c_.k.used) return store(j, part);
+    const Scaled part = i_part(j, f);
+    if (!c_.k.used) {
+      const bool small = c_.real ? is_small(j, part.m.real(), part.m) : is_beside_zero(j, f);
+      return store(j, part, small);
+    }
     if (!is_finite(part.m)) status_ = Status::kNotConverged;
-    if (part.e > 1020) status_ = Status::kOverflow;
-    result_.cy[j] = part.e < kWaitingLimit ? 0.0 : shift(part.m, part.e);
+    if (part.e > kWaitingShift + kLargestExponent) status_ = Status::kOverflow;
+    const Complex waiting = shift(part.m, part.e - kWaitingShift);
+    result_.cy[j] = part.e >= kWaitingLimit ? waiting : part.e >= kNegligible ? kComputeAgain : 0.0;
     return status_ == Status::kOk;
   }
 
   bool take_k(int j, Scaled f) {
-    const Scaled part = normalized(c_.k.member(j, f));
-    if (!c_.i.used) return store(j, part);
-    Scaled waiting{result_.cy[j]};
-    if (result_.cy[j] == 0.0 && part.e < kWaitingLimit + 64) {
-      // Both parts are near underflow, where the one that waited has lost its exponent: it is computed once more.
-      descend_i(request_.nu + j, 1, c_.w, [&](int, Scaled i) {
-        waiting = c_.i.member(j, i);
+    const Scaled part = k_part(j, f);
+    if (!c_.i.used) return store(j, part, c_.real && is_small(j, part.m.real(), part.m));
+    Scaled waiting{result_.cy[j], kWaitingShift};
+    const bool counts_as_little = part.e >= kNegligible && part.e < kWaitingLimit + 64;
+    if (waiting.m == kComputeAgain || (waiting.m == 0.0 && counts_as_little)) {
+      descend_i(request_.nu, j, j + 1, c_.w, [&](int, Scaled i) {
+        waiting = i_part(j, i);
         return true;
       });
     }
-    return store(j, part + waiting);
+    const Scaled sum = part + waiting;
+    // Two parts that cancel are of one size; the sum has the exponent of the larger one.
+    return store(j, sum, is_small(j, sum.m, shift(part.m, part.e - sum.e)));
   }
 
-  bool store(int j, Scaled value) {
+  // Whether a sum is so small against its terms that it wants a second look.
+  bool is_small(int j, Complex sum, Complex term) const {
+    const double part = small_part(request_.nu + j, modulus(c_.w));
+    return std::norm(sum) < part * part * std::norm(term);
+  }
+
+  // The same for e^-w I alone, which has its zeros on the imaginary axis.
+  bool is_beside_zero(int j, Scaled f) const {
+    const Complex w = c_.w;
+    return w.real() <= kBesideAxis &&
+           is_next_to_zero(request_.nu + j, w, std::abs(shift(f.m, f.e)) * std::exp(w.real()));
+  }
+
+  bool store(int j, Scaled value, bool small) {
+    if (small && request_.nu + j < SecondLook::kMostOrders) {
+      if (!second_look_) second_look_.emplace(c_, split_order(request_.nu));
+      value = second_look_->member(j);
+    }
     if (c_.real) value.m = value.m.real();
-    if (c_.is_y) value = refined_y(j, value);
     Complex member;
     status_ = finish(value, member, underflows_);
     if (status_ != Status::kOk) return false;
-    result_.cy[j] = c_.mirrored ? std::conj(member) : member;
+    result_.cy[j] = mirrored_ ? std::conj(member) : member;
     return true;
   }
 
-  // The member of index j by itself.
-  Scaled member(int j) const {
-    Scaled sum{};
-    const auto add = [&](const Term& term) {
-      return [&sum, &term, j](int, Scaled f) {
-        sum = sum + term.member(j, f);
-        return true;
-      };
-    };
-    if (c_.i.used) descend_i(request_.nu + j, 1, c_.w, add(c_.i));
-    if (c_.k.used) ascend_k(request_.nu + j, 1, c_.w, add(c_.k));
-    if (c_.real) sum.m = sum.m.real();
-    return sum;
-  }
-
-  // Y from the next higher order, if z = i w is next to a zero of it. Those lie on the positive real axis, and for half
-  // odd orders on the negative one, where Y is e^{-i pi nu} times Y(-z).
-  Scaled refined_y(int j, Scaled value) const {
-    const Complex z{-c_.w.imag(), c_.w.real()};
-    const double steps = std::nearbyint(request_.nu);
-    const double mu = request_.nu - steps;
-    const bool left = z.real() < 0.0;
-    if (left && std::fabs(mu) != 0.5) return value;
-    const double growth = c_.unscaled ? 1.0 : std::exp(std::fmin(z.imag(), 1.0));
-    if (!is_next_to_zero(request_.nu + j, z, growth * std::abs(shift(value.m, value.e)))) return value;
-    const Complex ratio = cylinder_ratio(Cylinder::kY, {mu, 0.0}, static_cast<int>(steps) + j, widen(left ? -z : z));
-    return member(j + 1) * (left ? -ratio : ratio);
-  }
-
+  static constexpr std::int64_t kWaitingShift = 8;
   static constexpr std::int64_t kWaitingLimit = -1000;
+  static constexpr std::int64_t kNegligible = -1020;  // below all that does not underflow
+  static constexpr Complex kComputeAgain{0x1p-1074, 0.0};
 
-  const Combination& c_;
-  const Request& request_;
-  const Result& result_;
+  Combination c_;
+  Request request_;
+  bool mirrored_;  // the function was asked for at the conjugate of the argument
+  Result result_;
+  Scaled i_, k_;  // what the terms have in front at the first order
+  std::optional<SecondLook> second_look_;
   Status status_ = Status::kOk;
   int underflows_ = 0;
 };
@@ -183,43 +166,57 @@ void value_at_zero(const Request& request, Complex* cy) {
   if (request.nu == 0.0) cy[0] = 1.0;
 }
 
-// K at z, Im z >= 0, Re z < 0.
+// The exponents e^(a w) of a term with and without scaling.
+ComplexDoubleDouble exponent(const Request& request, Complex unscaled, Complex scaled) {
+  return widen(request.scaled() ? scaled : unscaled);
+}
+
+// K at z, Im z >= 0, Re z < 0: K(w e^{i pi}) = e^{-i pi nu} K(w) - i pi I(w).
 Combination continued_k(Complex z, const Request& request) {
-  Combination c;
-  c.w = -z;
-  c.unscaled = request.kode == 1;
-  // K(w e^{i pi}) = e^{-i pi nu} K(w) - i pi I(w)
-  c.i = {true, -kPi * kImaginary, 0, c.unscaled ? exponential(c.w) : Scaled{1.0}};
-  c.k = {true, std::conj(half_turns(request.nu)), 2, exponential(c.unscaled ? -c.w : -2.0 * c.w)};
+  Combination c(-z);
+  c.i = {true, kPi, 3, 0, exponent(request, c.w, 0.0)};
+  c.k = {true, {1.0}, 0, -2, exponent(request, -c.w, -2.0 * c.w)};
   return c;
 }
 
-// H1 where -iz e^{i pi} = w e^{-i pi} has left the right half plane.
-Combination continued_h(Complex z, const Request& request) {
-  Combination c;
-  c.w = -minus_i_times(z);
-  c.w.real(std::fabs(c.w.real()));
-  c.unscaled = request.kode == 1;
-  const Complex turn = quarter_turns(request.nu);
-  // H1(z) = 2/(pi i) e^{i pi nu/2} K(w) + 2 e^{-i pi nu/2} I(w), w = iz
-  c.i = {true, 2.0 * std::conj(turn), -1, c.unscaled ? exponential(c.w) : Scaled{1.0}};
-  c.k = {true, -2.0 / kPi * kImaginary * turn, 1, exponential(c.unscaled ? -c.w : -2.0 * c.w)};
+// H1 at z, Im z >= 0: 2/(pi i) e^{-i pi nu/2} K(-iz).
+Combination hankel(Complex z, const Request& request) {
+  Combination c(minus_i_times(z));
+  c.k = {true, kTwoOverPi, 3, -1, exponent(request, -c.w, 0.0)};
   return c;
 }
 
-// I and J, which are powers at zero. `express` writes the function at z, Im z >= 0, as a multiple of I(w).
-template <class Express>
-void power_at_zero(Complex z_in, const Request& request, const Result& result, Express express) {
-  if (!accept(z_in, request, false, false, result)) return;
-  if (z_in == 0.0) return value_at_zero(request, result.cy);
-  Combination c;
-  const Complex z = upper_half(z_in, c.mirrored);
-  c.unscaled = request.kode == 1;
-  c.real = is_positive_real(z);
-  express(z, c);
-  c.i.used = true;
-  c.i.factor = exponential(c.unscaled ? c.w : Complex{0.0, c.w.imag()});
-  Evaluation(c, request, result).run();
+// H1 where -iz e^{i pi} = w e^{-i pi} has left the right half plane:
+// H1(z) = 2/(pi i) e^{i pi nu/2} K(w) + 2 e^{-i pi nu/2} I(w), w = iz.
+Combination continued_hankel(Complex z, const Request& request) {
+  const Complex turned = -minus_i_times(z);
+  Combination c({std::fabs(turned.real()), turned.imag()});
+  c.i = {true, {2.0}, 0, -1, exponent(request, c.w, 0.0)};
+  c.k = {true, kTwoOverPi, 3, 1, exponent(request, -c.w, -2.0 * c.w)};
+  return c;
+}
+
+// I at z, Im z >= 0: for Re z < 0, I(w e^{i pi}) = e^{i pi nu} I(w).
+Combination modified_i(Complex z, const Request& request) {
+  const bool left = z.real() < 0.0;
+  Combination c(left ? -z : z);
+  c.i = {true, {1.0}, 0, left ? 2 : 0, exponent(request, c.w, {0.0, c.w.imag()})};
+  return c;
+}
+
+// J at z, Im z >= 0: e^{i pi nu/2} I(-iz).
+Combination bessel_j(Complex z, const Request& request) {
+  Combination c(minus_i_times(z));
+  c.i = {true, {1.0}, 0, 1, exponent(request, c.w, {0.0, c.w.imag()})};
+  return c;
+}
+
+// Y at z, Im z >= 0: i (J(z) - H1(z)) = i e^{i pi nu/2} I(w) - (2/pi) e^{-i pi nu/2} K(w), w = -iz.
+Combination bessel_y(Complex z, const Request& request) {
+  Combination c(minus_i_times(z));
+  if (!is_positive_real(z)) c.i = {true, {1.0}, 1, 1, exponent(request, c.w, {0.0, c.w.imag()})};
+  c.k = {true, -kTwoOverPi, 0, -1, exponent(request, -c.w, {-2.0 * c.w.real(), -c.w.imag()})};
+  return c;
 }
 
 }  // namespace
@@ -231,39 +228,43 @@ void besh(Complex z_in, double fnu, int kode, int m, int n, Complex* cy, int* nz
   // H2(z) is the conjugate of H1(conj z), and there the cut is approached from below.
   const Complex z = m == 1 ? z_in : std::conj(z_in);
   const bool below_cut = m == 2 && z.imag() == 0.0 && z.real() < 0.0;
-  Combination c;
-  if (z.imag() < 0.0 || below_cut) {
-    c = continued_h(z, request);
-  } else {
-    c.w = minus_i_times(z);
-    c.unscaled = kode == 1;
-    // H1(z) = 2/(pi i) e^{-i pi nu/2} K(-iz)
-    c.k = {true, -2.0 / kPi * kImaginary * std::conj(quarter_turns(fnu)), -1,
-           c.unscaled ? exponential(-c.w) : Scaled{1.0}};
-  }
-  c.mirrored = m == 2;
-  Evaluation(c, request, result).run();
+  const bool continued = z.imag() < 0.0 || below_cut;
+  Evaluation(continued ? continued_hankel(z, request) : hankel(z, request), request, m == 2, result).run(0, n);
 }
 
 void besi(Complex z_in, double fnu, int kode, int n, Complex* cy, int* nz, int* ierr) {
-  power_at_zero(z_in, {fnu, kode, n}, {cy, nz, ierr}, [fnu](Complex z, Combination& c) {
-    const bool left = z.real() < 0.0;
-    c.w = left ? -z : z;
-    if (left) {
-      // I(w e^{i pi}) = e^{i pi nu} I(w)
-      c.i.coefficient = half_turns(fnu);
-      c.i.step = 2;
-    }
-  });
+  const Request request{fnu, kode, n};
+  const Result result{cy, nz, ierr};
+  if (!accept(z_in, request, false, false, result)) return;
+  if (z_in == 0.0) return value_at_zero(request, cy);
+  bool mirrored = false;
+  const Complex z = upper_half(z_in, mirrored);
+  Combination c = modified_i(z, request);
+  c.real = is_positive_real(z);
+  Evaluation(c, request, mirrored, result).run(0, n);
 }
 
 void besj(Complex z_in, double fnu, int kode, int n, Complex* cy, int* nz, int* ierr) {
-  power_at_zero(z_in, {fnu, kode, n}, {cy, nz, ierr}, [fnu](Complex z, Combination& c) {
-    // J(z) = e^{i pi nu/2} I(-iz)
-    c.w = minus_i_times(z);
-    c.i.coefficient = quarter_turns(fnu);
-    c.i.step = 1;
-  });
+  const Request request{fnu, kode, n};
+  const Result result{cy, nz, ierr};
+  if (!accept(z_in, request, false, false, result)) return;
+  if (z_in == 0.0) return value_at_zero(request, cy);
+  bool mirrored = false;
+  const Complex z = upper_half(z_in, mirrored);
+  Combination c = bessel_j(z, request);
+  c.real = is_positive_real(z);
+  int oscillating = 0;  // members that are the real part of H1, which has no zeros
+  if (c.real) {
+    while (oscillating < n && is_oscillating(fnu + oscillating, z.real())) ++oscillating;
+  }
+  if (oscillating > 0) {
+    Combination h = hankel(z, {fnu, 1, n});
+    h.real = true;
+    Evaluation part(h, request, false, result);
+    part.run(0, oscillating);
+    if (!part.is_ok()) return;
+  }
+  if (oscillating < n) Evaluation(c, request, mirrored, result).run(oscillating, n);
 }
 
 void besk(Complex z_in, double fnu, int kode, int n, Complex* cy, int* nz, int* ierr) {
@@ -276,33 +277,22 @@ void besk(Complex z_in, double fnu, int kode, int n, Complex* cy, int* nz, int* 
   if (z.real() < 0.0) {
     c = continued_k(z, request);
   } else {
-    c.w = z;
+    c = Combination(z);
     c.real = is_positive_real(z);
-    c.k.used = true;
-    if (kode == 1) c.k.factor = exponential(-z);
+    c.k = {true, {1.0}, 0, 0, exponent(request, -z, 0.0)};
   }
-  c.mirrored = mirrored;
-  Evaluation(c, request, result).run();
+  Evaluation(c, request, mirrored, result).run(0, n);
 }
 
 void besy(Complex z_in, double fnu, int kode, int n, Complex* cy, int* nz, Complex* /*cwrk*/, int* ierr) {
   const Request request{fnu, kode, n};
   const Result result{cy, nz, ierr};
   if (!accept(z_in, request, false, true, result)) return;
-  Combination c;
-  const Complex z = upper_half(z_in, c.mirrored);
-  c.w = minus_i_times(z);
-  c.unscaled = kode == 1;
+  bool mirrored = false;
+  const Complex z = upper_half(z_in, mirrored);
+  Combination c = bessel_y(z, request);
   c.real = is_positive_real(z);
-  c.is_y = true;
-  const Complex turn = quarter_turns(fnu);
-  // Y(z) = i (J(z) - H1(z)) = i e^{i pi nu/2} I(w) - (2/pi) e^{-i pi nu/2} K(w), w = -iz
-  if (!c.real) {
-    c.i = {true, kImaginary * turn, 1, exponential(c.unscaled ? c.w : Complex{0.0, c.w.imag()})};
-  }
-  c.k = {true, -2.0 / kPi * std::conj(turn), -1,
-         exponential(c.unscaled ? -c.w : Complex{-2.0 * c.w.real(), -c.w.imag()})};
-  Evaluation(c, request, result).run();
+  Evaluation(c, request, mirrored, result).run(0, n);
 }
 
 }  // namespace quorin::amos

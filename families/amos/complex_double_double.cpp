@@ -10,12 +10,14 @@ namespace {
 
 constexpr DoubleDouble kThird{0.3333333333333333, 1.850371707708594e-17};
 
-// x + sign x^3/3 + x^5/5 + ..., |x| < 0.013: artanh x (sign 1) or arctan x (sign -1). From x^5 on a double is enough.
+// x + sign x^3/3 + x^5/5 + ..., |x| < 0.013: artanh x (sign 1) or arctan x (sign -1). From x^9 on a double is enough.
 DoubleDouble odd_series(DoubleDouble x, double sign) {
-  const DoubleDouble x2 = x * x;
-  const double y = sign * x2.hi;
-  const double rest = y * y * (0.2 + y * (1.0 / 7.0 + y * (1.0 / 9.0 + y / 11.0)));
-  return x + x * (x2 * kThird * sign + DoubleDouble{rest, 0.0});
+  constexpr DoubleDouble kFifth{0.2, -1.1102230246251566e-17};
+  constexpr DoubleDouble kSeventh{0.14285714285714285, 7.93016446160826e-18};
+  const DoubleDouble x2 = x * x * sign;
+  const double y = x2.hi;
+  const DoubleDouble rest{y * (1.0 / 9.0 + y * (1.0 / 11.0 + y / 13.0)), 0.0};
+  return x + x * x2 * fused(x2, fused(x2, kSeventh + rest, kFifth), kThird);
 }
 
 DoubleDouble entry(const double* table, int i) { return {table[2 * i], table[2 * i + 1]}; }
@@ -72,24 +74,23 @@ ComplexDoubleDouble log(const ComplexDoubleDouble& a) {
   return {log_norm * 0.5 + kLn2 * static_cast<double>(exponent), angle(q)};
 }
 
-ComplexDoubleDouble exp(const ComplexDoubleDouble& a) {
+ScaledWide exp(const ComplexDoubleDouble& a) {
   // a = (p ln 2 + i q pi/2) / 64 + rest, p and q taken apart into a whole part and what the tables have.
   const double p = std::nearbyint(a.re.hi * (64.0 / kLn2.hi));
   const double q = std::nearbyint(a.im.hi * (64.0 / kHalfPi.hi));
   const ComplexDoubleDouble rest{a.re - kLn2 * (p / 64.0), a.im - kHalfPi * (q / 64.0)};
   const double power = std::nearbyint(p / 64.0), quarters = std::nearbyint(q / 64.0);
   const int fraction = static_cast<int>(q - 64.0 * quarters);  // -32 to 32
-  constexpr int kTerms = 14;                                   // 0.014^15 / 15! < 1e-33
-  ComplexDoubleDouble sum{kOne, {}};
-  for (int k = kTerms; k > 0; --k) {
-    sum = rest * sum / DoubleDouble{static_cast<double>(k), 0.0};
-    sum.re = sum.re + kOne;
+  // The series of e^rest, |rest| < 0.014, up to rest^15 / 15! < 1e-33.
+  ComplexDoubleDouble sum{};
+  for (int k = static_cast<int>(tables::kInverseFactorial.size()) / 2 - 1; k >= 0; --k) {
+    sum = fused(sum, rest, {entry(tables::kInverseFactorial.data(), k), {}});
   }
   const DoubleDouble sine = entry(tables::kSine.data(), std::abs(fraction));
-  ComplexDoubleDouble turn{entry(tables::kCosine.data(), std::abs(fraction)), fraction < 0 ? -sine : sine};
-  for (int k = static_cast<int>(std::fmod(quarters, 4.0)) & 3; k > 0; --k) turn = {-turn.im, turn.re};
+  const ComplexDoubleDouble turn{entry(tables::kCosine.data(), std::abs(fraction)), fraction < 0 ? -sine : sine};
   const DoubleDouble size = entry(tables::kExponential.data(), 32 + static_cast<int>(p - 64.0 * power));
-  return turn * sum * size * std::scalbn(1.0, static_cast<int>(power));
+  return {times_i_power(turn * sum * size, static_cast<int>(std::fmod(quarters, 4.0))),
+          static_cast<std::int64_t>(power)};
 }
 
 }  // namespace quorin::amos

@@ -23,6 +23,19 @@ struct ComplexDoubleDouble {
   DoubleDouble im;
 };
 
+// The value m * 2^e.
+struct ScaledWide {
+  ComplexDoubleDouble m;
+  std::int64_t e = 0;
+};
+
+// a b + c with one normalization; the error is relative to the larger of the two terms.
+inline DoubleDouble fused(DoubleDouble a, DoubleDouble b, DoubleDouble c) {
+  const DoubleDouble p = two_product(a.hi, b.hi);
+  const DoubleDouble s = two_sum(p.hi, c.hi);
+  return quick_two_sum(s.hi, s.lo + (((a.hi * b.lo + a.lo * b.hi) + p.lo) + c.lo));
+}
+
 inline ComplexDoubleDouble widen(std::complex<double> a) { return {{a.real(), 0.0}, {a.imag(), 0.0}}; }
 inline std::complex<double> narrow(const ComplexDoubleDouble& a) { return {a.re.hi, a.im.hi}; }
 
@@ -33,8 +46,13 @@ inline ComplexDoubleDouble operator+(const ComplexDoubleDouble& a, const Complex
 inline ComplexDoubleDouble operator-(const ComplexDoubleDouble& a, const ComplexDoubleDouble& b) {
   return {a.re - b.re, a.im - b.im};
 }
+inline ComplexDoubleDouble operator+(const ComplexDoubleDouble& a, DoubleDouble b) { return {a.re + b, a.im}; }
 inline ComplexDoubleDouble operator*(const ComplexDoubleDouble& a, const ComplexDoubleDouble& b) {
-  return {a.re * b.re - a.im * b.im, a.re * b.im + a.im * b.re};
+  return {fused(a.re, b.re, -(a.im * b.im)), fused(a.re, b.im, a.im * b.re)};
+}
+inline ComplexDoubleDouble fused(const ComplexDoubleDouble& a, const ComplexDoubleDouble& b,
+                                 const ComplexDoubleDouble& c) {
+  return {fused(a.re, b.re, fused(-a.im, b.im, c.re)), fused(a.re, b.im, fused(a.im, b.re, c.im))};
 }
 inline ComplexDoubleDouble operator*(const ComplexDoubleDouble& a, DoubleDouble b) { return {a.re * b, a.im * b}; }
 inline ComplexDoubleDouble operator*(const ComplexDoubleDouble& a, double b) { return {a.re * b, a.im * b}; }
@@ -44,13 +62,25 @@ inline ComplexDoubleDouble operator/(const ComplexDoubleDouble& a, const Complex
   return (a * conjugate) / (b.re * b.re + b.im * b.im);
 }
 
+inline ComplexDoubleDouble fused(DoubleDouble a, const ComplexDoubleDouble& b, const ComplexDoubleDouble& c) {
+  return {fused(a, b.re, c.re), fused(a, b.im, c.im)};
+}
+
+inline ComplexDoubleDouble conj(const ComplexDoubleDouble& a) { return {a.re, -a.im}; }
+
+// a i^k
+inline ComplexDoubleDouble times_i_power(const ComplexDoubleDouble& a, int k) {
+  const ComplexDoubleDouble half = (k & 2) != 0 ? -a : a;
+  return (k & 1) != 0 ? ComplexDoubleDouble{-half.im, half.re} : half;
+}
+
 // Principal square root; a signed zero does not move it: the cut belongs to the upper half plane.
 ComplexDoubleDouble sqrt(const ComplexDoubleDouble& a);
 
 // Principal logarithm of a != 0 with an absolute error near 1e-27, for any exponent of a.
 ComplexDoubleDouble log(const ComplexDoubleDouble& a);
 
-// e^a to about 31 digits, for |Re a| below 600; of a large Im a, the digits that multiples of pi leave.
-ComplexDoubleDouble exp(const ComplexDoubleDouble& a);
+// e^a to about 31 digits; of a large a, the digits that multiples of pi and log 2 leave.
+ScaledWide exp(const ComplexDoubleDouble& a);
 
 }  // namespace quorin::amos

@@ -13,10 +13,11 @@ Status finish(Scaled a, Complex& result, int& underflows) {
     return Status::kOk;
   };
   if (a.m == 0.0) return underflow();
-  constexpr std::int64_t kSafe = 900;
-  if (a.e < -kSafe || a.e > kSafe) {
+  if (a.e > kLargestExponent) return Status::kOverflow;
+  constexpr double kLeast = -kElim / kLn2.hi;  // exponents below it, less the one of |m| < 2.9, underflow
+  if (static_cast<double>(a.e) < kLeast - 2.0) return underflow();
+  if (static_cast<double>(a.e) < kLeast) {
     const double log_modulus = static_cast<double>(a.e) * kLn2.hi + std::log(std::abs(a.m));
-    if (log_modulus > kElim) return Status::kOverflow;
     if (log_modulus < -kElim) return underflow();
   }
   const Complex value = shift(a.m, a.e);

@@ -16,7 +16,7 @@ enum class Status : int {
 };
 
 // Stores a in result. A value below exp(-kElim), or one whose components reach so far below the normal range that its
-// phase is lost, is stored as zero and counted in underflows. Returns kOk, kOverflow (above exp(kElim)) or
+// phase is lost, is stored as zero and counted in underflows. Returns kOk, kOverflow (beyond the largest double) or
 // kNotConverged, and stores nothing in the last two cases.
 Status finish(Scaled a, Complex& result, int& underflows);
 

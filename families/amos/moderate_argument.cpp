@@ -58,19 +58,19 @@ Pair k_small_order(double mu, Complex w) {
   return {k.at * factor, k.above * factor};
 }
 
-Pair k_by_recurrence(double nu, Complex w) {
-  const double steps = std::nearbyint(nu);
-  const double mu = nu - steps;
+Pair k_by_recurrence(DoubleDouble nu, Complex w) {
+  const double steps = std::nearbyint(nu.hi);
+  const double mu = (nu.hi - steps) + nu.lo;
   const Pair first = k_small_order(mu, w);
   if (steps == 0.0) return first;
   Recurrence k(w, first.at, first.above);
-  for (int j = 1; j < static_cast<int>(steps); ++j) k.step(mu + j);
+  for (int j = 1; j < static_cast<int>(steps); ++j) k.step(two_sum(mu, j));
   const Scaled at = k.value();
   k.step(nu);
   return {at, k.value()};
 }
 
-Complex i_ratio(double nu, Complex w) {
+Complex i_ratio(DoubleDouble nu, Complex w) {
   constexpr double kGrowth = 1.0e10;  // the error of the ratio is about its inverse square
   const Complex two_over_w = divide(2.0, w);
   Complex before = 0.0;
@@ -78,21 +78,21 @@ Complex i_ratio(double nu, Complex w) {
   int last = 0;
   while (largest_part(p) < kGrowth) {
     if (++last > kMostSteps) return kFailed;
-    const Complex next = (nu + last) * two_over_w * p + before;
+    const Complex next = ((nu.hi + last) + nu.lo) * two_over_w * p + before;
     before = p;
     p = next;
   }
   Complex above = 0.0;
   Complex y = 1.0;
   for (int k = last; k > 0; --k) {
-    const Complex below = (nu + k) * two_over_w * y + above;
+    const Complex below = ((nu.hi + k) + nu.lo) * two_over_w * y + above;
     above = y;
     y = below;
   }
   return divide(above, y);
 }
 
-Pair i_by_wronskian(double nu, Complex w, const Pair& k) {
+Pair i_by_wronskian(DoubleDouble nu, Complex w, const Pair& k) {
   const Complex ratio = i_ratio(nu, w);
   const Scaled sum = normalized(k.above + k.at * ratio);
   const Scaled at{divide(divide(1.0, w), sum.m), -sum.e};
@@ -100,9 +100,10 @@ Pair i_by_wronskian(double nu, Complex w, const Pair& k) {
 }
 
 Pair i_moderate_argument(DoubleDouble order, Complex w, bool wants_above) {
-  const double nu = order.hi;
-  const double size = std::abs(w);
-  if (size > kSmallArgument && size * size > 4.0 * (nu + 1.0)) return i_by_wronskian(nu, w, k_by_recurrence(nu, w));
+  const double size = modulus(w);
+  if (size > kSmallArgument && size * size > 4.0 * (order.hi + 1.0)) {
+    return i_by_wronskian(order, w, k_by_recurrence(order, w));
+  }
   const Scaled factor = exponential(-w);
   return {i_power_series(order, w) * factor, wants_above ? i_power_series(order + kOne, w) * factor : Scaled{}};
 }

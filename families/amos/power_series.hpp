@@ -6,7 +6,7 @@
 namespace quorin::amos {
 
 // 1 / Gamma(1 + x) for -1 < x < 100.
-double reciprocal_gamma(double x);
+double reciprocal_gamma(DoubleDouble x);
 
 // I_nu(w) for |w|^2 <= 4 (nu + 1), -1 < nu < 100, w != 0. DLMF 10.25.2.
 Scaled i_power_series(DoubleDouble nu, Complex w);

@@ -11,9 +11,16 @@ class Recurrence {
   // Begins with y at two consecutive orders, `current` being the one towards which the steps go.
   Recurrence(Complex w, Scaled previous, Scaled current);
 
-  // From `order`, the order of value(), to the next one.
-  void step(double order) {
-    const Complex next = order * (two_over_w_ * current_ + correction_ * current_) + previous_;
+  // From `order`, the order of value(), to the next one. The coefficient 2 order / w is rounded but once: the same
+  // error in every step, of the order or of 2 / w, would add up.
+  void step(DoubleDouble order) {
+    const auto part = [order](double hi, double lo) {
+      const DoubleDouble p = two_product(order.hi, hi);
+      return p.hi + (p.lo + (order.hi * lo + order.lo * hi));
+    };
+    const Complex coefficient{part(two_over_w_.real(), correction_.real()),
+                              part(two_over_w_.imag(), correction_.imag())};
+    const Complex next = coefficient * current_ + previous_;
     previous_ = shift_ == 0 ? current_ : shift(current_, -shift_);
     current_ = next;
     exponent_ += shift_;
@@ -29,7 +36,7 @@ class Recurrence {
   void rescale();
 
   Complex two_over_w_;      // 2 / w without its power of two when w is very small,
-  Complex correction_;      // what rounding took from it: the same error in every step would add up,
+  Complex correction_;      // what rounding took from it,
   std::int64_t shift_ = 0;  // and that power of two
   Complex previous_;        // y / 2^exponent_; when shift_ > 0, y / 2^(exponent_ + shift_)
   Complex current_;

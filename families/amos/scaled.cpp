@@ -56,7 +56,7 @@ Complex quarter_turns(DoubleDouble x) {
   const double reduced = std::fmod(x.hi, 4.0);
   const double quarters = std::nearbyint(reduced);
   const double angle = std::numbers::pi / 2 * ((reduced - quarters) + x.lo);  // at most pi/4
-  return times_i_power({std::cos(angle), std::sin(angle)}, static_cast<int>(quarters));
+  return times_i_power(Complex{std::cos(angle), std::sin(angle)}, static_cast<int>(quarters));
 }
 
 }  // namespace quorin::amos

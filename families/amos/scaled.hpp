@@ -20,7 +20,16 @@ struct Scaled {
   std::int64_t e = 0;
 };
 
+inline Complex narrow(Complex a) { return a; }  // beside the one of ComplexDoubleDouble, for any precision
+
 inline double largest_part(Complex a) { return std::max(std::fabs(a.real()), std::fabs(a.imag())); }
+
+// |a| without overflow inside.
+inline double modulus(Complex a) {
+  const double size = largest_part(a);
+  if (size > 0x1p-400 && size < 0x1p400) return std::sqrt(a.real() * a.real() + a.imag() * a.imag());
+  return std::hypot(a.real(), a.imag());
+}
 
 inline bool is_finite(Complex a) { return std::isfinite(a.real()) && std::isfinite(a.imag()); }
 
@@ -41,6 +50,7 @@ inline Scaled normalized(Scaled a) {
 inline Scaled scaled(Complex a) { return normalized({a, 0}); }
 
 // Mantissas near 1 are expected: every function that returns a Scaled number returns a normalized one, or nearly so.
+inline Complex fused(Complex a, Complex b, Complex c) { return a * b + c; }
 inline Scaled operator*(Scaled a, Scaled b) { return {a.m * b.m, a.e + b.e}; }
 inline Scaled operator*(Scaled a, Complex b) { return {a.m * b, a.e}; }
 inline Scaled operator*(Scaled a, double b) { return {a.m * b, a.e}; }
@@ -66,6 +76,9 @@ Complex divide(Complex a, Complex b);
 
 // Square root with Re >= 0; on the cut Im >= 0 whatever the sign of the zero.
 Complex square_root(Complex a);
+
+// The exponent of the largest doubles, whose mantissas are in [1, 2).
+inline constexpr std::int64_t kLargestExponent = 1023;
 
 inline constexpr Complex kFailed{std::numeric_limits<double>::quiet_NaN(), 0.0};
 

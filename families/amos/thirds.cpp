@@ -45,8 +45,8 @@ Thirds bessel_thirds(Complex w, bool wants_i) {
     const Complex step = divide(2.0 * kThird, w);
     const Scaled four{t.k_one * step + t.k_two};
     const Scaled five{2.0 * t.k_two * step + t.k_one};
-    t.i_one = value(i_by_wronskian(kThird, w, {k.at, four}).at);
-    t.i_two = value(i_by_wronskian(2.0 * kThird, w, {k.above, five}).at);
+    t.i_one = value(i_by_wronskian({kThird, 0.0}, w, {k.at, four}).at);
+    t.i_two = value(i_by_wronskian({2.0 * kThird, 0.0}, w, {k.above, five}).at);
   }
   if (below) t = {std::conj(t.k_one), std::conj(t.k_two), std::conj(t.i_one), std::conj(t.i_two)};
   return t;

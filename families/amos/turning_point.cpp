@@ -76,7 +76,7 @@ AiryPair airy_pair(Kind kind, Complex z, const ComplexDoubleDouble& x) {
 Scaled turning_point(Kind kind, DoubleDouble order, Complex w, const ComplexDoubleDouble& xi) {
   const double nu = order.hi;
   // v = 1 - x^2 = s^2 without cancellation.
-  const Complex v = (Complex{nu - w.imag(), w.real()} / nu) * (Complex{nu + w.imag(), -w.real()} / nu);
+  const Complex v = (Complex{(nu - w.imag()) + order.lo, w.real()} / nu) * (Complex{nu + w.imag(), -w.real()} / nu);
   // (2/3) zeta^(3/2) = artanh(s) - s = s^3/3 (1 + (3/5) v + (3/7) v^2 + ...), so zeta = v (bracket/2)^(2/3).
   Complex bracket = 0.0;
   if (std::abs(v) < 0.25) {

@@ -15,7 +15,7 @@ AIRY_ROWS = 5  # A_k and B_k for k = 0, 1, ...
 AIRY_COLUMNS = 30  # Taylor coefficients of each, before those too small to matter are dropped
 LARGE_ORDER = 85  # the expansions are used for orders above this ...
 LARGEST_ZETA = 0.52  # ... and for |zeta| below this
-GAMMA_TERMS = 24
+GAMMA_TERMS = 34
 LOG_STEPS = 64  # of the table of powers of 2
 ANGLE_STEPS = 64  # in a right angle, of the table of sines
 
@@ -144,7 +144,8 @@ def main():
     angles = [mpmath.pi * j / (2 * ANGLE_STEPS) for j in range(ANGLE_STEPS // 2 + 1)]
     write_pairs("kSine", f"sin(j pi/{2 * ANGLE_STEPS}) up to pi/4: high and low part.", map(mpmath.sin, angles))
     write_pairs("kCosine", f"cos(j pi/{2 * ANGLE_STEPS}) up to pi/4: high and low part.", map(mpmath.cos, angles))
-    write("kReciprocalGamma", "1 / Gamma(1 + x), lowest power first.", reciprocal_gamma())
+    write_pairs("kInverseFactorial", "1 / k!: high and low part.", [1 / mpmath.factorial(k) for k in range(15)])
+    write_pairs("kReciprocalGamma", "1 / Gamma(1 + x), lowest power first: high and low part.", reciprocal_gamma())
     print("\n}  // namespace quorin::amos::tables")
 
 
