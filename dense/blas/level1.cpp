@@ -6,13 +6,11 @@
 
 #include "base/sums.hpp"
 #include "dense/kernels/vector_kernels.hpp"
-#include "dense/openblas/routines.hpp"
 
 namespace quorin::dense {
 namespace {
 
 using Complex = std::complex<float>;
-using openblas::Routines;
 
 using kernels::magnitude;
 
@@ -33,10 +31,6 @@ int first_extreme(int n, const T* x, int incx, Better better) {
   return position + 1;
 }
 
-// A stride of 0 uses one element over and over. OpenBLAS has its own ideas of what that means; the published
-// loops say it, so such calls run them.
-bool repeats_an_element(int incx, int incy) { return incx == 0 || incy == 0; }
-
 // For a few elements the loop is done before a kernel has begun.
 bool is_short(int n) { return 0 < n && n <= 8; }
 
@@ -50,77 +44,65 @@ void for_each_pair(int n, X* x, int incx, Y* y, int incy, const Body& body) {
   for (int i = 0; i < n; ++i, ix += incx, iy += incy) body(x[ix], y[iy]);
 }
 
-Complex to_complex(openblas::ComplexResult z) { return {__real__ z, __imag__ z}; }
-
 }  // namespace
 
 template <Scalar T>
 void axpy(int n, T a, const T* x, int incx, T* y, int incy) {
   if (a == T{}) return;
-  if (is_short(n) || repeats_an_element(incx, incy)) {
-    return for_each_pair(n, x, incx, y, incy, [a](const T& xi, T& yi) { yi += product(a, xi); });
-  }
-  if (are_contiguous(incx, incy)) return kernels::axpy(n, a, x, y);
-  Routines<T>::axpy(&n, &a, x, &incx, y, &incy);
+  if (are_contiguous(incx, incy) && !is_short(n)) return kernels::axpy(n, a, x, y);
+  for_each_pair(n, x, incx, y, incy, [a](const T& xi, T& yi) { yi += product(a, xi); });
 }
 
 template <Scalar T>
 void copy(int n, const T* x, int incx, T* y, int incy) {
-  if (is_short(n) || repeats_an_element(incx, incy)) {
-    return for_each_pair(n, x, incx, y, incy, [](const T& xi, T& yi) { yi = xi; });
-  }
-  if (are_contiguous(incx, incy)) {
+  if (are_contiguous(incx, incy) && !is_short(n)) {
     std::copy(x, x + std::max(n, 0), y);
     return;
   }
-  Routines<T>::copy(&n, x, &incx, y, &incy);
+  for_each_pair(n, x, incx, y, incy, [](const T& xi, T& yi) { yi = xi; });
 }
 
 template <Scalar T>
 void swap(int n, T* x, int incx, T* y, int incy) {
-  if (is_short(n) || repeats_an_element(incx, incy)) {
-    return for_each_pair(n, x, incx, y, incy, [](T& xi, T& yi) { std::swap(xi, yi); });
-  }
-  if (are_contiguous(incx, incy)) {
+  if (are_contiguous(incx, incy) && !is_short(n)) {
     std::swap_ranges(x, x + std::max(n, 0), y);
     return;
   }
-  Routines<T>::swap(&n, x, &incx, y, &incy);
+  for_each_pair(n, x, incx, y, incy, [](T& xi, T& yi) { std::swap(xi, yi); });
 }
 
 template <Scalar T>
 T dotu(int n, const T* x, int incx, const T* y, int incy) {
-  if (is_short(n)) {
-    T sum{};
-    for_each_pair(n, x, incx, y, incy, [&sum](T xi, T yi) { sum += product(xi, yi); });
-    return sum;
-  }
-  if (are_contiguous(incx, incy)) return kernels::dot<false>(n, x, y);
-  if constexpr (kIsComplex<T>) {
-    return to_complex(Routines<T>::dotu(&n, x, &incx, y, &incy));
-  } else {
-    return Routines<T>::dotu(&n, x, &incx, y, &incy);
-  }
+  if (are_contiguous(incx, incy) && !is_short(n)) return kernels::dot<false>(n, x, y);
+  T sum{};
+  for_each_pair(n, x, incx, y, incy, [&sum](T xi, T yi) { sum += product(xi, yi); });
+  return sum;
 }
 
 Complex dotc(int n, const Complex* x, int incx, const Complex* y, int incy) {
-  if (is_short(n)) {
-    Complex sum{};
-    for_each_pair(n, x, incx, y, incy, [&sum](Complex xi, Complex yi) { sum += product(std::conj(xi), yi); });
-    return sum;
-  }
-  if (are_contiguous(incx, incy)) return kernels::dot<true>(n, x, y);
-  return to_complex(Routines<Complex>::dotc(&n, x, &incx, y, &incy));
+  if (are_contiguous(incx, incy) && !is_short(n)) return kernels::dot<true>(n, x, y);
+  Complex sum{};
+  for_each_pair(n, x, incx, y, incy, [&sum](Complex xi, Complex yi) { sum += product(std::conj(xi), yi); });
+  return sum;
 }
 
 template <Scalar T>
 RealOf<T> nrm2(int n, const T* x, int incx) {
-  if (n > 0 && incx == 1) {
-    constexpr int kParts = kIsComplex<T> ? 2 : 1;
-    return static_cast<RealOf<T>>(
-        std::sqrt(base::sum_of_squares(std::size_t{kParts} * n, reinterpret_cast<const float*>(x))));
+  constexpr int kParts = kIsComplex<T> ? 2 : 1;
+  if (n <= 0) return 0;
+  double sum = 0;
+  if (incx == 1) {
+    sum = base::sum_of_squares(std::size_t{kParts} * static_cast<std::size_t>(n), reinterpret_cast<const float*>(x));
+  } else {
+    // The same elements from the other end for a negative stride.
+    const std::ptrdiff_t first = incx < 0 ? static_cast<std::ptrdiff_t>(1 - n) * incx : 0;
+    for (int i = 0; i < n; ++i) {
+      const T value = x[first + static_cast<std::ptrdiff_t>(i) * incx];
+      const double re = real_part(value), im = imaginary_part(value);
+      sum += re * re + im * im;
+    }
   }
-  return Routines<T>::nrm2(&n, x, &incx);
+  return static_cast<RealOf<T>>(std::sqrt(sum));
 }
 
 template <Scalar T>
@@ -162,19 +144,29 @@ void scal(int n, Factor a, T* x, int incx) {
 
 template <Scalar T>
 void rot(int n, T* x, int incx, T* y, int incy, RealOf<T> c, RealOf<T> s) {
-  if (repeats_an_element(incx, incy)) {
-    return for_each_pair(n, x, incx, y, incy, [c, s](T& xi, T& yi) {
-      const T rotated = c * xi + s * yi;
-      yi = c * yi - s * xi;
-      xi = rotated;
-    });
-  }
   if (are_contiguous(incx, incy)) return kernels::rot(n, x, y, c, s);
-  Routines<T>::rot(&n, x, &incx, y, &incy, &c, &s);
+  for_each_pair(n, x, incx, y, incy, [c, s](T& xi, T& yi) {
+    const T rotated = c * xi + s * yi;
+    yi = c * yi - s * xi;
+    xi = rotated;
+  });
 }
 
 void rotm(int n, float* x, int incx, float* y, int incy, const float* param) {
-  Routines<float>::rotm(&n, x, &incx, y, &incy, param);
+  // param[0] says which elements of H = [param[1] param[3]; param[2] param[4]] are 1, -1 or 0.
+  const float flag = param[0];
+  if (flag == -2) return;
+  float h11 = param[1], h21 = param[2], h12 = param[3], h22 = param[4];
+  if (flag == 0) h11 = h22 = 1;
+  if (flag > 0) {
+    h12 = 1;
+    h21 = -1;
+  }
+  for_each_pair(n, x, incx, y, incy, [=](float& xi, float& yi) {
+    const float rotated = xi * h11 + yi * h12;
+    yi = xi * h21 + yi * h22;
+    xi = rotated;
+  });
 }
 
 void rotg(float* a, float* b, float* c, float* s) {
@@ -219,7 +211,85 @@ void rotg(Complex* a, Complex b, float* c, Complex* s) {
   }
 }
 
-void rotmg(float* d1, float* d2, float* x1, float y1, float* param) { Routines<float>::rotmg(d1, d2, x1, &y1, param); }
+namespace {
+
+// A modified Givens rotation in the making: H, its form (param[0] of rotm), and the scales d and the vector's x.
+struct ModifiedRotation {
+  float form = -1, h11 = 0, h12 = 0, h21 = 0, h22 = 0;
+
+  // Writes out the elements that the form implies.
+  void make_explicit() {
+    if (form == 0) {
+      h11 = h22 = 1;
+    } else {
+      h21 = -1;
+      h12 = 1;
+    }
+    form = -1;
+  }
+
+  // Brings a scale d into [1 / kLimit, kLimit] by even powers of kScale; the rest goes to one row of H, and to x.
+  void rescale(float& d, float& h_first, float& h_second, float* x) {
+    constexpr float kScale = 4096, kLimit = kScale * kScale;
+    while (d != 0 && std::isfinite(d) && (std::abs(d) <= 1 / kLimit || std::abs(d) >= kLimit)) {
+      make_explicit();
+      const bool is_small = std::abs(d) <= 1 / kLimit;
+      const float factor = is_small ? 1 / kScale : kScale;
+      d = is_small ? d * kLimit : d / kLimit;
+      if (x != nullptr) *x *= factor;
+      h_first *= factor;
+      h_second *= factor;
+    }
+  }
+};
+
+}  // namespace
+
+void rotmg(float* d1, float* d2, float* x1, float y1, float* param) {
+  ModifiedRotation h;
+  const float p2 = *d2 * y1, p1 = *d1 * *x1, q2 = p2 * y1, q1 = p1 * *x1;
+  const auto clear = [&] { *d1 = *d2 = *x1 = 0; };
+  if (*d1 < 0) {
+    clear();
+  } else if (p2 == 0) {
+    param[0] = -2;  // the identity
+    return;
+  } else if (std::abs(q1) > std::abs(q2)) {
+    const float h21 = -y1 / *x1, h12 = p2 / p1, u = 1 - h12 * h21;
+    if (u > 0) {
+      h = {0, 0, h12, h21, 0};
+      *d1 /= u;
+      *d2 /= u;
+      *x1 *= u;
+    } else {  // by rounding errors only
+      clear();
+    }
+  } else if (q2 < 0) {
+    clear();
+  } else {
+    h = {1, p1 / p2, 0, 0, *x1 / y1};
+    const float u = 1 + h.h11 * h.h22, exchanged = *d2 / u;
+    *d2 = *d1 / u;
+    *d1 = exchanged;
+    *x1 = y1 * u;
+  }
+  h.rescale(*d1, h.h11, h.h12, x1);
+  h.rescale(*d2, h.h21, h.h22, nullptr);
+  // What the form implies is not stored.
+  if (h.form < 0) {
+    param[1] = h.h11;
+    param[2] = h.h21;
+    param[3] = h.h12;
+    param[4] = h.h22;
+  } else if (h.form == 0) {
+    param[2] = h.h21;
+    param[3] = h.h12;
+  } else {
+    param[1] = h.h11;
+    param[4] = h.h22;
+  }
+  param[0] = h.form;
+}
 
 template <Scalar T>
 int iamax(int n, const T* x, int incx) {

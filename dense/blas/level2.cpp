@@ -9,47 +9,23 @@
 #include "dense/blas/partition.hpp"
 #include "dense/kernels/matrix_vector.hpp"
 #include "dense/kernels/vector_kernels.hpp"
-#include "dense/openblas/buffers.hpp"
-#include "dense/openblas/routines.hpp"
 
 namespace quorin::dense {
 namespace {
 
 using Complex = std::complex<float>;
-using openblas::Routines;
+using DoubleComplex = std::complex<double>;
 
 // A thread should have this many matrix elements, about 1 MiB of floats, to be worth waking.
 constexpr double kElementsPerThread = 1 << 18;
 
-// OpenBLAS copies strided vectors into its buffer, so what one call of it sees is bounded.
-constexpr int kLongestVector = static_cast<int>(openblas::kBufferBytes / sizeof(Complex) / 8);
+// Strided vectors go through copies of so many elements at a time, on the stack.
+constexpr int kChunk = 512;
 
 // The names of symmetric and Hermitian operations differ only in the published name.
 template <Scalar T>
 constexpr const char* named(const char* real_name, const char* complex_name) {
   return kIsComplex<T> ? complex_name : real_name;
-}
-
-// The first element in memory order of entries first..first+count-1 of a strided vector with `length` entries.
-template <class Pointer>
-Pointer slice(Pointer x, int length, int inc, Range range) {
-  const int skipped = inc > 0 ? range.first : length - range.first - range.count;
-  return x + static_cast<std::ptrdiff_t>(skipped) * (inc > 0 ? inc : -inc);
-}
-
-int part_count(int total, int threads) {
-  const int longest = (total + kLongestVector - 1) / kLongestVector;
-  return std::max({1, threads, longest});
-}
-
-// Runs `part` over the ranges of 0..total-1 with buffers for every thread, or reports that there are none.
-template <Scalar T, class Part>
-void run_parts(const char* operation, int total, int threads, const Part& part) {
-  const openblas::BufferReservation buffers(threads);
-  if (buffers.granted() == 0) return ArgumentCheck<T>::report(operation, base::kInsufficientWorkspace);
-  const int parts = part_count(total, buffers.granted());
-  constexpr int kTile = 16;
-  base::parallel_for(parts, buffers.granted(), [&](int i) { part(part_range(total, parts, i, kTile)); });
 }
 
 // Where the first entry of a strided vector stands.
@@ -65,9 +41,9 @@ void scale(int n, T beta, T* y, std::ptrdiff_t incy) {
   for (int i = 0; i < n; ++i, y += incy) *y = beta == T{} ? T{} : product(beta, *y);
 }
 
-// The same without buffers, for kernels of our own.
+// Runs `part` over the ranges of 0..total-1, one for each thread.
 template <class Part>
-void run_own_parts(int total, int threads, const Part& part) {
+void run_parts(int total, int threads, const Part& part) {
   constexpr int kTile = 16;
   base::parallel_for(threads, threads, [&](int i) { part(part_range(total, threads, i, kTile)); });
 }
@@ -78,15 +54,129 @@ int threads_for_matrix(int m, int n) {
   return threads_for(elements, kElementsPerThread, base::region_threads(base::Domain::kBlas));
 }
 
+// A vector by its first entry and the step to the next.
+template <class Element>
+struct Strided {
+  Strided(Element* x, int length, int inc) : first(first_entry(x, length, inc)), step(inc) {}
+  Strided(Element* first_element, std::ptrdiff_t step_to_next) : first(first_element), step(step_to_next) {}
+  Element& operator[](int i) const { return first[i * step]; }
+  Strided from(int i) const { return {first + i * step, step}; }
+
+  Element* first;
+  std::ptrdiff_t step;
+};
+
+// A piece of a strided vector where kernels want it: in place if its step is 1, else copied.
 template <Scalar T>
-using Triangular2 = openblas::Triangular2<T>;
+class Gathered {
+ public:
+  Gathered(const Strided<const T>& x, int count) : data_(x.step == 1 ? x.first : copy_) {
+    for (int i = 0; i < count && x.step != 1; ++i) copy_[i] = x[i];
+  }
+  Gathered(const Gathered&) = delete;
+  Gathered& operator=(const Gathered&) = delete;
+  const T* data() const { return data_; }
+
+ private:
+  const T* data_;
+  T copy_[kChunk];
+};
+
+// The same for a piece that is changed: what was made of it goes back when this goes out of scope.
+template <Scalar T>
+class Updated {
+ public:
+  Updated(const Strided<T>& x, int count) : x_(x), count_(count), is_copy_(x.step != 1) {
+    for (int i = 0; i < count && is_copy_; ++i) copy_[i] = x[i];
+  }
+  ~Updated() {
+    for (int i = 0; i < count_ && is_copy_; ++i) x_[i] = copy_[i];
+  }
+  Updated(const Updated&) = delete;
+  Updated& operator=(const Updated&) = delete;
+  T* data() { return is_copy_ ? copy_ : x_.first; }
+
+ private:
+  Strided<T> x_;
+  int count_;
+  bool is_copy_;
+  T copy_[kChunk];
+};
+
+// Calls body(first, count) for pieces of 0..n-1 that are short enough to be copied, or once if nothing need be.
+template <class Body>
+void in_chunks(bool is_contiguous, int n, const Body& body) {
+  if (is_contiguous) return body(0, n);
+  for (int i = 0; i < n; i += kChunk) body(i, std::min(kChunk, n - i));
+}
 
 template <Scalar T>
-using TriangularKernel = void(kernels::Triangle shape, int n, const T* a, int lda, T* x);
+const T* at(const T* a, int lda, int row, int column) {
+  return a + row + static_cast<std::ptrdiff_t>(column) * lda;
+}
+
+// y <- y + alpha op(A) x with A m by n as stored, for vectors of any strides.
+template <Scalar T>
+void add_op_product(bool transposed, bool conjugate, int m, int n, T alpha, const T* a, int lda, Strided<const T> x,
+                    Strided<T> y) {
+  // The vector along the columns of A is the one that kernels want contiguous.
+  in_chunks((transposed ? x.step : y.step) == 1, m, [&](int i, int count) {
+    if (transposed) {
+      const Gathered<T> xi(x.from(i), count);
+      kernels::add_transposed_product(conjugate, count, n, alpha, a + i, lda, xi.data(), y.first, y.step);
+    } else {
+      Updated<T> yi(y.from(i), count);
+      kernels::add_product(count, n, alpha, a + i, lda, x.first, x.step, yi.data());
+    }
+  });
+}
+
+// The off-diagonal block of a triangle beside columns first..first+count-1: above or below its diagonal block.
+Range beside(bool is_upper, int n, int first, int count) {
+  return is_upper ? Range{0, first} : Range{first + count, n - first - count};
+}
 
 template <Scalar T>
-void triangular(const char* operation, Triangular2<T>* routine, TriangularKernel<T>* kernel, char uplo, char trans,
-                char diag, int n, const T* a, int lda, T* x, int incx) {
+using TriangularKernel = void(kernels::Triangle shape, int n, const T* a, int lda, T* x) noexcept;
+
+// x <- op(A) x (kSolves: op(A)^-1 x) by diagonal blocks, each with what stands beside it, in the
+// order in which entries of x are final or needed no more.
+template <bool kSolves, Scalar T>
+void run_triangle(kernels::Triangle shape, int n, const T* a, int lda, Strided<T> x) {
+  TriangularKernel<T>* const kernel = kSolves ? kernels::solve_triangle<T> : kernels::multiply_by_triangle<T>;
+  if (x.step == 1) return kernel(shape, n, a, lda, x.first);
+  const bool from_first = (shape.is_upper != shape.is_transposed) != kSolves;
+  const int blocks = (n + kChunk - 1) / kChunk;
+  for (int k = 0; k < blocks; ++k) {
+    const int first = (from_first ? k : blocks - 1 - k) * kChunk, count = std::min(kChunk, n - first);
+    const Range rows = beside(shape.is_upper, n, first, count);
+    const auto add_beside = [&](T sign) {
+      const Strided<T> along = x.from(rows.first), own = x.from(first);
+      const T* const block = at(a, lda, rows.first, first);
+      if (shape.is_transposed) {
+        return add_op_product(true, shape.is_conjugated, rows.count, count, sign, block, lda,
+                              Strided<const T>(along.first, along.step), own);
+      }
+      for (int j = 0; j < count; ++j) {  // as published, a zero hides what stands in its column
+        if (own[j] == T{}) continue;
+        add_op_product(false, false, rows.count, 1, sign, at(block, lda, 0, j), lda,
+                       Strided<const T>(&own[j], own.step), along);
+      }
+    };
+    const auto run_block = [&] {
+      Updated<T> block(x.from(first), count);
+      kernel(shape, count, at(a, lda, first, first), lda, block.data());
+    };
+    // What stands beside uses the entries of the block as they were (a product of A) or as they have become (a
+    // solution), or adds to them before (a solution with A^T) or after (a product with A^T) their own turn.
+    if (kSolves == shape.is_transposed) add_beside(kSolves ? T{-1} : T{1});
+    run_block();
+    if (kSolves != shape.is_transposed) add_beside(kSolves ? T{-1} : T{1});
+  }
+}
+
+template <bool kSolves, Scalar T>
+void triangular(const char* operation, char uplo, char trans, char diag, int n, const T* a, int lda, T* x, int incx) {
   const bool arguments_hold = ArgumentCheck<T>(operation)
                                   .require(1, is_one_of(uplo, "UL"))
                                   .require(2, is_one_of(trans, "NTC"))
@@ -96,16 +186,13 @@ void triangular(const char* operation, Triangular2<T>* routine, TriangularKernel
                                   .require(8, incx != 0)
                                   .passed();
   if (!arguments_hold || n == 0) return;
-  if (incx == 1) {
-    return kernel({is_one_of(uplo, "U"), !is_one_of(trans, "N"), is_one_of(trans, "C"), is_one_of(diag, "U")}, n, a,
-                  lda, x);
-  }
-  run_parts<T>(operation, 1, 1, [&](Range) { routine(&uplo, &trans, &diag, &n, a, &lda, x, &incx); });
+  run_triangle<kSolves>({is_one_of(uplo, "U"), !is_one_of(trans, "N"), is_one_of(trans, "C"), is_one_of(diag, "U")}, n,
+                        a, lda, Strided<T>(x, n, incx));
 }
 
 template <Scalar T>
-void rank_one(const char* operation, openblas::Ger<T>* routine, bool conjugate, int m, int n, T alpha, const T* x,
-              int incx, const T* y, int incy, T* a, int lda) {
+void rank_one(const char* operation, bool conjugate, int m, int n, T alpha, const T* x, int incx, const T* y, int incy,
+              T* a, int lda) {
   const bool arguments_hold = ArgumentCheck<T>(operation)
                                   .require(1, m >= 0)
                                   .require(2, n >= 0)
@@ -114,24 +201,14 @@ void rank_one(const char* operation, openblas::Ger<T>* routine, bool conjugate, 
                                   .require(9, lda >= least_leading_dimension(m))
                                   .passed();
   if (!arguments_hold || m == 0 || n == 0 || alpha == T{}) return;
-  const int threads = threads_for_matrix(m, n);
-  if (incx == 1) {
-    return run_own_parts(n, threads, [&](Range columns) {
-      kernels::add_outer_product(conjugate, m, columns.count, alpha, x,
-                                 first_entry(y, n, incy) + static_cast<std::ptrdiff_t>(columns.first) * incy, incy,
-                                 a + static_cast<std::ptrdiff_t>(columns.first) * lda, lda);
+  const Strided<const T> xs(x, m, incx), ys(y, n, incy);
+  run_parts(n, threads_for_matrix(m, n), [&](Range columns) {
+    in_chunks(incx == 1, m, [&](int i, int count) {
+      const Gathered<T> xi(xs.from(i), count);
+      kernels::add_outer_product(conjugate, count, columns.count, alpha, xi.data(), &ys[columns.first], ys.step,
+                                 a + i + static_cast<std::ptrdiff_t>(columns.first) * lda, lda);
     });
-  }
-  if (n >= m) {
-    run_parts<T>(operation, n, threads, [&](Range columns) {
-      routine(&m, &columns.count, &alpha, x, &incx, slice(y, n, incy, columns), &incy,
-              a + static_cast<std::ptrdiff_t>(columns.first) * lda, &lda);
-    });
-  } else {
-    run_parts<T>(operation, m, threads, [&](Range rows) {
-      routine(&rows.count, &n, &alpha, slice(x, m, incx, rows), &incx, y, &incy, a + rows.first, &lda);
-    });
-  }
+  });
 }
 
 }  // namespace
@@ -147,44 +224,29 @@ void gemv(char trans, int m, int n, T alpha, const T* a, int lda, const T* x, in
                                   .require(11, incy != 0)
                                   .passed();
   if (!arguments_hold || m == 0 || n == 0 || (alpha == T{} && beta == T{1})) return;
-  // Each part makes some entries of y, from rows of A or, transposed, from columns; a very long x comes in pieces.
+  // Each part makes some entries of y, from rows of A or, transposed, from columns.
   const bool transposed = !is_one_of(trans, "N");
   const int made = transposed ? n : m, summed = transposed ? m : n;
-  if ((transposed ? incx : incy) == 1) {
-    return run_own_parts(made, threads_for_matrix(m, n), [&](Range out) {
-      if (out.count == 0) return;
-      T* const part = first_entry(y, made, incy) + static_cast<std::ptrdiff_t>(out.first) * incy;
-      scale(out.count, beta, part, incy);
-      if (alpha == T{}) return;
-      if (transposed) {
-        kernels::add_transposed_product(is_one_of(trans, "C"), m, out.count, alpha,
-                                        a + static_cast<std::ptrdiff_t>(out.first) * lda, lda, x, part, incy);
-      } else {
-        kernels::add_product(out.count, n, alpha, a + out.first, lda, first_entry(x, n, incx), incx, part);
-      }
-    });
-  }
-  const int pieces = part_count(summed, 1);
-  run_parts<T>("GEMV", made, threads_for_matrix(m, n), [&](Range out) {
-    for (int i = 0; i < pieces; ++i) {
-      const Range in = part_range(summed, pieces, i, 1);
-      const Range rows = transposed ? in : out, columns = transposed ? out : in;
-      const T factor = i == 0 ? beta : T{1};
-      Routines<T>::gemv(&trans, &rows.count, &columns.count, &alpha,
-                        a + rows.first + static_cast<std::ptrdiff_t>(columns.first) * lda, &lda,
-                        slice(x, summed, incx, in), &incx, &factor, slice(y, made, incy, out), &incy);
-    }
+  const Strided<const T> xs(x, summed, incx);
+  const Strided<T> ys(y, made, incy);
+  run_parts(made, threads_for_matrix(m, n), [&](Range out) {
+    if (out.count == 0) return;
+    const Strided<T> part = ys.from(out.first);
+    scale(out.count, beta, part.first, part.step);
+    if (alpha == T{}) return;
+    add_op_product(transposed, is_one_of(trans, "C"), transposed ? m : out.count, transposed ? out.count : n, alpha,
+                   transposed ? at(a, lda, 0, out.first) : a + out.first, lda, xs, part);
   });
 }
 
 template <Scalar T>
 void trmv(char uplo, char trans, char diag, int n, const T* a, int lda, T* x, int incx) {
-  triangular<T>("TRMV", Routines<T>::trmv, kernels::multiply_by_triangle<T>, uplo, trans, diag, n, a, lda, x, incx);
+  triangular<false, T>("TRMV", uplo, trans, diag, n, a, lda, x, incx);
 }
 
 template <Scalar T>
 void trsv(char uplo, char trans, char diag, int n, const T* a, int lda, T* x, int incx) {
-  triangular<T>("TRSV", Routines<T>::trsv, kernels::solve_triangle<T>, uplo, trans, diag, n, a, lda, x, incx);
+  triangular<true, T>("TRSV", uplo, trans, diag, n, a, lda, x, incx);
 }
 
 template <Scalar T>
@@ -198,23 +260,34 @@ void hemv(char uplo, int n, T alpha, const T* a, int lda, const T* x, int incx, 
                                   .require(10, incy != 0)
                                   .passed();
   if (!arguments_hold || n == 0 || (alpha == T{} && beta == T{1})) return;
-  if (incx == 1 && incy == 1) {
-    scale(n, beta, y, 1);
-    if (alpha != T{}) kernels::add_hermitian_product(is_one_of(uplo, "U"), n, alpha, a, lda, x, y);
-    return;
-  }
-  run_parts<T>(kOperation, 1, 1,
-               [&](Range) { Routines<T>::hemv(&uplo, &n, &alpha, a, &lda, x, &incx, &beta, y, &incy); });
+  const bool is_upper = is_one_of(uplo, "U");
+  const Strided<const T> xs(x, n, incx);
+  const Strided<T> ys(y, n, incy);
+  scale(n, beta, ys.first, ys.step);
+  if (alpha == T{}) return;
+  // Diagonal blocks, and what stands beside them with its mirror image.
+  in_chunks(incx == 1 && incy == 1, n, [&](int first, int count) {
+    {
+      const Gathered<T> xi(xs.from(first), count);
+      Updated<T> yi(ys.from(first), count);
+      kernels::add_hermitian_product(is_upper, count, alpha, at(a, lda, first, first), lda, xi.data(), yi.data());
+    }
+    const Range rows = beside(is_upper, n, first, count);
+    const T* const block = at(a, lda, rows.first, first);
+    if (rows.count == 0) return;
+    add_op_product(false, false, rows.count, count, alpha, block, lda, xs.from(first), ys.from(rows.first));
+    add_op_product(true, true, rows.count, count, alpha, block, lda, xs.from(rows.first), ys.from(first));
+  });
 }
 
 template <Scalar T>
 void geru(int m, int n, T alpha, const T* x, int incx, const T* y, int incy, T* a, int lda) {
-  rank_one<T>(named<T>("GER", "GERU"), Routines<T>::geru, false, m, n, alpha, x, incx, y, incy, a, lda);
+  rank_one<T>(named<T>("GER", "GERU"), false, m, n, alpha, x, incx, y, incy, a, lda);
 }
 
 template <Scalar T>
 void gerc(int m, int n, T alpha, const T* x, int incx, const T* y, int incy, T* a, int lda) {
-  rank_one<T>(named<T>("GER", "GERC"), Routines<T>::gerc, true, m, n, alpha, x, incx, y, incy, a, lda);
+  rank_one<T>(named<T>("GER", "GERC"), true, m, n, alpha, x, incx, y, incy, a, lda);
 }
 
 template <Scalar T>
@@ -227,8 +300,19 @@ void her(char uplo, int n, RealOf<T> alpha, const T* x, int incx, T* a, int lda)
                                   .require(7, lda >= least_leading_dimension(n))
                                   .passed();
   if (!arguments_hold || n == 0 || alpha == 0) return;
-  if (incx == 1) return kernels::add_hermitian_square(is_one_of(uplo, "U"), n, alpha, x, a, lda);
-  run_parts<T>(kOperation, 1, 1, [&](Range) { Routines<T>::her(&uplo, &n, &alpha, x, &incx, a, &lda); });
+  const bool is_upper = is_one_of(uplo, "U");
+  const Strided<const T> xs(x, n, incx);
+  in_chunks(incx == 1, n, [&](int first, int count) {
+    const Gathered<T> xi(xs.from(first), count);
+    T* const columns = a + static_cast<std::ptrdiff_t>(first) * lda;
+    kernels::add_hermitian_square(is_upper, count, alpha, xi.data(), columns + first, lda);
+    const Range rows = beside(is_upper, n, first, count);
+    in_chunks(incx == 1, rows.count, [&](int i, int height) {
+      const Gathered<T> along(xs.from(rows.first + i), height);
+      kernels::add_outer_product(true, height, count, T(alpha), along.data(), xi.data(), 1, columns + rows.first + i,
+                                 lda);
+    });
+  });
 }
 
 template <Scalar T>
@@ -242,8 +326,20 @@ void her2(char uplo, int n, T alpha, const T* x, int incx, const T* y, int incy,
                                   .require(9, lda >= least_leading_dimension(n))
                                   .passed();
   if (!arguments_hold || n == 0 || alpha == T{}) return;
-  if (incx == 1 && incy == 1) return kernels::add_hermitian_pair(is_one_of(uplo, "U"), n, alpha, x, y, a, lda);
-  run_parts<T>(kOperation, 1, 1, [&](Range) { Routines<T>::her2(&uplo, &n, &alpha, x, &incx, y, &incy, a, &lda); });
+  const bool is_upper = is_one_of(uplo, "U"), is_contiguous = incx == 1 && incy == 1;
+  const Strided<const T> xs(x, n, incx), ys(y, n, incy);
+  in_chunks(is_contiguous, n, [&](int first, int count) {
+    const Gathered<T> xi(xs.from(first), count), yi(ys.from(first), count);
+    T* const columns = a + static_cast<std::ptrdiff_t>(first) * lda;
+    kernels::add_hermitian_pair(is_upper, count, alpha, xi.data(), yi.data(), columns + first, lda);
+    const Range rows = beside(is_upper, n, first, count);
+    in_chunks(is_contiguous, rows.count, [&](int i, int height) {
+      const Gathered<T> x_along(xs.from(rows.first + i), height), y_along(ys.from(rows.first + i), height);
+      T* const block = columns + rows.first + i;
+      kernels::add_outer_product(true, height, count, alpha, x_along.data(), yi.data(), 1, block, lda);
+      kernels::add_outer_product(true, height, count, conjugate(alpha), y_along.data(), xi.data(), 1, block, lda);
+    });
+  });
 }
 
 template void gemv(char, int, int, float, const float*, int, const float*, int, float, float*, int);
@@ -253,6 +349,15 @@ template void hemv(char, int, float, const float*, int, const float*, int, float
 template void geru(int, int, float, const float*, int, const float*, int, float*, int);
 template void her<float>(char, int, float, const float*, int, float*, int);
 template void her2(char, int, float, const float*, int, const float*, int, float*, int);
+
+// For the library's own use.
+template void gemv(char, int, int, double, const double*, int, const double*, int, double, double*, int);
+template void trsv(char, char, char, int, const double*, int, double*, int);
+template void geru(int, int, double, const double*, int, const double*, int, double*, int);
+template void gemv(char, int, int, DoubleComplex, const DoubleComplex*, int, const DoubleComplex*, int, DoubleComplex,
+                   DoubleComplex*, int);
+template void trsv(char, char, char, int, const DoubleComplex*, int, DoubleComplex*, int);
+template void geru(int, int, DoubleComplex, const DoubleComplex*, int, const DoubleComplex*, int, DoubleComplex*, int);
 
 template void gemv(char, int, int, Complex, const Complex*, int, const Complex*, int, Complex, Complex*, int);
 template void trmv(char, char, char, int, const Complex*, int, Complex*, int);

@@ -12,6 +12,7 @@ namespace quorin::dense {
 namespace {
 
 using Complex = std::complex<float>;
+using DoubleComplex = std::complex<double>;
 
 // The unchecked routines.
 template <class T>
@@ -212,5 +213,12 @@ template void her2k<Complex>(char, char, int, int, Complex, const Complex*, int,
                              int);
 template void trmm(char, char, char, char, int, int, Complex, const Complex*, int, Complex*, int);
 template void trsm(char, char, char, char, int, int, Complex, const Complex*, int, Complex*, int);
+
+// For the library's own use.
+template void gemm(char, char, int, int, int, double, const double*, int, const double*, int, double, double*, int);
+template void trsm(char, char, char, char, int, int, double, const double*, int, double*, int);
+template void gemm(char, char, int, int, int, DoubleComplex, const DoubleComplex*, int, const DoubleComplex*, int,
+                   DoubleComplex, DoubleComplex*, int);
+template void trsm(char, char, char, char, int, int, DoubleComplex, const DoubleComplex*, int, DoubleComplex*, int);
 
 }  // namespace quorin::dense

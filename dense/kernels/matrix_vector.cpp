@@ -11,6 +11,7 @@ namespace quorin::dense::kernels {
 namespace {
 
 using Complex = std::complex<float>;
+using DoubleComplex = std::complex<double>;
 
 // So many rows at a time, whose vector stays in the first cache while columns pass.
 constexpr int kRows = 2048;
@@ -208,5 +209,19 @@ template void multiply_by_triangle(Triangle, int, const float*, int, float*) noe
 template void multiply_by_triangle(Triangle, int, const Complex*, int, Complex*) noexcept;
 template void solve_triangle(Triangle, int, const float*, int, float*) noexcept;
 template void solve_triangle(Triangle, int, const Complex*, int, Complex*) noexcept;
+
+template void add_product(int, int, double, const double*, int, const double*, std::ptrdiff_t, double*) noexcept;
+template void add_product(int, int, DoubleComplex, const DoubleComplex*, int, const DoubleComplex*, std::ptrdiff_t,
+                          DoubleComplex*) noexcept;
+template void add_transposed_product(bool, int, int, double, const double*, int, const double*, double*,
+                                     std::ptrdiff_t) noexcept;
+template void add_transposed_product(bool, int, int, DoubleComplex, const DoubleComplex*, int, const DoubleComplex*,
+                                     DoubleComplex*, std::ptrdiff_t) noexcept;
+template void add_outer_product(bool, int, int, double, const double*, const double*, std::ptrdiff_t, double*,
+                                int) noexcept;
+template void add_outer_product(bool, int, int, DoubleComplex, const DoubleComplex*, const DoubleComplex*,
+                                std::ptrdiff_t, DoubleComplex*, int) noexcept;
+template void solve_triangle(Triangle, int, const double*, int, double*) noexcept;
+template void solve_triangle(Triangle, int, const DoubleComplex*, int, DoubleComplex*) noexcept;
 
 }  // namespace quorin::dense::kernels
