@@ -1,6 +1,7 @@
 // The library's services as a host sees them. Counts are shared by the whole process, so every test puts them back.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <climits>
 #include <string>
 
@@ -125,6 +126,19 @@ TEST(Xerbla, TakesTheNameByItsLengthAndCutsItAtTwenty) {
     EXPECT_EQ(xerbla_text(thirty.c_str(), 3, length), message(thirty.substr(0, static_cast<std::size_t>(length))));
   }
   EXPECT_EQ(xerbla_text("100%s%n", 3, 7), message("100%s%n"));
+}
+
+// Fortran pads names with blanks, and gives the length with them.
+TEST(Xerbla, DropsBlanksBehindNamesOfEveryLength) {
+  const std::string letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
+  for (std::size_t length = 0; length <= 22; ++length) {
+    for (const std::size_t blanks : {1, 2, 7, 25}) {
+      const std::string padded = letters.substr(0, length) + std::string(blanks, ' ');
+      EXPECT_EQ(xerbla_text((padded + "XYZ").c_str(), 3, static_cast<std::int32_t>(padded.size())),
+                "\nIntel MKL ERROR: Parameter 3 was incorrect on entry to " +
+                    letters.substr(0, std::min<std::size_t>(length, 20)) + ".\n");
+    }
+  }
 }
 
 TEST(Xerbla, IgnoresNullAndNegativeLength) {

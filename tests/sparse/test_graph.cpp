@@ -175,6 +175,15 @@ TEST(EliminationTree, AndCountsAreThoseOfElimination) {
   }
 }
 
+TEST(EliminationTree, FillMayExceed32Bits) {
+  constexpr int n = 70'000;
+  Edges star(n);
+  for (int i = 1; i < n; ++i) star.add(0, i);
+  Arrays arrays(n);
+  order_identity(n, arrays.ordering());  // the hub first
+  EXPECT_EQ(factor_entries(graph_of(star.matrix("star")), arrays.ordering()), std::int64_t{n} * (n + 1) / 2);
+}
+
 TEST(EliminationTree, MayBeAsDeepAsTheMatrixIsLarge) {
   const int n = 1'000'000;
   const Graph graph = graph_of(grid(n, 1, 1, false));

@@ -56,6 +56,17 @@ TEST(MinimumDegree, FillsNoMoreThanAmdOnGrids) {
 }
 
 // Few edges and many, hubs, cliques, vertices without neighbours; some are full of vertices that cannot be told apart.
+TEST(MinimumDegree, PutsVerticesWithVeryManyNeighboursLastTheLargestAtTheEnd) {
+  constexpr int n = 600;
+  Edges edges(n);
+  for (const auto& [hub, degree] : {std::pair{3, 590}, {5, 400}, {9, 500}, {11, 400}}) {
+    for (int i = n - degree; i < n; ++i) edges.add(hub, i);
+  }
+  Arrays arrays(n);
+  ASSERT_EQ(order_minimum_degree(graph_of(edges.matrix("hubs")), arrays.ordering()), Outcome::kDone);
+  EXPECT_EQ(std::vector<int>(arrays.permutation.end() - 4, arrays.permutation.end()), (std::vector<int>{5, 11, 9, 3}));
+}
+
 TEST(MinimumDegree, OrdersGraphsOfAllKinds) {
   std::vector<Matrix> matrices = {Matrix{},
                                   Edges(1).matrix("one"),

@@ -67,6 +67,21 @@ TEST(Stops, EachTestHasItsCode) {
   }
 }
 
+// The first region's radius is kept between 0.1 and 100, and 0 stands for 100.
+TEST(Setup, TheFirstRadiusIsLimited) {
+  const auto first_point = [](float rs) {
+    Fit run = powell_run(1, 1e-5F);
+    run.rs = rs;
+    EXPECT_EQ(run.begin(), kSuccess);
+    while (run.requests[0] < 2) EXPECT_TRUE(run.step());
+    run.finish();
+    return run.x;
+  };
+  for (const float rs : {1e-3F, 0.05F}) EXPECT_EQ(first_point(rs), first_point(0.1F)) << rs;
+  EXPECT_NE(first_point(0.2F), first_point(0.1F));
+  for (const float rs : {0.0F, 101.0F, 1e30F}) EXPECT_EQ(first_point(rs), first_point(100)) << rs;
+}
+
 TEST(Stops, RequestsRepeatAfterTheEnd) {
   Fit run = powell_run(1, 1e-5F);
   ASSERT_EQ(run.begin(), kSuccess);

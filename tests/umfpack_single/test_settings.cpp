@@ -59,6 +59,24 @@ TEST(Settings, AreObeyed) {
   }
 }
 
+// Refinement steps, block size, print level and the others: all defaults at once.
+TEST(Settings, NaNStandsForTheDefault) {
+  for (const bool is_complex : {false, true}) {
+    const Matrix A = random_matrix(50, is_complex);
+    const Floats b(50, 1);
+    Host plain(A), host(A);
+    host.Control.fill(std::numeric_limits<float>::quiet_NaN());
+    for (Host* each : {&plain, &host}) {
+      each->factorize();
+      ASSERT_EQ(each->solve(0, b, b), 0);
+    }
+    EXPECT_EQ(host.Xx, plain.Xx);
+    EXPECT_EQ(host.Xz, plain.Xz);
+    EXPECT_GE(plain.Info[81], 1) << "refinement steps tried";
+    for (const std::size_t i : {18U, 43U, 44U, 68U, 73U, 80U, 81U}) EXPECT_EQ(host.Info[i], plain.Info[i]) << i;
+  }
+}
+
 TEST(Settings, InfoTellsOfThisBuildAndKeepsWhatOtherCallsWrote) {
   Host host(random_matrix(50, true));
   host.Info.fill(123);
