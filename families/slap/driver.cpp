@@ -190,9 +190,8 @@ void run(const Call& call) {
   if (has_bad_sizes(call)) {
     return set_status(kBadInput);
   }
-  to_column_format(call.n, call.nelt, call.ia, call.ja, call.a, nullptr);
   const ColumnMatrix matrix{call.n, call.nelt, call.ia, call.ja, call.a, call.isym != 0};
-  if (!matrix.is_sound()) {
+  if (!bring_to_columns(call.n, call.nelt, call.ia, call.ja, call.a) || !matrix.is_sound()) {
     return set_status(kBadInput);
   }
   switch (call.preconditioning) {

@@ -30,6 +30,10 @@ struct Call {
   bool is_diagonal_gmres() const { return is(Iteration::kGmres, Preconditioning::kDiagonal); }
 };
 
+// to_column_format (slap.hpp) for a solver. False if a column is empty or lies outside 1..n: the triads are only
+// sorted.
+[[nodiscard]] bool bring_to_columns(int n, int nelt, int* ia, int* ja, float* a);
+
 // Checks the call, converts its matrix and runs the iteration; all that the host gets stands in its arguments.
 void run(const Call& call);
 

@@ -11,7 +11,8 @@ namespace quorin::slap {
 // Brings a matrix of triads (row ia, column ja, value a, one-based, in any order) to the column format: ja(j) becomes
 // the place of column j's first entry, ja(n+1) = nelt + 1, ja(n+2) = 0; the diagonal stands first in its column, then
 // rows ascend. ja holds max(nelt, n + 2) entries. A matrix with ja(n+1) = nelt + 1 is taken as converted and left
-// alone. Repeated entries stay. Every column must hold an entry, or columns come out wrong (never out of bounds).
+// alone, and so is one with a column outside 1..n. Repeated entries stay. Every column must hold an entry, or columns
+// come out wrong (never out of bounds).
 void to_column_format(int n, int nelt, int* ia, int* ja, float* a, const int* isym) noexcept;
 
 // Reads nothing and prints nothing.

@@ -129,23 +129,34 @@ struct Lengths {
   int reals, integers;
 };
 
-// As published. Triangles are counted in the triads, or in the columns where the matrix is converted already.
+struct Triangles {
+  int below = 0, diagonal = 0, above = 0;
+};
+
+// As a host counts: in its triads, or in the columns where the matrix is converted already.
+Triangles count_triangles(const Triads& a) {
+  Triangles t;
+  const auto count = [&](int i, int j) {
+    t.below += i > j ? 1 : 0;
+    t.diagonal += i == j ? 1 : 0;
+    t.above += i < j || (i > j && a.isym != 0) ? 1 : 0;
+  };
+  const bool is_converted = static_cast<int>(a.ja.size()) > a.n && a.ja[a.n] == a.nelt() + 1;
+  for (int k = 0; !is_converted && k < a.nelt(); ++k) count(a.ia[k], a.ja[k]);
+  for (int j = 1; is_converted && j <= a.n; ++j) {
+    for (int k = std::max(a.ja[j - 1], 1); k < std::min(a.ja[j], a.nelt() + 1); ++k) count(a.ia[k - 1], j);
+  }
+  return t;
+}
+
+// As published.
 Lengths lengths(const Solver& s, const Triads& a, int nsave) {
   const int n = a.n;
   if (s.preconditioner == Preconditioner::kCholesky) {
     const int nl = a.isym != 0 ? a.nelt() : (a.nelt() + n) / 2;
     return {nl + 5 * n, nl + n + 11};
   }
-  Triads columns = a.converted();
-  int below = 0, diagonal = 0, above = 0;
-  for (int j = 1; j <= n; ++j) {
-    for (int k = std::max(columns.ja[j - 1], 1); k < std::min(columns.ja[j], a.nelt() + 1); ++k) {
-      const int i = columns.ia[k - 1];
-      below += i > j ? 1 : 0;
-      diagonal += i == j ? 1 : 0;
-      above += i < j || (i > j && a.isym != 0) ? 1 : 0;
-    }
-  }
+  const auto [below, diagonal, above] = count_triangles(a);
   if (s.preconditioner == Preconditioner::kLower) return {below + diagonal + 3 * n + 1, below + diagonal + n + 11};
   const bool is_lu = s.preconditioner == Preconditioner::kLu;
   const int fill = is_lu ? below + above : 0, integers = is_lu ? fill + 4 * n + 12 : 10;

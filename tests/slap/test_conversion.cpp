@@ -161,6 +161,12 @@ TEST(Conversion, LongColumns) {
   const Triads columns = arrow.converted();
   for (int i = 1; i <= arrow.n; ++i) ASSERT_EQ(columns.ia[i - 1], i);
   EXPECT_EQ(columns.ja[1], arrow.n + 1);
+  for (const int repeated : {7, arrow.n - 7}) {
+    Triads twice = arrow;
+    twice.add(repeated, 1, 0.5);
+    const Integers rows = twice.converted().ia;
+    EXPECT_TRUE(std::is_sorted(rows.begin(), rows.begin() + arrow.n + 1));
+  }
 }
 
 }  // namespace
