@@ -17,6 +17,7 @@ struct BicgVectors {
 // From r = b - A x and z = M^-1 r, with r as its own shadow.
 Leg run_leg(const System<float>& system, Progress& progress, const BicgVectors& v) {
   const int n = system.n();
+  progress.rescale(n, Scaling::kByProducts, v.r, v.z);
   dense::copy(n, v.r, 1, v.rr, 1);
   float old_zr = 1;  // the first direction needs none
   for (bool is_first = true; progress.next(); is_first = false) {
@@ -32,7 +33,7 @@ Leg run_leg(const System<float>& system, Progress& progress, const BicgVectors& 
     const float pq = dense::dotu(n, v.pp, 1, q, 1);
     if (!(std::fabs(pq) > 0)) return progress.fail(kSecondBreakdown);
     const float alpha = zr / pq;
-    dense::axpy(n, alpha, v.p, 1, system.x, 1);
+    dense::axpy(n, progress.unscaled(alpha), v.p, 1, system.x, 1);
     dense::axpy(n, -alpha, q, 1, v.r, 1);
     float* const qq = v.zz;  // A^T pp
     system.matrix.multiply_transposed(v.pp, qq);

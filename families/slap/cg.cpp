@@ -10,6 +10,7 @@ void conjugate_gradients(const System<float>& system, Progress& progress, float*
   system.residual(r);
   system.precondition(r, z);
   if (progress.is_done_after(Leg::kFirst, system, r, z, p)) return;
+  progress.rescale(n, Scaling::kByProducts, r, z);
   float old_zr = 1;  // the first direction needs none
   for (bool is_first = true; progress.next(); is_first = false) {
     const float zr = dense::dotu(n, z, 1, r, 1);
@@ -27,7 +28,7 @@ void conjugate_gradients(const System<float>& system, Progress& progress, float*
       return;
     }
     const float alpha = zr / pq;
-    dense::axpy(n, alpha, p, 1, system.x, 1);
+    dense::axpy(n, progress.unscaled(alpha), p, 1, system.x, 1);
     dense::axpy(n, -alpha, q, 1, r, 1);
     system.precondition(r, z);
     if (progress.has_converged(progress.tested_norm(system, r, z))) return;

@@ -29,6 +29,7 @@ void update_directions(int n, bool is_first, float beta, const CgsVectors& w) {
 // From r = b - A x.
 Leg run_leg(const System<float>& system, Progress& progress, const CgsVectors& w) {
   const int n = system.n();
+  progress.rescale(n, Scaling::kBySquares, w.r, w.t);
   dense::copy(n, w.r, 1, w.r0, 1);
   const float norm_r0 = dense::nrm2(n, w.r0, 1);
   float old_rho = 1;  // the first direction needs none
@@ -50,7 +51,7 @@ Leg run_leg(const System<float>& system, Progress& progress, const CgsVectors& w
       w.t[i] = w.u[i] + w.q[i];
     }
     system.precondition(w.t, w.t);
-    dense::axpy(n, alpha, w.t, 1, system.x, 1);
+    dense::axpy(n, progress.unscaled(alpha), w.t, 1, system.x, 1);
     system.matrix.multiply(w.t, w.v);
     dense::axpy(n, -alpha, w.v, 1, w.r, 1);
     if (progress.tests_preconditioned()) system.precondition(w.r, w.t);

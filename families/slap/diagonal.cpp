@@ -1,6 +1,9 @@
 #include "families/slap/diagonal.hpp"
 
 #include <algorithm>
+#include <cmath>
+
+#include "families/slap/vector_updates.hpp"
 
 namespace quorin::slap {
 
@@ -13,9 +16,13 @@ void invert_diagonal(const ColumnMatrix& matrix, float* inverse) {
 
 void invert_row_squares(const ColumnMatrix& matrix, float* inverse) {
   std::fill_n(inverse, matrix.n, 0.0F);
+  float largest = 0;
+  for_each_entry(matrix, [&](int, int, float a) { largest = std::max(largest, std::fabs(a)); });
+  const float scale = power_near_reciprocal(largest, largest);
   for_each_entry(matrix, [&](int i, int j, float a) {
-    inverse[i] += a * a;
-    if (matrix.is_lower && i > j) inverse[j] += a * a;
+    const float scaled = scale * a;
+    inverse[i] += scaled * scaled;
+    if (matrix.is_lower && i > j) inverse[j] += scaled * scaled;
   });
   for (int i = 0; i < matrix.n; ++i) inverse[i] = 1 / inverse[i];
 }

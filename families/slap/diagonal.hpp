@@ -23,7 +23,8 @@ class Diagonal final : public Preconditioner<T> {
 // zero, or the column empty.
 void invert_diagonal(const ColumnMatrix& matrix, float* inverse);
 
-// inverse(i) <- 1 / the diagonal entry i of A A^T, the square of row i's length.
+// inverse(i) <- 1 / the diagonal entry i of A A^T, the square of row i's length. Where squares
+// would overflow or vanish, all are those of A times one power of two: the iteration does not notice.
 void invert_row_squares(const ColumnMatrix& matrix, float* inverse);
 
 }  // namespace quorin::slap

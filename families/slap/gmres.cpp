@@ -113,7 +113,7 @@ void minimal_residuals(const System<float>& system, int length, Progress& progre
   for (;;) {
     const float norm = cycle.take_residual();
     const float tested = progress.tests_solution() ? dense::nrm2(system.n(), system.x, 1) : norm;
-    if (end == CycleEnd::kClaimed ? progress.is_confirmed(tested) : progress.has_converged(tested)) return;
+    if (end == CycleEnd::kClaimed ? progress.is_settled(tested) : progress.has_converged(tested)) return;
     if (end == CycleEnd::kBreakdown || !(norm > 0) || !std::isfinite(norm)) {
       progress.fail(kBreakdown);
       return;

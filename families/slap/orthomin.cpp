@@ -26,9 +26,9 @@ class Directions {
   float *p_, *q_, *inverse_;
 };
 
-// Makes q(k) orthogonal to those before, and takes p(k) along.
-void orthogonalise(int n, const Directions& directions, int k) {
-  for (int i = std::max(0, k - directions.length()); i < k; ++i) {
+// Makes q(k) orthogonal to those before from `oldest` on, and takes p(k) along.
+void orthogonalise(int n, const Directions& directions, int oldest, int k) {
+  for (int i = std::max(oldest, k - directions.length()); i < k; ++i) {
     const float c = dense::dotu(n, directions.q(i), 1, directions.q(k), 1) * directions.inverse(i);
     dense::axpy(n, -c, directions.p(i), 1, directions.p(k), 1);
     dense::axpy(n, -c, directions.q(i), 1, directions.q(k), 1);
@@ -44,10 +44,12 @@ void orthomin(const System<float>& system, int length, Progress& progress, float
   system.residual(r);
   system.precondition(r, directions.p(0));
   if (progress.is_done_after(Leg::kFirst, system, r, directions.p(0), directions.q(0))) return;
+  progress.rescale(n, Scaling::kBySquares, r, directions.p(0));
+  int oldest = 0;
   for (int k = 0; progress.next(); ++k) {
     float *const p = directions.p(k), *const q = directions.q(k);
     system.matrix.multiply(p, q);
-    orthogonalise(n, directions, k);
+    orthogonalise(n, directions, oldest, k);
     const float qq = dense::dotu(n, q, 1, q, 1), rq = dense::dotu(n, r, 1, q, 1);
     if (!(qq > 0) || rq == 0) {
       progress.fail(qq > 0 ? kSecondBreakdown : kBreakdown);
@@ -55,15 +57,18 @@ void orthomin(const System<float>& system, int length, Progress& progress, float
     }
     if (length > 0) directions.inverse(k) = 1 / qq;
     const float alpha = rq / qq;
-    dense::axpy(n, alpha, p, 1, system.x, 1);
+    dense::axpy(n, progress.unscaled(alpha), p, 1, system.x, 1);
     dense::axpy(n, -alpha, q, 1, r, 1);
     float* const z = directions.p(k + 1);
     system.precondition(r, z);
     if (!progress.claims_convergence(progress.tested_norm(system, r, z))) continue;
-    // The recurrence says so. Its residual drifts from the true one, which takes its place.
+    // The recurrence says so. Its residual drifts from the true one, which takes its place. What the two differ in is
+    // rounding, and so are the last directions: none of them is remembered.
     system.residual(r);
     system.precondition(r, z);
-    if (progress.is_confirmed(progress.tested_norm(system, r, z))) return;
+    if (progress.is_done_after(Leg::kClaimed, system, r, z, directions.q(k + 1))) return;
+    progress.rescale(n, Scaling::kBySquares, r, z);
+    oldest = k + 1;
   }
 }
 

@@ -51,27 +51,38 @@ bool Progress::claims_convergence(float norm) {
   return untrue_claims_ == 0 || *arguments_.err <= *arguments_.tol / 2 || is_over();
 }
 
-bool Progress::is_confirmed(float norm) {
+bool Progress::is_settled(float norm) {
   if (has_converged(norm)) return true;
   const float error = *arguments_.err;
   ++untrue_claims_;
   idle_claims_ = error > 0.95F * least_claimed_ ? idle_claims_ + 1 : 0;
   least_claimed_ = std::min(error, least_claimed_);
-  return idle_claims_ >= 3 && error <= 2 * least_claimed_;
+  const bool is_stuck = idle_claims_ >= 3 && error <= 2 * least_claimed_;
+  if (is_stuck) give_up();
+  return is_stuck;
 }
 
 template <class T>
 float Progress::tested_norm(const System<T>& system, const T* r, const T* z) const {
   if (tests_solution()) return norm(system.n(), system.x);
-  return norm(system.n(), tests_preconditioned() ? z : r);
+  return norm(system.n(), tests_preconditioned() ? z : r) / scale_;
 }
 
 template <class T>
 bool Progress::is_done_after(Leg leg, const System<T>& system, const T* r, const T* z, T* scratch) {
   if (leg == Leg::kOver) return true;
+  scale_ = 1;  // r and z are new
   if (leg == Leg::kFirst && !start_tests(system, scratch)) return true;
   const float tested = tested_norm(system, r, z);
-  return leg == Leg::kClaimed ? is_confirmed(tested) : has_converged(tested);
+  return leg == Leg::kClaimed ? is_settled(tested) : has_converged(tested);
+}
+
+void Progress::rescale(int n, Scaling scaling, float* r, float* z) {
+  const float norm_r = norm(n, r);
+  scale_ = power_near_reciprocal(norm_r, scaling == Scaling::kBySquares ? norm_r : norm(n, z));
+  if (scale_ == 1) return;
+  dense::scal(n, scale_, r, 1);
+  dense::scal(n, scale_, z, 1);
 }
 
 bool Progress::next() {
@@ -79,10 +90,14 @@ bool Progress::next() {
     ++*arguments_.iter;
     return true;
   }
+  give_up();
+  return false;
+}
+
+void Progress::give_up() {
   // One more than the limit; the largest limit has no such number.
   *arguments_.iter = static_cast<int>(static_cast<unsigned>(arguments_.itmax) + 1U);
   set(kNotConverged);
-  return false;
 }
 
 // What iterations in single precision need, and the one in double.

@@ -20,6 +20,9 @@ struct StoppingArguments {
   int* ierr;
 };
 
+// What an iteration divides by or tests for zero: squares of the residual r, or its products with z = M^-1 r.
+enum class Scaling { kBySquares, kByProducts };
+
 // A leg is a stretch of an iteration in which the residual comes from a recurrence. It begins with r = b - A x computed
 // anew and ends when the recurrence has to be checked, or has lost its way. This is how a leg ended.
 enum class Leg {
@@ -42,13 +45,19 @@ class Progress {
   template <class T>
   [[nodiscard]] float tested_norm(const System<T>& system, const T* r, const T* z) const;
 
+  // Scales r and z, just computed, by a power of two if products of theirs might overflow or vanish. Until the next
+  // residual the iteration's vectors are scaled with them; tested_norm() knows.
+  void rescale(int n, Scaling scaling, float* r, float* z);
+  // The step along a scaled direction that x takes.
+  float unscaled(float step) const { return step / scale_; }
+
   // The test of a residual that was computed as b - A x.
   [[nodiscard]] bool has_converged(float norm);
   // The test of a recurrence's residual. It asks for more once such a claim was found untrue.
   [[nodiscard]] bool claims_convergence(float norm);
   // The test of a residual that was computed anew after a claim. True also if three in turn did not make it less:
-  // rounding keeps it there, and ERR tells where.
-  [[nodiscard]] bool is_confirmed(float norm);
+  // rounding keeps it there, which is no convergence, and ERR tells where.
+  [[nodiscard]] bool is_settled(float norm);
   // Whether nothing is left to do after a leg (or before the first, which starts the tests), r being computed anew.
   template <class T>
   [[nodiscard]] bool is_done_after(Leg leg, const System<T>& system, const T* r, const T* z, T* scratch);
@@ -72,10 +81,13 @@ class Progress {
   bool tests_solution() const { return arguments_.itol == kKnownSolution; }
 
  private:
+  // The end without convergence.
+  void give_up();
   void set(Status status) { *arguments_.ierr = static_cast<int>(status); }
 
   StoppingArguments arguments_;
   float denominator_ = 0;
+  float scale_ = 1;
   float least_claimed_;  // the least error behind a claim
   int untrue_claims_ = 0, idle_claims_ = 0;
 };

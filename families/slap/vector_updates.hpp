@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <cstdlib>
 #include <limits>
 
 #include "base/sums.hpp"
@@ -24,6 +25,15 @@ void update_direction(int n, bool is_first, const T* z, T beta, T* p) {
   }
   base::sweep<T>(n,
                  [=](std::size_t i, auto access) { access.put(p + i, access.get(z + i) + beta * access.get(p + i)); });
+}
+
+// A power of two that brings the geometric mean of two magnitudes near 1; 1 itself where squares are in no danger, and
+// for what is zero or not finite.
+inline float power_near_reciprocal(float a, float b) {
+  constexpr int kHarmless = 24;
+  if (!(a > 0 && b > 0) || !std::isfinite(a) || !std::isfinite(b)) return 1;
+  const int exponent = (std::ilogb(a) + std::ilogb(b)) / 2;
+  return std::abs(exponent) <= kHarmless ? 1 : std::ldexp(1.0F, -std::max(exponent, -126));
 }
 
 // Whether x . y, as computed for vectors of these norms, has lost nearly all its digits to cancellation. A recurrence

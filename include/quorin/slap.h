@@ -4,13 +4,19 @@
  * the solver brings it to columns in place, so that the next call finds it ready.
  *
  * Triads: entry k of NELT is A(k) in row IA(k) and column JA(k), one-based, in any order. Repeated entries are kept,
- * and add up. Every column must have an entry, and its diagonal should be stored. Columns: JA(j) is the place of the
- * first entry of column j, JA(N+1) = NELT+1, which is how the format is told, JA(N+2) = 0; in each column the diagonal
- * stands first, then rows ascend.
+ * and add up. Every column must have an entry, and its diagonal should be stored. A solver refuses triads with an empty
+ * column or one outside 1..N and leaves them sorted by columns. Columns: JA(j) is the place of the first entry of
+ * column j, JA(N+1) = NELT+1, which is how the format is told, JA(N+2) = 0; in each column the diagonal stands first,
+ * then rows ascend.
  *
  * The iteration ends when ERR <= TOL. Where the recurrence of an iteration passes the test, the residual is computed
  * anew and ERR is that of X itself (not in SSDCG, SSICCG and SSICCGC, which trust the recurrence as published); if
- * rounding keeps it above TOL, X is returned as good as it gets, and ERR tells.
+ * rounding keeps it above TOL three times in turn, the iteration ends there with IERR = 2 and ITER = ITMAX+1, X is as
+ * good as it gets, and ERR tells how good. An ERR that is not a number never passes.
+ *
+ * A and B of any scale will do: where products of residuals would overflow or vanish in single precision, the iteration
+ * scales them by a power of two, which changes no digit. Elements of X, of A, of the inverse diagonal and of incomplete
+ * factors have to be within the range of single precision, and rows of A that differ by more than that are not scaled.
  *
  * The lengths of the work arrays are not checked. SSDCGN and SSLUCN compute in double precision and keep doubles in
  * RWORK, which needs no other alignment than that of floats all the same. Nothing is ever printed.
@@ -32,10 +38,11 @@ extern "C" {
 /* How an iteration ended. */
 enum quorin_slap_status {
   QUORIN_SLAP_CONVERGED = 0, /* converged */
-  QUORIN_SLAP_NOT_CONVERGED = 2, /* not converged within ITMAX iterations */
+  QUORIN_SLAP_NOT_CONVERGED = 2, /* not converged within ITMAX iterations, or kept above TOL by rounding; ITER =
+      ITMAX+1 */
   QUORIN_SLAP_BAD_INPUT = 3, /* bad input: N < 1, NELT < 1 or NSAVE too small, and nothing is touched; an unknown ITOL,
-      and ERR = 1.0E10; a row outside the matrix, or columns without entries that leave no usable matrix, and X is not
-      touched */
+      and ERR = 1.0E10; a row or a column outside the matrix, a column without entries among triads, or column starts
+      that are none, and X is not touched */
   QUORIN_SLAP_TOLERANCE_RAISED = 4, /* converged, but TOL was raised */
   QUORIN_SLAP_BREAKDOWN = 5, /* breakdown */
   QUORIN_SLAP_SECOND_BREAKDOWN = 6 /* breakdown of the second kind */
@@ -70,7 +77,8 @@ enum {
 
 /* ---- Storage ---- */
 
-/* Brings triads to the column format; a matrix with JA(N+1) = NELT+1 is left alone.
+/* Brings triads to the column format. A matrix with JA(N+1) = NELT+1 is left alone, and so is one with a column outside
+   1..N; an empty column makes wrong column starts, as published.
      N: order of A, at least 1
      NELT: number of stored entries, at least 1
      IA: in, out, [NELT]: rows of the entries; on return in the column format
