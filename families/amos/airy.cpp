@@ -3,6 +3,7 @@
 
 #include "families/amos/amos.hpp"
 #include "families/amos/combination.hpp"
+#include "families/amos/confluent.hpp"
 #include "families/amos/finish.hpp"
 #include "families/amos/large_argument.hpp"
 #include "families/amos/limits.hpp"
@@ -135,7 +136,7 @@ Scaled sum(const Argument& a, const Request& r, const Combination& c) {
   if (!c.i.used) return decaying;
   const Scaled growing = normalized(exponential(c.i.exponent) * (c_i * v.i));
   const Scaled total = decaying + growing;
-  const double part = small_part(nu, modulus(a.w));
+  const double part = std::fmax(small_part(nu, modulus(a.w)), 0.15);
   const bool small = std::norm(total.m) < part * part * std::norm(shift(growing.m, growing.e - total.e));
   return small ? SecondLook(c, r.order()).member(0) : total;
 }
@@ -155,12 +156,50 @@ Complex inside(Complex z, const Request& r) {
   return r.kode == 2 ? value * unit_circle_factor(z, r) : value;
 }
 
+// sqrt(pi / (2 w)) of e^w K_{1/3}(w) or e^w K_{2/3}(w)
+template <class Number>
+Number scaled_k(const Number& w, double modulus, double real, int id) {
+  constexpr double kLogPrecision = 38.0;  // e^-38 = 3e-17
+  const auto [one, two] = confluent(-kThird.hi, w, confluent_terms(kLogPrecision, modulus, real));
+  return id == 0 ? one : two;
+}
+
+// Ai(-x) = (2/pi) sqrt(x/3) Re(-i K_{1/3}(-i zeta)), Ai'(-x) = -(2/pi) (x/sqrt 3) Re K_{2/3}(-i zeta), and Bi, Bi' with
+// one more factor i, zeta = (2/3) x^(3/2): DLMF 9.6.6 to 9.6.9 with 10.27.8.
+Scaled on_negative_axis(const Argument& a, const Request& r) {
+  const double zeta = std::fabs(a.w.imag());
+  const double x = -a.z.real();
+  Combination c(Complex{0.0, -zeta});
+  c.wide_w = {{}, a.wide_w.im.hi < 0.0 ? a.wide_w.im : -a.wide_w.im};
+  c.k = {true, kTwoOverPi, (r.is_ai() ? 3 : 0) - r.id, 0, -c.wide_w};
+  c.real = true;
+  const double front = r.id == 0 ? std::sqrt(x / 3.0) : x / kSqrt3;
+  const Scaled phase = exponential(c.k.exponent) * times_i_power(Complex{1.0, 1.0}, c.k.power);
+  // sqrt(pi / (2 w)) = sqrt(pi / zeta) (1 + i) / 2
+  const Complex k = phase.m * scaled_k(c.w, zeta, 0.0, r.id);
+  const double size = 0.5 * kTwoOverPi.hi * std::sqrt(kPi.hi / zeta);
+  const double part = small_part_on_axis(1.0, zeta);
+  Scaled value{size * k.real(), phase.e};
+  if (k.real() * k.real() < part * part * std::norm(k)) value = SecondLook(c, r.order()).member(0);
+  value.m = value.m.real() * front;
+  return r.is_ai() && r.kode == 2 ? value * exponential(a.zeta) : value;
+}
+
+// Ai(x) = sqrt(x/3) K_{1/3}(zeta) / pi and Ai'(x) = -x K_{2/3}(zeta) / (pi sqrt 3).
+Scaled ai_on_positive_axis(const Argument& a, const Request& r) {
+  const double zeta = a.w.real();
+  const double front = (r.id == 0 ? std::sqrt(a.z.real() / 3.0) : -a.z.real() / kSqrt3) / kPi.hi;
+  const double value = front * std::sqrt(kPi.hi / (2.0 * zeta)) * scaled_k(zeta, zeta, zeta, r.id);
+  if (r.kode == 2) return {value, 0};
+  return exponential(-a.wide_w) * value;
+}
+
 Scaled outside(const Argument& a, const Request& r) {
+  if (a.z.imag() == 0.0 && a.z.real() < 0.0) return on_negative_axis(a, r);
+  if (a.z.imag() == 0.0 && r.is_ai() && a.w.real() > kSmallArgument) return ai_on_positive_axis(a, r);
   const Product product = r.is_ai() ? ai_outside(a, r) : bi_outside(a, r);
   Scaled result = sum(a, r, product.terms) * product.front;
-  // On the axis all is real but e^zeta left of zero.
-  const bool is_real = a.z.imag() == 0.0 && (r.kode == 1 || a.z.real() > 0.0 || !r.is_ai());
-  if (is_real) result.m = result.m.real();
+  if (a.z.imag() == 0.0) result.m = result.m.real();
   return result;
 }
 

@@ -6,6 +6,7 @@
 #include "families/amos/combination.hpp"
 #include "families/amos/finish.hpp"
 #include "families/amos/limits.hpp"
+#include "families/amos/real_axis.hpp"
 #include "families/amos/second_look.hpp"
 #include "families/amos/sequences.hpp"
 
@@ -151,6 +152,13 @@ class Evaluation {
 
 bool is_positive_real(Complex z) { return z.imag() == 0.0 && z.real() > 0.0; }
 
+// A single real value, if the methods for the real axis have it.
+bool store_real(std::optional<double> value, double factor, Complex* cy) {
+  if (!value || !std::isfinite(*value * factor) || std::fabs(*value * factor) < 1.0e-280) return false;
+  cy[0] = *value * factor;
+  return true;
+}
+
 // z and whether the conjugate has to be taken of the result: all functions are conjugated with their argument.
 Complex upper_half(Complex z, bool& mirrored) {
   mirrored = z.imag() < 0.0;
@@ -239,8 +247,10 @@ void besi(Complex z_in, double fnu, int kode, int n, Complex* cy, int* nz, int* 
   if (z_in == 0.0) return value_at_zero(request, cy);
   bool mirrored = false;
   const Complex z = upper_half(z_in, mirrored);
+  const bool real = is_positive_real(z);
+  if (real && n == 1 && store_real(real_i(fnu, z.real()), kode == 1 ? std::exp(z.real()) : 1.0, cy)) return;
   Combination c = modified_i(z, request);
-  c.real = is_positive_real(z);
+  c.real = real;
   Evaluation(c, request, mirrored, result).run(0, n);
 }
 
@@ -251,8 +261,10 @@ void besj(Complex z_in, double fnu, int kode, int n, Complex* cy, int* nz, int* 
   if (z_in == 0.0) return value_at_zero(request, cy);
   bool mirrored = false;
   const Complex z = upper_half(z_in, mirrored);
+  const bool real = is_positive_real(z);
+  if (real && n == 1 && store_real(real_j(fnu, z.real()), 1.0, cy)) return;
   Combination c = bessel_j(z, request);
-  c.real = is_positive_real(z);
+  c.real = real;
   int oscillating = 0;  // members that are the real part of H1, which has no zeros
   if (c.real) {
     while (oscillating < n && is_oscillating(fnu + oscillating, z.real())) ++oscillating;
@@ -273,12 +285,14 @@ void besk(Complex z_in, double fnu, int kode, int n, Complex* cy, int* nz, int* 
   if (!accept(z_in, request, false, true, result)) return;
   bool mirrored = false;
   const Complex z = upper_half(z_in, mirrored);
+  const bool real = is_positive_real(z);
+  if (real && n == 1 && store_real(real_k(fnu, z.real()), kode == 1 ? std::exp(-z.real()) : 1.0, cy)) return;
   Combination c;
   if (z.real() < 0.0) {
     c = continued_k(z, request);
   } else {
     c = Combination(z);
-    c.real = is_positive_real(z);
+    c.real = real;
     c.k = {true, {1.0}, 0, 0, exponent(request, -z, 0.0)};
   }
   Evaluation(c, request, mirrored, result).run(0, n);
@@ -290,8 +304,10 @@ void besy(Complex z_in, double fnu, int kode, int n, Complex* cy, int* nz, Compl
   if (!accept(z_in, request, false, true, result)) return;
   bool mirrored = false;
   const Complex z = upper_half(z_in, mirrored);
+  const bool real = is_positive_real(z);
+  if (real && n == 1 && store_real(real_y(fnu, z.real()), 1.0, cy)) return;
   Combination c = bessel_y(z, request);
-  c.real = is_positive_real(z);
+  c.real = real;
   Evaluation(c, request, mirrored, result).run(0, n);
 }
 

@@ -14,7 +14,7 @@ struct Order {
 };
 
 inline Order split_order(double nu) {
-  const double whole = std::nearbyint(nu);
+  const double whole = round_to_integer(nu);
   return {{nu - whole, 0.0}, static_cast<int>(whole)};
 }
 

@@ -24,7 +24,7 @@ DoubleDouble entry(const double* table, int i) { return {table[2 * i], table[2 *
 
 // log x for 1 <= x <= 8: x is divided by the nearest 2^(steps/64), and the rest is near 1.
 DoubleDouble log(DoubleDouble x) {
-  const int steps = static_cast<int>(std::nearbyint(64.0 * std::log2(x.hi)));
+  const int steps = static_cast<int>(round_to_integer(64.0 * std::log2(x.hi)));
   const int power = (steps + 32) / 64;
   const int fraction = steps - 64 * power;  // -32 to 32
   const DoubleDouble ratio = x * entry(tables::kExponential.data(), 32 - fraction) * std::scalbn(1.0, -power);
@@ -36,7 +36,7 @@ DoubleDouble log(DoubleDouble x) {
 // arg q: q is turned by the nearest multiple of pi/128, and what is left is a small angle.
 DoubleDouble angle(const ComplexDoubleDouble& q) {
   const double rough = std::atan2(q.im.hi, q.re.hi);
-  const int steps = static_cast<int>(std::nearbyint(rough * (64.0 / kHalfPi.hi)));
+  const int steps = static_cast<int>(round_to_integer(rough * (64.0 / kHalfPi.hi)));
   const int quarters = (steps + 64 * 4 + 32) / 64 - 4;
   const int fraction = steps - 64 * quarters;  // -32 to 32
   const ComplexDoubleDouble turned = quarters == 0    ? q
@@ -76,10 +76,10 @@ ComplexDoubleDouble log(const ComplexDoubleDouble& a) {
 
 ScaledWide exp(const ComplexDoubleDouble& a) {
   // a = (p ln 2 + i q pi/2) / 64 + rest, p and q taken apart into a whole part and what the tables have.
-  const double p = std::nearbyint(a.re.hi * (64.0 / kLn2.hi));
-  const double q = std::nearbyint(a.im.hi * (64.0 / kHalfPi.hi));
+  const double p = round_to_integer(a.re.hi * (64.0 / kLn2.hi));
+  const double q = round_to_integer(a.im.hi * (64.0 / kHalfPi.hi));
   const ComplexDoubleDouble rest{a.re - kLn2 * (p / 64.0), a.im - kHalfPi * (q / 64.0)};
-  const double power = std::nearbyint(p / 64.0), quarters = std::nearbyint(q / 64.0);
+  const double power = round_to_integer(p / 64.0), quarters = round_to_integer(q / 64.0);
   const int fraction = static_cast<int>(q - 64.0 * quarters);  // -32 to 32
   // The series of e^rest, |rest| < 0.014, up to rest^15 / 15! < 1e-33.
   ComplexDoubleDouble sum{};

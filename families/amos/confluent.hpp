@@ -16,7 +16,7 @@ struct ConfluentValues {
 
 // Terms that leave an error of e^-digits: it falls like exp(-2 Re sqrt(2 terms w)), and 2 (Re sqrt w)^2 = |w| + Re w.
 inline int confluent_terms(double digits, double modulus, double real) {
-  return 14 + static_cast<int>(digits * digits / 4.0 / (modulus + real));
+  return static_cast<int>(0.2 * digits) + static_cast<int>(digits * digits / 4.0 / (modulus + real));
 }
 
 // 1 / n and (n + 1/2)^2 - mu^2

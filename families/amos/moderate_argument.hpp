@@ -13,11 +13,15 @@ Pair k_small_order(double mu, Complex w);
 // e^w K_nu(w), e^w K_{nu+1}(w) for any nu >= -1/2 by recurrence from small order.
 Pair k_by_recurrence(DoubleDouble nu, Complex w);
 
-// I_{nu+1}(w) / I_nu(w) by Miller's backward recurrence; the starting index comes from Olver's forward estimate
-// (F. W. J. Olver, J. Res. Nat. Bur. Standards 71B (1967) 111-129).
-Complex i_ratio(DoubleDouble nu, Complex w);
+// Multiples of I_nu(w) and I_{nu+1}(w) by Miller's backward recurrence; the starting index comes from Olver's forward
+// estimate (F. W. J. Olver, J. Res. Nat. Bur. Standards 71B (1967) 111-129).
+struct Neighbours {
+  Complex at;
+  Complex above;
+};
+Neighbours i_neighbours(DoubleDouble nu, Complex w);
 
-// e^-w I_nu(w), e^-w I_{nu+1}(w) from their ratio and the Wronskian I_nu K_{nu+1} + I_{nu+1} K_nu = 1/w; k holds e^w K
+// e^-w I_nu(w), e^-w I_{nu+1}(w) from those and the Wronskian I_nu K_{nu+1} + I_{nu+1} K_nu = 1/w; k holds e^w K
 // at the same orders.
 Pair i_by_wronskian(DoubleDouble nu, Complex w, const Pair& k);
 

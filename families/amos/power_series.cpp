@@ -16,7 +16,7 @@ ComplexDoubleDouble log_half(Complex w) {
 }  // namespace
 
 double reciprocal_gamma(DoubleDouble x) {
-  const double n = std::nearbyint(x.hi);
+  const double n = round_to_integer(x.hi);
   const double mu = (x.hi - n) + x.lo;
   const GammaParts<double> parts(mu);
   const double sum = parts.even + parts.odd * mu;

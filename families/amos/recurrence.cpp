@@ -20,7 +20,7 @@ Recurrence::Recurrence(Complex w, Scaled previous, Scaled current) {
 void Recurrence::rescale() {
   const double size = largest_part(current_);
   if (size == 0.0 || !std::isfinite(size)) return;
-  const int k = std::ilogb(size);
+  const int k = exponent_of(size);
   current_ = shift(current_, -k);
   previous_ = shift(previous_, -k);
   exponent_ += k;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <complex>
 #include <cstdint>
@@ -20,6 +21,9 @@ struct Scaled {
   std::int64_t e = 0;
 };
 
+inline double narrow(double a) { return a; }
+inline double largest_part(double a) { return std::fabs(a); }
+inline double fused(double a, double b, double c) { return a * b + c; }
 inline Complex narrow(Complex a) { return a; }  // beside the one of ComplexDoubleDouble, for any precision
 
 inline double largest_part(Complex a) { return std::max(std::fabs(a.real()), std::fabs(a.imag())); }
@@ -33,8 +37,20 @@ inline double modulus(Complex a) {
 
 inline bool is_finite(Complex a) { return std::isfinite(a.real()) && std::isfinite(a.imag()); }
 
+// The runtime's scalbn and ilogb take longer than a step of a recurrence; these two do the work inside the normal
+// range.
+inline double power_of_two(int k) { return std::bit_cast<double>(static_cast<std::uint64_t>(k + 1023) << 52); }
+inline int exponent_of(double size) {
+  const auto biased = static_cast<int>(std::bit_cast<std::uint64_t>(size) >> 52);
+  return biased > 0 ? biased - 1023 : std::ilogb(size);
+}
+
 // a * 2^k for any k, flushing to zero far below the range of doubles.
 inline Complex shift(Complex a, std::int64_t k) {
+  if (k >= -1022 && k <= 1023) {
+    const double factor = power_of_two(static_cast<int>(k));
+    return {a.real() * factor, a.imag() * factor};
+  }
   const int n = static_cast<int>(std::clamp<std::int64_t>(k, -5000, 5000));
   return {std::scalbn(a.real(), n), std::scalbn(a.imag(), n)};
 }
@@ -43,7 +59,7 @@ inline Complex shift(Complex a, std::int64_t k) {
 inline Scaled normalized(Scaled a) {
   const double size = largest_part(a.m);
   if (size == 0.0 || !is_finite(a.m)) return a;
-  const int k = std::ilogb(size);
+  const int k = exponent_of(size);
   return {shift(a.m, -k), a.e + k};
 }
 

@@ -39,6 +39,8 @@ Wide quarter_turns_wide(DoubleDouble x) { return exp({{}, kHalfPi * x}).m; }
 
 double small_part(double nu, double modulus) { return std::clamp(1.5 / std::fmax(nu, modulus), 0.03, 0.2); }
 
+double small_part_on_axis(double nu, double x) { return std::clamp(0.5 / std::fmax(nu, x), 0.02, 0.06); }
+
 SecondLook::SecondLook(const Combination& c, Order order)
     : c_(c), order_(order), below_(c.w.imag() < 0.0 && !c.real), w_(c.wide_w) {
   if (!below_ && !c.real) return;

@@ -13,6 +13,9 @@ namespace quorin::amos {
 // fifth of what is allowed, which grows with the argument and the order.
 double small_part(double nu, double modulus);
 
+// The same for the methods for the real axis, which err less.
+double small_part_on_axis(double nu, double x);
+
 // Evaluates combinations for Re w >= 0, 0.5 < |w| at orders up to kMostOrders, where they are next to a zero: there
 // |w| - Re w > 0. To about 28 digits of the larger term.
 //

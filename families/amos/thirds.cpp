@@ -36,7 +36,7 @@ Thirds bessel_thirds(Complex w, bool wants_i) {
   if (below) w = std::conj(w);
   const Pair k = k_small_order(-kThird, w);  // orders -1/3, which is 1/3, and 2/3
   Thirds t{value(k.at), value(k.above), 0.0, 0.0};
-  if (wants_i && std::abs(w) <= kSmallArgument) {
+  if (wants_i && modulus(w) <= kSmallArgument) {
     const Complex factor = value(exponential(-w));
     t.i_one = value(i_power_series({kThird, 0.0}, w)) * factor;
     t.i_two = value(i_power_series({2.0 * kThird, 0.0}, w)) * factor;

@@ -38,7 +38,7 @@ constexpr Complex kSixth{0.5, 0.5 * kSqrt3};
 
 // Ai(Z) and Ai'(Z) for kI; Ai(rZ) and r Ai'(rZ) with r = e^{-2 pi i/3} for kK. x = (2/3) Z^(3/2), 0 <= arg Z <= pi.
 AiryPair airy_pair(Kind kind, Complex z, const ComplexDoubleDouble& x) {
-  if (std::abs(z) < 0.75) {
+  if (modulus(z) < 0.75) {
     const AiryValues a = airy_power_series(kind == Kind::kI ? z : z * kRotation);
     if (kind == Kind::kI) return {a.ai, a.ai_prime};
     return {a.ai, a.ai_prime * kRotation};
@@ -79,13 +79,13 @@ Scaled turning_point(Kind kind, DoubleDouble order, Complex w, const ComplexDoub
   const Complex v = (Complex{(nu - w.imag()) + order.lo, w.real()} / nu) * (Complex{nu + w.imag(), -w.real()} / nu);
   // (2/3) zeta^(3/2) = artanh(s) - s = s^3/3 (1 + (3/5) v + (3/7) v^2 + ...), so zeta = v (bracket/2)^(2/3).
   Complex bracket = 0.0;
-  if (std::abs(v) < 0.25) {
+  if (modulus(v) < 0.25) {
     for (int k = 26; k >= 0; --k) bracket = bracket * v + 3.0 / (2 * k + 3);
   } else {
     bracket = divide(3.0 * narrow(xi), v * square_root(v));
   }
   const Complex half = 0.5 * bracket;
-  const Complex log_half{std::log(std::abs(half)), std::atan2(half.imag(), half.real())};
+  const Complex log_half{std::log(modulus(half)), std::atan2(half.imag(), half.real())};
   const auto power = [log_half](double exponent) {
     return std::polar(std::exp(exponent * log_half.real()), exponent * log_half.imag());
   };

@@ -44,7 +44,7 @@ DebyeSums debye_sums(double nu, Complex t) {
 Scaled uniform(Kind kind, DoubleDouble order, Complex w) {
   const double nu = order.hi;
   ComplexDoubleDouble s = widen(1.0);
-  if (std::abs(w) > kNegligible * nu) {
+  if (modulus(w) > kNegligible * nu) {
     const ComplexDoubleDouble z = widen(w) / order;
     s = sqrt(widen(1.0) + z * z);
   }
@@ -56,7 +56,7 @@ Scaled uniform(Kind kind, DoubleDouble order, Complex w) {
 
   const ComplexDoubleDouble xi = ComplexDoubleDouble{{}, kHalfPi} - eta;
   const Complex xi_rounded = narrow(xi);
-  if (nu * std::abs(xi_rounded) < kTurningRegion) return turning_point(kind, order, w, xi);
+  if (nu * modulus(xi_rounded) < kTurningRegion) return turning_point(kind, order, w, xi);
 
   const Complex t = divide(1.0, narrow(s));
   const DebyeSums sums = debye_sums(nu, t);
