@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 #include "generated/rci_constants.hpp"
@@ -80,7 +81,8 @@ class RealParameters {
   Real& pivot_multiplier() const { return at(kDparPivotMultiplier); }    // ILUT: a replaced pivot over its row's norm
   Real& replacement_pivot() const { return at(kDparReplacementPivot); }  // ILU0
 
-  bool residual_passes() const { return residual() <= target_residual(); }
+  // An infinite residual is not above an infinite target, and no success.
+  bool residual_passes() const { return std::isfinite(residual()) && residual() <= target_residual(); }
 
  private:
   Real& at(int position) const { return values_[position - 1]; }

@@ -36,9 +36,9 @@ enum quorin_rci_request {
   QUORIN_RCI_ZERO_NORM_TEST = 4, /* the host's test whether dpar(7) is zero, which ends the run */
   QUORIN_RCI_ITERATION_LIMIT = -1, /* the iteration limit was reached before the residual test was met */
   QUORIN_RCI_CG_ZERO_DIVISION = -2, /* division by zero: A is not, or almost not, positive definite */
-  QUORIN_RCI_CG_INVALID_NORM = -10, /* the residual norm is invalid: dpar was altered */
-  QUORIN_RCI_GMRES_ZERO_DIVISION = -10, /* division by zero: A is degenerate or nearly so, dpar was altered, or the run
-      went on from the solution */
+  QUORIN_RCI_CG_INVALID_NORM = -10, /* the residual norm is invalid: it is not finite, or dpar was altered */
+  QUORIN_RCI_GMRES_ZERO_DIVISION = -10, /* division by zero: A is degenerate or nearly so, the residual is not finite,
+      dpar was altered, or the run went on from the solution */
   QUORIN_RCI_ENDLESS_LOOP = -11, /* no stopping test is on */
   QUORIN_RCI_CORRUPT_PARAMETERS = -12, /* ipar is not that of a run under way */
   QUORIN_RCI_NOT_COMPLETED = -10000 /* n <= 0; nothing was written */
@@ -127,7 +127,8 @@ enum {
   QUORIN_RCI_DPAR_ALPHA = 7, /* length of the step, alpha */
   QUORIN_RCI_DPAR_VECTOR_NORM = 7, /* norm of the new basis vector */
   QUORIN_RCI_DPAR_BETA = 8, /* share of the old direction in the new one, beta */
-  QUORIN_RCI_DPAR_ZERO_NORM_TOLERANCE = 8, /* tolerance for dpar(7) */
+  QUORIN_RCI_DPAR_ZERO_NORM_TOLERANCE = 8, /* tolerance for dpar(7), absolute: for an A of entries around 1e-13 the
+      default ends the run after a step; set it to suit A, or to 0 */
   QUORIN_RCI_DPAR_PRECONDITIONED_PRODUCT = 9, /* reserved: (r, M^-1 r) with a preconditioner */
   QUORIN_RCI_DPAR_PIVOT_THRESHOLD = 31, /* least pivot */
   QUORIN_RCI_DPAR_PIVOT_MULTIPLIER = 31, /* a small pivot becomes this times the norm of its row */

@@ -120,6 +120,23 @@ TEST(Cg, SmallSystems) {
   }
 }
 
+// The residual test is made for the start vector too, and an exact start is told without a step.
+TEST(Cg, GoodStarts) {
+  const Csr A = spd4();
+  const Vector solution{1, 2, 3, 4}, b = A * solution;
+  for (const double distance : {0.0, 1e-6}) {
+    Vector start = solution;
+    start[0] += distance;
+    CgHost host(A, b, start);
+    host.test_residual(0.0);
+    host.dpar[1] = 1e-10;
+    EXPECT_EQ(host.run(), 0);
+    EXPECT_EQ(host.requests, "1");
+    EXPECT_EQ(host.itercount(), 0);
+    EXPECT_EQ(host.x, start);
+  }
+}
+
 TEST(Cg, EndsOfARun) {
   const Csr A = spd4(), longer = indefinite8(), swap = sparse({{0, 1}, {1, 0}});
   const Vector b{1, 2, 3, 4}, zeros(4, 0.0);
@@ -202,6 +219,30 @@ TEST(CgMany, FilledByTheHost) {
   std::fill(host.x.begin(), host.x.end(), 0.0);
   EXPECT_EQ(host.run(), 0);
   for (const int k : {0, 4}) EXPECT_LT(residual_norm(A, host.b.data() + k, host.x.data() + k), 1e-2);
+}
+
+// A host whose test is never content gets on to the next right-hand side, whichever of the starts are exact.
+TEST(CgMany, ExactStarts) {
+  const Csr A = spd4();
+  const Vector solution{1, 2, 3, 4}, b = A * solution, zeros(4, 0.0);
+  for (int exact = 0; exact < 8; ++exact) {
+    Vector rhs, start, expected;
+    for (int k = 0; k < 3; ++k) {
+      rhs = joined(rhs, b);
+      start = joined(start, ((exact >> k) & 1) != 0 ? solution : zeros);
+      expected = joined(expected, solution);
+    }
+    ManyHost host(A, rhs, start);
+    host.ipar[4] = 50;
+    const int status = host.run(1000);
+    EXPECT_LE(status, 0) << host.requests.substr(0, 40);
+    EXPECT_EQ(host.ipar[2], 3);
+    expect_near(host.x, expected, 1e-12);
+    if (exact == 7) {
+      EXPECT_EQ(status, 0);
+      EXPECT_EQ(host.requests, "111");
+    }
+  }
 }
 
 }  // namespace

@@ -145,6 +145,65 @@ TEST(Misuse, EndsARunOfFgmres) {
   EXPECT_EQ(bad_preconditioner.run(), -10);
 }
 
+// Infinite residuals are not above infinite targets, and no success.
+TEST(Misuse, NoInfiniteResidualPasses) {
+  const Csr A = sparse({{1, 0}, {0, 1}});
+  const Vector finite{1, 1}, infinite{1, kInfinity}, zeros{0, 0}, huge{1, 1e300};
+  const auto expect_refusal = [](Host&& host, const char* what) {
+    host.ipar[8] = 1;
+    EXPECT_EQ(host.run(), -10) << what;
+    EXPECT_TRUE(host.intact());
+  };
+  for (const double absolute : {0.0, kInfinity}) {
+    const auto fgmres = [&](const Csr& matrix, const Vector& b, const Vector& start) {
+      FgmresHost host(matrix, b, start);
+      host.ipar[11] = 1;
+      host.dpar[1] = absolute;
+      return host;
+    };
+    expect_refusal(fgmres(A, infinite, zeros), "FGMRES, b");
+    expect_refusal(fgmres(A, finite, infinite), "FGMRES, x");
+    expect_refusal(fgmres(sparse({{1, 0}, {0, 1e300}}), finite, huge), "FGMRES, product");
+    const auto cg = [&](const Vector& b, const Vector& start) {
+      CgHost host(A, b, start);
+      host.dpar[1] = absolute;
+      return host;
+    };
+    expect_refusal(cg(infinite, zeros), "CG, b");
+    expect_refusal(cg(finite, infinite), "CG, x");
+    expect_refusal(ManyHost(A, joined(infinite, finite), joined(zeros, zeros)), "CG of several");
+  }
+}
+
+TEST(CheckAndInit, Defaults) {
+  const Csr A = spd4();
+  const auto expect_defaults = [](Host&& host) {
+    EXPECT_EQ(std::vector<int>(host.ipar.data(), host.ipar.data() + 5), (std::vector<int>{4, 6, 1, 0, 4}));
+    EXPECT_EQ(std::vector<int>(host.ipar.data() + 7, host.ipar.data() + 11), (std::vector<int>{1, 0, 1, 0}));
+    EXPECT_EQ(Vector(host.dpar.data(), host.dpar.data() + 6), (Vector{1e-6, 0, 0, 0, 0, 0}));
+  };
+  expect_defaults(CgHost(A, kRightHandSide, kZeros));
+  expect_defaults(ManyHost(A, kRightHandSide, kZeros));
+  FgmresHost host(A, kRightHandSide, kZeros);
+  EXPECT_EQ(Vector(host.dpar.data() + 6, host.dpar.data() + 8), (Vector{0, 1e-12}));
+  EXPECT_EQ(std::vector<int>(host.ipar.data() + 11, host.ipar.data() + 15), (std::vector<int>{0, 0, 0, 4}));
+  EXPECT_EQ(Vector(host.dpar.data() + 30, host.dpar.data() + 32), (Vector{1e-16, 1e-10}));
+  expect_defaults(std::move(host));
+}
+
+// A check in mid-run makes the positions suit the new length; the vectors in tmp still suit the old one.
+TEST(Misuse, ACycleLengthMayNotChangeOnTheWay) {
+  const Csr A = nonsymmetric5();
+  for (const int length : {2, 3}) {
+    FgmresHost host(A, {-1, 1, 0, 3, 2}, Vector(5, 1.0), 4);
+    for (int calls = 0; calls < 4; ++calls) host.advance();
+    host.ipar[14] = length;
+    host.check();
+    EXPECT_EQ(host.step(), -12);
+    EXPECT_EQ(host.get(), -12);
+  }
+}
+
 // Whatever a host does to the parameters on the way, a run stays within its arrays. Sizes of CG cannot be checked,
 // those of FGMRES can. (The guard words and the sanitizers watch.)
 TEST(Misuse, AnyParametersLeaveARunWithinItsArrays) {
