@@ -94,6 +94,43 @@ int serve(Step step, Source source, Target target, Product& multiply, Preconditi
   }
 }
 
+/// Keeps squares within range: a right-hand side and its start vector, both multiplied by a power of two while they are
+/// far from 1. The solver works on b() of this and on x, which the destructor puts right.
+class Scaled {
+ public:
+  Scaled(std::span<const double> b, std::span<double> x) : b_(b), x_(x) {
+    double largest = 0.0, largest_x = 0.0;
+    for (const double e : b) largest = std::max(largest, std::abs(e));
+    for (const double e : x) largest_x = std::max(largest_x, std::abs(e));
+    if (!(largest > 0.0) || !std::isfinite(largest)) return;
+    const int exponent = std::ilogb(largest);
+    const int harmless = 200;
+    if (std::abs(exponent) <= harmless || !std::isfinite(std::scalbn(largest_x, -exponent))) return;
+    exponent_ = exponent;
+    copy_.assign(b.begin(), b.end());
+    for (double& e : copy_) e = scaled(e);
+    for (double& e : x_) e = scaled(e);
+    b_ = copy_;
+  }
+  Scaled(const Scaled&) = delete;
+  Scaled& operator=(const Scaled&) = delete;
+  ~Scaled() {
+    if (exponent_ == 0) return;
+    for (double& e : x_) e = unscaled(e);
+  }
+
+  std::span<const double> b() const { return b_; }
+  /// A norm in the host's units, and the other way round.
+  double unscaled(double norm) const { return std::scalbn(norm, exponent_); }
+  double scaled(double norm) const { return std::scalbn(norm, -exponent_); }
+
+ private:
+  std::span<const double> b_;
+  std::span<double> x_;
+  std::vector<double> copy_;
+  int exponent_ = 0;
+};
+
 inline int checked_size(std::size_t n, std::size_t other) {
   if (n == 0 || n != other) throw std::invalid_argument("quorin::rci: the vectors must have one length, at least 1");
   return static_cast<int>(n);
@@ -106,19 +143,24 @@ inline void require(int status) {
 }  // namespace detail
 
 /// Conjugate gradients for a symmetric positive definite A and, when given, M. x holds the start vector on entry and
-/// the last iterate on return, whatever the status.
+/// the last iterate on return, whatever the status. The solver forms squares; a b that has none in double precision is
+/// scaled, and multiply and precondition then see vectors that are.
 template <class Product, class Preconditioner = NoPreconditioner>
 Result solve_cg(std::span<const double> b, std::span<double> x, Product&& multiply, Preconditioner&& precondition = {},
                 const Options& options = {}) {
   constexpr bool kPreconditioned = detail::is_preconditioner<Preconditioner>;
   const int n = detail::checked_size(b.size(), x.size());
   const std::size_t length = b.size();
+  const detail::Scaled scaled(b, x);
+  b = scaled.b();
+  Options scaled_options = options;
+  scaled_options.absolute_tolerance = scaled.scaled(options.absolute_tolerance);
   detail::Parameters p;
   std::vector<double> tmp((kPreconditioned ? 4 : 3) * length);
   int request = 0;
   DCG_INIT(&n, x.data(), b.data(), &request, p.ipar.data(), p.dpar.data(), tmp.data());
   detail::require(request);
-  p.set(options, kPreconditioned, true);
+  p.set(scaled_options, kPreconditioned, true);
 
   const auto column = [&](std::size_t index) { return std::span<double>(tmp).subspan(index * length, length); };
   const auto step = [&] {
@@ -130,44 +172,26 @@ Result solve_cg(std::span<const double> b, std::span<double> x, Product&& multip
       step, [&](int asked) { return column(asked == QUORIN_RCI_MULTIPLY ? 0 : 2); },
       [&](int asked) { return column(asked == QUORIN_RCI_MULTIPLY ? 1 : 3); }, multiply, precondition);
   DCG_GET(&n, x.data(), b.data(), &request, p.ipar.data(), p.dpar.data(), tmp.data(), &result.iterations);
-  result.residual = std::sqrt(p.real(QUORIN_RCI_DPAR_RESIDUAL));
+  result.residual = scaled.unscaled(std::sqrt(p.real(QUORIN_RCI_DPAR_RESIDUAL)));
   return result;
 }
 
-/// The same for several right-hand sides: b and x hold nrhs vectors one after another. On failure the columns after the
-/// one that failed keep their start vectors.
+/// The same for several right-hand sides, one after another: b and x hold nrhs vectors. On failure the columns after
+/// the one that failed keep their start vectors.
 template <class Product, class Preconditioner = NoPreconditioner>
 Result solve_cg_many(int nrhs, std::span<const double> b, std::span<double> x, Product&& multiply,
                      Preconditioner&& precondition = {}, const Options& options = {}) {
-  constexpr bool kPreconditioned = detail::is_preconditioner<Preconditioner>;
   const std::size_t count = nrhs > 0 ? static_cast<std::size_t>(nrhs) : 0;
   if (count == 0 || b.size() % count != 0) throw std::invalid_argument("quorin::rci: b does not hold nrhs vectors");
   detail::checked_size(b.size(), x.size());
   const std::size_t length = b.size() / count;
-  const int n = static_cast<int>(length);
-  detail::Parameters p(2 * count);
-  std::vector<double> tmp((3 + count) * length);
-  std::vector<int> iterations(count);
-  const int method = QUORIN_RCI_INDEPENDENT_RUNS;
-  int request = 0;
-  DCGMRHS_INIT(&n, x.data(), &nrhs, b.data(), &method, &request, p.ipar.data(), p.dpar.data(), tmp.data());
-  detail::require(request);
-  p.set(options, kPreconditioned, true);
-
-  const auto column = [&](std::size_t index) { return std::span<double>(tmp).subspan(index * length, length); };
-  const auto step = [&] {
-    sDCGMRHS_Idx(&n, x.data(), 0, &nrhs, b.data(), 0, &request, p.ipar.data(), 0, p.dpar.data(), 0, tmp.data(), 0);
-    return request;
-  };
-  const auto residual_column = [&] { return 2 + static_cast<std::size_t>(p.integer(QUORIN_RCI_IPAR_RIGHT_HAND_SIDE)); };
-  Result result;
-  result.status = detail::serve(
-      step, [&](int asked) { return column(asked == QUORIN_RCI_MULTIPLY ? 0 : residual_column()); },
-      [&](int asked) { return column(asked == QUORIN_RCI_MULTIPLY ? 1 : 2); }, multiply, precondition);
-  DCGMRHS_GET(&n, x.data(), &nrhs, b.data(), &request, p.ipar.data(), p.dpar.data(), tmp.data(), iterations.data());
-  for (const int k : iterations) result.iterations += k;
-  result.residual = std::sqrt(p.real(QUORIN_RCI_DPAR_RESIDUAL));
-  return result;
+  Result all;
+  for (std::size_t k = 0; k < count && all.converged(); ++k) {
+    const Result one =
+        solve_cg(b.subspan(k * length, length), x.subspan(k * length, length), multiply, precondition, options);
+    all = {one.status, all.iterations + one.iterations, one.residual};
+  }
+  return all;
 }
 
 /// Flexible GMRES for a general nonsingular A; the preconditioner may change from step to step. x holds the start
@@ -190,6 +214,7 @@ Result solve_fgmres(std::span<const double> b, std::span<double> x, Product&& mu
   p.set(options, kPreconditioned, false);
   p.integer(QUORIN_RCI_IPAR_CYCLE_LENGTH) = restart;
   p.integer(QUORIN_RCI_IPAR_ZERO_NORM_TEST) = 1;
+  p.real(QUORIN_RCI_DPAR_ZERO_NORM_TOLERANCE) = 0.0;  // the default is absolute, and A may be small
 
   const auto vector_at = [&](int position) {
     return std::span<double>(tmp).subspan(static_cast<std::size_t>(p.integer(position)) - 1, length);

@@ -107,6 +107,19 @@ TEST(Fgmres, SmallEnds) {
   EXPECT_EQ(exact_tested.itercount, 0);
 }
 
+// dpar(7) is tested against dpar(8) before the run goes on to another step, when the host wants it.
+TEST(Fgmres, AutomaticZeroNormTest) {
+  const Csr A = sparse({{1, 1e-9, 0}, {1e-9, 2, 0}, {0, 0, 1}});
+  for (const double tolerance : {1e-12, 1e-8, 0.0}) {
+    FgmresHost host(A, {1, 0, 0}, Vector(3, 0.0));
+    host.ipar[9] = 0;
+    host.ipar[11] = 1;
+    host.dpar[7] = tolerance;
+    EXPECT_EQ(host.run(), 0);
+    EXPECT_EQ(host.ipar[3], tolerance == 1e-8 ? 1 : 2) << "h(2,1) = 1e-9, h(3,2) = 0";
+  }
+}
+
 TEST(Fgmres, LimitAndGoingOn) {
   const Csr A = nonsymmetric5();
   const Vector b = A * kSolution5;

@@ -34,6 +34,33 @@ TEST(HostHeader, CgOnPoisson) {
   EXPECT_LT(2 * helped.iterations, plain.iterations);
 }
 
+// Neither squares that leave the range nor FGMRES's absolute test for zero are the host's worry.
+TEST(HostHeader, EveryScale) {
+  const Csr A = grid(12, 0.0);
+  std::mt19937 random(2);
+  const Vector solution = random_vector(A.n, random), b = A * solution;
+  const auto scaled = [](Vector v, int power) {
+    for (double& e : v) e = std::ldexp(e, power);
+    return v;
+  };
+  for (const int power : {-900, -566, -40, 566, 900}) {
+    Vector x(A.n, 0.0), y(A.n, 0.0);
+    const rci::Result result = rci::solve_cg(scaled(b, power), x, product(A));
+    EXPECT_TRUE(result.converged());
+    EXPECT_NEAR(std::ldexp(result.residual, -power), residual_norm(A, b.data(), scaled(x, -power).data()), 1e-10);
+    expect_near(scaled(x, -power), solution, 1e-6);
+    Csr small = A;
+    small.a = scaled(A.a, power / 2);
+    EXPECT_TRUE(rci::solve_fgmres(scaled(b, power / 2), y, product(small)).converged());
+    expect_near(y, solution, 1e-5);
+  }
+  // Each of several right-hand sides has its own.
+  Vector x(2 * A.n, 0.0);
+  EXPECT_TRUE(rci::solve_cg_many(2, joined(scaled(b, -600), b), x, product(A)).converged());
+  expect_near(scaled(Vector(x.begin(), x.begin() + A.n), 600), solution, 1e-6);
+  expect_near(Vector(x.begin() + A.n, x.end()), solution, 1e-6);
+}
+
 TEST(HostHeader, CgForSeveralRightHandSides) {
   const Csr A = grid(25, 0.0);
   std::mt19937 random(1);

@@ -92,6 +92,15 @@ TEST(Ilut, PublishedExample) {
   EXPECT_EQ(Ilut(A, 0.05, 2).factors.a.size(), 13u) << "the norm of a row is the Euclidean one";
 }
 
+TEST(Ilut, DropsWhatEqualsTheTolerance) {
+  // The rows' norms are 5: 3 = 0.6 * 5 goes, in L (3 = 15 / 5) as in U.
+  const Csr upper = sparse({{4, 3}, {0, 5}}), lower = sparse({{0.8, 0}, {3, 4}});
+  EXPECT_EQ(Ilut(upper, 0.6, 1).factors.a, (Vector{4, 5}));
+  EXPECT_EQ(Ilut(upper, 0.5999, 1).factors.a, (Vector{4, 3, 5}));
+  EXPECT_EQ(Ilut(lower, 0.75, 1).factors.a, (Vector{0.8, 4}));
+  EXPECT_EQ(Ilut(lower, 0.7499, 1).factors.a, (Vector{0.8, 3.75, 4}));
+}
+
 TEST(Ilut, EqualsTheFactorizationByMaps) {
   std::mt19937 random(23);
   for (int trial = 0; trial < 60; ++trial) {
