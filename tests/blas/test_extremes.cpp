@@ -1,0 +1,53 @@
+// Extremes at each place of a vector, whichever lane of a kernel looks at it.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <vector>
+
+#include "quorin/blas.h"
+#include "tests/blas/reference.hpp"
+
+namespace {
+
+TEST(Extremes, AreFoundAtEachPlace) {
+  constexpr std::int32_t kLength = 200;
+  for (const std::int32_t inc : {1, 3}) {
+    for (std::int32_t place = 0; place < kLength; ++place) {
+      for (const float extreme : {8.0F, -8.0F, 0.5F, -0.5F}) {
+        std::vector<quorin_complex> x(3 * kLength, {1, -2});
+        std::vector<float> reals(3 * kLength, -2);
+        const auto at = static_cast<std::size_t>(place * inc);
+        reals[at] = extreme;
+        x[at] = {std::fabs(extreme) > 1 ? 1.0F : 0.0F, extreme};
+        const std::int32_t largest = std::fabs(extreme) > 1 ? place + 1 : place == 0 ? 2 : 1;
+        const std::int32_t smallest = std::fabs(extreme) < 1 ? place + 1 : place == 0 ? 2 : 1;
+        ASSERT_EQ(isamax(&kLength, reals.data(), &inc), largest) << place;
+        ASSERT_EQ(isamin(&kLength, reals.data(), &inc), smallest) << place;
+        ASSERT_EQ(icamax(&kLength, x.data(), &inc), largest) << place;
+        ASSERT_EQ(icamin(&kLength, x.data(), &inc), smallest) << place;
+      }
+    }
+  }
+}
+
+TEST(Rotations, OfComponentsOfEqualSizeOrZeroAreTheReferences) {
+  for (const auto& [first, second] : {std::pair{1.0F, -1.0F},
+                                      {-1.0F, 1.0F},
+                                      {2.0F, 2.0F},
+                                      {-3.0F, -3.0F},
+                                      {0.0F, 0.0F},
+                                      {0.0F, -2.0F},
+                                      {-2.0F, 0.0F},
+                                      {1.0F, 2.0F},
+                                      {-2.0F, 1.0F}}) {
+    float a = first, b = second, c = 7, s = 7, ra = first, rb = second, rc = 7, rs = 7;
+    srotg(&a, &b, &c, &s);
+    srotg_(&ra, &rb, &rc, &rs);
+    EXPECT_FLOAT_EQ(a, ra);
+    EXPECT_FLOAT_EQ(b, rb) << first << ' ' << second;
+    EXPECT_FLOAT_EQ(c, rc);
+    EXPECT_FLOAT_EQ(s, rs);
+  }
+}
+
+}  // namespace
