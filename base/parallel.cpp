@@ -5,6 +5,7 @@
 #include <mutex>
 
 #include "base/thread_settings.hpp"
+#include "platform/floating_point.hpp"
 #include "platform/platform.hpp"
 
 namespace quorin::base {
@@ -100,6 +101,7 @@ class Pool {
   }
 
   void work() {
+    platform::use_own_floating_point();
     const RegionMark mark;
     mutex_.lock();
     while (Region* const region = wait_for_region()) {

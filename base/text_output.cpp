@@ -3,6 +3,8 @@
 #include <atomic>
 #include <cstdio>
 
+#include "platform/floating_point.hpp"
+
 namespace quorin::base {
 namespace {
 
@@ -15,7 +17,10 @@ void set_text_output(TextOutputCallback callback) { slot.store(callback, std::me
 int print_list(const char* format, std::va_list arguments) {
   char buffer[kTextOutputLimit + 1] = {};
   const int length = std::vsnprintf(buffer, sizeof buffer, format, arguments);
-  if (const TextOutputCallback callback = slot.load(std::memory_order_acquire)) callback(buffer);
+  if (const TextOutputCallback callback = slot.load(std::memory_order_acquire)) {
+    const platform::HostSettings settings;
+    callback(buffer);
+  }
   return length > kTextOutputLimit ? -1 : length;
 }
 

@@ -7,8 +7,12 @@ namespace quorin::dense {
 void start() noexcept {
   kernels::choose_kernels();
   openblas::start_buffers();
+  start_selection();
 }
-void stop() noexcept { openblas::stop_buffers(); }
+void stop() noexcept {
+  stop_selection();
+  openblas::stop_buffers();
+}
 
 void release_buffers() noexcept { openblas::trim_buffers(); }
 

@@ -4,6 +4,8 @@
 #include <complex>
 #include <cstdint>
 
+#include "platform/floating_point.hpp"
+
 // On Windows the .def file gives an entry point quorin_X its public name X. Elsewhere the assembler name is the public
 // one, so that names of dependencies and of the library cannot meet in C++.
 #if defined(_WIN32)

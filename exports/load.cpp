@@ -3,6 +3,7 @@
 #include "base/parallel.hpp"
 #include "dense/dense.hpp"
 #include "families/umfpack_single/umfpack_single.hpp"
+#include "platform/floating_point.hpp"
 #include "platform/load_hooks.hpp"
 
 // Frees what the C++ runtime keeps for exceptions, which it holds until the process ends otherwise; a library that is
@@ -14,6 +15,8 @@ void __freeres();
 namespace quorin::platform {
 
 void on_load() noexcept {
+  start_floating_point();
+  const HostCall host;
   base::choose_allocator();
   base::start_parallel();
   dense::start();
@@ -24,6 +27,7 @@ void on_unload() noexcept {
   if (base::allocator_is_mapped()) dense::release_buffers();
   dense::stop();
   base::stop_parallel();
+  stop_floating_point();
   __gnu_cxx::__freeres();
 }
 

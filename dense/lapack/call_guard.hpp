@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "dense/openblas/buffers.hpp"
+#include "platform/floating_point.hpp"
 
 namespace quorin::dense {
 
@@ -23,8 +24,57 @@ class LapackCall {
   LapackCall(const char* routine, std::int32_t* info) noexcept;
   bool may_begin() const noexcept { return buffer_.granted() > 0; }
 
+  // Around a host function.
+  void suspend() noexcept { buffer_.suspend(); }
+  void resume() noexcept { buffer_.resume(); }
+
  private:
   openblas::BufferReservation buffer_;
+};
+
+// Prepares and gives back the thread slot for HostSelection; called at load and unload.
+void start_selection() noexcept;
+void stop_selection() noexcept;
+
+// The HostSelection of the thread's running call.
+void* running_selection() noexcept;
+void set_running_selection(void* selection) noexcept;
+
+// A host's selection function as a LAPACK routine is to call it: with the host's floating-point settings, and so that
+// it may leave by longjmp. Nothing of the thread then points into the frames that it has left.
+template <class... Values>
+class HostSelection {
+ public:
+  using Function = std::int32_t (*)(Values...);
+
+  HostSelection(Function host, LapackCall& call) noexcept : host_(host), call_(call), outer_(running_selection()) {
+    set_running_selection(this);
+  }
+  ~HostSelection() { set_running_selection(outer_); }
+  HostSelection(const HostSelection&) = delete;
+  HostSelection& operator=(const HostSelection&) = delete;
+
+  // The host's own function where the system has no thread slot to give.
+  Function function() const noexcept { return running_selection() == this ? &ask : host_; }
+
+ private:
+  static std::int32_t ask(Values... values) {
+    auto* const selection = static_cast<HostSelection*>(running_selection());
+    set_running_selection(nullptr);
+    selection->call_.suspend();
+    const std::int32_t answer = selection->ask_host(values...);
+    selection->call_.resume();
+    set_running_selection(selection);
+    return answer;
+  }
+  std::int32_t ask_host(Values... values) const {
+    const platform::HostSettings settings;
+    return host_(values...);
+  }
+
+  Function host_;
+  LapackCall& call_;
+  void* outer_;
 };
 
 // Some routines store the best size of `work` in its first element before they look at their arguments. Puts that

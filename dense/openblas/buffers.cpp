@@ -170,6 +170,19 @@ BufferReservation::~BufferReservation() {
   pool.release(own_);
 }
 
+void BufferReservation::suspend() noexcept {
+  if (own_ == nullptr) return;
+  holder_slot.set(nullptr);
+  pool.release(own_);
+}
+
+void BufferReservation::resume() noexcept {
+  if (own_ == nullptr) return;
+  // Without memory for one there is none at hand, and OpenBLAS waits for a buffer of another thread.
+  own_ = pool.acquire();
+  if (own_ != nullptr) holder_slot.set(this);
+}
+
 void* BufferReservation::lend() noexcept {
   if (own_is_lent_) return nullptr;
   own_is_lent_ = true;

@@ -38,6 +38,10 @@ class BufferReservation {
   int granted() const noexcept { return granted_; }
 
   bool can_lend() const noexcept { return own_ != nullptr && !own_is_lent_; }
+  // Gives the buffer held for this thread back while a host function runs, which may never return, and takes one again.
+  void suspend() noexcept;
+  void resume() noexcept;
+
   // The buffer held for this thread, unless it has been lent already.
   void* lend() noexcept;
   // Whether `buffer` is the one held, and thereby back.

@@ -210,6 +210,7 @@ class Family:
     facade: str = ""  # the header with the implementations
     text: list[str] = field(default_factory=list)  # paragraphs of the header's and the manual's introduction
     has_index_forms: bool = True
+    calls_host: bool = False  # all its routines may call host functions; else those that get one do
     prefix: str = ""  # of the names of its constants
     sections: list[Section] = field(default_factory=list)
     notes: dict[str, Note] = field(default_factory=dict)

@@ -92,6 +92,9 @@ class Reader:
     def directive_no_index_forms(self, family: Family, _: str) -> None:
         family.has_index_forms = False
 
+    def directive_calls_host(self, family: Family, _: str) -> None:
+        family.calls_host = True
+
     def directive_prefix(self, family: Family, rest: str) -> None:
         family.prefix = rest
 

@@ -12,6 +12,12 @@ HEAD = """// Generated from {table}. Do not edit.
 extern "C" {{
 """
 
+def host_call(family: Family, routine: Routine) -> str:
+    """The library computes with floating-point settings of its own, and host functions with the host's."""
+    callbacks = {callback.c_name for callback in family.callbacks}
+    calls_host = family.calls_host or any(a.type.c in callbacks for a in routine.arguments)
+    return f"const quorin::platform::HostCall{'WithCallbacks' if calls_host else ''} host;"
+
 
 def call_argument(argument: model.Argument) -> str:
     return f"*{argument.name}" if argument.is_dereferenced else argument.name
@@ -42,27 +48,32 @@ def definition(name: str, routine: Routine, is_index_form: bool, body: str) -> s
     return f"{declaration}\n{wrapped(head, items, ' noexcept {')}\n  {body}\n}}\n"
 
 
-def fortran_form(routine: Routine) -> str:
+def fortran_form(routine: Routine, begin: str) -> str:
     """Fortran wants the lengths of its characters behind all other arguments, and hosts pass none."""
     characters = [a for a in routine.arguments if a.type is model.TYPES["char"]]
     items = parameters(routine, "cpp", False) + ["std::size_t"] * len(characters)
-    passed = ", ".join([a.name for a in routine.arguments] + ["1"] * len(characters))
+    names = ["selection.function()" if a.kind == model.VALUE else a.name for a in routine.arguments]
+    passed = ", ".join(names + ["1"] * len(characters))
     declaration = wrapped(f"void {routine.name}_", items, ";")
-    body = f'const quorin::dense::LapackCall call("{routine.name.upper()}", info);\n'
+    body = f'{begin}\n  quorin::dense::LapackCall call("{routine.name.upper()}", info);\n'
+    for argument in routine.arguments:
+        if argument.kind == model.VALUE:
+            body += f"  const quorin::dense::HostSelection selection({argument.name}, call);\n"
     if any(a.name == "lwork" for a in routine.arguments):
         body += "  const quorin::dense::KeptWhenRefused kept(work, info);\n"
     body += f"  if (call.may_begin()) {routine.name}_({passed});"
     return f"{declaration}\n{definition(routine.name, routine, False, body)}"
 
 
-def plain_form(routine: Routine) -> str:
+def plain_form(family: Family, routine: Routine) -> str:
     if not routine.implementation:
         return ""  # written by hand
+    begin = host_call(family, routine)
     if routine.is_fortran:
-        return fortran_form(routine)
+        return fortran_form(routine, begin)
     arguments = ", ".join(call_argument(argument) for argument in routine.arguments)
     call = f"quorin::{routine.implementation}({arguments})"
-    return definition(routine.name, routine, False, statement(routine, call))
+    return definition(routine.name, routine, False, f"{begin}\n  {statement(routine, call)}")
 
 
 def index_form(routine: Routine) -> str:
@@ -82,7 +93,7 @@ def source(family: Family, table: str) -> str:
     facade = f'#include "{family.facade}"\n' if family.facade else ""
     parts = [HEAD.format(table=table, facade=facade)]
     for routine in family.routines:
-        parts.append(plain_form(routine))
+        parts.append(plain_form(family, routine))
         parts.extend(alias(routine, name) for name in routine.aliases)
         if routine.index_name:
             parts.append(index_form(routine))

@@ -6,6 +6,7 @@
 #include "base/handle_table.hpp"
 #include "base/workspace.hpp"
 #include "families/jacobi/central_differences.hpp"
+#include "platform/floating_point.hpp"
 
 namespace quorin::jacobi {
 namespace {
@@ -72,12 +73,17 @@ int solve(void** handle, const float* f1, const float* f2, int* request) noexcep
 int destroy(void** handle) noexcept { return static_cast<int>(erase(handle)); }
 
 int differentiate(Function fcn, const int* n, const int* m, float* fjac, float* x, const float* eps) noexcept {
-  return static_cast<int>(fcn == nullptr ? kInvalid : differentiate_by(fcn, n, m, fjac, x, eps));
+  const auto evaluate = [fcn](int* rows, int* columns, float* point, float* f) {
+    const platform::HostSettings settings;
+    fcn(rows, columns, point, f);
+  };
+  return static_cast<int>(fcn == nullptr ? kInvalid : differentiate_by(evaluate, n, m, fjac, x, eps));
 }
 
 int differentiate_with_data(FunctionWithData fcn, const int* n, const int* m, float* fjac, float* x, const float* eps,
                             void* user_data) noexcept {
   const auto evaluate = [&](int* rows, int* columns, float* point, float* f) {
+    const platform::HostSettings settings;
     fcn(rows, columns, point, f, user_data);
   };
   return static_cast<int>(fcn == nullptr ? kInvalid : differentiate_by(evaluate, n, m, fjac, x, eps));
