@@ -45,10 +45,13 @@ struct Square {
   using Row [[gnu::vector_size(16)]] = Real;
   using RowInMemory [[gnu::vector_size(16), gnu::aligned(4), gnu::may_alias]] = Real;
 
+  // Without kScales nothing is computed: bits are moved, whatever they mean.
+  template <bool kScales>
   [[gnu::always_inline]] static void copy_transposed(const Real* from, std::ptrdiff_t from_step, Real* to,
                                                      std::ptrdiff_t to_step, Real factor) noexcept {
     const auto row = [&](int i) __attribute__((always_inline)) {
-      return *reinterpret_cast<const RowInMemory*>(from + i * from_step) * factor;
+      const Row values = *reinterpret_cast<const RowInMemory*>(from + i * from_step);
+      return kScales ? values * factor : values;
     };
     const auto put = [&](int i, Row values) __attribute__((always_inline)) {
       *reinterpret_cast<RowInMemory*>(to + i * to_step) = values;
@@ -71,12 +74,14 @@ struct Square {
   }
 };
 
-// to[i * to_step + l * to_term_step] <- factor * source(i, l) for real numbers, of which one dimension stands together
-// on either side.
-template <class Isa, class Real>
-void copy_real(const Source<Real>& from, int count, int terms, Real factor, Real* to, std::ptrdiff_t to_step,
-               std::ptrdiff_t to_term_step) noexcept {
+// to[i * to_step + l * to_term_step] <- factor * source(i, l), or the element itself, for real numbers.
+template <class Isa, bool kScales, class Real>
+void copy_rectangle(const Source<Real>& from, int count, int terms, Real factor, Real* to, std::ptrdiff_t to_step,
+                    std::ptrdiff_t to_term_step) noexcept {
+  using Element [[gnu::may_alias, gnu::aligned(4)]] = Real;  // complex numbers of half the size are moved as one
   constexpr int kSize = Square<Isa, Real>::kSize;
+  const auto* const source = reinterpret_cast<const Element*>(from.data);
+  auto* const target = reinterpret_cast<Element*>(to);
   std::ptrdiff_t outer_from = from.term_step, inner_from = from.step, outer_to = to_term_step, inner_to = to_step;
   int outer = terms, inner = count;
   if (from.step != 1) {
@@ -84,34 +89,38 @@ void copy_real(const Source<Real>& from, int count, int terms, Real factor, Real
     std::swap(outer_to, inner_to);
     std::swap(outer, inner);
   }
+  const auto copy = [&](std::ptrdiff_t f, std::ptrdiff_t t) __attribute__((always_inline)) {
+    target[t] = kScales ? factor * source[f] : source[f];
+  };
   // Now the inner dimension stands together in the source, unless neither does.
   if (inner_from == 1 && inner_to == 1) {
     for (int o = 0; o < outer; ++o) {
-      const Real* const x = from.data + o * outer_from;
-      Real* const y = to + o * outer_to;
+      const std::ptrdiff_t x = o * outer_from, y = o * outer_to;
       int i = 0;
-      for (; i + kLanes<Isa, Real> <= inner; i += kLanes<Isa, Real>) store<Isa, Real>(y + i, load<Isa>(x + i) * factor);
-      for (; i < inner; ++i) y[i] = factor * x[i];
+      for (; i + kLanes<Isa, Real> <= inner; i += kLanes<Isa, Real>) {
+        const Vector<Isa, Real> values = load<Isa>(from.data + x + i);
+        store<Isa, Real>(to + y + i, kScales ? values * factor : values);
+      }
+      for (; i < inner; ++i) copy(x + i, y + i);
     }
     return;
   }
   int o = 0;
   if (inner_from == 1 && outer_to == 1) {
     for (; o + kSize <= outer; o += kSize) {
-      const Real* const x = from.data + o * outer_from;
-      Real* const y = to + o;
+      const std::ptrdiff_t x = o * outer_from;
       int i = 0;
       for (; i + kSize <= inner; i += kSize) {
-        Square<Isa, Real>::copy_transposed(x + i, outer_from, y + i * inner_to, inner_to, factor);
+        Square<Isa, Real>::template copy_transposed<kScales>(from.data + x + i, outer_from, to + o + i * inner_to,
+                                                             inner_to, factor);
       }
       for (; i < inner; ++i) {
-        for (int k = 0; k < kSize; ++k) y[k + i * inner_to] = factor * x[i + k * outer_from];
+        for (int k = 0; k < kSize; ++k) copy(x + i + k * outer_from, o + k + i * inner_to);
       }
     }
   }
   for (; o < outer; ++o) {
-    for (int i = 0; i < inner; ++i)
-      to[i * inner_to + o * outer_to] = factor * from.data[i * inner_from + o * outer_from];
+    for (int i = 0; i < inner; ++i) copy(i * inner_from + o * outer_from, i * inner_to + o * outer_to);
   }
 }
 
@@ -124,7 +133,7 @@ struct PanelOfA {
 
   void put(const Source<T>& from, int row, int count, int term, int terms) const noexcept {
     if constexpr (!kIsComplex<T>) {
-      copy_real<Isa>(from, count, terms, Real{1}, out + row + std::ptrdiff_t{term} * height, 1, height);
+      copy_rectangle<Isa, false>(from, count, terms, Real{1}, out + row + std::ptrdiff_t{term} * height, 1, height);
     } else {
       for (int l = 0; l < terms; ++l) {
         Real* const straight = out + 2 * (row + std::ptrdiff_t{term + l} * height);
@@ -161,10 +170,12 @@ struct SliverOfB {
 
   void put(const Source<T>& from, int column, int count, int term, int terms) const noexcept {
     if constexpr (!kIsComplex<T>) {
-      if (width == 1) {
-        copy_real<Isa>(from, count, terms, factor, out + std::ptrdiff_t{column} * depth + term, depth, 1);
+      const std::ptrdiff_t step = width == 1 ? depth : 1;
+      Real* const first = out + column * step + std::ptrdiff_t{term} * width;
+      if (factor == T{1}) {
+        copy_rectangle<Isa, false>(from, count, terms, factor, first, step, width);
       } else {
-        copy_real<Isa>(from, count, terms, factor, out + column + std::ptrdiff_t{term} * width, 1, width);
+        copy_rectangle<Isa, true>(from, count, terms, factor, first, step, width);
       }
     } else {
       const std::ptrdiff_t step = width == 1 ? 2 * std::ptrdiff_t{depth} : 1, part_step = width;

@@ -40,13 +40,32 @@ struct BlockOfB {
   int first_column, columns;
 };
 
-// A tile of which only the rows first..last of each column are wanted, by way of a copy.
+// The vectors of a panel that hold wanted rows of one column.
 template <class Isa, Scalar T>
-void make_part_of_tile(const Product<T>& p, const Panel<Isa, T>& panel, TileKernel<RealOf<T>>* kernel,
-                       const RealOf<T>* b, std::ptrdiff_t b_step, std::ptrdiff_t b_column, RealOf<T> alpha, bool adds,
-                       int column, int columns) noexcept {
+Panel<Isa, T> wanted_vectors(const Product<T>& p, Panel<Isa, T> panel, int column) noexcept {
+  constexpr int kRows = Tiles<Isa, T>::kWidth / Tiles<Isa, T>::kParts;
+  if (p.part == Part::kLower && column > panel.first_row) {
+    const int skipped = (column - panel.first_row) / kRows;
+    panel.a += skipped * Tiles<Isa, T>::kWidth;
+    panel.first_row += skipped * kRows;
+    panel.rows -= skipped * kRows;
+    panel.vectors -= skipped;
+  }
+  if (p.part == Part::kUpper) {
+    panel.rows = std::min(panel.rows, column + 1 - panel.first_row);
+    panel.vectors = (panel.rows + kRows - 1) / kRows;
+  }
+  return panel;
+}
+
+// A tile of which only some rows of each column are wanted, by way of a copy.
+template <class Isa, Scalar T>
+void make_part_of_tile(const Product<T>& p, const Panel<Isa, T>& whole, const RealOf<T>* b, std::ptrdiff_t b_step,
+                       std::ptrdiff_t b_column, RealOf<T> alpha, bool adds, int column, int columns) noexcept {
   using Real = RealOf<T>;
   constexpr int kParts = Tiles<Isa, T>::kParts;
+  const Panel<Isa, T> panel = columns == 1 ? wanted_vectors(p, whole, column) : whole;
+  TileKernel<Real>* const kernel = tile_kernel<Isa, Real>(panel.vectors, columns);
   alignas(64) Real copy[Tiles<Isa, T>::kMostTile];
   const int height = panel.vectors * kLanes<Isa, Real>;
   const auto exchange = [&](bool is_result) __attribute__((always_inline)) {
@@ -97,12 +116,12 @@ void make_tiles(const Product<T>& p, const Panel<Isa, T>& panel, const BlockOfB<
     } else {
       b += j * b_column;
     }
-    TileKernel<Real>* const kernel = tile_kernel<Isa, Real>(panel.vectors, count);
     if (is_full && is_inside) {
+      TileKernel<Real>* const kernel = tile_kernel<Isa, Real>(panel.vectors, count);
       kernel(panel.terms, panel.a, panel.a_step, b, b_step, b_column, alpha, adds,
              reinterpret_cast<Real*>(p.c + panel.first_row + column * p.ldc), kParts * p.ldc);
     } else {
-      make_part_of_tile<Isa>(p, panel, kernel, b, b_step, b_column, alpha, adds, column, count);
+      make_part_of_tile<Isa>(p, panel, b, b_step, b_column, alpha, adds, column, count);
     }
   }
 }

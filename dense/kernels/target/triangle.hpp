@@ -112,19 +112,29 @@ struct LaneBlock {
 
   // Vectors first.. to their lanes or back; the lanes beyond `count` hold zeros.
   void exchange(int first, int count, bool is_result) const noexcept {
+    // Steps upwards in memory, for which there are fast copies. A single-complex number moves as one double.
+    using Unit = std::conditional_t<std::is_same_v<T, std::complex<float>>, double, Real>;
+    constexpr int kUnits = static_cast<int>(sizeof(T) / sizeof(Unit));
+    constexpr std::ptrdiff_t kInside =
+        kStep * static_cast<std::ptrdiff_t>(sizeof(Real)) / static_cast<int>(sizeof(Unit));
+    const bool is_reversed = block.x_step < 0;
+    const std::ptrdiff_t last = is_reversed ? block.order - 1 : 0, direction = is_reversed ? -1 : 1;
+    Unit* const outside = reinterpret_cast<Unit*>(block.x + last * block.x_step + first * block.vector_step);
+    Unit* const inside = reinterpret_cast<Unit*>(x) + last * kInside;
+    for (int part = 0; part < kUnits; ++part) {  // real and imaginary parts one after the other, if T is two units
+      const std::ptrdiff_t outer = kUnits * direction * block.x_step, across = kUnits * block.vector_step;
+      if (is_result) {
+        const Source<Unit> lanes{inside + part, kUnits, direction * kInside, false};
+        copy_rectangle<Isa, false>(lanes, count, block.order, Unit{1}, outside + part, across, outer);
+      } else {
+        const Source<Unit> vectors{outside + part, across, outer, false};
+        copy_rectangle<Isa, false>(vectors, count, block.order, Unit{1}, inside + part, kUnits, direction * kInside);
+      }
+    }
+    if (is_result) return;
     for (int p = 0; p < block.order; ++p) {
-      T* outside = block.x + p * block.x_step + first * block.vector_step;
-      T* const inside = reinterpret_cast<T*>(x + p * kStep);
-      for (int j = 0; j < count; ++j, outside += block.vector_step) {
-        if (is_result) {
-          *outside = inside[j];
-        } else {
-          inside[j] = *outside;
-        }
-      }
-      if (!is_result) {
-        for (int j = count; j < kVectorsOfT; ++j) inside[j] = T{};
-      }
+      T* const numbers = reinterpret_cast<T*>(x + p * kStep);
+      for (int j = count; j < kVectorsOfT; ++j) numbers[j] = T{};
     }
   }
 
