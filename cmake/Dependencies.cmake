@@ -52,17 +52,17 @@ if(WIN32)
   endforeach()
 endif()
 
-# LAPACK calls BLAS by its Fortran names: the product defines the single-precision ones (third_party/openblas_names.txt).
-quorin_import(openblas ${prefix_openblas})
-quorin_import(lapack ${prefix_lapack} LINKS quorin::openblas ${fortran_runtime})
+# LAPACK calls the BLAS by its Fortran names. The product defines those that it exports; the band and packed routines of
+# level 2 are the published ones.
 quorin_import(reference_blas ${prefix_lapack} LINKS ${fortran_runtime})
+quorin_import(lapack ${prefix_lapack} LINKS quorin::reference_blas ${fortran_runtime})
 quorin_import(suitesparseconfig ${prefix_suitesparse})
 quorin_import(amd ${prefix_suitesparse} LINKS quorin::suitesparseconfig)
 quorin_import(colamd ${prefix_suitesparse} LINKS quorin::suitesparseconfig)
 # The product exports UMFPACK's names itself, with float arrays: UMFPACK's own keep out of the way as double_<name>.
 include(PrivateUmfpack)
 private_umfpack(${prefix_suitesparse} ${PROJECT_BINARY_DIR}/private)
-quorin_import(umfpack ${PROJECT_BINARY_DIR}/private LINKS quorin::amd quorin::colamd quorin::openblas)
+quorin_import(umfpack ${PROJECT_BINARY_DIR}/private LINKS quorin::amd quorin::colamd)
 quorin_import(metis ${prefix_metis})
 
 set(QUORIN_BLAS_TESTING_DIR ${prefix_lapack}/share/blas-testing)

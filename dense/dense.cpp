@@ -1,19 +1,19 @@
 #include "dense/dense.hpp"
+#include "dense/blocked/buffers.hpp"
 #include "dense/kernels/kernel_set.hpp"
-#include "dense/openblas/buffers.hpp"
 
 namespace quorin::dense {
 
 void start() noexcept {
   kernels::choose_kernels();
-  openblas::start_buffers();
+  blocked::start_buffers();
   start_selection();
 }
 void stop() noexcept {
   stop_selection();
-  openblas::stop_buffers();
+  blocked::stop_buffers();
 }
 
-void release_buffers() noexcept { openblas::trim_buffers(); }
+void release_buffers() noexcept { blocked::trim_buffers(); }
 
 }  // namespace quorin::dense

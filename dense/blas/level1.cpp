@@ -107,7 +107,6 @@ RealOf<T> nrm2(int n, const T* x, int incx) {
 
 template <Scalar T>
 RealOf<T> asum(int n, const T* x, int incx) {
-  // Not OpenBLAS's: release 0.3.21 loses the last element of a complex vector on some x86-64 processors.
   if (n <= 0 || incx <= 0) return 0;
   constexpr int kSums = 16;  // independent, so that additions overlap and the compiler can vectorise them
   RealOf<T> sums[kSums] = {};
@@ -126,7 +125,7 @@ RealOf<T> asum(int n, const T* x, int incx) {
 
 template <Scalar T, class Factor>
 void scal(int n, Factor a, T* x, int incx) {
-  // Not OpenBLAS's: it stores zeros for a = 0 and skips a zero part of a, whatever x holds.
+  // A factor of 0 is no exception: 0 times an infinity is NaN.
   if (n <= 0 || incx <= 0 || a == Factor{1}) return;
   const auto scale = [a](T& value) {
     if constexpr (std::same_as<T, Factor>) {

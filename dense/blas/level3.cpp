@@ -4,9 +4,9 @@
 #include "base/thread_settings.hpp"
 #include "dense/blas/argument_check.hpp"
 #include "dense/blas/partition.hpp"
+#include "dense/blocked/buffers.hpp"
 #include "dense/blocked/level3.hpp"
 #include "dense/kernels/small_product.hpp"
-#include "dense/openblas/buffers.hpp"
 
 namespace quorin::dense {
 namespace {
@@ -39,7 +39,7 @@ int threads_for_work(double multiplications) {
 // Calls body(threads) with that many packing buffers ready, or reports that there are none.
 template <Scalar T, class Body>
 void with_buffers(const char* operation, double multiplications, const Body& body) {
-  const openblas::BufferReservation buffers(threads_for_work<T>(multiplications));
+  const blocked::BufferReservation buffers(threads_for_work<T>(multiplications));
   if (buffers.granted() == 0) return ArgumentCheck<T>::report(operation, base::kInsufficientWorkspace);
   body(buffers.granted());
 }

@@ -1,13 +1,14 @@
-#include "dense/openblas/buffers.hpp"
+#include "dense/blocked/buffers.hpp"
 
 #include <atomic>
 #include <cstdint>
 #include <mutex>
 
 #include "base/allocator.hpp"
+#include "dense/kernels/kernel_set.hpp"
 #include "platform/platform.hpp"
 
-namespace quorin::dense::openblas {
+namespace quorin::dense::blocked {
 
 // Free buffers form a list through their own first bytes.
 struct FreeBuffer {
@@ -16,13 +17,15 @@ struct FreeBuffer {
 
 namespace {
 
-// The kernels want whole pages; right in front of them stands the address of the allocator's block.
+// Whole pages, so that every buffer has the same place in the caches; right in front of them stands the address of the
+// allocator's block.
 constexpr std::size_t kAlignment = 4096;
+static_assert(kAlignment % kernels::kBufferAlignment == 0);
 
 void*& block_of(FreeBuffer* buffer) noexcept { return reinterpret_cast<void**>(buffer)[-1]; }
 
 FreeBuffer* create_buffer() noexcept {
-  void* const block = base::allocate(kBufferBytes + kAlignment + sizeof(void*));
+  void* const block = base::allocate(kernels::kBufferBytes + kAlignment + sizeof(void*));
   if (block == nullptr) return nullptr;
   const auto first = reinterpret_cast<std::uintptr_t>(block) + sizeof(void*);
   auto* const buffer = reinterpret_cast<FreeBuffer*>((first + kAlignment - 1) & ~std::uintptr_t{kAlignment - 1});
@@ -69,7 +72,7 @@ class BufferPool {
     promised_ -= count;
   }
 
-  // For OpenBLAS. A promise is consumed by taking and renewed by returning the buffer.
+  // A promise is consumed by taking and renewed by returning the buffer.
   void* take() noexcept {
     const std::lock_guard lock(mutex_);
     while (first_ == nullptr && !grow()) wait_for_buffer();
@@ -124,7 +127,7 @@ class BufferPool {
     waiting_.fetch_add(1);
     recall_spare();
     if (first_ == nullptr) {
-      if (existing_ == 0) platform::fail_assertion("memory for a BLAS buffer", __FILE__, __LINE__);
+      if (existing_ == 0) platform::fail_assertion("memory for a packing buffer", __FILE__, __LINE__);
       returned_.wait(mutex_);
     }
     waiting_.fetch_sub(1);
@@ -219,13 +222,4 @@ void put_back_buffer(void* buffer) noexcept {
 LentBuffer::LentBuffer() noexcept : data_(static_cast<std::byte*>(take_buffer())) {}
 LentBuffer::~LentBuffer() { put_back_buffer(data_); }
 
-// What OpenBLAS calls instead of its own allocator.
-extern "C" {
-void* blas_memory_alloc(int position);
-void blas_memory_free(void* buffer);
-
-void* blas_memory_alloc(int) { return take_buffer(); }
-void blas_memory_free(void* buffer) { put_back_buffer(buffer); }
-}
-
-}  // namespace quorin::dense::openblas
+}  // namespace quorin::dense::blocked

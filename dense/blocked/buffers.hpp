@@ -1,21 +1,13 @@
-// The packing buffers of OpenBLAS.
+// The buffers that kernels pack matrices into.
 //
-// OpenBLAS asks for a buffer in the middle of a computation and cannot be told that there is none: its own
-// allocator then tries for ever. So its allocator is replaced by this one, and every call reserves its buffers before
-// it begins. Buffers come from the library's allocator, are kept for the next call, and are given back by
+// A computation cannot fail in its middle, so every call reserves its buffers before it begins: one for each thread, of
+// kernels::kBufferBytes. They come from the library's allocator, are kept for the next call, and are given back by
 // trim_buffers().
 #pragma once
 
 #include <cstddef>
 
-namespace quorin::dense::openblas {
-
-#if defined(__i386__)
-inline constexpr std::size_t kBufferBytes = std::size_t{16} << 20;
-#else
-// Address space, not memory: pages are touched as the blocking of the kernels needs them.
-inline constexpr std::size_t kBufferBytes = std::size_t{128} << 20;
-#endif
+namespace quorin::dense::blocked {
 
 struct FreeBuffer;
 
@@ -24,7 +16,7 @@ struct FreeBuffer;
 void start_buffers() noexcept;
 void stop_buffers() noexcept;
 
-// Keeps up to `wanted` buffers ready for OpenBLAS while it lives: one for each thread of the parallel region that
+// Keeps up to `wanted` buffers ready for kernels while it lives: one for each thread of the parallel region that
 // the caller is about to run. A single buffer is held at hand for the calling thread, so that small operations need no
 // lock; a reservation inside another one of the same thread shares its buffer.
 class BufferReservation {
@@ -34,7 +26,7 @@ class BufferReservation {
   BufferReservation(const BufferReservation&) = delete;
   BufferReservation& operator=(const BufferReservation&) = delete;
 
-  // How many threads may call OpenBLAS; 0 if there is no memory for a single one.
+  // How many threads may run kernels; 0 if there is no memory for a single one.
   int granted() const noexcept { return granted_; }
 
   bool can_lend() const noexcept { return own_ != nullptr && !own_is_lent_; }
@@ -71,4 +63,4 @@ class LentBuffer {
 // Frees the buffers that no call has reserved. Safe at any time.
 void trim_buffers() noexcept;
 
-}  // namespace quorin::dense::openblas
+}  // namespace quorin::dense::blocked

@@ -6,8 +6,8 @@
 
 #include "base/parallel.hpp"
 #include "dense/blas/partition.hpp"
+#include "dense/blocked/buffers.hpp"
 #include "dense/kernels/kernel_set.hpp"
-#include "dense/openblas/buffers.hpp"
 
 namespace quorin::dense::blocked {
 namespace {
@@ -40,7 +40,7 @@ View<T> symmetric_view(char uplo, bool is_hermitian, const T* a, int lda) noexce
 
 template <Scalar T>
 void multiply(const Product<T>& product) noexcept {
-  const openblas::LentBuffer buffer;
+  const LentBuffer buffer;
   const kernels::KernelSet<T>& set = kernels::kernels<T>();
   set.multiply(product, set.blocking, buffer.data());
 }
@@ -198,7 +198,7 @@ struct Triangular {
 
   void solve(int first, int order) const noexcept {
     if (order <= kernels::kTriangleOrder) {
-      const openblas::LentBuffer buffer;
+      const LentBuffer buffer;
       return kernels::kernels<T>().solve_triangle(diagonal_block(first, order), buffer.data());
     }
     const int h = first_half(order);
@@ -209,7 +209,7 @@ struct Triangular {
 
   void apply(int first, int order) const noexcept {
     if (order <= kernels::kTriangleOrder) {
-      const openblas::LentBuffer buffer;
+      const LentBuffer buffer;
       return kernels::kernels<T>().multiply_triangle(diagonal_block(first, order), buffer.data());
     }
     const int h = first_half(order);

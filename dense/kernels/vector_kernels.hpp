@@ -1,5 +1,4 @@
-// Loops over vectors of unit stride, four floats at a time: OpenBLAS's kernels for 32-bit processors go float by
-// float here.
+// Loops over vectors of unit stride in registers of 16 bytes.
 #pragma once
 
 #include <array>

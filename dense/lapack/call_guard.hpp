@@ -4,7 +4,7 @@
 #include <complex>
 #include <cstdint>
 
-#include "dense/openblas/buffers.hpp"
+#include "dense/blocked/buffers.hpp"
 #include "platform/floating_point.hpp"
 
 namespace quorin::dense {
@@ -29,7 +29,7 @@ class LapackCall {
   void resume() noexcept { buffer_.resume(); }
 
  private:
-  openblas::BufferReservation buffer_;
+  blocked::BufferReservation buffer_;
 };
 
 // Prepares and gives back the thread slot for HostSelection; called at load and unload.

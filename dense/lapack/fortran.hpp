@@ -3,7 +3,7 @@
 
 #include <complex>
 
-namespace quorin::dense::openblas {
+namespace quorin::dense {
 
 // A single-complex function result as the Fortran compilers of both targets return it.
 using ComplexResult = __complex__ float;
@@ -15,4 +15,4 @@ inline ComplexResult complex_result(std::complex<float> z) noexcept {
   return result;
 }
 
-}  // namespace quorin::dense::openblas
+}  // namespace quorin::dense

@@ -106,8 +106,8 @@ def fortran_name(routine: Routine) -> str:
     call = f"quorin::{routine.implementation}({', '.join(call_argument(a) for a in routine.arguments)})"
     items, result, body = parameters(routine, "cpp", False), result_type(routine, "cpp"), statement(routine, call)
     if routine.result_is_argument:
-        items, result = items[1:], "quorin::dense::openblas::ComplexResult"
-        body = f"return quorin::dense::openblas::complex_result({call});"
+        items, result = items[1:], "quorin::dense::ComplexResult"
+        body = f"return quorin::dense::complex_result({call});"
     head = f"{result} {routine.name}_"
     return f"{wrapped(head, items, ' noexcept;')}\n{wrapped(head, items, ' noexcept {')}\n  {body}\n}}\n"
 
@@ -116,5 +116,5 @@ def fortran_names(families: list[Family], facade: str) -> str:
     """What the Fortran routines of LAPACK call: the library's own routines behind `facade`."""
     routines = [r for f in families if f.facade == facade for r in f.routines]
     ours = [fortran_name(r) for r in routines if r.has_plain and r.implementation and not r.is_fortran]
-    head = f'// Generated from the export tables. Do not edit.\n#include "{facade}"\n#include "dense/openblas/fortran.hpp"\n'
+    head = f'// Generated from the export tables. Do not edit.\n#include "{facade}"\n#include "dense/lapack/fortran.hpp"\n'
     return "\n".join([head + '\nextern "C" {\n', *ours, '}  // extern "C"\n'])

@@ -34,7 +34,7 @@ struct Operands {
 
 struct Case {
   const char* name;
-  const char* reported;
+  const char* reported;  // null: it needs no memory, so nothing can be missing
   std::function<void(const quorin_library&, Operands&, float* c)> call;
 };
 
@@ -77,21 +77,21 @@ const std::vector<Case>& cases() {
          m.cher2k("L", "N", &o.n, &o.n, as_complex(o.alpha), as_complex(o.a.data()), &o.n, as_complex(o.b.data()), &o.n,
                   o.beta, as_complex(c), &o.n);
        }},
-      // Vectors of unit stride need no memory; others are copied.
-      {"sgemv", "SGEMV",
+      // Level 2 needs no memory, whatever the strides.
+      {"sgemv", nullptr,
        [](const quorin_library& m, Operands& o, float* c) {
          m.sgemv("T", &o.n, &o.n, o.alpha, o.a.data(), &o.n, o.b.data(), &o.two, o.beta, c, &o.one);
        }},
-      {"cgerc", "CGERC",
+      {"cgerc", nullptr,
        [](const quorin_library& m, Operands& o, float* c) {
          m.cgerc(&o.n, &o.n, as_complex(o.alpha), as_complex(o.a.data()), &o.two, as_complex(o.b.data()), &o.one,
                  as_complex(c), &o.n);
        }},
-      {"ssymv", "SSYMV",
+      {"ssymv", nullptr,
        [](const quorin_library& m, Operands& o, float* c) {
          m.ssymv("L", &o.n, o.alpha, o.a.data(), &o.n, o.b.data(), &o.two, o.beta, c, &o.one);
        }},
-      {"strsv", "STRSV",
+      {"strsv", nullptr,
        [](const quorin_library& m, Operands& o, float* c) {
          m.strsv("U", "N", "U", &o.n, o.triangle.data(), &o.n, c, &o.two);
        }},
@@ -128,13 +128,14 @@ class Campaign {
         EXPECT_EQ(computed, expected) << "allocation " << k;
       } else {
         ++reports;
+        ASSERT_NE(c.reported, nullptr) << text;
         EXPECT_EQ(text, std::string("\nIntel MKL INTERNAL ERROR: Insufficient workspace available in function ") +
                             c.reported + ".\n");
         EXPECT_EQ(computed, before) << "allocation " << k;
       }
     }
     EXPECT_LT(k, kMostAllocations);
-    EXPECT_GE(reports, 1) << "the first allocation is the one that no call can do without";
+    if (c.reported != nullptr) EXPECT_GE(reports, 1) << "the first allocation is the one that no call can do without";
     free_buffers();
     EXPECT_EQ(host_.live_blocks(), 0);
   }

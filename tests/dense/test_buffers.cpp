@@ -1,5 +1,5 @@
 // The packing buffers: no buffer is ever in two hands, and none gets lost.
-#include "dense/openblas/buffers.hpp"
+#include "dense/blocked/buffers.hpp"
 
 #include <gtest/gtest.h>
 
@@ -10,13 +10,7 @@
 
 #include "base/parallel.hpp"
 
-// What OpenBLAS calls.
-extern "C" {
-void* blas_memory_alloc(int position);
-void blas_memory_free(void* buffer);
-}
-
-namespace quorin::dense::openblas {
+namespace quorin::dense::blocked {
 namespace {
 
 class Buffers : public testing::Test {
@@ -41,10 +35,8 @@ bool use_alone(void* memory, int user) {
 }
 
 bool take_and_return(int user) {
-  void* const buffer = blas_memory_alloc(0);
-  const bool alone = use_alone(buffer, user);
-  blas_memory_free(buffer);
-  return alone;
+  const LentBuffer buffer;
+  return use_alone(buffer.data(), user);
 }
 
 TEST_F(Buffers, OneThreadGetsTheSameBufferAgain) {
@@ -52,31 +44,22 @@ TEST_F(Buffers, OneThreadGetsTheSameBufferAgain) {
   for (int i = 0; i < 3; ++i) {
     const BufferReservation reservation(1);
     ASSERT_EQ(reservation.granted(), 1);
-    for (int k = 0; k < 2; ++k) {
-      void* const buffer = blas_memory_alloc(0);
-      seen.insert(buffer);
-      blas_memory_free(buffer);
-    }
+    for (int k = 0; k < 2; ++k) seen.insert(LentBuffer().data());
   }
   EXPECT_EQ(seen.size(), 1U);
 }
 
 TEST_F(Buffers, BuffersInUseAtTheSameTimeDiffer) {
   const BufferReservation outer(1);
-  void* const first = blas_memory_alloc(0);
-  void* second = nullptr;
+  void* first_data = nullptr;
   {
+    const LentBuffer first;
+    first_data = first.data();
     const BufferReservation inner(1);
-    second = blas_memory_alloc(0);
-    void* const third = blas_memory_alloc(0);
-    EXPECT_EQ((std::set<void*>{first, second, third}).size(), 3U);
-    blas_memory_free(third);
-    blas_memory_free(second);
+    const LentBuffer second, third;
+    EXPECT_EQ((std::set<void*>{first.data(), second.data(), third.data()}).size(), 3U);
   }
-  blas_memory_free(first);
-  void* const again = blas_memory_alloc(0);
-  EXPECT_EQ(again, first);
-  blas_memory_free(again);
+  EXPECT_EQ(LentBuffer().data(), first_data);
 }
 
 // What has been promised must not depend on memory that there may be none of any more.
@@ -125,4 +108,4 @@ TEST_F(Buffers, ManyThreadsNeverShareOne) {
 }
 
 }  // namespace
-}  // namespace quorin::dense::openblas
+}  // namespace quorin::dense::blocked
