@@ -135,7 +135,8 @@ class Campaign {
       }
     }
     EXPECT_LT(k, kMostAllocations);
-    if (c.reported != nullptr) EXPECT_GE(reports, 1) << "the first allocation is the one that no call can do without";
+    EXPECT_EQ(reports > 0, c.reported != nullptr)
+        << "the first allocation is the one that such calls cannot do without";
     free_buffers();
     EXPECT_EQ(host_.live_blocks(), 0);
   }

@@ -65,24 +65,18 @@ TEST_F(Buffers, BuffersInUseAtTheSameTimeDiffer) {
 // What has been promised must not depend on memory that there may be none of any more.
 TEST_F(Buffers, TrimmingLeavesThePromisedOnes) {
   constexpr int kMark = 0x5eed, kPromised = 3;
-  int* marks[5];
+  const auto mark = [](const LentBuffer& buffer) -> int& { return reinterpret_cast<int*>(buffer.data())[16]; };
   {
     const BufferReservation more(5);
     ASSERT_EQ(more.granted(), 5);
-    for (int*& mark : marks) mark = static_cast<int*>(blas_memory_alloc(0)) + 16;
-    for (int* mark : marks) {
-      *mark = kMark;
-      blas_memory_free(mark - 16);
-    }
+    const LentBuffer buffers[5];
+    for (const LentBuffer& buffer : buffers) mark(buffer) = kMark;
   }
   const BufferReservation reservation(kPromised);
   ASSERT_EQ(reservation.granted(), kPromised);
   trim_buffers();
-  for (int i = 0; i < kPromised; ++i) {
-    marks[i] = static_cast<int*>(blas_memory_alloc(0)) + 16;
-    EXPECT_EQ(*marks[i], kMark) << "a new buffer";
-  }
-  for (int i = 0; i < kPromised; ++i) blas_memory_free(marks[i] - 16);
+  const LentBuffer buffers[kPromised];
+  for (const LentBuffer& buffer : buffers) EXPECT_EQ(mark(buffer), kMark) << "a new buffer";
 }
 
 TEST_F(Buffers, ManyThreadsNeverShareOne) {
