@@ -2,7 +2,9 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <thread>
+#include <vector>
 
 #if defined(_WIN32)
 #define WIN32_LEAN_AND_MEAN
@@ -30,10 +32,15 @@ inline int thread_count() {
   return count;
 }
 
+// Open handles, by asking for each number that one may have: Wine's GetProcessHandleCount knows none.
 inline int handle_count() {
-  DWORD count = 0;
-  GetProcessHandleCount(GetCurrentProcess(), &count);
-  return static_cast<int>(count);
+  constexpr std::uintptr_t kMost = 0x1000;
+  int count = 0;
+  for (std::uintptr_t number = 4; number < kMost; number += 4) {
+    DWORD flags = 0;
+    if (GetHandleInformation(reinterpret_cast<HANDLE>(number), &flags) != 0) ++count;
+  }
+  return count;
 }
 
 // Committed memory that is not part of a file: heaps, stacks, and whatever was allocated by pages.
@@ -49,14 +56,17 @@ inline std::size_t private_bytes() {
   return bytes;
 }
 
-// Thread-local slots in use, of which a process has 1,088.
-inline int thread_slot_count() {
-  constexpr int kMost = 1088;
-  DWORD taken[kMost];
-  int free_slots = 0;
-  while (free_slots < kMost && (taken[free_slots] = TlsAlloc()) != TLS_OUT_OF_INDEXES) ++free_slots;
-  for (int i = 0; i < free_slots; ++i) TlsFree(taken[i]);
-  return kMost - free_slots;
+// How many more thread-local slots, or fiber-local ones, the process can have.
+template <class Allocate, class Free>
+int free_slot_count(const Allocate& allocate, const Free& free) {
+  std::vector<DWORD> taken;
+  for (DWORD slot = allocate(); slot != TLS_OUT_OF_INDEXES; slot = allocate()) taken.push_back(slot);
+  for (const DWORD slot : taken) free(slot);
+  return static_cast<int>(taken.size());
+}
+inline int free_thread_slots() { return free_slot_count(TlsAlloc, TlsFree); }
+inline int free_fiber_slots() {
+  return free_slot_count([] { return FlsAlloc(nullptr); }, FlsFree);
 }
 
 // Bytes in use on all heaps of the process.
@@ -77,10 +87,12 @@ inline std::size_t heap_bytes() {
 
 #else
 
-inline int thread_count() {
+inline int entries_of(const char* directory) {
   using std::filesystem::directory_iterator;
-  return static_cast<int>(std::distance(directory_iterator("/proc/self/task"), directory_iterator()));
+  return static_cast<int>(std::distance(directory_iterator(directory), directory_iterator()));
 }
+inline int thread_count() { return entries_of("/proc/self/task"); }
+inline int handle_count() { return entries_of("/proc/self/fd"); }
 
 #endif
 
