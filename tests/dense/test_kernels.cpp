@@ -17,14 +17,30 @@
 #include "dense/blocked.hpp"
 #include "dense/dense.hpp"
 #include "dense/kernels/kernel_set.hpp"
-#include "tests/support/guard_pages.hpp"
+#include "tests/support/guarded_pages.hpp"
 
 namespace quorin::dense {
 namespace {
 
 using platform::InstructionSet;
-using test::Flush;
-using test::PageGuarded;
+using test::Edge;
+
+// `size` elements, flush against a page that cannot be accessed.
+template <class T>
+class Guarded {
+ public:
+  Guarded(std::size_t size, Edge edge)
+      : pages_(size * sizeof(T)), size_(size), first_(static_cast<T*>(pages_.place(size * sizeof(T), edge))) {}
+  T* data() const { return first_; }
+  std::size_t size() const { return size_; }
+  T* begin() const { return first_; }
+  T* end() const { return first_ + size_; }
+
+ private:
+  test::GuardedPages pages_;
+  std::size_t size_;
+  T* first_;
+};
 
 template <Scalar T>
 using Wide = std::conditional_t<kIsComplex<T>, std::complex<long double>, long double>;
@@ -93,7 +109,7 @@ class Random {
 // A rows-by-columns matrix with exactly the memory that its leading dimension asks for.
 template <Scalar T>
 struct Matrix {
-  Matrix(int row_count, int column_count, int spare, Flush flush, Random& random)
+  Matrix(int row_count, int column_count, int spare, Edge flush, Random& random)
       : rows(row_count),
         columns(column_count),
         ld(std::max(1, row_count + spare)),
@@ -108,7 +124,7 @@ struct Matrix {
   T* data() const { return elements.data(); }
 
   int rows, columns, ld;
-  PageGuarded<T> elements;
+  Guarded<T> elements;
 };
 
 template <Scalar T>
@@ -217,7 +233,7 @@ class Kernels : public testing::TestWithParam<InstructionSet> {
     return kind == 0 ? random.below(3) : kind == 1 ? 100 + random.below(60) : 1 + random.below(70);
   }
   static int terms(Random& random) { return random.below(6) == 0 ? 250 + random.below(200) : size(random); }
-  static Flush flush(Random& random) { return random.below(2) == 0 ? Flush::kBegin : Flush::kEnd; }
+  static Edge flush(Random& random) { return random.below(2) == 0 ? Edge::kFront : Edge::kBack; }
   template <Scalar T>
   static Matrix<T> matrix(int rows, int columns, Random& random) {
     return Matrix<T>(rows, columns, random.below(3) == 0 ? random.below(9) : 0, flush(random), random);
@@ -420,8 +436,8 @@ TEST_P(Kernels, SameBitsOnAnyNumberOfThreads) {
   for_all_types([]<Scalar T>() {
     Random random(5);
     const int m = 333, n = 251, k = 417;
-    const Matrix<T> a(m, m, 3, Flush::kEnd, random), b(k, k, 1, Flush::kEnd, random);
-    const Matrix<T> start(m, n, 2, Flush::kEnd, random);
+    const Matrix<T> a(m, m, 3, Edge::kBack, random), b(k, k, 1, Edge::kBack, random);
+    const Matrix<T> start(m, n, 2, Edge::kBack, random);
     const T alpha(static_cast<RealOf<T>>(0.7)), beta(static_cast<RealOf<T>>(-0.3));
     const RealOf<T> one = 1;
     const auto runs = [&](int which, T* c, int ldc, int threads) {
