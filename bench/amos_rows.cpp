@@ -1,10 +1,12 @@
-// Time of one value of a Bessel or Airy function by order and argument, that is, by region of the methods; on the real
-// axis against other libraries.
+// Time of one value of a Bessel or Airy function at random arguments of each region of the methods, and of a member of
+// a sequence; on the real axis against other libraries.
 #include <benchmark/benchmark.h>
 
 #include <complex>
 #include <cstdint>
+#include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "bench/bessel_peers.hpp"
@@ -15,73 +17,91 @@ namespace {
 
 using Complex = std::complex<double>;
 
-// Arguments that differ a little from call to call.
-class Arguments {
- public:
-  explicit Arguments(double size) : size_(size) {}
-  double next() {
-    count_ = (count_ + 1) % 400;
-    return size_ * (1 + 1e-5 * count_);
-  }
-
- private:
-  double size_;
-  int count_ = 0;
+// Orders and |z| of a row. The size that the row shows is the largest |z|.
+struct Region {
+  const char* orders;
+  double least_order, largest_order;
+  bool integer;
+  double least_size;
+  int largest_size;
 };
 
-quorin_double_complex on_ray(Complex direction, double size) {
-  return {size * direction.real(), size * direction.imag()};
+struct Point {
+  double order;
+  Complex z;
+};
+
+// Random points of a region, the same in every run, on the positive real axis or in all directions.
+std::vector<Point> points(const Region& r, bool on_axis) {
+  constexpr int kPoints = 2000;
+  std::mt19937_64 random(3);
+  const auto uniform = [&](double low, double high) {
+    return std::uniform_real_distribution<double>(low, high)(random);
+  };
+  std::vector<Point> result;
+  for (int i = 0; i < kPoints; ++i) {
+    const double order = uniform(r.least_order, r.largest_order), size = uniform(r.least_size, r.largest_size);
+    const Complex z = on_axis ? Complex{size, 0.0} : std::polar(size, uniform(-3.14, 3.14));
+    result.push_back({r.integer ? static_cast<double>(static_cast<int>(order)) : order, z});
+  }
+  return result;
 }
 
-// CBESJ and CBESK on the ray through `direction`, scaled.
+// Goes round the points, one a call.
+template <class Call>
+auto at_points(std::vector<Point> where, Call call) {
+  return [where = std::move(where), call, next = std::size_t{0}]() mutable {
+    benchmark::DoNotOptimize(call(where[next].order, where[next].z));
+    next = next + 1 < where.size() ? next + 1 : 0;
+  };
+}
+
+// One value, scaled. J, I and K have one signature.
 template <class Function>
-auto sequence_call(Function* function, double order, double size, Complex direction) {
-  return [=, arguments = Arguments(size)]() mutable {
-    const quorin_double_complex z = on_ray(direction, arguments.next());
+auto value_of(Function* function) {
+  return [function](double order, Complex at) {
+    const quorin_double_complex z{at.real(), at.imag()};
     const std::int32_t kode = 2, n = 1;
     quorin_double_complex value{};
     std::int32_t underflows = 0, error = 0;
     function(&z, &order, &kode, &n, &value, &underflows, &error);
-    benchmark::DoNotOptimize(value);
+    return value.re;
   };
 }
 
-auto y_call(const quorin_library& library, double order, double size) {
-  return [y = library.CBESY, order, arguments = Arguments(size)]() mutable {
-    const quorin_double_complex z{arguments.next(), 0};
-    const std::int32_t kode = 1, n = 1;
+auto value_of_y(const Amos& amos) {
+  return [y = amos.y](double order, Complex at) {
+    const quorin_double_complex z{at.real(), at.imag()};
+    const std::int32_t kode = 2, n = 1;
     quorin_double_complex value{}, work{};
     std::int32_t underflows = 0, error = 0;
     y(&z, &order, &kode, &n, &value, &underflows, &work, &error);
-    benchmark::DoNotOptimize(value);
+    return value.re;
   };
 }
 
-auto airy_call(const quorin_library& library, double x) {
-  return [ai = library.CAIRY, arguments = Arguments(x)]() mutable {
-    const quorin_double_complex z{arguments.next(), 0};
+auto value_of_ai(const Amos& amos) {
+  return [ai = amos.ai](double, Complex at) {
+    const quorin_double_complex z{at.real(), at.imag()};
     const std::int32_t id = 0, kode = 1;
     quorin_double_complex value{};
     std::int32_t underflows = 0, error = 0;
     ai(&z, &id, &kode, &value, &underflows, &error);
-    benchmark::DoNotOptimize(value);
+    return value.re;
   };
 }
 
-auto peer_call(double (*function)(double, double), double order, double size) {
-  return [=, arguments = Arguments(size)]() mutable { benchmark::DoNotOptimize(function(order, arguments.next())); };
+// A whole sequence of J in each call.
+auto sequence_of_j(const Amos& amos, Complex at, int n) {
+  return [j = amos.j, z = quorin_double_complex{at.real(), at.imag()},
+          values = std::vector<quorin_double_complex>(static_cast<std::size_t>(n))]() mutable {
+    const double order = 0.3;
+    const std::int32_t kode = 2, count = static_cast<std::int32_t>(values.size());
+    std::int32_t underflows = 0, error = 0;
+    j(&z, &order, &kode, &count, values.data(), &underflows, &error);
+    benchmark::DoNotOptimize(values.data());
+  };
 }
-
-auto peer_call(double (*function)(double), double x) {
-  return [=, arguments = Arguments(x)]() mutable { benchmark::DoNotOptimize(function(arguments.next())); };
-}
-
-// An order, and the |z| at which it is measured: all within the range of doubles.
-struct Order {
-  double value;
-  const char* text;
-  std::vector<int> sizes, quick_sizes;
-};
 
 Row time_row(const std::string& operation, int size) {
   constexpr double kFlops = 5000;
@@ -91,49 +111,60 @@ Row time_row(const std::string& operation, int size) {
 }  // namespace
 
 void add_amos_rows(Suite& suite) {
-  const quorin_library& library = suite.libraries().product;
+  const Amos& amos = suite.libraries().amos;
   const std::vector<BesselPeer> peers = bessel_peers();
-  // Each order with all sizes: series, continued fractions, large argument; recurrence; large order below, at and
-  // beyond the turning point.
-  const Order orders[] = {{0.3, "0.3", {1, 10, 60, 300, 900}, {1, 10, 300}},
-                          {40.3, "40.3", {1, 10, 60, 300, 900}, {60}},
-                          {300.3, "300.3", {150, 300, 900}, {150, 300}}};
-  for (const auto& [order, text, full_sizes, quick_sizes] : orders) {
-    const std::vector<int> sizes = suite.sizes(full_sizes, quick_sizes);
-    const auto bessel_row = [text = text](const char* function, int size) {
-      return time_row(std::string(function) + ", order " + text, size);
+  const Region regions[] = {
+      {"orders 0 to 2", 0, 2, false, 0.01, 2},
+      {"orders 0 to 2", 0, 2, false, 2, 22},
+      {"orders 0 to 2", 0, 2, false, 22, 1000},
+      {"orders 2 to 80", 2, 80, false, 0.1, 80},
+      {"orders 2 to 80", 2, 80, false, 80, 1000},
+      {"orders 86 to 1000", 86, 1000, false, 1, 1000},
+      {"order 0", 0, 0.5, true, 0.01, 20},
+      {"order 0", 0, 0.5, true, 20, 1000},
+      {"order 1", 1, 1.5, true, 0.01, 20},
+      {"whole orders 2 to 80", 2, 81, true, 0.1, 80},
+      {"whole orders 2 to 80", 2, 81, true, 80, 1000},
+  };
+  for (const Region& r : regions) {
+    const std::vector<int> sizes = suite.sizes({r.largest_size}, {r.largest_size});
+    if (sizes.empty()) continue;
+    const auto row = [&](const char* function) {
+      return time_row(std::string(function) + ", " + r.orders, r.largest_size);
     };
-    for (const int size : sizes) {
-      const Row row = bessel_row("CBESJ on the real axis", size);
-      suite.measure(row, "quorin",
-                    [&library, order = order, size] { return sequence_call(library.CBESJ, order, size, 1.0); });
-      for (const BesselPeer& peer : peers) {
-        suite.measure(row, peer.side, [f = peer.j, order = order, size] { return peer_call(f, order, size); });
-      }
+    const std::vector<Point> axis = points(r, true);
+    suite.measure(row("CBESJ at random on the real axis"), "quorin", [=] { return at_points(axis, value_of(amos.j)); });
+    suite.measure(row("CBESY at random on the real axis"), "quorin", [=] { return at_points(axis, value_of_y(amos)); });
+    for (const BesselPeer& peer : peers) {
+      const auto call = [](auto function) {
+        return [function](double order, Complex z) { return function(order, z.real()); };
+      };
+      suite.measure(row("CBESJ at random on the real axis"), peer.side,
+                    [=, f = peer.j] { return at_points(axis, call(f)); });
+      suite.measure(row("CBESY at random on the real axis"), peer.side,
+                    [=, f = peer.y] { return at_points(axis, call(f)); });
     }
-    for (const int size : sizes) {
-      const Row row = bessel_row("CBESY on the real axis", size);
-      suite.measure(row, "quorin", [&library, order = order, size] { return y_call(library, order, size); });
-      for (const BesselPeer& peer : peers) {
-        suite.measure(row, peer.side, [f = peer.y, order = order, size] { return peer_call(f, order, size); });
-      }
-    }
-    const Complex oblique = std::polar(1.0, 0.5);
-    for (const int size : sizes) {
-      suite.measure(bessel_row("CBESJ off the axis", size), "quorin", [&library, order = order, size, oblique] {
-        return sequence_call(library.CBESJ, order, size, oblique);
-      });
-    }
-    for (const int size : sizes) {
-      suite.measure(bessel_row("CBESK off the axis", size), "quorin", [&library, order = order, size, oblique] {
-        return sequence_call(library.CBESK, order, size, oblique);
-      });
+    if (r.integer) continue;
+    const std::vector<Point> plane = points(r, false);
+    suite.measure(row("CBESJ at random in the plane"), "quorin", [=] { return at_points(plane, value_of(amos.j)); });
+    suite.measure(row("CBESY at random in the plane"), "quorin", [=] { return at_points(plane, value_of_y(amos)); });
+    suite.measure(row("CBESK at random in the plane"), "quorin", [=] { return at_points(plane, value_of(amos.k)); });
+  }
+  for (const auto& [low, high] : {std::pair{-60, -10}, {-10, -1}, {1, 10}, {10, 60}}) {
+    const Row row = time_row("CAIRY at random on the real axis, from " + std::to_string(low), high);
+    const std::vector<Point> axis = points({"", 0, 1, false, static_cast<double>(low), high}, true);
+    suite.measure(row, "quorin", [=] { return at_points(axis, value_of_ai(amos)); });
+    for (const BesselPeer& peer : peers) {
+      suite.measure(row, peer.side,
+                    [=, f = peer.ai] { return at_points(axis, [f](double, Complex z) { return f(z.real()); }); });
     }
   }
-  for (const int x : suite.sizes({-60, -5, 1, 4, 30}, {-60, -5, 4})) {
-    const Row row = time_row("CAIRY on the real axis", x);
-    suite.measure(row, "quorin", [&library, x] { return airy_call(library, x); });
-    for (const BesselPeer& peer : peers) suite.measure(row, peer.side, [f = peer.ai, x] { return peer_call(f, x); });
+  for (const int n : suite.sizes({100, 10000}, {100})) {
+    suite.measure(time_row("CBESJ, sequence of n orders on the real axis", n), "quorin",
+                  [&amos, n] { return sequence_of_j(amos, 10020.0, n); });
+    suite.measure(time_row("CBESJ, sequence of n orders off the axis", n), "quorin", [&amos, n] {
+      return sequence_of_j(amos, {10020.0, 3000.0}, n);
+    });
   }
 }
 

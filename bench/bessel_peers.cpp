@@ -12,17 +12,39 @@
 
 namespace quorin::bench {
 
+namespace {
+
+[[maybe_unused]] bool whole(double order) { return order == static_cast<int>(order); }
+
+}  // namespace
+
 std::vector<BesselPeer> bessel_peers() {
   std::vector<BesselPeer> peers;
 #if defined(QUORIN_HAS_GSL)
   gsl_set_error_handler_off();
-  peers.push_back(
-      {"gsl", gsl_sf_bessel_Jnu, gsl_sf_bessel_Ynu, [](double x) { return gsl_sf_airy_Ai(x, GSL_PREC_DOUBLE); }});
+  // Whole orders have functions of their own.
+  peers.push_back({"gsl",
+                   [](double order, double x) {
+                     return whole(order) ? gsl_sf_bessel_Jn(static_cast<int>(order), x) : gsl_sf_bessel_Jnu(order, x);
+                   },
+                   [](double order, double x) {
+                     return whole(order) ? gsl_sf_bessel_Yn(static_cast<int>(order), x) : gsl_sf_bessel_Ynu(order, x);
+                   },
+                   [](double x) { return gsl_sf_airy_Ai(x, GSL_PREC_DOUBLE); }});
 #endif
 #if defined(QUORIN_HAS_BOOST)
-  peers.push_back({"boost", [](double order, double x) { return boost::math::cyl_bessel_j(order, x); },
-                   [](double order, double x) { return boost::math::cyl_neumann(order, x); },
-                   [](double x) { return boost::math::airy_ai(x); }});
+  using namespace boost::math::policies;
+  using Quiet = policy<overflow_error<ignore_error>, evaluation_error<ignore_error>>;
+  peers.push_back({"boost",
+                   [](double order, double x) {
+                     return whole(order) ? boost::math::cyl_bessel_j(static_cast<int>(order), x, Quiet())
+                                         : boost::math::cyl_bessel_j(order, x, Quiet());
+                   },
+                   [](double order, double x) {
+                     return whole(order) ? boost::math::cyl_neumann(static_cast<int>(order), x, Quiet())
+                                         : boost::math::cyl_neumann(order, x, Quiet());
+                   },
+                   [](double x) { return boost::math::airy_ai(x, Quiet()); }});
 #endif
   return peers;
 }

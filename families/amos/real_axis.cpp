@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <numbers>
 #include <utility>
 
@@ -22,6 +23,9 @@ constexpr double kLogPrecision = 38.0;  // e^-38 = 3e-17
 // steps.
 constexpr double kNeumann = 12.0;
 constexpr double kMostOrder = 400.0;
+
+// Below this argument x^nu loses digits when its exponent is a double.
+constexpr double kLeastArgument = 1.0e-4;
 
 // Results in this range have kept all digits on the way.
 constexpr double kLeast = 1.0e-280;
@@ -68,9 +72,21 @@ std::optional<double> power_series(double nu, double x, double sign) {
     term *= quarter / (k * (nu + k));
     sum += term;
   }
-  const double power = std::pow(0.5 * x, nu);
+  const double power = nu == 0.0 ? 1.0 : nu == 1.0 ? 0.5 * x : std::pow(0.5 * x, nu);
   if (!in_range(power)) return std::nullopt;
   return in_range(power * reciprocal_gamma({nu}) * sum);
+}
+
+// sum (-1)^k a_k(nu) / x^k / sqrt(2 pi x), DLMF 10.40.1: e^-x I_nu(x) but for a part in e^-2x.
+double i_large_argument(double nu, double x) {
+  const double four_nu2 = 4.0 * nu * nu, over_8x = 0.125 / x;
+  double term = 1.0, sum = 1.0;
+  for (int k = 1; std::fabs(term) > 0.1 * kTol; ++k) {
+    const double odd = 2.0 * k - 1.0;
+    term *= (odd * odd - four_nu2) * over_8x / k;
+    sum += term;
+  }
+  return sum / std::sqrt(2.0 * kPiValue * x);
 }
 
 // J and Y at orders mu and mu + 1.
@@ -93,46 +109,69 @@ Cylinders cylinders_by_confluence(double mu, double x) {
   return {{h.real(), h_above.real()}, {h.imag(), h_above.imag()}};
 }
 
-// Y of orders mu and mu + 1 for x <= 2, from Temme's series of Y, that of K with other signs.
+// Y of orders mu and mu + 1 for x <= 2.
 RealPair y_by_series(double mu, double x) {
-  const Pair k = k_power_series(mu, Complex{0.0, -x});
-  // Y = Im H1, H1 = (2/(pi i)) e^{-i pi nu/2} K(-ix)
-  const Complex turn = std::conj(quarter_turns(mu)) * (2.0 / kPiValue);
-  const Complex h = times_i_power(turn * shift(k.at.m, k.at.e), 3);
-  const Complex h_above = times_i_power(turn * shift(k.above.m, k.above.e), 2);
-  return {h.imag(), h_above.imag()};
+  const double l = -std::log(0.5 * x), power = std::exp(mu * l), sine = std::sin(0.5 * kPiValue * mu);
+  const auto sums = temme_series(mu, l, power, 1.0 / power, -0.25 * x * x, mu == 0.0 ? 0.0 : 2.0 * sine * sine / mu);
+  return {-2.0 / kPiValue * sums.at, -4.0 / (kPiValue * x) * sums.above};
 }
 
-// J_n(x), and Y_0(x), Y_1(x), by Miller's recurrence downwards and
-// 1 = J_0 + 2 J_2 + 2 J_4 + ...,  Y_0 = (2/pi) ((log(x/2) + gamma) J_0 - 2 sum (-1)^k J_{2k} / k),
-// Y_1 = (J_1 Y_0 - 2 / (pi x)) / J_0, or from the sum of its own where J_0 is small.
-struct IntegerValues {
-  double j;
-  RealPair y;
-};
+// J_0, J_1, Y_0 or Y_1 (function 0 to 3) for 2 <= x <= kPiecesEnd: (x - zero) p(x - zero) around each zero.
+constexpr double kPiecesEnd = 25.0;
 
-IntegerValues integer_cylinders(int n, double x) {
+double by_pieces(int function, double x) {
+  constexpr int kSize = 3 + tables::kPieceTerms;
+  const double* piece =
+      tables::kCylinderPieces.data() + static_cast<std::ptrdiff_t>(function) * tables::kPieces * kSize;
+  while (x > piece[0]) piece += kSize;
+  const double t = (x - piece[1]) - piece[2], t2 = t * t;
+  const double* c = piece + 3;
+  double even = 0.0, odd = 0.0;
+  for (int k = tables::kPieceTerms - 2; k >= 0; k -= 2) {
+    even = even * t2 + c[k];
+    odd = odd * t2 + c[k + 1];
+  }
+  return t * (even + t * odd);
+}
+
+// Miller's recurrence for J, from an order that is large against n and x down to 0; `take` gets order and value.
+// Returns the factor that makes J_0 + 2 J_2 + 2 J_4 + ... = 1.
+template <class Take>
+double descend_integers(double largest, double x, const Take& take) {
   const double two_over_x = 2.0 / x;
-  const int top = 2 * (static_cast<int>(0.5 * std::max<double>(n, x) + 4.5 * std::cbrt(std::max<double>(n, x))) + 8);
-  double above = 0.0, at = 1.0e-280, j = 0.0, sum = 0.0, y0 = 0.0, y1 = 0.0;
-  for (int k = top; k > 0; --k) {
-    if (k == n) j = at;
-    if (k % 2 == 0) {
-      sum += at;
-      y0 += (k % 4 == 0 ? at : -at) / k;
-    } else if (k > 1) {
-      // Y_1 = -2/(pi x) + (2/pi) ((log(x/2) + gamma - 1) J_1 - sum (-1)^m (2m+1) / (m (m+1)) J_{2m+1}), m = (k - 1) / 2
-      const double m = 0.5 * (k - 1);
-      y1 += (k % 4 == 1 ? at : -at) * k / (m * (m + 1.0));
-    }
+  double above = 0.0, at = 1.0e-280, sum = 0.0;
+  for (int k = 2 * (static_cast<int>(0.5 * largest + 4.5 * std::cbrt(largest)) + 8); k > 0; --k) {
+    take(k, at);
+    if (k % 2 == 0) sum += at;
     above = std::exchange(at, k * two_over_x * at - above);
   }
-  const double scale = 1.0 / (at + 2.0 * sum);
-  const double j0 = at * scale, j1 = above * scale;
-  const double logarithm = std::log(0.5 * x) + std::numbers::egamma;
-  constexpr double kTwo = 2.0 / kPiValue;
-  return {n == 0 ? j0 : j * scale,
-          {kTwo * (logarithm * j0 - 4.0 * scale * y0), kTwo * ((logarithm - 1.0) * j1 - scale * y1 - j0 / x)}};
+  take(0, at);
+  return 1.0 / (at + 2.0 * sum);
+}
+
+double integer_j(int n, double x) {
+  double j = 0.0;
+  const double scale =
+      descend_integers(std::max<double>(n, x), x, [&](int k, double value) { j = k == n ? value : j; });
+  return j * scale;
+}
+
+// Y_0 = (2/pi) ((log(x/2) + gamma) J_0 - 2 sum (-1)^m J_{2m} / m) and
+// Y_1 = (2/pi) ((log(x/2) + gamma - 1) J_1 - J_0 / x - sum (-1)^m (2m+1) / (m (m+1)) J_{2m+1}), m = 1, 2, ...
+RealPair integer_y(double x) {
+  double j0 = 0.0, j1 = 0.0, even = 0.0, odd = 0.0;
+  const double scale = descend_integers(x, x, [&](int k, double value) {
+    const double m = k / 2, term = (k & 2) != 0 ? -value : value;
+    j1 = std::exchange(j0, value);
+    if (k < 2) return;
+    if (k % 2 == 0) {
+      even += term / m;
+    } else {
+      odd += term * k / (m * (m + 1.0));
+    }
+  });
+  const double logarithm = std::log(0.5 * x) + std::numbers::egamma, factor = scale * 2.0 / kPiValue;
+  return {factor * (logarithm * j0 - 2.0 * even), factor * ((logarithm - 1.0) * j1 - j0 / x - odd)};
 }
 
 // Whether J or Y is so small against the function around it that it wants a second look (Nicholson, DLMF 10.18.17).
@@ -142,7 +181,7 @@ bool is_small(double nu, double x, double value) {
   return value * value * std::sqrt((x - nu) * (x + nu)) < part * part * (2.0 / kPiValue);
 }
 
-bool is_integer_case(double nu, double x) { return x < kNeumann && nu == round_to_integer(nu); }
+bool is_integer_case(double nu, double x) { return x < kPiecesEnd && nu == round_to_integer(nu); }
 
 }  // namespace
 
@@ -150,12 +189,13 @@ std::optional<double> real_j(double nu, double x) {
   if (nu > kMostOrder) return std::nullopt;
   if (x <= 2.0 || (x * x <= 4.0 * (nu + 1.0) && nu < 100.0)) return power_series(nu, x, -1.0);
   const bool oscillates = is_oscillating(nu, x);
+  const int steps = static_cast<int>(round_to_integer(nu));
+  const double mu = nu - steps;
   double value = 0.0;
   if (is_integer_case(nu, x)) {
-    value = integer_cylinders(static_cast<int>(nu), x).j;
+    if (steps <= 1) return by_pieces(steps, x);
+    value = oscillates ? climb(0.0, steps, x, -1.0, {by_pieces(0, x), by_pieces(1, x)}).at : integer_j(steps, x);
   } else {
-    const int steps = static_cast<int>(round_to_integer(nu));
-    const double mu = nu - steps;
     const Cylinders c = cylinders_by_confluence(mu, x);
     if (oscillates) {
       value = climb(mu, steps, x, -1.0, c.j).at;
@@ -170,19 +210,23 @@ std::optional<double> real_j(double nu, double x) {
 }
 
 std::optional<double> real_y(double nu, double x) {
-  if (nu > kMostOrder || x < 1.0e-200) return std::nullopt;
+  if (nu > kMostOrder || x < kLeastArgument) return std::nullopt;
   const int steps = static_cast<int>(round_to_integer(nu));
   const double mu = nu - steps;
-  const RealPair low = x <= 2.0                 ? y_by_series(mu, x)
-                       : is_integer_case(nu, x) ? integer_cylinders(0, x).y
-                                                : cylinders_by_confluence(mu, x).y;
+  RealPair low{};
+  if (is_integer_case(nu, x)) {
+    if (x > 2.0 && steps <= 1) return by_pieces(2 + steps, x);
+    low = x > 2.0 ? RealPair{by_pieces(2, x), by_pieces(3, x)} : integer_y(x);
+  } else {
+    low = x <= 2.0 ? y_by_series(mu, x) : cylinders_by_confluence(mu, x).y;
+  }
   const double value = climb(mu, steps, x, -1.0, low).at;
   if (is_small(nu, x, value)) return std::nullopt;
   return in_range(value);
 }
 
 std::optional<double> real_k(double nu, double x) {
-  if (nu > kMostOrder || x < 1.0e-200) return std::nullopt;
+  if (nu > kMostOrder || x < kLeastArgument) return std::nullopt;
   const int steps = static_cast<int>(round_to_integer(nu));
   const double mu = nu - steps;
   RealPair k{};
@@ -204,6 +248,7 @@ std::optional<double> real_i(double nu, double x) {
     const std::optional<double> value = power_series(nu, x, 1.0);
     return value ? in_range(*value * std::exp(-x)) : value;
   }
+  if (x > kLargeArgument && (nu + 1.0) * (nu + 1.0) <= 2.0 * x) return i_large_argument(nu, x);
   if (x > kMostOrder || x <= kSmallArgument) return std::nullopt;
   const int steps = static_cast<int>(round_to_integer(nu));
   const double mu = nu - steps;

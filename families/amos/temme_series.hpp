@@ -62,24 +62,25 @@ struct TemmeSums {
 
 // f_k, p_k, q_k and c_k as in the paper: K_mu = sum c_k f_k, (w/2) K_{mu+1} = sum c_k (p_k - k f_k). Arguments:
 // l = log(2/w), power = e^{mu l} and its inverse, quarter = (w/2)^2. |w| <= 2, or |w| <= 5 near the imaginary axis,
-// where the terms grow as little.
+// where the terms grow as little. With quarter = -(x/2)^2 and q_weight = (2/mu) sin^2(pi mu / 2) the sums are those of
+// -(pi/2) Y_mu(x) and -(pi/2) (x/2) Y_{mu+1}(x), for f_k + q_weight q_k takes the place of f_k.
 template <class Number, class Real>
 TemmeSums<Number> temme_series(Real mu, const Number& l, const Number& power, const Number& inverse,
-                               const Number& quarter) {
+                               const Number& quarter, Real q_weight = Real{}) {
   constexpr int kMostTerms = 200;
-  const GammaParts<Real> g(mu);
+  const GammaParts<Real> parts(mu);
   const Real one{1.0}, half{0.5};
-  const Real gamma_plus = one / (g.even + g.odd * mu);
-  const Real gamma_minus = one / (g.even - g.odd * mu);
+  const Real gamma_plus = one / (parts.even + parts.odd * mu);
+  const Real gamma_minus = one / (parts.even - parts.odd * mu);
   const Number x = l * mu;
   const Number cosh = (power + inverse) * half;
   const bool large = largest_part(narrow(x)) > 0.5;
   const Number sinh = large ? (power - inverse) * half / mu : l * sinh_over_x<Number, Real>(x);  // sinh(x) / mu
-  Number f = (sinh * g.even - cosh * g.odd) * (gamma_plus * gamma_minus);
+  Number f = (sinh * parts.even - cosh * parts.odd) * (gamma_plus * gamma_minus);
   Number p = power * (half * gamma_plus);
   Number q = inverse * (half * gamma_minus);
   Number c = Number{} + one;
-  TemmeSums<Number> sums{f, p};
+  TemmeSums<Number> sums{f + q * q_weight, p};
   for (int i = 1; i < kMostTerms; ++i) {
     const Real k{static_cast<double>(i)};
     const Real over_minus = one / (k - mu), over_plus = one / (k + mu);
@@ -87,8 +88,9 @@ TemmeSums<Number> temme_series(Real mu, const Number& l, const Number& power, co
     p = p * over_minus;
     q = q * over_plus;
     c = c * quarter * (one / k);
-    const Number term = c * f;
-    const Number term_above = c * (p - f * k);
+    const Number g = f + q * q_weight;
+    const Number term = c * g;
+    const Number term_above = c * (p - g * k);
     sums.at = sums.at + term;
     sums.above = sums.above + term_above;
     if (largest_part(narrow(term)) < Precision<Real>::kTol * largest_part(narrow(sums.at)) &&

@@ -16,6 +16,8 @@ AIRY_COLUMNS = 30  # Taylor coefficients of each, before those too small to matt
 LARGE_ORDER = 85  # the expansions are used for orders above this ...
 LARGEST_ZETA = 0.52  # ... and for |zeta| below this
 GAMMA_TERMS = 34
+PIECES_END = 25  # of the polynomials for orders 0 and 1
+PIECE_TERMS = 28
 LOG_STEPS = 64  # of the table of powers of 2
 ANGLE_STEPS = 64  # in a right angle, of the table of sines
 
@@ -103,6 +105,43 @@ def reciprocal_gamma():
     return mpmath.taylor(lambda x: mpmath.rgamma(1 + x), 0, GAMMA_TERMS - 1)
 
 
+def cylinder_pieces():
+    """J_0, J_1, Y_0, Y_1 on [2, PIECES_END], one polynomial around each zero: f(x) = t p(t), t = x - zero.
+
+    Of each piece: its upper end, the zero as high and low part, and the coefficients of p, which interpolates at
+    Chebyshev's points of the piece.
+    """
+    rows = []
+    for function, order in ((mpmath.besselj, 0), (mpmath.besselj, 1), (mpmath.bessely, 0), (mpmath.bessely, 1)):
+        f = lambda x: function(order, x)
+        step = mpmath.mpf(1) / 10
+        ends = [2 + k * step for k in range(int((PIECES_END + 4) / step))]
+        zeros = [mpmath.findroot(f, (a, b), solver="anderson") for a, b in zip(ends, ends[1:]) if f(a) * f(b) < 0]
+        low = mpmath.mpf(2)
+        row = []
+        for zero, following in zip(zeros, zeros[1:]):
+            if low > PIECES_END:
+                break
+            high = (zero + following) / 2
+            half = (high - low) / 2
+            nodes = [half * mpmath.cos(mpmath.pi * (2 * i + 1) / (2 * PIECE_TERMS)) + low + half
+                     for i in range(PIECE_TERMS)]
+            # Newton's divided differences of f(x)/(x - zero), then powers of t.
+            differences = [f(x) / (x - zero) for x in nodes]
+            for i in range(1, PIECE_TERMS):
+                for k in range(PIECE_TERMS - 1, i - 1, -1):
+                    differences[k] = (differences[k] - differences[k - 1]) / (nodes[k] - nodes[k - i])
+            p = [mpmath.mpf(0)]
+            for k in range(PIECE_TERMS - 1, -1, -1):
+                root = nodes[k] - zero
+                p = [a - root * b for a, b in zip([mpmath.mpf(0)] + p, p + [mpmath.mpf(0)])]
+                p[0] += differences[k]
+            row.append([high, zero, zero - mpmath.mpf(float(zero))] + p[:PIECE_TERMS])
+            low = high
+        rows.append(row)
+    return rows
+
+
 def write(name, comment, values):
     print(f"\n// {comment}")
     print(f"inline constexpr std::array<double, {len(values)}> {name}{{")
@@ -146,6 +185,13 @@ def main():
     write_pairs("kCosine", f"cos(j pi/{2 * ANGLE_STEPS}) up to pi/4: high and low part.", map(mpmath.cos, angles))
     write_pairs("kInverseFactorial", "1 / k!: high and low part.", [1 / mpmath.factorial(k) for k in range(15)])
     write_pairs("kReciprocalGamma", "1 / Gamma(1 + x), lowest power first: high and low part.", reciprocal_gamma())
+    pieces = cylinder_pieces()
+    assert len({len(row) for row in pieces}) == 1
+    print(f"\n// {PIECE_TERMS} coefficients for each zero of J_0, J_1, Y_0, Y_1 between 2 and {PIECES_END}.")
+    print(f"inline constexpr int kPieceTerms = {PIECE_TERMS};")
+    print(f"inline constexpr int kPieces = {len(pieces[0])};")
+    write("kCylinderPieces", "Upper end of the piece, the zero as high and low part, coefficients of f(x) / (x - zero).",
+          [x for row in pieces for piece in row for x in piece])
     print("\n}  // namespace quorin::amos::tables")
 
 
