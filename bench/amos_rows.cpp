@@ -69,8 +69,8 @@ auto value_of(Function* function) {
   };
 }
 
-auto value_of_y(const Amos& amos) {
-  return [y = amos.y](double order, Complex at) {
+auto value_of_y(const quorin_library& library) {
+  return [y = library.CBESY](double order, Complex at) {
     const quorin_double_complex z{at.real(), at.imag()};
     const std::int32_t kode = 2, n = 1;
     quorin_double_complex value{}, work{};
@@ -80,8 +80,8 @@ auto value_of_y(const Amos& amos) {
   };
 }
 
-auto value_of_ai(const Amos& amos) {
-  return [ai = amos.ai](double, Complex at) {
+auto value_of_ai(const quorin_library& library) {
+  return [ai = library.CAIRY](double, Complex at) {
     const quorin_double_complex z{at.real(), at.imag()};
     const std::int32_t id = 0, kode = 1;
     quorin_double_complex value{};
@@ -92,8 +92,8 @@ auto value_of_ai(const Amos& amos) {
 }
 
 // A whole sequence of J in each call.
-auto sequence_of_j(const Amos& amos, Complex at, int n) {
-  return [j = amos.j, z = quorin_double_complex{at.real(), at.imag()},
+auto sequence_of_j(const quorin_library& library, Complex at, int n) {
+  return [j = library.CBESJ, z = quorin_double_complex{at.real(), at.imag()},
           values = std::vector<quorin_double_complex>(static_cast<std::size_t>(n))]() mutable {
     const double order = 0.3;
     const std::int32_t kode = 2, count = static_cast<std::int32_t>(values.size());
@@ -111,7 +111,7 @@ Row time_row(const std::string& operation, int size) {
 }  // namespace
 
 void add_amos_rows(Suite& suite) {
-  const Amos& amos = suite.libraries().amos;
+  const quorin_library& library = suite.libraries().product;
   const std::vector<BesselPeer> peers = bessel_peers();
   const Region regions[] = {
       {"orders 0 to 2", 0, 2, false, 0.01, 2},
@@ -133,8 +133,10 @@ void add_amos_rows(Suite& suite) {
       return time_row(std::string(function) + ", " + r.orders, r.largest_size);
     };
     const std::vector<Point> axis = points(r, true);
-    suite.measure(row("CBESJ at random on the real axis"), "quorin", [=] { return at_points(axis, value_of(amos.j)); });
-    suite.measure(row("CBESY at random on the real axis"), "quorin", [=] { return at_points(axis, value_of_y(amos)); });
+    suite.measure(row("CBESJ at random on the real axis"), "quorin",
+                  [=] { return at_points(axis, value_of(library.CBESJ)); });
+    suite.measure(row("CBESY at random on the real axis"), "quorin",
+                  [=] { return at_points(axis, value_of_y(library)); });
     for (const BesselPeer& peer : peers) {
       const auto call = [](auto function) {
         return [function](double order, Complex z) { return function(order, z.real()); };
@@ -146,14 +148,16 @@ void add_amos_rows(Suite& suite) {
     }
     if (r.integer) continue;
     const std::vector<Point> plane = points(r, false);
-    suite.measure(row("CBESJ at random in the plane"), "quorin", [=] { return at_points(plane, value_of(amos.j)); });
-    suite.measure(row("CBESY at random in the plane"), "quorin", [=] { return at_points(plane, value_of_y(amos)); });
-    suite.measure(row("CBESK at random in the plane"), "quorin", [=] { return at_points(plane, value_of(amos.k)); });
+    suite.measure(row("CBESJ at random in the plane"), "quorin",
+                  [=] { return at_points(plane, value_of(library.CBESJ)); });
+    suite.measure(row("CBESY at random in the plane"), "quorin", [=] { return at_points(plane, value_of_y(library)); });
+    suite.measure(row("CBESK at random in the plane"), "quorin",
+                  [=] { return at_points(plane, value_of(library.CBESK)); });
   }
   for (const auto& [low, high] : {std::pair{-60, -10}, {-10, -1}, {1, 10}, {10, 60}}) {
     const Row row = time_row("CAIRY at random on the real axis, from " + std::to_string(low), high);
     const std::vector<Point> axis = points({"", 0, 1, false, static_cast<double>(low), high}, true);
-    suite.measure(row, "quorin", [=] { return at_points(axis, value_of_ai(amos)); });
+    suite.measure(row, "quorin", [=] { return at_points(axis, value_of_ai(library)); });
     for (const BesselPeer& peer : peers) {
       suite.measure(row, peer.side,
                     [=, f = peer.ai] { return at_points(axis, [f](double, Complex z) { return f(z.real()); }); });
@@ -161,9 +165,9 @@ void add_amos_rows(Suite& suite) {
   }
   for (const int n : suite.sizes({100, 10000}, {100})) {
     suite.measure(time_row("CBESJ, sequence of n orders on the real axis", n), "quorin",
-                  [&amos, n] { return sequence_of_j(amos, 10020.0, n); });
-    suite.measure(time_row("CBESJ, sequence of n orders off the axis", n), "quorin", [&amos, n] {
-      return sequence_of_j(amos, {10020.0, 3000.0}, n);
+                  [&library, n] { return sequence_of_j(library, 10020.0, n); });
+    suite.measure(time_row("CBESJ, sequence of n orders off the axis", n), "quorin", [&library, n] {
+      return sequence_of_j(library, {10020.0, 3000.0}, n);
     });
   }
 }

@@ -1,12 +1,12 @@
 // Arguments between the power series and the large-argument expansion: Miller's recurrence for I, normalized by the
-// Wronskian, and Temme's continued fraction for K.
+// Wronskian, and the recurrence of Tricomi's function for K.
 #pragma once
 
 #include "families/amos/scaled.hpp"
 
 namespace quorin::amos {
 
-// e^w K_mu(w), e^w K_{mu+1}(w) for |mu| <= 1/2, Re w >= 0: series for |w| <= 2, continued fraction above, expansion
+// e^w K_mu(w), e^w K_{mu+1}(w) for |mu| <= 1/2, Re w >= 0: series for |w| <= 2, the recurrence above, expansion
 // for large argument from kLargeArgument on.
 Pair k_small_order(double mu, Complex w);
 

@@ -161,7 +161,7 @@ double integer_j(int n, double x) {
 RealPair integer_y(double x) {
   double j0 = 0.0, j1 = 0.0, even = 0.0, odd = 0.0;
   const double scale = descend_integers(x, x, [&](int k, double value) {
-    const double m = k / 2, term = (k & 2) != 0 ? -value : value;
+    const double m = 0.5 * (k - k % 2), term = (k & 2) != 0 ? -value : value;
     j1 = std::exchange(j0, value);
     if (k < 2) return;
     if (k % 2 == 0) {

@@ -24,7 +24,7 @@ AIRY_REGIONS = [
     ("large argument", lambda f, z, nu: True),
 ]
 HALF_WIDTH = 40  # cells on each side of the origin
-DECADES = 4.6  # radius of the picture in log10(1 + |z|)
+DECADES = 6.1  # radius of the picture in log10(1 + |z|)
 
 
 def near_turning_point(f, z, nu):
@@ -76,7 +76,7 @@ def panel(values, title, left):
         shades[round(4 * math.log10(max(error, 1e-17)))].append(f"M{left + middle + 4 * i} {190 + 4 * j}h4v4h-4z")
     for shade, cells in sorted(shades.items()):
         parts.append(f'<path fill="{colour(10 ** (shade / 4))}" d="{"".join(cells)}"/>')
-    for decade in range(1, 5):
+    for decade in range(1, 7):
         parts.append(f'<circle cx="{left + middle}" cy="190" r="{160 * math.log10(1 + 10**decade) / DECADES:.1f}" '
                      'fill="none" stroke="#888" stroke-width="0.5"/>')
     return parts
