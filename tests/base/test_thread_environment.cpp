@@ -41,6 +41,11 @@ TEST(ThreadEnvironment, DomainListsInEveryForm) {
         "MKL_DOMAIN_PARDISO=x MKL_DOMAIN_ALL=2 MKL_DOMAIN_BLAS=1 MKL_DOMAIN_FFT"}) {
     EXPECT_EQ(parse_domain_counts(text), expected) << text;
   }
+  const std::array<int, kDomainCount> all{1, 2, 3, 4, 5};
+  for (const char* text : {"MKL_DOMAIN_ALL=1 MKL_DOMAIN_BLAS=2 MKL_DOMAIN_FFT=3 MKL_DOMAIN_VML=4 MKL_DOMAIN_PARDISO=5",
+                           "MKL_ALL=1 MKL_BLAS=2 MKL_FFT=3 MKL_VML=4 MKL_PARDISO=5"}) {
+    EXPECT_EQ(parse_domain_counts(text), all) << text;
+  }
 }
 
 }  // namespace

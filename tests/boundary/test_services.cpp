@@ -59,12 +59,15 @@ TEST_F(Threads, DomainsHaveCountsOfTheirOwn) {
 
 TEST_F(Threads, UnknownDomainsAreRefused) {
   sMKL_Set_Num_Threads(3);
+  for (int domain = 1; domain < kDomains; ++domain) sMKL_Domain_Set_Num_Threads(10 + domain, domain);
   for (const int domain : {kDomains, -1, INT_MAX, INT_MIN}) {
     EXPECT_EQ(sMKL_Domain_Set_Num_Threads(2, domain), 0);
     EXPECT_EQ(sMKL_Domain_Get_Max_Threads(domain), 3);
   }
   EXPECT_EQ(sMKL_Domain_Set_Num_Threads(INT_MIN, 0), 0);
-  for (int domain = 0; domain < kDomains; ++domain) EXPECT_EQ(sMKL_Domain_Get_Max_Threads(domain), 3);
+  for (int domain = 0; domain < kDomains; ++domain) {
+    EXPECT_EQ(sMKL_Domain_Get_Max_Threads(domain), domain == 0 ? 3 : 10 + domain);
+  }
 }
 
 TEST(Dynamic, IsOnAtFirstAndKeepsOneBit) {

@@ -68,6 +68,19 @@ TEST(CheckAndInit, CgMany) {
   EXPECT_TRUE(host.intact());
 }
 
+TEST(CheckAndInit, FgmresDefaults) {
+  const Csr A = nonsymmetric5();
+  FgmresHost host(A, Vector(5, 1.0), Vector(5, 0.0), 5);
+  ASSERT_EQ(host.init(5), 0);
+  const std::pair<std::size_t, int> integers[] = {{1, 5},  {2, 6},  {3, 1},  {4, 0},  {5, 5},  {6, 1},
+                                                  {7, 1},  {8, 1},  {9, 0},  {10, 1}, {11, 0}, {12, 0},
+                                                  {13, 0}, {14, 0}, {15, 5}, {31, 0}};
+  for (const auto& [entry, value] : integers) EXPECT_EQ(host.ipar[entry - 1], value) << "ipar(" << entry << ")";
+  const std::pair<std::size_t, double> reals[] = {{1, 1e-6}, {2, 0}, {3, 0},     {4, 0},      {5, 0},
+                                                  {6, 0},    {7, 0}, {8, 1e-12}, {31, 1e-16}, {32, 1e-10}};
+  for (const auto& [entry, value] : reals) EXPECT_EQ(host.dpar[entry - 1], value) << "dpar(" << entry << ")";
+}
+
 TEST(CheckAndInit, Fgmres) {
   const Csr A = nonsymmetric5();
   FgmresHost host(A, Vector(5, 1.0), Vector(5, 0.0), 5);

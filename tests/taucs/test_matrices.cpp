@@ -15,6 +15,11 @@ static_assert(sizeof(void*) != 4 || sizeof(taucs_ccs_matrix) == 24);
 static_assert(offsetof(taucs_ccs_matrix, n) == 0 && offsetof(taucs_ccs_matrix, m) == 4 &&
               offsetof(taucs_ccs_matrix, flags) == 8);
 
+// Hosts keep flags in records, and in binary files.
+static_assert(TAUCS_LOWER == 1 && TAUCS_UPPER == 2 && TAUCS_TRIANGULAR == 4 && TAUCS_SYMMETRIC == 8 &&
+              TAUCS_HERMITIAN == 16 && TAUCS_PATTERN == 32 && TAUCS_INT == 1024 && TAUCS_DOUBLE == 2048 &&
+              TAUCS_SINGLE == 4096 && TAUCS_DCOMPLEX == 8192 && TAUCS_SCOMPLEX == 16384);
+
 // The typed routines under one name.
 template <class T>
 struct Typed {
