@@ -189,6 +189,18 @@ TEST(EveryRoutine, WorksThroughIndicesAndStaysInItsArrays) {
   }
 }
 
+TEST(EveryRoutine, NeedsNoMoreWorkSpaceThanDocumented) {
+  for (const Routine& routine : kLeastCalls) {
+    SCOPED_TRACE(routine.name);
+    Call call(routine);
+    call.run(false);
+    EXPECT_GE(call.info(), 0);
+    for (std::size_t i = 0; i < routine.arguments.size(); ++i) {
+      EXPECT_TRUE(call[i].guards_hold()) << routine.arguments[i].name;
+    }
+  }
+}
+
 TEST(EveryRoutine, FindsAWrongArgumentAndTouchesNothing) {
   for (const Routine& routine : kRoutines) {
     // The first option, or the first dimension.

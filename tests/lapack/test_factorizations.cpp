@@ -141,6 +141,19 @@ TYPED_TEST(Factorization, CholeskyTimesItsFactorIsTheMatrix) {
   }
 }
 
+// The reciprocal of such a pivot is no float.
+TYPED_TEST(Factorization, DividesBySubnormalPivots) {
+  const float pivot = std::ldexp(1.0F, -140);
+  TypeParam a[] = {pivot / 2, pivot, pivot / 4};
+  std::int32_t ipiv = 0, info = -1;
+  getrf(3, 1, a, 3, &ipiv, &info);
+  EXPECT_EQ(info, 0);
+  EXPECT_EQ(ipiv, 2);
+  EXPECT_EQ(a[0], TypeParam(pivot));
+  EXPECT_EQ(a[1], TypeParam(0.5F));
+  EXPECT_EQ(a[2], TypeParam(0.25F));
+}
+
 TYPED_TEST(Factorization, TellsWhereItFails) {
   const int n = 100;
   std::vector<std::int32_t> ipiv(n);
