@@ -125,9 +125,7 @@ const Solver& solver(const std::string& name) {
 
 namespace {
 
-struct Lengths {
-  int reals, integers;
-};
+#include "lengths.inc"
 
 struct Triangles {
   int below = 0, diagonal = 0, above = 0;
@@ -149,8 +147,14 @@ Triangles count_triangles(const Triads& a) {
   return t;
 }
 
-// As published.
-Lengths lengths(const Solver& s, const Triads& a, int nsave) {
+}  // namespace
+
+Lengths documented_lengths(const Solver& s, const Triads& a, int nsave) {
+  const auto [below, diagonal, above] = count_triangles(a);
+  return documented(s.name, a.n, a.nelt(), a.isym, nsave, below, above, diagonal);
+}
+
+Lengths published_lengths(const Solver& s, const Triads& a, int nsave) {
   const int n = a.n;
   if (s.preconditioner == Preconditioner::kCholesky) {
     const int nl = a.isym != 0 ? a.nelt() : (a.nelt() + n) / 2;
@@ -173,6 +177,8 @@ Lengths lengths(const Solver& s, const Triads& a, int nsave) {
       return {8 * n + fill, integers};
   }
 }
+
+namespace {
 
 template <class T>
 std::vector<T> copy(Guarded<T>& array) {
@@ -210,7 +216,7 @@ struct Call {
 }  // namespace
 
 Outcome run(const Solver& s, const Triads& a, const Floats& b, const Options& options, const Floats& start) {
-  Call c(a, options, start, a.n < 1 || a.nelt() < 1 ? Lengths{0, 0} : lengths(s, a, options.nsave));
+  Call c(a, options, start, a.n < 1 || a.nelt() < 1 ? Lengths{0, 0} : published_lengths(s, a, options.nsave));
   Triads& m = c.result.matrix;
   Outcome& r = c.result;
   const Options& o = c.options;
@@ -234,7 +240,7 @@ Outcome run(const Solver& s, const Triads& a, const Floats& b, const Options& op
 }
 
 Outcome run_reusing(const Triads& a, const Floats& b, const Options& options, const Outcome* earlier) {
-  Call c(a, options, {}, lengths(solver("SSICCG"), a, 0));
+  Call c(a, options, {}, published_lengths(solver("SSICCG"), a, 0));
   if (earlier != nullptr) {
     std::copy(earlier->rwork.begin(), earlier->rwork.end(), c.rwork.data());
     std::copy(earlier->iwork.begin(), earlier->iwork.end(), c.iwork.data());

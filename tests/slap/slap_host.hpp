@@ -70,6 +70,14 @@ struct Solver {
 const std::vector<Solver>& solvers();
 const Solver& solver(const std::string& name);
 
+// Of the work arrays: as published, and as the manual has it.
+struct Lengths {
+  int reals, integers;
+  bool operator==(const Lengths&) const = default;
+};
+Lengths published_lengths(const Solver& s, const Triads& a, int nsave);
+Lengths documented_lengths(const Solver& s, const Triads& a, int nsave);
+
 // What a call leaves. `matrix` has column starts in ja.
 struct Outcome {
   Floats x;

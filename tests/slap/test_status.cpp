@@ -44,6 +44,15 @@ TEST(Status, BadSizesTouchNothing) {
   }
 }
 
+TEST(Status, WorkArraysAreDocumentedAsPublished) {
+  const Triads general = grid(4, 0.5);
+  for (const Solver& s : solvers()) {
+    for (const Triads& a : {general, general.lower()}) {
+      EXPECT_EQ(documented_lengths(s, a, 3), published_lengths(s, a, 3)) << s.name;
+    }
+  }
+}
+
 TEST(Status, UnknownTests) {
   for (const Solver& s : solvers()) {
     for (const int itol : {5, -1, 3, 12, 0}) {
