@@ -275,6 +275,22 @@ TEST_P(Kernels, GeneralProduct) {
   });
 }
 
+TEST_P(Kernels, DoNotReadCForBetaZero) {
+  for_all_types([]<Scalar T>() {
+    Random random(6);
+    const KernelBuffer buffer(1);
+    const kernels::Blocking& blocking = kernels::kernels<T>().blocking;
+    for (const auto& [n, k] : {std::pair(blocking.columns + 3, 1), std::pair(2, blocking.depth + 1)}) {
+      const auto a = matrix<T>(2, k, random), b = matrix<T>(k, n, random), c = matrix<T>(2, n, random);
+      std::fill(c.elements.begin(), c.elements.end(), T(std::numeric_limits<RealOf<T>>::quiet_NaN()));
+      const std::vector<T> before = copy_of(c);
+      blocked::gemm('N', 'N', 2, n, k, T{1}, a.data(), a.ld, b.data(), b.ld, T{}, c.data(), c.ld);
+      check_product<T>("many blocks of columns or terms", c, before, k, Wide<T>{1}, Wide<T>{}, 'A', false,
+                       [&](int i, int j, int l) { return wide_product(widen(a(i, l)), widen(b(l, j))); });
+    }
+  });
+}
+
 TEST_P(Kernels, SymmetricProduct) {
   for_all_types([]<Scalar T>() {
     Random random(2);
@@ -330,6 +346,9 @@ TEST_P(Kernels, UpdateOfOneTriangle) {
       if (hermitian) {
         beta = std::real(beta);
         if (!two) alpha = std::real(alpha);
+      }
+      if (beta == T{}) {
+        std::fill(c.elements.begin(), c.elements.end(), T(std::numeric_limits<RealOf<T>>::quiet_NaN()));
       }
       const std::vector<T> before = copy_of(c);
       if (hermitian && two) {
