@@ -114,7 +114,7 @@ QUORIN_API void QUORIN_CDECL cdotc_Idx(quorin_complex* result, const int32_t* n,
 /* Returns the Euclidean norm of x, without overflow or underflow on the way.
      n: number of elements; 0 or less does nothing
      x: [n, stride incx]: vector x
-     incx: stride of x; if it is below 1, the result is 0 */
+     incx: stride of x, not 0 in level 2; if it is negative, the vector begins at the far end of its array */
 QUORIN_API float QUORIN_CDECL snrm2(const int32_t* n, const float* x, const int32_t* incx);
 QUORIN_API float QUORIN_CDECL SNRM2(const int32_t* n, const float* x, const int32_t* incx);
 QUORIN_API float QUORIN_CDECL snrm2_Idx(const int32_t* n, const float* x, int32_t x_index, const int32_t* incx);

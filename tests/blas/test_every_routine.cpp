@@ -343,11 +343,11 @@ class EveryRoutine {
   }
 
  private:
-  // What has no stride takes 1 only, what has a matrix takes none of 0, and the published norm takes positive ones.
+  // What has no stride takes 1 only, what has a matrix takes none of 0.
   bool takes(const Strides& strides) const {
-    const bool is_norm = routine_.name.ends_with("nrm2"), has_matrix = routine_.has("lda");
+    const bool has_matrix = routine_.has("lda");
     return (routine_.has("incx") || strides.x == 1) && (routine_.has("incy") || strides.y == 1) &&
-           !(has_matrix && (strides.x == 0 || strides.y == 0)) && !(is_norm && strides.x < 1);
+           !(has_matrix && (strides.x == 0 || strides.y == 0));
   }
 
   void check(const Setting& s) {
