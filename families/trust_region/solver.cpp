@@ -15,13 +15,16 @@ constexpr double kPoor = 0.25, kGood = 0.75;
 // The least share of a step that the next radius is after a failure.
 constexpr double kStrongestShrink = 0.1, kMildestShrink = 0.5;
 // || ||D s|| - radius | relative to the radius, if the host wants no better.
-constexpr double kLooseLength = 0.1, kDefaultLength = 1e-10;
+constexpr double kLooseLength = 0.1;
 
 // Times that the radius is doubled for a step that floats can tell from none, and such steps in vain that end the run.
 constexpr int kEnlargements = 20, kFailedEnlargements = 5;
 // What rounding of F to floats may change in ||F||^2, relative to it.
 constexpr double kNoise = std::numeric_limits<float>::epsilon();
 constexpr int kPolishingSteps = 5;
+
+// The first radius in units of ||D x||; the first step is also held to the length that the host wants.
+constexpr double kFirstRadius = 100.0;
 
 // By how much D_j may exceed the norm of its column at the start.
 constexpr double kMostBalance = 10.0;
@@ -30,9 +33,9 @@ constexpr double kMostBalance = 10.0;
 double norm_of(std::size_t m, const float* residual) { return std::sqrt(base::sum_of_squares(m, residual)); }
 
 StepLimits step_limits(const Setup& setup) {
-  const double asked =
-      setup.tolerances.step_precision > 0.0F ? double{setup.tolerances.step_precision} : kDefaultLength;
-  return {.iterations = setup.step_iteration_limit, .tolerance = std::min(asked, kLooseLength)};
+  const double asked = double{setup.tolerances.step_precision};
+  return {.iterations = setup.step_iteration_limit,
+          .tolerance = asked > 0.0 ? std::min(asked, kLooseLength) : kLooseLength};
 }
 
 }  // namespace
@@ -119,7 +122,7 @@ Request Solver::take_first_jacobian(const float* jacobian) {
   }
   update_scale();
   length = scaled_length();
-  radius_ = double{setup_.first_radius} * (length > 0.0 ? length : 1.0);
+  radius_ = kFirstRadius * (length > 0.0 ? length : 1.0);
   return go_on_from_new_point();
 }
 
@@ -181,7 +184,7 @@ Request Solver::go_on() {
 
 Request Solver::propose() {
   is_enlarged_ = false;
-  const double* s = find_step();
+  const double* s = iterations_ == 0 ? find_first_step() : find_step();
   // Floats are too coarse for a short step along a narrow valley; a longer one may still lead down.
   for (int i = 0; i < kEnlargements && failed_enlargements_ < kFailedEnlargements; ++i) {
     if (step_.decrease() > 0.0 || step_length_ < (1.0 - 2.0 * kLooseLength) * radius_) break;
@@ -211,6 +214,29 @@ const double* Solver::find_step() {
   step_length_ = 0.0;
   for (std::size_t j = 0; j < setup_.n; ++j) step_length_ = std::hypot(step_length_, scale_[j] * s[j]);
   return s;
+}
+
+// The first step: the region shrinks until the step is about as long as the host wants, and no longer. That length is
+// Euclidean, as only D knows the units that the variables turn out to have.
+const double* Solver::find_first_step() {
+  constexpr double kShort = 0.5, kClose = 1.1;
+  const double most = double{setup_.first_length};
+  double fits = 0.0, exceeds = std::numeric_limits<double>::infinity();
+  for (;;) {
+    const double* const s = find_step();
+    const double length = base::norm(setup_.n, s);
+    if (!(length > most)) {
+      fits = radius_;
+      if (!(length < kShort * most) || exceeds < kClose * fits || !std::isfinite(exceeds)) return s;
+    } else {
+      exceeds = std::min(radius_, step_length_);
+    }
+    if (fits == 0.0) {
+      radius_ = 0.9 * most / length * exceeds;
+    } else {
+      radius_ = exceeds < kClose * fits ? fits : std::sqrt(fits) * std::sqrt(exceeds);
+    }
+  }
 }
 
 // From the decreases of ||F||^2, relative to it. After a failure: to the minimum of the parabola that has the slope of

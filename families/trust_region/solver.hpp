@@ -23,7 +23,7 @@ struct Setup {
   float* x;  // the host's; written with every request
   Tolerances tolerances;
   int iteration_limit, step_iteration_limit;
-  float first_radius;          // in units of ||D x||
+  float first_length;          // that the first step does not exceed
   const float *lower, *upper;  // copied; null if there are no bounds
 };
 
@@ -62,6 +62,7 @@ class Solver : public base::HandleNode {
   Request go_on();
   Request propose();
   const double* find_step();
+  const double* find_first_step();
   bool is_within_noise(double actual) const;
   void update_scale();
   void update_radius(double actual, double predicted);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <limits>
 
 #include "base/handle_table.hpp"
 #include "families/trust_region/solver.hpp"
@@ -16,7 +17,7 @@ using Table = base::HandleTable<Solver>;
 constinit Table unbounded_runs;
 constinit Table bounded_runs;
 
-constexpr float kSmallestRadius = 0.1F, kLargestRadius = 100.0F;
+constexpr float kSmallestLength = 0.1F, kLargestLength = 100.0F;
 
 template <class... Pointers>
 bool has_null(const Pointers*... pointers) {
@@ -66,7 +67,8 @@ Status make(Table& table, void** handle, const Counts& counts, float* x, const f
       .tolerances = read_tolerances(eps, is_bounded),
       .iteration_limit = *counts.iter1,
       .step_iteration_limit = *counts.iter2,
-      .first_radius = *rs == 0.0F ? kLargestRadius : std::clamp(*rs, kSmallestRadius, kLargestRadius),
+      .first_length =
+          *rs == 0.0F ? std::numeric_limits<float>::infinity() : std::clamp(*rs, kSmallestLength, kLargestLength),
       .lower = lower,
       .upper = upper,
   };

@@ -45,7 +45,7 @@ struct Options {
   float step_precision = 0.1F;  ///< of the length of a step, relative; not a test
   int max_iterations = 1000;
   int max_step_iterations = 100;
-  float first_radius = 100.0F;  ///< from 0.1 to 100, relative to the length of x
+  float first_radius = 0.0F;  ///< most length of the first step, from 0.1 to 100; 0: as the length of x suggests
 };
 
 struct Result {

@@ -34,7 +34,8 @@ enum quorin_trust_region_status {
 enum quorin_trust_region_request {
   QUORIN_TRUST_REGION_RESIDUAL = 1, /* put F(x) into fvec */
   QUORIN_TRUST_REGION_JACOBIAN = 2, /* put the Jacobian at x into fjac */
-  QUORIN_TRUST_REGION_ITERATION_LIMIT = -1, /* iter1 steps are done */
+  QUORIN_TRUST_REGION_ITERATION_LIMIT = -1, /* iter1 steps are done; with the result 1502: the first F or Jacobian is
+      not finite, and there is no point to go back to */
   QUORIN_TRUST_REGION_RADIUS_SMALL = -2, /* the region is smaller than eps(1) */
   QUORIN_TRUST_REGION_RESIDUAL_SMALL = -3, /* ||F|| < eps(2) */
   QUORIN_TRUST_REGION_JACOBIAN_SINGULAR = -4, /* a column of the Jacobian is shorter than eps(3) */
@@ -50,7 +51,7 @@ enum {
   QUORIN_TRUST_REGION_EPS_STEP = 4, /* ||s||, s being a step */
   QUORIN_TRUST_REGION_EPS_DECREASE = 5, /* ||F|| - ||F + J s||; with bounds, its sign does not matter */
   QUORIN_TRUST_REGION_EPS_STEP_PRECISION = 6 /* no test, but the relative precision of the length of a step; 0 stands
-      for 1e-10 */
+      for 0.1, which is also the most. Exact steps are no better: a run may even end farther from the minimum */
 };
 
 /* ---- Without bounds ---- */
@@ -64,7 +65,8 @@ enum {
      eps: [6]: when to stop, copied
      iter1: most steps, at least 1
      iter2: most iterations for one step, at least 1
-     rs: radius of the first region, relative to the scaled length of x, brought into 0.1 to 100; 0 stands for 100 */
+     rs: size of the first region: the first step is no longer than that (in the Euclidean norm), brought into 0.1 to
+         100; 0 leaves it to the solver, which begins with 100 times the scaled length of x */
 QUORIN_API int32_t QUORIN_CDECL strnlsp_init(void** handle, const int32_t* n, const int32_t* m, float* x,
                                              const float* eps, const int32_t* iter1, const int32_t* iter2,
                                              const float* rs);
@@ -109,7 +111,8 @@ QUORIN_API int32_t QUORIN_CDECL strnlsp_delete_Idx(void** handle);
      eps: [6]: when to stop, copied
      iter1: most steps, at least 1
      iter2: most iterations for one step, at least 1
-     rs: radius of the first region, relative to the scaled length of x, brought into 0.1 to 100; 0 stands for 100 */
+     rs: size of the first region: the first step is no longer than that (in the Euclidean norm), brought into 0.1 to
+         100; 0 leaves it to the solver, which begins with 100 times the scaled length of x */
 QUORIN_API int32_t QUORIN_CDECL strnlspbc_init(void** handle, const int32_t* n, const int32_t* m, float* x,
                                                const float* LW, const float* UP, const float* eps, const int32_t* iter1,
                                                const int32_t* iter2, const float* rs);

@@ -9,8 +9,9 @@
 namespace trust_region_test {
 namespace {
 
-Fit fit_of(const NistProblem& problem, int start) {
+Fit fit_of(const NistProblem& problem, int start, float step_precision) {
   Fit run;
+  run.eps[5] = step_precision;
   run.m = problem.m();
   run.x = to_floats(problem.starts[start]);
   run.limit = 5000;
@@ -47,10 +48,12 @@ TEST(Nist, ParametersAgreeWithTheCertifiedOnes) {
   for (const NistProblem& problem : problems) {
     ASSERT_GT(problem.m(), problem.n()) << problem.name << " is not in " << QUORIN_NIST_DIR;
     for (const int start : {0, 1}) {
-      const Fit run = fit_of(problem, start);
-      const double found = digits(run.x, problem.certified), sum = double{run.r2} * double{run.r2};
-      EXPECT_GE(found, expected_digits(problem.name)) << problem.name << " after " << run.iterations << " steps";
-      EXPECT_LE(sum, problem.residual_sum * (1 + kRelativeSum) + kLeastSum) << problem.name;
+      for (const float step_precision : {0.0F, 0.1F, 0.01F}) {
+        const Fit run = fit_of(problem, start, step_precision);
+        const double found = digits(run.x, problem.certified), sum = double{run.r2} * double{run.r2};
+        EXPECT_GE(found, expected_digits(problem.name)) << problem.name << " after " << run.iterations << " steps";
+        EXPECT_LE(sum, problem.residual_sum * (1 + kRelativeSum) + kLeastSum) << problem.name;
+      }
     }
   }
 }
@@ -59,7 +62,7 @@ TEST(Nist, ParametersAgreeWithTheCertifiedOnes) {
 TEST(Nist, BoundsThatBindGiveAFitOnTheBound) {
   for (const NistProblem& problem : nist_problems(QUORIN_NIST_DIR)) {
     if (problem.name != "Misra1a" && problem.name != "Hahn1" && problem.name != "Kirby2") continue;
-    const Fit free = fit_of(problem, 1);
+    const Fit free = fit_of(problem, 1, 0.0F);
     Fit run = free;
     run.x = to_floats(problem.starts[1]);
     run.lower.assign(problem.n(), -kInfinity);

@@ -67,7 +67,7 @@ TEST(Stops, EachTestHasItsCode) {
   }
 }
 
-// The first region's radius is kept between 0.1 and 100, and 0 stands for 100.
+// The first region's size is kept between 0.1 and 100.
 TEST(Setup, TheFirstRadiusIsLimited) {
   const auto first_point = [](float rs) {
     Fit run = powell_run(1, 1e-5F);
@@ -80,6 +80,81 @@ TEST(Setup, TheFirstRadiusIsLimited) {
   for (const float rs : {1e-3F, 0.05F}) EXPECT_EQ(first_point(rs), first_point(0.1F)) << rs;
   EXPECT_NE(first_point(0.2F), first_point(0.1F));
   for (const float rs : {0.0F, 101.0F, 1e30F}) EXPECT_EQ(first_point(rs), first_point(100)) << rs;
+}
+
+// Whatever the units of F, and of x.
+TEST(Setup, TheFirstStepIsNoLongerThanTheFirstRegion) {
+  for (const double unit : {1e-6, 1.0, 1e6}) {
+    for (const float rs : {0.1F, 1.0F, 30.0F, 0.0F}) {
+      for (const bool is_bounded : {false, true}) {
+        Fit run;
+        run.m = 2;
+        run.rs = rs;
+        run.x = {50, 1000};
+        run.function = [unit](const Reals& x, Reals& f) { f = {unit * x[0], 1e-3 * unit * (x[1] + 0.1 * x[0])}; };
+        if (is_bounded) run.lower = {-10, -10}, run.upper = {2000, 2000};
+        EXPECT_EQ(run.begin(), kSuccess);
+        while (run.requests[0] < 2) ASSERT_TRUE(run.step());
+        const double length = std::hypot(run.x[0] - 50, run.x[1] - 1000);
+        if (rs > 0) {
+          EXPECT_LE(length, rs * (1 + 1e-5)) << unit;
+          EXPECT_GE(length, 0.4 * rs) << unit;
+        } else {
+          EXPECT_GT(length, 100) << unit;
+        }
+        while (run.step()) {
+        }
+        EXPECT_NEAR(run.x[0], 0, 1e-3);
+        run.finish();
+      }
+    }
+  }
+}
+
+// The only step of F(x) = x - 1 from 0 has the length 1.
+TEST(Stops, TheStepTestMeasuresTheStep) {
+  for (const float least : {0.99F, 1.01F}) {
+    Fit run;
+    run.m = 1;
+    run.x = {0};
+    run.eps[3] = least;
+    run.function = [](const Reals& x, Reals& f) { f[0] = x[0] - 1; };
+    run.go();
+    if (least > 1) {
+      EXPECT_EQ(run.criterion, 5);
+    }
+    EXPECT_EQ(run.x[0], least > 1 ? 0.0F : 1.0F);
+  }
+}
+
+// A variable that a bound keeps does not make the Jacobian singular; away from its bound it does.
+TEST(Stops, FrozenVariablesAreNotSingular) {
+  for (const float start : {0.0F, 1.0F}) {
+    Fit run;
+    run.m = 2;
+    run.x = {3, start};
+    run.lower = {-100, 0};
+    run.upper = {100, 10};
+    run.eps[2] = 1e-2F;
+    run.function = [](const Reals& x, Reals& f) { f = {x[0] - 1, 1e-3 * (x[1] + 10)}; };
+    run.go();
+    EXPECT_EQ(run.criterion == 4, start > 0);
+    EXPECT_EQ(run.x[0], start > 0 ? 3.0F : 1.0F);
+  }
+}
+
+// Of all minimisers along the valley of columns that depend on each other, the nearest is found.
+TEST(Setup, DependentColumnsGiveTheShortestStep) {
+  for (const double share : {1.0, 1.0 / 3}) {
+    Fit run;
+    run.m = 3;
+    run.x = {0, 0, 0};
+    run.function = [share](const Reals& x, Reals& f) {
+      for (std::size_t i = 0; i < 3; ++i) f[i] = share * static_cast<double>(i + 1) * (x[0] + x[1] + x[2] - 3);
+    };
+    run.go();
+    for (const float x : run.x) EXPECT_NEAR(x, 1.0F, 1e-3F);
+  }
 }
 
 TEST(Stops, RequestsRepeatAfterTheEnd) {
