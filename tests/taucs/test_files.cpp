@@ -57,6 +57,8 @@ TEST(Ijv, DropsTheUpperTriangleOfASymmetricMatrix) {
   const std::string text = "2 1 4\n1 1 2.5\n1 2 4\n2 2 -3\n2 2 1\n";
   expect_record(read(taucs_ccs_read_ijv, text, TAUCS_DOUBLE | TAUCS_HERMITIAN),
                 {2, 2, 2065, {0, 2, 4}, {1, 0, 1, 1}, {4, 2.5, -3, 1}});
+  expect_record(read(taucs_ccs_read_ijv, text, TAUCS_DOUBLE | TAUCS_SYMMETRIC | TAUCS_HERMITIAN),
+                {2, 2, 2065, {0, 2, 4}, {1, 0, 1, 1}, {4, 2.5, -3, 1}});
   expect_record(read(taucs_ccs_read_ijv, text, TAUCS_DOUBLE),
                 {2, 2, 2048, {0, 2, 5}, {1, 0, 0, 1, 1}, {4, 2.5, 4, -3, 1}});
 }

@@ -187,6 +187,23 @@ TEST(Reports, ValuesAreFloats) {
   EXPECT_EQ(status, 0) << "in row form";
 }
 
+// From level 4 on, and what is not shown is not read.
+TEST(Reports, LevelsThatShowValues) {
+  const Integers Ap = {0, 1, 2}, Ai = {0, 1};
+  const Floats Ax = {0.1F, 7.5F};
+  for (const int level : {2, 3, 4, 5}) {
+    const Floats Control = control(static_cast<float>(level));
+    const std::string texts[] = {
+        printed_text([&] { umfpack_di_report_matrix(2, 2, Ap.data(), Ai.data(), Ax.data(), 1, Control.data()); }),
+        printed_text([&] { umfpack_di_report_triplet(2, 2, 2, Ai.data(), Ai.data(), Ax.data(), Control.data()); }),
+        printed_text([&] { umfpack_di_report_vector(2, Ax.data(), Control.data()); })};
+    for (const std::string& text : texts) {
+      EXPECT_EQ(contains(text, "(0.1)") && contains(text, "(7.5)"), level >= 4) << level << text;
+      EXPECT_EQ(text.empty(), level < 3) << level;
+    }
+  }
+}
+
 TEST(Reports, ObjectsAreCheckedAndPrinted) {
   for (const bool is_complex : {false, true}) {
     Host host(random_matrix(12, is_complex));

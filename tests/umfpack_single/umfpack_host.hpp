@@ -6,6 +6,7 @@
 #include <array>
 
 #include "quorin/umfpack.h"
+#include "tests/support/guarded.hpp"
 #include "tests/support/index_form.hpp"
 #include "tests/umfpack_single/matrices.hpp"
 
@@ -79,10 +80,13 @@ struct Host {
   int wsolve(int sys, const Floats& Bx, const Floats& Bz) {
     clear_solution();
     const bool refined = sys <= 2 && Control[7] >= 1;
-    Integers Wi(A.order());
-    Floats W((A.is_complex() ? (refined ? 10 : 4) : (refined ? 5 : 1)) * A.order());
-    return call(A.is_complex(), umfpack_si_wsolve_Idx, umfpack_ci_wsolve_Idx, sys, A.Ap, A.Ai, Ax, complex_only(Az), Xx,
-                complex_only(Xz), Bx, complex_only(Bz), Numeric, Control, Info, Wi, W);
+    quorin::test::Guarded<int> Wi(A.order(), -7);
+    quorin::test::Guarded<float> W((A.is_complex() ? (refined ? 10U : 4U) : (refined ? 5U : 1U)) * A.order(), -7.0F);
+    const int status =
+        call(A.is_complex(), umfpack_si_wsolve_Idx, umfpack_ci_wsolve_Idx, sys, A.Ap, A.Ai, Ax, complex_only(Az), Xx,
+             complex_only(Xz), Bx, complex_only(Bz), Numeric, Control, Info, Wi, W);
+    EXPECT_TRUE(Wi.intact() && W.intact());
+    return status;
   }
   void clear_solution() {
     Xx.assign(A.order(), 0);
