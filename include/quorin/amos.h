@@ -25,7 +25,7 @@ extern "C" {
 enum quorin_amos_status {
   QUORIN_AMOS_OK = 0, /* done */
   QUORIN_AMOS_INPUT_ERROR = 1, /* an argument is out of range; nothing computed */
-  QUORIN_AMOS_OVERFLOW = 2, /* overflow: a member exceeds exp(700.92); no result */
+  QUORIN_AMOS_OVERFLOW = 2, /* overflow: a member does not fit a double; no result */
   QUORIN_AMOS_PRECISION_LOSS = 3, /* done, but half of the digits or more may be lost to the rounding of the
       arguments */
   QUORIN_AMOS_NO_PRECISION = 4, /* no digit would be left; nothing computed */
