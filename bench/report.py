@@ -52,9 +52,8 @@ SECTIONS = {
     ),
     "amos": (
         "Bessel and Airy functions",
-        "One value per call, n = |z|, for Ai n = x; off the axis is arg z = 1/2. The peers work in real arithmetic. Order 0.3: power series, then continued"
-        " fractions, then expansions for large argument. Order 40.3: power series to n = 10, then recurrence from large order, then large"
-        " argument. Order 300.3: expansions for large order, with the turning point at n = 300.",
+        "Single values at random arguments of each region, n being the largest |z| (for Ai the end of the range of x); a sequence is one call of n orders. "
+        "The peers work in real arithmetic.",
     ),
     "umfpack": (
         "Sparse LU with float entries",
