@@ -41,7 +41,7 @@ bool is_whole(const Allocator& allocator) {
 }  // namespace
 
 void choose_allocator() {
-  const platform::Module module = platform::open_module(platform::kAllocatorLibrary);
+  const platform::Module module = platform::open_companion(platform::kAllocatorLibrary);
   if (module == nullptr) return;
   const Allocator found{
       .allocate = exported_function<void*(std::size_t)>(module, "i_malloc_dll"),

@@ -68,14 +68,20 @@ class ThreadSlot {
 
 // --- Modules ---------------------------------------------------------------------------------------------------------
 
-// A shared library's handle, or null. `open_module` adds a reference, `find_loaded_module` does not.
+// A shared library's handle, or null.
 using Module = void*;
-[[nodiscard]] Module open_module(const char* name);
+// Adds a reference.
+[[nodiscard]] Module open_module(const char* file);
+// The same for a library that is loaded, or else stands in the folder of this library or of the program; on
+// posix, where the loader finds it. Never one in the current directory.
+[[nodiscard]] Module open_companion(const char* name);
+// Adds none.
 [[nodiscard]] Module find_loaded_module(const char* name);
 void close_module(Module module);
 [[nodiscard]] void* find_symbol(Module module, const char* name);
 
-// Whether there is still code at this address: not after the module that held it was unloaded.
+// Whether there is still code at this address: not after the module that held it was unloaded. Code that run-time
+// systems make counts as well.
 [[nodiscard]] bool is_code_mapped(const void* address);
 
 // The file name under which a library is known here: "libimalloc" is libimalloc.dll or libimalloc.so.

@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <pthread.h>
 #include <sched.h>
+#include <sys/mman.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/sysinfo.h>
@@ -123,7 +124,8 @@ void ThreadSlot::set(void* value) {
   if (created_) pthread_setspecific(key_, value);
 }
 
-Module open_module(const char* name) { return dlopen(name, RTLD_NOW | RTLD_LOCAL); }
+Module open_module(const char* file) { return dlopen(file, RTLD_NOW | RTLD_LOCAL); }
+Module open_companion(const char* name) { return open_module(name); }
 Module find_loaded_module(const char* name) {
   void* const module = dlopen(name, RTLD_NOW | RTLD_NOLOAD);
   if (module != nullptr) dlclose(module);
@@ -134,8 +136,11 @@ void close_module(Module module) {
 }
 void* find_symbol(Module module, const char* name) { return dlsym(module, name); }
 bool is_code_mapped(const void* address) {
-  Dl_info info{};
-  return dladdr(address, &info) != 0;
+  // Asked of the memory, because run-time systems make functions outside of modules.
+  const auto page_size = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
+  unsigned char resident = 0;
+  return mincore(reinterpret_cast<void*>(reinterpret_cast<std::uintptr_t>(address) & ~(page_size - 1)), 1, &resident) ==
+         0;
 }
 
 double seconds_of_day() {
@@ -200,11 +205,17 @@ bool File::write(const void* buffer, std::size_t bytes) {
 }
 
 bool read_environment(const char* name, char* buffer, std::size_t size) {
-  const char* const value = std::getenv(name);
-  const std::size_t length = value == nullptr ? 0 : std::strlen(value);
-  if (length == 0 || length >= size) return false;
-  std::memcpy(buffer, value, length + 1);
-  return true;
+  // Not by getenv, which the library's link hides from the dependencies.
+  const std::size_t name_length = std::strlen(name);
+  for (char** entry = environ; entry != nullptr && *entry != nullptr; ++entry) {
+    if (std::strncmp(*entry, name, name_length) != 0 || (*entry)[name_length] != '=') continue;
+    const char* const value = *entry + name_length + 1;
+    const std::size_t length = std::strlen(value);
+    if (length == 0 || length >= size) return false;
+    std::memcpy(buffer, value, length + 1);
+    return true;
+  }
+  return false;
 }
 
 void write_standard_output(const char* text) {

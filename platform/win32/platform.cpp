@@ -9,6 +9,8 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstring>
+#include <iterator>
 #include <new>
 
 #define WIN32_LEAN_AND_MEAN
@@ -30,6 +32,25 @@ bool own_module(HMODULE* module, bool add_reference) {
   const DWORD flags = GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
                       (add_reference ? 0 : DWORD{GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT});
   return GetModuleHandleExA(flags, reinterpret_cast<LPCSTR>(&own_module), module) != 0;
+}
+
+// The library `name` in the folder of a module, of the program if that is null. What it needs itself is not searched
+// for in the current directory either.
+HMODULE open_beside(HMODULE module, const char* name) {
+  char path[MAX_PATH];
+  const DWORD length = GetModuleFileNameA(module, path, sizeof path);
+  const char* const slash = std::strrchr(path, '\\');
+  if (length == 0 || length >= sizeof path || slash == nullptr) return nullptr;
+  const auto folder_length = static_cast<std::size_t>(slash + 1 - path);
+  if (folder_length + std::strlen(name) >= sizeof path) return nullptr;
+  std::strcpy(path + folder_length, name);
+  constexpr DWORD kFlags = LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR | LOAD_LIBRARY_SEARCH_DEFAULT_DIRS;
+  HMODULE found = LoadLibraryExA(path, nullptr, kFlags);
+  // Windows 7 knows the flags since an update only.
+  if (found == nullptr && GetLastError() == ERROR_INVALID_PARAMETER) {
+    found = LoadLibraryExA(path, nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
+  }
+  return found;
 }
 
 struct WorkerStart {
@@ -84,15 +105,18 @@ bool start_worker(void (*body)(void*), void* argument) {
 int physical_core_count() {
   DWORD_PTR process_mask = 0, system_mask = 0;
   GetProcessAffinityMask(GetCurrentProcess(), &process_mask, &system_mask);
-  constexpr std::size_t kMost = 256;
-  SYSTEM_LOGICAL_PROCESSOR_INFORMATION rows[kMost];
-  DWORD bytes = sizeof rows;
+  // A row for each core, each cache, each node: the system tells how many.
+  DWORD bytes = 0;
+  GetLogicalProcessorInformation(nullptr, &bytes);
+  auto* const rows =
+      static_cast<SYSTEM_LOGICAL_PROCESSOR_INFORMATION*>(HeapAlloc(GetProcessHeap(), HEAP_ZERO_MEMORY, bytes));
   int cores = 0;
-  if (GetLogicalProcessorInformation(rows, &bytes)) {
+  if (rows != nullptr && GetLogicalProcessorInformation(rows, &bytes)) {
     for (std::size_t i = 0; i < bytes / sizeof rows[0]; ++i) {
       if (rows[i].Relationship == RelationProcessorCore && (rows[i].ProcessorMask & process_mask) != 0) ++cores;
     }
   }
+  if (rows != nullptr) HeapFree(GetProcessHeap(), 0, rows);
   return cores > 0 ? cores : 1;
 }
 
@@ -117,11 +141,17 @@ void ThreadSlot::set(void* value) {
   if (created_) TlsSetValue(key_, value);
 }
 
-Module open_module(const char* name) {
+Module open_module(const char* file) { return LoadLibraryA(file); }
+Module open_companion(const char* name) {
+  HMODULE module = nullptr;
+  if (GetModuleHandleExA(0, name, &module)) return module;
   // A missing library must not raise a message box in the host.
-  const UINT mode = SetErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
-  HMODULE module = LoadLibraryA(name);
-  SetErrorMode(mode);
+  DWORD mode = 0;
+  SetThreadErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX, &mode);
+  HMODULE own = nullptr;
+  if (own_module(&own, false)) module = open_beside(own, name);
+  if (module == nullptr) module = open_beside(nullptr, name);
+  SetThreadErrorMode(mode, nullptr);
   return module;
 }
 Module find_loaded_module(const char* name) { return GetModuleHandleA(name); }
@@ -200,8 +230,15 @@ bool File::write(const void* buffer, std::size_t bytes) {
 }
 
 bool read_environment(const char* name, char* buffer, std::size_t size) {
-  const DWORD length = GetEnvironmentVariableA(name, buffer, static_cast<DWORD>(size));
-  return length > 0 && length < size;
+  // By the wide function: the library's link hides the other one from the dependencies. What is told is ASCII.
+  wchar_t wide_name[64] = {}, text[512];
+  for (std::size_t i = 0; i + 1 < std::size(wide_name) && name[i] != '\0'; ++i) {
+    wide_name[i] = static_cast<wchar_t>(name[i]);
+  }
+  const DWORD length = GetEnvironmentVariableW(wide_name, text, static_cast<DWORD>(std::min(size, std::size(text))));
+  if (length == 0 || length >= std::min(size, std::size(text))) return false;
+  std::transform(text, text + length + 1, buffer, [](wchar_t c) { return c < 128 ? static_cast<char>(c) : '?'; });
+  return true;
 }
 
 void write_standard_output(const char* text) {

@@ -5,6 +5,11 @@
 #include <cstdlib>
 
 #if defined(_WIN32)
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+#endif
+
+#if defined(_WIN32)
 #define IMALLOC_EXPORT __declspec(dllexport)
 #else
 #define IMALLOC_EXPORT
@@ -16,6 +21,15 @@ CountingAllocatorState imalloc_state;
 }
 
 namespace {
+
+// Tells the process that this library has been loaded, even if it is gone by now.
+[[gnu::constructor]] void tell_loaded() {
+#if defined(_WIN32)
+  SetEnvironmentVariableA("QUORIN_TEST_ALLOCATOR", "loaded");
+#else
+  setenv("QUORIN_TEST_ALLOCATOR", "loaded", 1);
+#endif
+}
 
 bool is_due_to_fail() {
   const int first = imalloc_state.fail_at.load();

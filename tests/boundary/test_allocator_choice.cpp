@@ -108,16 +108,45 @@ TEST(AllocatorChoice, SurvivesAnAllocatorThatTheHostUnloadsFirst) {
 }
 
 #if defined(_WIN32)
-// Here nobody but the product has a reference, so that releasing it unmaps the functions just found.
-TEST(AllocatorChoice, DoesNotKeepFunctionsThatVanishWithTheReference) {
+bool allocator_was_loaded() {
+  char text[16];
+  return GetEnvironmentVariableA("QUORIN_TEST_ALLOCATOR", text, sizeof text) > 0;
+}
+
+void forget_loads() {
   for (int i = 0; i < 1000 && is_loaded(QUORIN_PRODUCT_FILE); ++i) Sleep(5);
   ASSERT_FALSE(is_loaded(QUORIN_PRODUCT_FILE));
-  SetDllDirectoryA((program_directory() / "test_libraries" / "complete").string().c_str());
-  Product product;
-  SetDllDirectoryA(nullptr);
+  SetEnvironmentVariableA("QUORIN_TEST_ALLOCATOR", nullptr);
+}
+
+std::filesystem::path folder_with_allocator() { return program_directory() / "test_libraries" / "complete"; }
+
+// Here nobody but the product has a reference, so that releasing it unmaps the functions just found.
+TEST(AllocatorChoice, DoesNotKeepFunctionsThatVanishWithTheReference) {
+  forget_loads();
+  const std::filesystem::path copy = folder_with_allocator() / QUORIN_PRODUCT_FILE;
+  std::filesystem::copy_file(program_directory() / QUORIN_PRODUCT_FILE, copy,
+                             std::filesystem::copy_options::overwrite_existing);
+  quorin_library library;
+  ASSERT_EQ(quorin_load(copy.string().c_str(), &library), 0);
+  EXPECT_TRUE(allocator_was_loaded()) << "it stands beside the library";
   EXPECT_FALSE(is_loaded(allocator_file()));
-  multiply(product);
-  expect_product_unloads(product);
+  ExactProduct problem;
+  EXPECT_TRUE(problem.is_solved_by(library.sgemm));
+  quorin_unload(&library);
+  for (int i = 0; i < 1000 && is_loaded(QUORIN_PRODUCT_FILE); ++i) Sleep(5);
+  std::filesystem::remove(copy);
+}
+
+// A file of that name may lie where a document was opened.
+TEST(AllocatorChoice, IsNotMadeInTheCurrentDirectory) {
+  forget_loads();
+  const std::filesystem::path before = std::filesystem::current_path();
+  std::filesystem::current_path(folder_with_allocator());
+  Product product;
+  std::filesystem::current_path(before);
+  ASSERT_TRUE(product);
+  EXPECT_FALSE(allocator_was_loaded());
 }
 #endif
 
