@@ -41,6 +41,10 @@ class RegionMark {
   RegionMark& operator=(const RegionMark&) = delete;
 };
 
+// A worker that waits keeps the library mapped, so that none waits for ever, whatever the block time: after so many
+// milliseconds without work, starting it again costs nothing that could be noticed.
+constexpr int kLongestIdleWait = 2000;
+
 class Pool {
  public:
   void run(Region& region, int helpers) {
@@ -126,7 +130,7 @@ class Pool {
     while (region == nullptr) {
       // A wake-up may be for a region that others have finished; the wait then starts afresh, which only errs on the
       // side of patience. It may also be because the block time has changed.
-      const int patience = block_time();
+      const int patience = std::min(block_time(), kLongestIdleWait);
       const bool notified = patience > 0 && work_arrived_.wait_for(mutex_, patience);
       region = joinable();
       if (!notified) break;

@@ -4,6 +4,7 @@
 #include <cstdio>
 
 #include "platform/floating_point.hpp"
+#include "platform/platform.hpp"
 
 namespace quorin::base {
 namespace {
@@ -17,7 +18,9 @@ void set_text_output(TextOutputCallback callback) { slot.store(callback, std::me
 int print_list(const char* format, std::va_list arguments) {
   char buffer[kTextOutputLimit + 1] = {};
   const int length = std::vsnprintf(buffer, sizeof buffer, format, arguments);
-  if (const TextOutputCallback callback = slot.load(std::memory_order_acquire)) {
+  const TextOutputCallback callback = slot.load(std::memory_order_acquire);
+  // A plug-in that was unloaded may have left its function here.
+  if (callback != nullptr && platform::is_code_mapped(reinterpret_cast<const void*>(callback))) {
     const platform::HostSettings settings;
     callback(buffer);
   }

@@ -3,9 +3,18 @@
 
 #include <algorithm>
 #include <climits>
+#include <cstring>
 #include <string>
 
+#if defined(_WIN32)
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+#else
+#include <sys/mman.h>
+#endif
+
 #include "quorin/services.h"
+#include "quorin/umfpack.h"
 #include "tests/support/capture_output.hpp"
 
 namespace {
@@ -92,6 +101,36 @@ TEST(Text, TaucsPrintfIsSilent) {
 
 std::string xerbla_text(const char* name, std::int32_t info, std::int32_t length) {
   return captured([&] { XERBLA(name, &info, length); });
+}
+
+// Run-time systems make callbacks in memory of their own, and unloaded plug-ins leave theirs behind.
+TEST(Text, ReachesMadeFunctionsAndNoneThatHaveGone) {
+  unsigned char called = 0;
+  constexpr std::size_t kPage = 4096;
+  unsigned char code[32] = {};
+  const unsigned char* const address = &called;
+#if defined(_WIN32)
+  void* const page = VirtualAlloc(nullptr, kPage, MEM_COMMIT | MEM_RESERVE, PAGE_EXECUTE_READWRITE);
+  code[0] = 0xC6, code[1] = 0x05;  // movb $1, called; ret $4
+  std::memcpy(code + 2, &address, 4);
+  code[6] = 1, code[7] = 0xC2, code[8] = 4;
+#else
+  void* const page = mmap(nullptr, kPage, PROT_READ | PROT_WRITE | PROT_EXEC, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+  code[0] = 0x48, code[1] = 0xB8;  // movq $called, %rax; movb $1, (%rax); ret
+  std::memcpy(code + 2, &address, 8);
+  code[10] = 0xC6, code[11] = 0, code[12] = 1, code[13] = 0xC3;
+#endif
+  std::memcpy(page, code, sizeof code);
+  set_printf_callback_32f(reinterpret_cast<quorin_text_output_callback>(page));
+  umfpack_di_report_status(nullptr, -1);
+  EXPECT_EQ(called, 1);
+#if defined(_WIN32)
+  VirtualFree(page, 0, MEM_RELEASE);
+#else
+  munmap(page, kPage);
+#endif
+  umfpack_di_report_status(nullptr, -1);
+  set_printf_callback_32f(nullptr);
 }
 
 TEST(Xerbla, ChoosesTheMessageByTheCode) {
