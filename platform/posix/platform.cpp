@@ -205,17 +205,11 @@ bool File::write(const void* buffer, std::size_t bytes) {
 }
 
 bool read_environment(const char* name, char* buffer, std::size_t size) {
-  // Not by getenv, which the library's link hides from the dependencies.
-  const std::size_t name_length = std::strlen(name);
-  for (char** entry = environ; entry != nullptr && *entry != nullptr; ++entry) {
-    if (std::strncmp(*entry, name, name_length) != 0 || (*entry)[name_length] != '=') continue;
-    const char* const value = *entry + name_length + 1;
-    const std::size_t length = std::strlen(value);
-    if (length == 0 || length >= size) return false;
-    std::memcpy(buffer, value, length + 1);
-    return true;
-  }
-  return false;
+  const char* const value = std::getenv(name);
+  const std::size_t length = value == nullptr ? 0 : std::strlen(value);
+  if (length == 0 || length >= size) return false;
+  std::memcpy(buffer, value, length + 1);
+  return true;
 }
 
 void write_standard_output(const char* text) {

@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
-#include <iterator>
 #include <new>
 
 #define WIN32_LEAN_AND_MEAN
@@ -230,15 +229,8 @@ bool File::write(const void* buffer, std::size_t bytes) {
 }
 
 bool read_environment(const char* name, char* buffer, std::size_t size) {
-  // By the wide function: the library's link hides the other one from the dependencies. What is told is ASCII.
-  wchar_t wide_name[64] = {}, text[512];
-  for (std::size_t i = 0; i + 1 < std::size(wide_name) && name[i] != '\0'; ++i) {
-    wide_name[i] = static_cast<wchar_t>(name[i]);
-  }
-  const DWORD length = GetEnvironmentVariableW(wide_name, text, static_cast<DWORD>(std::min(size, std::size(text))));
-  if (length == 0 || length >= std::min(size, std::size(text))) return false;
-  std::transform(text, text + length + 1, buffer, [](wchar_t c) { return c < 128 ? static_cast<char>(c) : '?'; });
-  return true;
+  const DWORD length = GetEnvironmentVariableA(name, buffer, static_cast<DWORD>(size));
+  return length > 0 && length < size;
 }
 
 void write_standard_output(const char* text) {
