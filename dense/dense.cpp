@@ -7,10 +7,10 @@ namespace quorin::dense {
 void start() noexcept {
   kernels::choose_kernels();
   blocked::start_buffers();
-  start_selection();
+  start_call_guard();
 }
 void stop() noexcept {
-  stop_selection();
+  stop_call_guard();
   blocked::stop_buffers();
 }
 

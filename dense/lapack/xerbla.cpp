@@ -1,7 +1,7 @@
 // The name under which the BLAS and LAPACK dependencies report a wrong argument.
 #include <cstddef>
 
-#include "base/argument_error.hpp"
+#include "dense/lapack/call_guard.hpp"
 
 extern "C" {
 
@@ -9,6 +9,6 @@ extern "C" {
 void xerbla_(const char* srname, const int* info, std::size_t length);
 
 void xerbla_(const char* srname, const int* info, std::size_t length) {
-  quorin::base::report_argument_error(srname, static_cast<int>(length), *info);
+  quorin::dense::LapackCall::report(srname, static_cast<int>(length), *info);
 }
 }

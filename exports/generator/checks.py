@@ -68,6 +68,19 @@ class Checker:
             if not routine.argument(name):
                 self.fault(minimum.where, f"'{routine.name}' has no argument '{name}'")
             self.check_expression(family, routine, minimum, known)
+        if routine.finite:
+            self.check_finite(routine, routine.finite, known)
+
+    def check_finite(self, routine: Routine, check: model.FiniteCheck, known: set[str]) -> None:
+        if not routine.is_fortran or not check.status:
+            self.fault(check.where, "'finite' needs a Fortran routine, and a line 'else info=EXPRESSION ...' below it")
+        for part in check.examined + check.filled:
+            argument = routine.argument(part.array)
+            if not argument or not argument.is_array:
+                self.fault(check.where, f"'{routine.name}' has no array '{part.array}'")
+            for name in SHAPE_NAME.findall(",".join(part.sizes + [check.status])):
+                if name not in known:
+                    self.fault(check.where, f"'{name}' is no argument of '{routine.name}'")
 
     def check_expression(self, family: Family, routine: Routine, minimum: Value, known: set[str]) -> None:
         try:

@@ -77,12 +77,29 @@ def place_name(group: Group) -> str:
     return "result" if group.place == model.RESULT else f"`{group.place}`"
 
 
+def enumeration(names: list[str], conjunction: str) -> str:
+    return ", ".join(names[:-1]) + f" {conjunction} {names[-1]}" if len(names) > 1 else names[0]
+
+
+def not_finite(check: model.FiniteCheck) -> model.Value:
+    examined, filled = ([part.array for part in parts] for parts in (check.examined, check.filled))
+    verb = "holds" if len(examined) == 1 else "hold"
+    large = f" or an element above {check.limit}" if check.limit else ""
+    text = f"or: {enumeration(examined, 'or')} {verb} an infinity or a NaN{large}, or a step inside met one: "
+    if filled:
+        text += f"{enumeration(filled, 'and')} {'is' if len(filled) == 1 else 'are'} NaN, and the other "
+    return model.Value(check.status, "", text + "results are of no use")
+
+
 def status_tables(family: Family, routine: Routine) -> list[str]:
     """The statuses that are not those of every routine, and a reference to these."""
     parts = []
     for group in family.status_groups(routine):
         statuses = family.statuses_of(routine, group)
         own = [value for value in statuses if value.routines or value not in group.values]
+        if (check := family.finite(routine)) and group.place == "info":
+            own.append(not_finite(check))
+            statuses.append(own[-1])
         if own:
             parts.append(value_table(place_name(group), own))
         if len(own) < len(statuses):

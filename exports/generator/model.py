@@ -33,6 +33,9 @@ TYPES = {
     "dcomplex_array": ElementType("quorin_double_complex*", "std::complex<double>*", "array of double complex"),
 }
 
+# What stands between the dimensions of a shape: not the commas of max(m,n).
+SIZES = re.compile(r",(?![^(]*\))")
+
 # An implementation that is no function of ours: the published LAPACK's Fortran routine of the same name.
 FORTRAN = "fortran"
 
@@ -77,7 +80,7 @@ class Argument:
         text = self.shape.replace("|", " or ")
         if ";" in text:
             return text.replace(";", ", stride ")
-        return re.sub(r",(?![^(]*\))", " x ", text)  # not the commas of max(m,n)
+        return SIZES.sub(" x ", text)
 
 
 @dataclass
@@ -142,6 +145,32 @@ class Field:
     text: str = ""
 
 
+@dataclass(frozen=True)
+class Part:
+    """What of an array is looked at or filled: all of it; of the side that `uplo` names the triangle or, with `rows` as the
+    number of diagonals, the band; the upper Hessenberg part."""
+
+    array: str
+    rows: str
+    columns: str
+    form: str = ""  # empty, "uplo" or "hessenberg"
+
+    @property
+    def sizes(self) -> list[str]:
+        return [size for size in (self.rows, self.columns) if size]
+
+
+@dataclass
+class FiniteCheck:
+    """Input that must be finite, and what a call leaves that finds it is not."""
+
+    examined: list[Part]
+    limit: str = ""  # of the magnitudes
+    status: str = ""  # an expression
+    filled: list[Part] = field(default_factory=list)
+    where: str = ""
+
+
 @dataclass
 class Record:
     c_name: str
@@ -178,6 +207,10 @@ class Routine:
     notes: dict[str, Note] = field(default_factory=dict)
     minima: dict[str, Value] = field(default_factory=dict)
     own_statuses: list[Value] = field(default_factory=list)
+    finite: FiniteCheck | None = None
+    never_none: tuple[str, str] | None = None  # a count that the published routine does not stand to be 0, and its array
+    # A work array behind whose published end the published routine writes, and what it needs beyond its published length.
+    spare: tuple[str, str] | None = None
 
     def argument(self, name: str) -> Argument | None:
         return next((argument for argument in self.arguments if argument.name == name), None)
@@ -248,6 +281,9 @@ class Family:
             minima.update((name, value) for name, value in source.minima.items() if routine.argument(name))
         return minima
 
+    def finite(self, routine: Routine) -> FiniteCheck | None:
+        return next((source.finite for source in self.sources(routine) if source.finite), None)
+
     def status_groups(self, routine: Routine) -> list[Group]:
         """The groups whose place the routine has."""
         places = {argument.name for argument in routine.arguments if argument.direction != IN}
@@ -294,7 +330,9 @@ class Family:
         minima = {name: minimum.value for name, minimum in self.minima(routine).items()}
         groups = [self.statuses_of(routine, group) for group in self.status_groups(routine)]
         statuses = tuple((value.value, value.text) for group in groups for value in group)
-        return routine.summary, routine.implementation, arguments, meanings, minima, statuses
+        finite = self.finite(routine)
+        checks = (tuple(finite.examined), finite.status, tuple(finite.filled)) if finite else None
+        return routine.summary, routine.implementation, arguments, meanings, minima, statuses, checks
 
     def twins(self, section: Section) -> list[list[Routine]]:
         """A section's routines; neighbours that differ only in type are together."""

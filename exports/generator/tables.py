@@ -18,6 +18,7 @@ CALLBACK = re.compile(r"(?P<name>\w+)\s*=\s*(?P<c>\w+)\s+(?P<cpp>[\w:]+)(?P<argu
 CONTINUATION = re.compile(r"\s+\w+:")
 TYPE = re.compile(r"(?P<type>\w+)(?:\[(?P<shape>[^\]]*)\])?\Z")
 TOKEN = re.compile(r'"[^"]*"|[^\s"]+|"')
+PART = re.compile(r"(?P<array>\w+)\[(?:(?P<form>uplo|hessenberg):)?(?P<sizes>[^\[\]]+)\]\Z")
 FLAGS = ("kept", "nullable")
 
 
@@ -266,8 +267,35 @@ class Reader:
             routine.minima[words[0]] = Value(text, words[0], where=self.where)
         elif word == "status":
             self.read_own_status(routine, rest)
+        elif word == "finite":
+            parts, _, limit = rest.partition(" below ")
+            routine.finite = model.FiniteCheck(self.read_parts(parts.split()), limit.strip(), where=self.where)
+        elif word == "never-none" and len(rest.split()) == 2:
+            count, array = rest.split()
+            routine.never_none = (count, array)
+        elif word == "spare" and len(rest.split()) == 2:
+            array, further = rest.split()
+            routine.spare = (array, further)
+        elif word == "else" and routine.finite and "=" in rest:
+            status, *filled = rest.split()
+            routine.finite.status = status.partition("=")[2]
+            routine.finite.filled = self.read_parts(filled)
         else:
             self.fault(f"unknown attribute '{word}'")
+
+    def read_parts(self, words: list[str]) -> list[model.Part]:
+        """ARRAY[ROWS,COLUMNS], ARRAY[SIZE], ARRAY[uplo:ORDER], ARRAY[uplo:DIAGONALS,ORDER], ARRAY[hessenberg:ORDER]"""
+        parts = []
+        for word in words:
+            match = PART.match(word)
+            if not match:
+                self.fault(f"'{word}' names no part of an array")
+                continue
+            sizes = model.SIZES.split(match["sizes"])
+            rows = sizes[0] if len(sizes) > 1 or not match["form"] else ""
+            columns = sizes[-1] if len(sizes) > 1 or match["form"] else "1"
+            parts.append(model.Part(match["array"], rows, columns, match["form"] or ""))
+        return parts
 
     def read_own_status(self, routine: Routine, rest: str) -> None:
         """status [PLACE] VALUE ["cause"]"""

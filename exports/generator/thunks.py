@@ -2,7 +2,7 @@
 
 from __future__ import annotations
 
-from generator import model
+from generator import expressions, model
 from generator.declarations import parameters, result_type, wrapped
 from generator.model import Family, Routine
 
@@ -11,6 +11,10 @@ HEAD = """// Generated from {table}. Do not edit.
 {facade}
 extern "C" {{
 """
+
+# Arguments that tell how long a work array is: work, iwork, rwork.
+LENGTHS = ("lwork", "lrwork", "liwork")
+
 
 def host_call(family: Family, routine: Routine) -> str:
     """The library computes with floating-point settings of its own, and host functions with the host's."""
@@ -48,21 +52,151 @@ def definition(name: str, routine: Routine, is_index_form: bool, body: str) -> s
     return f"{declaration}\n{wrapped(head, items, ' noexcept {')}\n  {body}\n}}\n"
 
 
-def fortran_form(routine: Routine, begin: str) -> str:
-    """Fortran wants the lengths of its characters behind all other arguments, and hosts pass none."""
-    characters = [a for a in routine.arguments if a.type is model.TYPES["char"]]
-    items = parameters(routine, "cpp", False) + ["std::size_t"] * len(characters)
-    names = ["selection.function()" if a.kind == model.VALUE else a.name for a in routine.arguments]
-    passed = ", ".join(names + ["1"] * len(characters))
-    declaration = wrapped(f"void {routine.name}_", items, ";")
-    body = f'{begin}\n  quorin::dense::LapackCall call("{routine.name.upper()}", info);\n'
-    for argument in routine.arguments:
-        if argument.kind == model.VALUE:
-            body += f"  const quorin::dense::HostSelection selection({argument.name}, call);\n"
-    if any(a.name == "lwork" for a in routine.arguments):
-        body += "  const quorin::dense::KeptWhenRefused kept(work, info);\n"
-    body += f"  if (call.may_begin()) {routine.name}_({passed});"
-    return f"{declaration}\n{definition(routine.name, routine, False, body)}"
+class FortranForm:
+    """The entry point of a published routine: what has to hold of its arguments beyond what it checks by itself."""
+
+    def __init__(self, family: Family, routine: Routine) -> None:
+        self.routine = routine
+        self.finite = family.finite(routine)
+        self.minima = family.minima(routine)
+        self.quantities = family.quantities
+        self.lengths = [a.name for a in routine.arguments if a.name in LENGTHS]
+
+    def published(self, replaced: dict[str, str]) -> str:
+        """Fortran wants the lengths of its characters behind all other arguments, and hosts pass none."""
+        replaced = {a.name: "selection.function()" for a in self.routine.arguments if a.kind == model.VALUE} | replaced
+        arguments = self.routine.arguments
+        characters = [a for a in arguments if a.type is model.TYPES["char"]]
+        return f"{self.routine.name}_({', '.join([replaced.get(a.name, a.name) for a in arguments] + ['1'] * len(characters))});"
+
+    def expression(self, text: str, **known: str) -> str:
+        """Of 64 bits, so that no size is too large. `known` is what stands for other values than those of the call."""
+
+        def name(word: str) -> str:
+            if word in self.quantities:
+                return f"{word}(*m, *n)"
+            if word in known:
+                return known[word]
+            is_option = self.routine.argument(word).type is model.TYPES["char"]
+            return f"upper(*{word})" if is_option else f"std::int64_t{{*{word}}}"
+
+        return expressions.cpp(text, name, "std::int64_t")
+
+    def part(self, part: model.Part) -> str:
+        argument = self.routine.argument(part.array)
+        position = self.routine.arguments.index(argument)
+        sizes = [self.expression(size) for size in part.sizes]
+        is_matrix = len(model.SIZES.split(argument.shape)) > 1
+        leading = f"*{self.routine.arguments[position + 1].name}" if is_matrix else sizes[0]
+        side = {"": [], "uplo": ["*uplo"], "hessenberg": ["kHessenberg"]}[part.form]
+        return ", ".join([*side, part.array, *sizes, leading])
+
+    def test(self, part: model.Part) -> str:
+        what = "matrix" if not part.form else "band" if part.rows else "triangle"
+        limit = f", {self.finite.limit}F" if self.finite.limit else ""
+        return f"is_{what}_finite({self.part(part)}{limit})"
+
+    def shortage(self) -> list[str]:
+        """Some routines do with less than published, and find out too late that there is not even that."""
+        short = {name: f"*{name} < {self.expression(self.minima[name].value, sdim='0')}" for name in self.lengths if name in self.minima}
+        if not short:
+            return []
+        asking, lines = {}, [f"if (!asks && ({' || '.join(short.values())})) {{"]
+        for name in self.lengths:
+            work = self.routine.argument(name[1:])
+            lines.append(f"  {work.type.cpp} best_{work.name}{{}};")
+            asking |= {name: "&kAsk", work.name: f"&best_{work.name}"}
+        lines.append(f"  {self.published(asking)}")
+        position = {a.name: k for k, a in enumerate(self.routine.arguments, 1)}
+        *others, last = short
+        choice = "".join(f"{short[name]} ? {position[name]} : " for name in others) + str(position[last])
+        return lines + [f"  if (*info >= 0) call.refuse({choice});", "  return;", "}"]
+
+    def unusable(self) -> list[str]:
+        fills = [f"  fill_nan({self.part(part)});" for part in self.finite.filled]
+        return fills + [f"  *info = static_cast<std::int32_t>({self.expression(self.finite.status)});"]
+
+    def check(self) -> list[str]:
+        """The published routine gets zeros instead, which tells whether its other arguments are right."""
+        tests = [self.test(part) for part in self.finite.examined]
+        zeros = {part.array: f"{part.array}_zeros" for part in self.finite.examined}
+        lines = [f"if ({'!asks && ' if self.lengths else ''}!({' && '.join(tests)})) {{"]
+        for array, name in zeros.items():
+            argument = self.routine.argument(array)
+            sizes = ", ".join(self.expression(size) for size in model.SIZES.split(argument.shape))
+            lines.append(f"  Zeros<{argument.type.cpp}> {name}({sizes});")
+        lines.append(f"  if (!({' && '.join(zeros.values())})) return call.report_no_memory();")
+        selections = {a.name: f"SelectNone<{a.type.cpp}>::select" for a in self.routine.arguments if a.kind == model.VALUE}
+        lines.append(f"  {self.published(selections | {array: name + '.data()' for array, name in zeros.items()})}")
+        return lines + ["  if (*info < 0) return;", *self.unusable(), "  return;", "}"]
+
+    def one_side(self) -> list[str]:
+        """Without right-hand sides the published routine refuses, or writes all the same: the call gets a side of zeros."""
+        count, array = self.routine.never_none
+        side = self.routine.argument(array)
+        replaced = {count: "&one", array: "side.data()"}
+        lines = [f"if (!asks && *{count} == 0) {{", "  const std::int32_t one = 1;", f"  Zeros<{side.type.cpp}> side(*ld{array});"]
+        made = ["side"]
+        for name, minimum in self.minima.items():
+            work = self.routine.argument(name[1:] if name in self.lengths else name)
+            least = self.expression(minimum.value, **{count: "std::int64_t{1}"})
+            lines.append(f"  Zeros<{work.type.cpp}> own_{work.name}({least});")
+            replaced[work.name] = f"own_{work.name}.data()"
+            made.append(f"own_{work.name}")
+            if name in self.lengths:
+                lines.append(f"  const auto own_{name} = static_cast<std::int32_t>({least});")
+                replaced[name] = f"&own_{name}"
+        lines.append(f"  if (!({' && '.join(made)})) return call.report_no_memory();")
+        passed = ", ".join(replaced.get(a.name, a.name) for a in self.routine.arguments)
+        return lines + [f"  return quorin_{self.routine.name}({passed});", "}"]
+
+    def with_spare_room(self) -> list[str]:
+        """The published routine needs, or writes, more than it is documented to: it gets that in an array of our own."""
+        array, further = self.routine.spare
+        work = self.routine.argument(array)
+        return [
+            f"const std::int64_t own_length = std::int64_t{{*l{array}}} + {self.expression(further)};",
+            f"Zeros<{work.type.cpp}> own(asks ? 0 : own_length + 1);",
+            "if (!own) return call.report_no_memory();",
+            f"const auto own_l{array} = static_cast<std::int32_t>(asks ? kAsk : own_length);",
+            self.published({array: f"asks ? {array} : own.data()", f"l{array}": f"asks ? l{array} : &own_l{array}"}),
+            f"if (!asks && *info >= 0) *{work.name} = *own.data();",
+        ]
+
+    def answers(self) -> list[str]:
+        lines = []
+        for name in self.lengths:
+            if name in self.minima:
+                least = self.expression(self.minima[name].value, sdim="(std::int64_t{*n} / 2)")
+                lines.append(f"  raise_answer({name[1:]}, {least});")
+        return ["if (asks && *info == 0) {", *lines, "}"] if lines else []
+
+    def body(self, begin: str) -> str:
+        routine = self.routine
+        lines = [begin, "using namespace quorin::dense;", f'LapackCall call("{routine.name.upper()}", info);', "if (!call.may_begin()) return;"]
+        lines += [f"const HostSelection selection({a.name}, call);" for a in routine.arguments if a.kind == model.VALUE]
+        if self.lengths:
+            lines.append(f"const bool asks = {' || '.join(f'*{name} == kAsk' for name in self.lengths)};")
+            lines += self.shortage()
+            lines.append("const KeptWhenRefused kept(work, info);")
+        if routine.never_none:
+            lines += self.one_side()
+        if self.finite:
+            lines += self.check()
+        if routine.spare:
+            lines += self.with_spare_room()
+        else:
+            lines.append(self.published({}))
+        lines += self.answers()
+        if self.finite:
+            lines += ["if (call.has_failed_inside()) {", *self.unusable(), "}"]
+        return "\n  ".join(lines)
+
+    def text(self, begin: str) -> str:
+        items = parameters(self.routine, "cpp", False)
+        items += ["std::size_t"] * sum(a.type is model.TYPES["char"] for a in self.routine.arguments)
+        declaration = wrapped(f"void {self.routine.name}_", items, ";")
+        return f"{declaration}\n{definition(self.routine.name, self.routine, False, self.body(begin))}"
 
 
 def plain_form(family: Family, routine: Routine) -> str:
@@ -70,7 +204,7 @@ def plain_form(family: Family, routine: Routine) -> str:
         return ""  # written by hand
     begin = host_call(family, routine)
     if routine.is_fortran:
-        return fortran_form(routine, begin)
+        return FortranForm(family, routine).text(begin)
     arguments = ", ".join(call_argument(argument) for argument in routine.arguments)
     call = f"quorin::{routine.implementation}({arguments})"
     return definition(routine.name, routine, False, f"{begin}\n  {statement(routine, call)}")

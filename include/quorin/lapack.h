@@ -15,8 +15,11 @@
  *
  * Option characters other than the ones listed are wrong arguments. Where there is an lwork, liwork or lrwork, -1 in
  * any of them asks for the best sizes: they are stored in the first elements of work, iwork and rwork, and nothing is
- * computed; the other arguments must be right. Asking is worth while: the minimum suffices, but blocks need more. Offer
- * the larger of answer and minimum: for empty matrices, and k = 0, some answers are too small.
+ * computed; the other arguments must be right. Asking is worth while: the minimum suffices, but blocks need more.
+ *
+ * Infinities and NaNs: routines that iterate to eigenvalues or singular values look at their input first; where it is
+ * not finite, they end with the info that stands at the routine, and with NaN. All others compute with it, and their
+ * results hold infinities and NaNs where these have spread.
  *
  * Additions and multiplications for order n, leading terms: getrf 2/3 n^3, potrf 1/3 n^3, geqrf 2 n^2 (m - n/3), geev
  * about 10 n^3 and 26 n^3 with right eigenvectors, gesdd about 8/3 n^3 and 20/3 n^3 with vectors, four times as many
@@ -1519,7 +1522,7 @@ QUORIN_API void QUORIN_CDECL cunglq_Idx(const int32_t* m, const int32_t* n, cons
      m: rows of C, at least 0
      n: columns of C, at least 0
      k: reflectors, 0 <= k <= m (side L) or n (side R)
-     a: [lda x m]: vectors of the reflectors in its rows, of m (side L) or n (side R) elements, as stored by gelqf;
+     a: [lda x m or n]: vectors of the reflectors in its rows, of m (side L) or n (side R) elements, as stored by gelqf;
          written to during the call, and restored
      lda: leading dimension of a, at least max(1,k)
      tau: [k]: scalar factors of the reflectors, as stored by gelqf
@@ -1543,7 +1546,7 @@ QUORIN_API void QUORIN_CDECL sormlq_Idx(const char* side, const char* trans, con
      m: rows of C, at least 0
      n: columns of C, at least 0
      k: reflectors, 0 <= k <= m (side L) or n (side R)
-     a: [lda x m]: vectors of the reflectors in its rows, of m (side L) or n (side R) elements, as stored by gelqf;
+     a: [lda x m or n]: vectors of the reflectors in its rows, of m (side L) or n (side R) elements, as stored by gelqf;
          written to during the call, and restored
      lda: leading dimension of a, at least max(1,k)
      tau: [k]: scalar factors of the reflectors, as stored by gelqf
@@ -1626,8 +1629,8 @@ QUORIN_API void QUORIN_CDECL cungbr_Idx(const char* vect, const int32_t* m, cons
      m: rows of C, at least 0
      n: columns of C, at least 0
      k: vect Q: columns of the matrix that gebrd reduced; vect P: its rows
-     a: [lda x min(m or n,k)]: vectors of the reflectors, as stored by gebrd, min(q,k) columns (vect Q) or q columns
-         (vect P) with q = m (side L) or n (side R); written to during the call, and restored
+     a: [lda x m or n]: vectors of the reflectors, as stored by gebrd, min(q,k) columns (vect Q) or q columns (vect P)
+         with q = m (side L) or n (side R); written to during the call, and restored
      lda: leading dimension of a; vect Q: at least max(1,q), vect P: max(1,min(q,k)), with q = m (side L) or n (side R)
      tau: [min(m or n,k)]: tauq (vect Q) or taup (vect P) of gebrd
      c: in, out, [ldc x n]: on entry C; on return the product
@@ -1701,10 +1704,10 @@ QUORIN_API void QUORIN_CDECL cungtr_Idx(const char* uplo, const int32_t* n, quor
      trans: what is applied (N Q; T Q^T)
      m: rows of C, at least 0
      n: columns of C, at least 0
-     a: [lda x m]: vectors of the reflectors, as stored by sytrd, m (side L) or n (side R) columns; written to during
-         the call, and restored
+     a: [lda x m or n]: vectors of the reflectors, as stored by sytrd, m (side L) or n (side R) columns; written to
+         during the call, and restored
      lda: leading dimension of a, at least max(1,m) (side L) or max(1,n) (side R)
-     tau: [m-1]: scalar factors of the reflectors, as stored by sytrd, m-1 (side L) or n-1 (side R)
+     tau: [m or n-1]: scalar factors of the reflectors, as stored by sytrd, m-1 (side L) or n-1 (side R)
      c: in, out, [ldc x n]: on entry C; on return the product
      ldc: leading dimension of c, at least max(1,m)
      work: out, [lwork]: workspace
@@ -1725,10 +1728,10 @@ QUORIN_API void QUORIN_CDECL sormtr_Idx(const char* side, const char* uplo, cons
      trans: what is applied (N Q; C Q^H)
      m: rows of C, at least 0
      n: columns of C, at least 0
-     a: [lda x m]: vectors of the reflectors, as stored by hetrd, m (side L) or n (side R) columns; written to during
-         the call, and restored
+     a: [lda x m or n]: vectors of the reflectors, as stored by hetrd, m (side L) or n (side R) columns; written to
+         during the call, and restored
      lda: leading dimension of a, at least max(1,m) (side L) or max(1,n) (side R)
-     tau: [m-1]: scalar factors of the reflectors, as stored by hetrd, m-1 (side L) or n-1 (side R)
+     tau: [m or n-1]: scalar factors of the reflectors, as stored by hetrd, m-1 (side L) or n-1 (side R)
      c: in, out, [ldc x n]: on entry C; on return the product
      ldc: leading dimension of c, at least max(1,m)
      work: out, [lwork]: workspace
