@@ -79,6 +79,9 @@ int search_pieces(int grid_density) {
   return std::clamp(grid_density / kDefaultGridDensity, 1, kMostPieces);
 }
 
+// An error of so many times what rounding costs is as good as any.
+constexpr double kNearRounding = 1000;
+
 // Rounding in the response, relative to its size and times the largest weight: of what is computed inside the bands,
 // where the sums are long, and of what is left when the coefficients are rounded.
 struct Rounding {
@@ -138,7 +141,7 @@ class Designer {
   }
 
   Outcome run(int most_iterations);
-  bool write(double* h);
+  Outcome write(Outcome outcome, double* h);
 
  private:
   // How a stage ended: at the tolerance, with errors that are lost in rounding, or neither.
@@ -160,6 +163,9 @@ class Designer {
   void spread_like_remembered(int points);
   void evaluate_best(double* response, int samples);
   bool is_in_band(double t) const;
+  bool is_rounding_harmless() const;
+  double error_of(const double* h, double t, const Band& band) const;
+  bool keeps_its_error(const double* h) const;
 
   const Problem& problem_;
   int degree_;
@@ -333,7 +339,6 @@ Outcome Designer::run(int most_iterations) {
 // The least error of degree `high` is lost in rounding, and exchanges lead nowhere. A polynomial of lower degree will
 // do, and better if it is smaller between the bands: looks for the highest degree whose error is not lost.
 Outcome Designer::settle_at_floor(int low, int high) {
-  constexpr double kNearRounding = 1000;
   while (high - low > 1 && best_.total() > 2 * rounding_.computation) {
     const int degree = low + (high - low) / 2;
     if (run_stage(degree, kStageIterations, kStageTolerance) == Progress::kReached) {
@@ -342,7 +347,50 @@ Outcome Designer::settle_at_floor(int low, int high) {
       high = degree;
     }
   }
-  return best_.total() <= kNearRounding * rounding_.computation ? Outcome::kConverged : Outcome::kNotConverged;
+  const bool is_near = best_.total() <= kNearRounding * rounding_.computation;
+  return is_near && is_rounding_harmless() ? Outcome::kConverged : Outcome::kNotConverged;
+}
+
+// Whether what rounding costs in the band of the largest weight is little in that of the least.
+bool Designer::is_rounding_harmless() const {
+  constexpr double kHarmless = 1e-3;
+  double least_weight = std::numeric_limits<double>::infinity();
+  for (int b = 0; b < problem_.band_count(); ++b) least_weight = std::min(least_weight, problem_.bands[b].weight);
+  return rounding_.computation <= kHarmless * least_weight * rounding_.desired;
+}
+
+// The weighted error of a filter.
+double Designer::error_of(const double* h, double t, const Band& band) const {
+  const int taps = problem_.form.taps();
+  const bool antisymmetric = problem_.form.slope_at_zero() != 0.0;
+  double response = taps % 2 != 0 && !antisymmetric ? h[taps / 2] : 0.0;
+  for (int k = 0; k < taps / 2; ++k) {
+    const double angle = t * (taps - 1 - 2 * k) / 2;
+    response += 2 * h[k] * (antisymmetric ? std::sin(angle) : std::cos(angle));
+  }
+  return band.weight * (band.desired - (band.relative ? 2 * pi / t : 1.0) * response);
+}
+
+// Whether a filter has the error that its polynomial is said to have, at the reference points with alternating signs
+// and between them. Large weights make much of what evaluation of the polynomial, and rounding of the filter, cost. An
+// error that is lost in rounding need not alternate.
+bool Designer::keeps_its_error(const double* h) const {
+  constexpr double kPart = 1e-2;
+  const double floor = kNearRounding * rounding_.computation;
+  const bool is_lost = best_.error <= floor;
+  const double most = (1 + kPart) * best_.error + (is_lost ? floor : 0.0);
+  double last = 0.0;
+  for (int i = 0; i < best_.count; ++i) {
+    const Extremum &here = best_.points[i], &next = best_.points[std::min(i + 1, best_.count - 1)];
+    const Band& band = problem_.bands[here.band];
+    if (here.t == 0.0 && band.relative) continue;
+    const double error = error_of(h, here.t, band);
+    if (!(std::abs(error) <= most)) return false;
+    if (!is_lost && (std::abs(error) < (1 - kPart) * best_.error || error * last > 0.0)) return false;
+    last = error;
+    if (next.band == here.band && !(std::abs(error_of(h, (here.t + next.t) / 2, band)) <= most)) return false;
+  }
+  return true;
 }
 
 bool Designer::is_in_band(double t) const {
@@ -371,16 +419,18 @@ void Designer::evaluate_best(double* response, int samples) {
   }
 }
 
-// False, with nothing written, if there is no memory.
-bool Designer::write(double* h) {
+// Nothing is written if there is no memory.
+Outcome Designer::write(Outcome outcome, double* h) {
   const auto taps = static_cast<std::size_t>(problem_.form.taps());
   const std::size_t samples = taps / 2 + 1;
   base::Workspace<double> response(samples), table(2 * taps), filter(taps);
-  if (!response || !table || !filter) return false;
+  if (!response || !table || !filter) return Outcome::kNoMemory;
   evaluate_best(response.data(), static_cast<int>(samples));
   problem_.form.taps_from_response(response.data(), table.data(), filter.data());
   for (std::size_t i = 0; i < taps; ++i) store(h, static_cast<int>(i), filter[i]);
-  return true;
+  constexpr double kSafe = 1e-6;
+  const bool is_safe = rounding_.computation <= kSafe * best_.error;
+  return outcome != Outcome::kConverged || is_safe || keeps_its_error(filter.data()) ? outcome : Outcome::kNotConverged;
 }
 
 }  // namespace
@@ -397,8 +447,7 @@ Outcome design_equiripple(const DesignRequest& request, double* h) {
 
   Designer designer(problem, search_pieces(request.grid_density));
   if (!designer) return Outcome::kNoMemory;
-  const Outcome outcome = designer.run(most_iterations);
-  return designer.write(h) ? outcome : Outcome::kNoMemory;
+  return designer.write(designer.run(most_iterations), h);
 }
 
 }  // namespace quorin::signal

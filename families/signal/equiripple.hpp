@@ -34,6 +34,9 @@ inline constexpr int kFinestGrid = 4096;
 // McClellan, Parks & Rabiner (IEEE Trans. Audio Electroacoust. 21 (1973) 506-526; g = 16 there). Between them the error
 // is larger.
 //
+// With weights of some 1 : 1e9 and more, rounding of the coefficients shows in the band of the largest. The filter's
+// own error is measured then, and kNotConverged tells if it is not that of the polynomial.
+//
 // Where the form of the filter forces a zero (at 0 for antisymmetric ones, at 0.5 for symmetric ones with an even and
 // antisymmetric ones with an odd number of taps) a band that asks for something else is cut short by
 // 0.5 / (grid_density coefficients of P).

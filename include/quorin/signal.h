@@ -24,7 +24,8 @@ enum quorin_signal_outcome {
       what rounding costs */
   QUORIN_SIGNAL_BAD_INPUT = 1, /* bad input; nothing is written */
   QUORIN_SIGNAL_NOT_CONVERGED = 2, /* not converged within MAXITER exchanges, or the best filter is too large between
-      the bands for double precision; H is the best filter met */
+      the bands for double precision, or weights so different (from about 1 : 1e9 on) that rounding in the band of the
+      largest spoils the error; H is the best filter met, whose error need not alternate */
   QUORIN_SIGNAL_NO_MEMORY = 3 /* no memory; nothing is written */
 };
 
