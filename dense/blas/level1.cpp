@@ -248,7 +248,7 @@ void rotmg(float* d1, float* d2, float* x1, float y1, float* param) {
   ModifiedRotation h;
   const float p2 = *d2 * y1, p1 = *d1 * *x1, q2 = p2 * y1, q1 = p1 * *x1;
   const auto clear = [&] { *d1 = *d2 = *x1 = 0; };
-  if (*d1 < 0) {
+  if (*d1 < 0) {  // NOLINT(bugprone-branch-clone): the published order of the cases
     clear();
   } else if (p2 == 0) {
     param[0] = -2;  // the identity

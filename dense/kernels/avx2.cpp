@@ -12,7 +12,11 @@
 
 #include "dense/kernels/sets.hpp"
 
+#if defined(__clang__)
+#pragma clang attribute push(__attribute__((target("avx2,fma"))), apply_to = function)
+#else
 #pragma GCC target("avx2,fma")
+#endif
 #include "dense/kernels/target/set.hpp"
 
 namespace quorin::dense::kernels {
@@ -22,3 +26,7 @@ void make_avx2_sets(const platform::CacheSizes& caches, KernelSets& sets) noexce
 }
 
 }  // namespace quorin::dense::kernels
+
+#if defined(__clang__)
+#pragma clang attribute pop
+#endif

@@ -12,7 +12,12 @@
 
 #include "dense/kernels/sets.hpp"
 
+#if defined(__clang__)
+#pragma clang attribute push(__attribute__((target("avx512f,avx512dq,avx512bw,avx512vl,avx2,fma"))), \
+                             apply_to = function)
+#else
 #pragma GCC target("avx512f,avx512dq,avx512bw,avx512vl,avx2,fma")
+#endif
 #include "dense/kernels/target/set.hpp"
 
 namespace quorin::dense::kernels {
@@ -22,3 +27,7 @@ void make_avx512_sets(const platform::CacheSizes& caches, KernelSets& sets) noex
 }
 
 }  // namespace quorin::dense::kernels
+
+#if defined(__clang__)
+#pragma clang attribute pop
+#endif

@@ -19,7 +19,7 @@ void multiply_tile(int k, const Real* a, std::ptrdiff_t a_step, const Real* b, s
                    std::ptrdiff_t b_column, Real alpha, bool adds, Real* c, std::ptrdiff_t ldc) noexcept {
   using V = Vector<Isa, Real>;
   constexpr int kWidth = kLanes<Isa, Real>;
-  constexpr int kCacheLine = 64 / static_cast<int>(sizeof(Real)), kAhead = kColumns == 1 ? 2 : kColumns;
+  constexpr int kCacheLine = 64 / static_cast<int>(sizeof(Real)), kAhead = kColumns + (kColumns == 1 ? 1 : 0);
 #pragma GCC unroll 8
   for (int j = 0; j < kColumns; ++j) {
 #pragma GCC unroll 8

@@ -6,18 +6,11 @@
 
 namespace quorin::dense::kernels::target {
 
-// i z for the complex numbers in a vector.
-template <class Isa, class Real>
-[[gnu::always_inline]] inline Vector<Isa, Real> times_i(Vector<Isa, Real> z) noexcept {
-  using Index [[gnu::vector_size(Isa::kBytes)]] = std::conditional_t<sizeof(Real) == 4, std::int32_t, std::int64_t>;
-  Index neighbours{};
-  Vector<Isa, Real> signs{};
-#pragma GCC unroll 16
-  for (int i = 0; i < kLanes<Isa, Real>; ++i) {
-    neighbours[i] = i ^ 1;
-    signs[i] = i % 2 == 0 ? Real{-1} : Real{1};
-  }
-  return __builtin_shuffle(z, neighbours) * signs;
+// i z for the complex numbers in a vector whose lanes are counted by i.
+template <class Isa, class Real, int... i>
+[[gnu::always_inline]] inline Vector<Isa, Real> times_i(Vector<Isa, Real> z,
+                                                        std::integer_sequence<int, i...>) noexcept {
+  return __builtin_shufflevector(z, z, (i ^ 1)...) * Vector<Isa, Real>{(i % 2 == 0 ? Real{-1} : Real{1})...};
 }
 
 // `kVectors` vectors of lanes: element p of all of them at x + p * kStep, and for complex numbers i times that behind.
@@ -39,7 +32,8 @@ struct LaneBlock {
     for (int v = 0; v < kVectors; ++v) {
       Real* const to = x + p * kStep + v * kWidth;
       store<Isa>(to, value[v]);
-      if constexpr (kIsComplex<T>) store<Isa>(to + kReals, times_i<Isa, Real>(value[v]));
+      if constexpr (kIsComplex<T>)
+        store<Isa>(to + kReals, times_i<Isa, Real>(value[v], std::make_integer_sequence<int, kWidth>{}));
     }
   }
 
@@ -114,7 +108,7 @@ struct LaneBlock {
   void exchange(int first, int count, bool is_result) const noexcept {
     // Steps upwards in memory, for which there are fast copies. A single-complex number moves as one double.
     using Unit = std::conditional_t<std::is_same_v<T, std::complex<float>>, double, Real>;
-    constexpr int kUnits = static_cast<int>(sizeof(T) / sizeof(Unit));
+    constexpr int kUnits = kIsComplex<T> && std::is_same_v<Unit, Real> ? 2 : 1;
     constexpr std::ptrdiff_t kInside =
         kStep * static_cast<std::ptrdiff_t>(sizeof(Real)) / static_cast<int>(sizeof(Unit));
     const bool is_reversed = block.x_step < 0;
