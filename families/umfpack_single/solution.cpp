@@ -1,6 +1,8 @@
 #include "families/umfpack_single/solution.hpp"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "families/umfpack_single/info.hpp"
 #include "families/umfpack_single/objects.hpp"
@@ -63,6 +65,24 @@ int solve_with(int sys, const Matrix& A, FloatOutput X, FloatInput B, const void
   return info.finish(solve_into<E>(sys, A, X, B, *numeric, Control, info.data(), Wi, W));
 }
 
+// Whether the determinant has an infinite factor, in U's diagonal or in the scaling.
+template <class E>
+int find_infinite_factors(const Object& numeric, bool& found) {
+  const std::size_t n = length(std::min(numeric.n_row, numeric.n_col)), rows = length(numeric.n_row);
+  Doubles<E> D(true, n);
+  Doubles<Real> scales(true, rows);
+  if (D.has_failed() || scales.has_failed()) return UMFPACK_ERROR_out_of_memory;
+  int* const none = nullptr;
+  int do_recip = 0;
+  const Entries<double> no_entries;
+  const int status = call<E>(E::kGetNumeric, none, none, no_entries, none, none, no_entries, none, none, D.output(),
+                             &do_recip, scales.output().x, numeric.contents);
+  const auto is_infinite = [](double value) { return std::isinf(value); };
+  found = std::any_of(D.output().x, D.output().x + n * E::kParts, is_infinite) ||
+          std::any_of(scales.output().x, scales.output().x + rows, is_infinite);
+  return status;
+}
+
 }  // namespace
 
 template <class E>
@@ -99,8 +119,16 @@ template <class E>
 int get_determinant(FloatOutput M, float* Ex, const void* Numeric, float* Info) {
   double mantissa[2] = {}, exponent = 0;
   double* const m = M ? mantissa : nullptr;
-  const int found = call<E>(E::kGetDeterminant, Entries<double>{m}, &exponent, contents(Numeric, kNumericOf<E>),
-                            static_cast<double*>(nullptr));
+  const Object* const numeric = find(Numeric, kNumericOf<E>);
+  bool is_infinite = false;
+  int found = UMFPACK_OK;
+  if (m != nullptr && numeric != nullptr) found = find_infinite_factors<E>(*numeric, is_infinite);
+  // UMFPACK's loop that scales the mantissa would never end with an infinite one.
+  if (is_infinite) mantissa[0] = std::numeric_limits<double>::quiet_NaN();
+  if (found == UMFPACK_OK && !is_infinite) {
+    found = call<E>(E::kGetDeterminant, Entries<double>{m}, &exponent, contents(Numeric, kNumericOf<E>),
+                    static_cast<double*>(nullptr));
+  }
   if (found < 0) return report_status_in(Info, found);
 
   // Over- and underflow are a matter of floats here.
@@ -115,6 +143,12 @@ int get_determinant(FloatOutput M, float* Ex, const void* Numeric, float* Info) 
     status = UMFPACK_WARNING_determinant_underflow;
   } else if (!std::isfinite(rounded[0]) || !std::isfinite(rounded[1])) {
     status = UMFPACK_WARNING_determinant_overflow;
+  }
+  // A mantissa just below 10 may become 10 as a float.
+  if (static_cast<float>(std::hypot(mantissa[0], mantissa[1])) >= 10) {
+    mantissa[0] /= 10;
+    mantissa[1] /= 10;
+    ++exponent;
   }
   narrow<E>(Ex != nullptr ? mantissa : value, 1, M);
   if (Ex != nullptr) *Ex = static_cast<float>(exponent);

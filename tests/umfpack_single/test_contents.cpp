@@ -154,6 +154,26 @@ TEST(Contents, DeterminantAndScaling) {
   }
 }
 
+TEST(Contents, DeterminantsEndAtInfinityAndHaveMantissasBelowTen) {
+  const double infinity = std::numeric_limits<double>::infinity();
+  for (const float scaling : {0.0F, 1.0F, 2.0F}) {
+    Host host(Matrix(2, 2, {0, 1, 2}, {0, 1}, {1e5, 1e-5}));
+    host.Control[UMFPACK_SCALE] = scaling;
+    ASSERT_EQ(host.symbolic(), 0);
+    ASSERT_EQ(host.numeric(), 0);
+    float M = -1, Ex = -1;
+    EXPECT_EQ(umfpack_di_get_determinant(&M, &Ex, host.Numeric, nullptr), 0);
+    EXPECT_NEAR(M, 1, 1e-5);
+    EXPECT_EQ(Ex, 0);
+
+    Host infinite(Matrix(2, 2, {0, 1, 2}, {0, 1}, {infinity, 1}));
+    infinite.Control[UMFPACK_SCALE] = scaling;
+    ASSERT_EQ(infinite.symbolic(), 0);
+    ASSERT_GE(infinite.numeric(), 0);
+    EXPECT_EQ(umfpack_di_get_determinant(&M, &Ex, infinite.Numeric, nullptr), 1);
+  }
+}
+
 TEST(Contents, DeterminantsBeyondFloatsAreReported) {
   struct Case {
     double diagonal;
