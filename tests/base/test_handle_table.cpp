@@ -18,12 +18,12 @@ struct Numbered : HandleNode {
 
 TEST(HandleTable, EachOfAThousandHandlesFindsItsOwn) {
   HandleTable<Numbered> table, other;
-  std::vector<void*> handles;
+  std::vector<void*> handles(1000);
   const auto number_of = [&](void* handle) {
     const Numbered* const found = table.find(handle);
     return found == nullptr ? -1 : found->number;
   };
-  for (int i = 0; i < 1000; ++i) handles.push_back(table.create(i));
+  for (int i = 0; i < 1000; ++i) handles[i] = table.create(i);
   for (int i = 0; i < 1000; ++i) {
     EXPECT_EQ(number_of(handles[i]), i);
     EXPECT_EQ(other.find(handles[i]), nullptr);

@@ -3,6 +3,7 @@
 // blocks. Each array ends, or begins, at a page that cannot be accessed; gaps between the elements hold NaN and must
 // keep it. The index form gives the plain form's bits, whatever the alignment of the stack.
 #include <gtest/gtest.h>
+#include <bit>
 
 #include <algorithm>
 #include <array>
@@ -42,7 +43,7 @@ struct Dimension {
   int first, other, option;
 };
 
-struct Argument {
+struct Argument {  // NOLINT(clang-analyzer-optin.performance.Padding): in the order of the generated rows
   std::string_view name;
   Element element;
   Form form;
@@ -168,7 +169,7 @@ class Call {
     const std::size_t floats = routine_.arguments[i].floats();
     for (std::size_t place = 0; place < count(i) * floats; ++place) {
       const float found = value(i, place), expected = reference.value(i, place);
-      if (std::memcmp(&found, &expected, sizeof found) == 0) continue;
+      if (std::bit_cast<std::uint32_t>(found) == std::bit_cast<std::uint32_t>(expected)) continue;
       if (!is_element(i, place / floats)) return false;
       if (std::isnan(found) && std::isnan(expected)) continue;
       if (!(std::fabs(found - expected) <= kTolerance * (1 + std::fabs(expected)))) return false;
@@ -209,7 +210,7 @@ class Call {
     if (d.first < 0) return 1;
     bool is_other = false;
     if (d.option >= 0) {
-      const int letter = *static_cast<const char*>(memory_[static_cast<std::size_t>(d.option)].data());
+      const auto letter = *static_cast<const unsigned char*>(memory_[static_cast<std::size_t>(d.option)].data());
       is_other = std::string_view("TCR").find(static_cast<char>(std::toupper(letter))) != std::string_view::npos;
     }
     return integer(is_other ? d.other : d.first);
@@ -224,7 +225,7 @@ class Call {
     const Argument& argument = routine_.arguments[i];
     if (argument.form == Form::kScalar) return 1;
     if (argument.form == Form::kFive) return 5;
-    const int rows = dimension(argument.rows), columns = dimension(argument.columns);
+    const std::ptrdiff_t rows = dimension(argument.rows), columns = dimension(argument.columns);
     if (rows <= 0 || columns <= 0) return 0;
     if (argument.form == Form::kMatrix) return static_cast<std::size_t>((columns - 1) * step(i) + rows);
     return static_cast<std::size_t>((rows - 1) * (argument.form == Form::kSpread ? 2 : step(i)) + 1);

@@ -16,7 +16,7 @@ TEST(Extremes, AreFoundAtEachPlace) {
       for (const float extreme : {8.0F, -8.0F, 0.5F, -0.5F}) {
         std::vector<quorin_complex> x(3 * kLength, {1, -2});
         std::vector<float> reals(3 * kLength, -2);
-        const auto at = static_cast<std::size_t>(place * inc);
+        const auto at = static_cast<std::size_t>(place) * static_cast<std::size_t>(inc);
         reals[at] = extreme;
         x[at] = {std::fabs(extreme) > 1 ? 1.0F : 0.0F, extreme};
         const std::int32_t largest = std::fabs(extreme) > 1 ? place + 1 : place == 0 ? 2 : 1;

@@ -76,12 +76,14 @@ def run(command: list[str], source: Path) -> Report:
 
 
 def faults(report: Report, reference: Report, known: set[str]) -> list[str]:
-    found = list(report.bad)
+    found = [line for line in report.bad if line not in known]
+    ended_early = len(report.bad) - len(found)  # an error that is known ends the tests of its matrix
     excused = set(reference.failures) | known
     found.extend(line for line in report.failures if line not in excused)
-    if report.counted_failures > len(report.failures):
+    if report.counted_failures > len(report.failures) + ended_early:
         found.append(f"{report.counted_failures} tests failed, {len(report.failures)} are listed")
-    if (report.tests, report.error_exits) != (reference.tests, reference.error_exits):
+    lacking = reference.tests - report.tests
+    if not 0 <= lacking <= 5 * ended_early or report.error_exits != reference.error_exits:
         found.append(
             f"{report.tests} tests and {report.error_exits} error exits ran, "
             f"{reference.tests} and {reference.error_exits} for the reference"
