@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Writes every LAPACK routine as data for C++ (tests/lapack/routines.hpp): make_routines.py lapack.table routines.inc
 
-Shapes and minima become functions of the call's scalars. Each argument has a value for one valid call of all routines.
+Shapes and minima become functions of the call's scalars.
 """
 
 import sys
@@ -12,20 +12,6 @@ sys.path.insert(0, str(ROOT / "exports"))
 
 from generator import expressions, model, tables  # noqa: E402
 
-ORDER = 6
-INTEGERS = {"ilo": 1, "il": 1, "iu": 3, "itype": 1, "isgn": 1, "nrhs": 3, "lwork": 3000, "lrwork": 900, "liwork": 300}
-INTEGERS.update(dict.fromkeys(("kl", "ku", "kd", "ka", "kb"), 1))
-CHARACTERS = {
-    "uplo": "U", "trans": "N", "trana": "N", "tranb": "N", "diag": "N", "side": "L", "jobz": "V", "range": "A",
-    "norm": "1", "jobu": "A", "jobvt": "A", "jobvl": "V", "jobvr": "V", "jobvs": "V", "jobvsl": "V", "jobvsr": "V",
-    "balanc": "B", "sense": "B", "sort": "S", "compz": "I", "howmny": "A", "vect": "Q", "order": "B", "job": "B",
-    "fact": "N", "equed": "N",
-}  # fmt: skip
-EXCEPTIONS = {
-    ("ggsvd", "jobu"): "U", ("ggsvd", "jobv"): "V", ("ggsvd", "jobq"): "Q", ("gesdd", "jobz"): "A",
-    ("hseqr", "job"): "S", ("trevc", "side"): "B", ("gebak", "side"): "R",
-}  # fmt: skip
-REALS = {"rcond": -1, "anorm": 10, "vl": -100, "vu": 100, "abstol": 0}
 KINDS = {model.ARRAY: "kArray", model.PLAIN: "kPlainArray", model.PAIRED: "kPairedScalar", model.SCALAR: "kScalar"}
 ELEMENTS = {"char": "kChar", "int": "kInt", "logical": "kInt", "float": "kFloat", "complex": "kComplex"}
 
@@ -46,15 +32,6 @@ def shape(argument: model.Argument) -> str:
     return function("Extent", *(model.SIZES.split(argument.shape) + ["1"])[:2])
 
 
-def value(routine: model.Routine, argument: model.Argument) -> str:
-    text = argument.type.text
-    if text == "char":
-        option = EXCEPTIONS.get((routine.name[1:], argument.name)) or CHARACTERS[argument.name]
-        return str(ord(option))
-    usual = ORDER + 2 if argument.name.startswith("ld") else ORDER
-    return str(INTEGERS.get(argument.name, usual) if text == "int" else REALS.get(argument.name, 1))
-
-
 def row(family: model.Family, routine: model.Routine, argument: model.Argument) -> str:
     if argument.kind == model.VALUE:
         return f'{{.name = "{argument.name}", .kind = Kind::kSelection, .element = Element::kInt}}'
@@ -65,7 +42,6 @@ def row(family: model.Family, routine: model.Routine, argument: model.Argument) 
     if argument.is_array:
         items.append(f".shape = {shape(argument)}")
     else:
-        items.append(f".value = {value(routine, argument)}")
         if element in ("kInt", "kChar"):
             items.append(f".member = &Values::{argument.name}")
         note = family.note(routine, argument.name)

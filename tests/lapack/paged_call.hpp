@@ -115,16 +115,30 @@ class PagedCall {
     }
   }
 
-  void run() {
+  // In the index form, each base lies another number of elements before its data.
+  void run(bool indexed = false) {
     std::uintptr_t slots[kSlots] = {};
+    std::size_t slot = 0;
     for (std::size_t i = 0; i < routine_.arguments.size(); ++i) {
-      slots[i] = routine_.arguments[i].kind == Kind::kSelection
-                     ? reinterpret_cast<std::uintptr_t>(&select_first_positive)
-                     : reinterpret_cast<std::uintptr_t>(data(i));
+      const Argument& argument = routine_.arguments[i];
+      const std::uintptr_t index = indexed && argument.has_index() ? 3 + i : 0;
+      slots[slot++] = argument.kind == Kind::kSelection
+                          ? reinterpret_cast<std::uintptr_t>(&select_first_positive)
+                          : reinterpret_cast<std::uintptr_t>(data(i)) - index * argument.element_size();
+      if (index != 0) slots[slot++] = index;
     }
-    call(routine_.plain, slots);
+    call(indexed ? routine_.indexed : routine_.plain, slots);
   }
 
+  // What the arguments hold.
+  std::vector<std::vector<unsigned char>> contents() const {
+    std::vector<std::vector<unsigned char>> all;
+    for (std::size_t i = 0; i < routine_.arguments.size(); ++i) {
+      const auto bytes = arenas()[i].bytes();
+      all.emplace_back(bytes.begin(), bytes.end());
+    }
+    return all;
+  }
   void* data(std::size_t argument) const { return arenas()[argument].data(); }
   int info() const {
     std::int32_t value = 0;

@@ -30,7 +30,6 @@ struct Argument {
   Element element;
   Direction direction = Direction::kIn;
   Extent (*shape)(const Values&) = nullptr;  // of an array; null: the minimum is its length
-  int value = 0;                             // of a scalar, in a call that suits every routine
   int Values::*member = nullptr;
   std::span<const int> options = {};
   int (*minimum)(const Values&) = nullptr;  // of a length, or of an array's

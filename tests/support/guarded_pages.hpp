@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <span>
 #include <utility>
 
 #if defined(_WIN32)
@@ -45,6 +46,7 @@ class GuardedPages {
   GuardedPages(GuardedPages&& other) noexcept
       : inside_(other.inside_),
         pages_(std::exchange(other.pages_, nullptr)),
+        size_(other.size_),
         array_(other.array_),
         marks_(other.marks_) {}
   GuardedPages& operator=(GuardedPages&&) = delete;
@@ -60,12 +62,14 @@ class GuardedPages {
   void* place(std::size_t bytes, Edge edge) {
     if (bytes + kMarks > inside_) std::abort();
     unsigned char* const first = pages_ + kPage;
+    size_ = bytes;
     array_ = edge == Edge::kFront ? first : first + inside_ - bytes;
     marks_ = edge == Edge::kFront ? array_ + bytes : array_ - kMarks;
     std::memset(marks_, kMark, kMarks);
     return array_;
   }
   void* data() const { return array_; }
+  std::span<const unsigned char> bytes() const { return {array_, size_}; }
 
   // Whether the marks are as place() left them.
   bool intact() const {
@@ -80,7 +84,9 @@ class GuardedPages {
   static constexpr std::size_t kMarks = 64;
   static constexpr unsigned char kMark = 0xa5;
   std::size_t inside_;
-  unsigned char *pages_ = nullptr, *array_ = nullptr, *marks_ = nullptr;
+  unsigned char* pages_ = nullptr;
+  std::size_t size_ = 0;
+  unsigned char *array_ = nullptr, *marks_ = nullptr;
 };
 
 // What the program is doing, told when it faults. A fault ends the program with status 1.
@@ -94,7 +100,7 @@ class FaultReport {
 
  private:
   static void tell() noexcept {
-    std::fputs("Access outside an array in: ", stderr);
+    std::fputs("Access violation in: ", stderr);
     std::fputs(text_, stderr);
     std::fputs("\n", stderr);
     std::fflush(stderr);
