@@ -159,10 +159,15 @@ bool store_real(std::optional<double> value, double factor, Complex* cy) {
   return true;
 }
 
-// z and whether the conjugate has to be taken of the result: all functions are conjugated with their argument.
-Complex upper_half(Complex z, bool& mirrored) {
-  mirrored = z.imag() < 0.0;
-  return mirrored ? std::conj(z) : z;
+// An argument in the upper half plane. All functions are conjugated with their argument.
+struct UpperHalf {
+  Complex z;
+  bool mirrored;  // the result's conjugate is asked for
+  bool real;      // z > 0
+};
+UpperHalf upper_half(Complex z) {
+  const bool mirrored = z.imag() < 0.0;
+  return {mirrored ? std::conj(z) : z, mirrored, is_positive_real(z)};
 }
 
 // -i z without rounding or signed-zero surprises.
@@ -245,9 +250,7 @@ void besi(Complex z_in, double fnu, int kode, int n, Complex* cy, int* nz, int* 
   const Result result{cy, nz, ierr};
   if (!accept(z_in, request, false, false, result)) return;
   if (z_in == 0.0) return value_at_zero(request, cy);
-  bool mirrored = false;
-  const Complex z = upper_half(z_in, mirrored);
-  const bool real = is_positive_real(z);
+  const auto [z, mirrored, real] = upper_half(z_in);
   if (real && n == 1 && store_real(real_i(fnu, z.real()), kode == 1 ? std::exp(z.real()) : 1.0, cy)) return;
   Combination c = modified_i(z, request);
   c.real = real;
@@ -259,9 +262,7 @@ void besj(Complex z_in, double fnu, int kode, int n, Complex* cy, int* nz, int* 
   const Result result{cy, nz, ierr};
   if (!accept(z_in, request, false, false, result)) return;
   if (z_in == 0.0) return value_at_zero(request, cy);
-  bool mirrored = false;
-  const Complex z = upper_half(z_in, mirrored);
-  const bool real = is_positive_real(z);
+  const auto [z, mirrored, real] = upper_half(z_in);
   if (real && n == 1 && store_real(real_j(fnu, z.real()), 1.0, cy)) return;
   Combination c = bessel_j(z, request);
   c.real = real;
@@ -283,9 +284,7 @@ void besk(Complex z_in, double fnu, int kode, int n, Complex* cy, int* nz, int* 
   const Request request{fnu, kode, n};
   const Result result{cy, nz, ierr};
   if (!accept(z_in, request, false, true, result)) return;
-  bool mirrored = false;
-  const Complex z = upper_half(z_in, mirrored);
-  const bool real = is_positive_real(z);
+  const auto [z, mirrored, real] = upper_half(z_in);
   if (real && n == 1 && store_real(real_k(fnu, z.real()), kode == 1 ? std::exp(-z.real()) : 1.0, cy)) return;
   Combination c;
   if (z.real() < 0.0) {
@@ -302,9 +301,7 @@ void besy(Complex z_in, double fnu, int kode, int n, Complex* cy, int* nz, Compl
   const Request request{fnu, kode, n};
   const Result result{cy, nz, ierr};
   if (!accept(z_in, request, false, true, result)) return;
-  bool mirrored = false;
-  const Complex z = upper_half(z_in, mirrored);
-  const bool real = is_positive_real(z);
+  const auto [z, mirrored, real] = upper_half(z_in);
   if (real && n == 1 && store_real(real_y(fnu, z.real()), 1.0, cy)) return;
   Combination c = bessel_y(z, request);
   c.real = real;
