@@ -8,7 +8,7 @@ from __future__ import annotations
 
 import re
 from collections.abc import Iterator
-from dataclasses import dataclass
+from dataclasses import dataclass, field
 from pathlib import Path
 
 from generator import declarations, model
@@ -29,6 +29,7 @@ class Signature:
     result: str = "void"
     where: str = ""  # file:line, for messages
     is_coming: bool = False
+    names: list[str] = field(default_factory=list)  # all that stand for it
 
     def set_result(self, c: str) -> None:
         """Complex results are stored through an extra first argument."""
@@ -71,7 +72,7 @@ class Reader:
             if name in self.signatures:
                 self.faults.append(f"{self.where}: '{name}' stands at {self.signatures[name].where} already")
             items = texts if texts == OPEN else [self.item(text, name in index) for text in texts]
-            self.signatures[name] = Signature(items, where=self.where, is_coming=bool(match["mark"]))
+            self.signatures[name] = Signature(items, where=self.where, is_coming=bool(match["mark"]), names=plain + index)
             if match["result"]:
                 self.signatures[name].set_result(self.c_type(match["result"], match["stars"]))
 
@@ -143,6 +144,7 @@ def in_tables(families: list[Family]) -> dict[str, Signature]:
         for routine in family.routines:
             for name in routine.export_names:
                 signatures[name] = signature_of(routine, name == routine.index_name)
+                signatures[name].names = routine.export_names
     return signatures
 
 
@@ -173,6 +175,8 @@ def faults(records: dict[Path, str], families: list[Family]) -> list[str]:
             found.append(f"{where} has come: take its mark away")
         elif released.items == OPEN:
             found.append(f"{where} is in the tables: write down the arguments that its interface gives it")
+        elif name != (first := released.names[0]) and first in tables and name not in tables[first].names:
+            found.append(f"{where} was released as another name of '{first}', and is none")
         else:
             found += [f"{where}: {difference}" for difference in differences(released, now)]
     strangers = [name for name in tables if name not in reader.signatures]

@@ -107,6 +107,19 @@ class ChangedTables(unittest.TestCase):
             with self.subTest(name):
                 self.assert_found(faults_after(change, name), *expected)
 
+    def test_names_that_move_to_another_routine_with_these_arguments_are_found(self):
+        families = tables.read(ROOT / "exports/tables", ROOT)
+        routines = {routine.name: routine for family in families for routine in family.routines}
+        isamax, isamin = routines["isamax"], routines["isamin"]
+        isamax.index_name, isamin.index_name = isamin.index_name, isamax.index_name
+        routines["sasum"].aliases.append(routines["snrm2"].aliases.pop())
+        self.assert_found(
+            released.faults(RECORDS, families),
+            "'SNRM2' was released as another name of 'snrm2', and is none",
+            "'isamax_Idx' was released as another name of 'isamax', and is none",
+            "'isamin_Idx' was released as another name of 'isamin', and is none",
+        )
+
     def test_what_hosts_implement_and_own_is_held_fast(self):
         families = tables.read(ROOT / "exports/tables", ROOT)
         callback = next(c for f in families for c in f.callbacks if c.is_stdcall)
