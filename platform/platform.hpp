@@ -120,6 +120,8 @@ class File {
   void open_for_reading(const char* name);
   // The C library's mode "w": the file is made or emptied, and a line ends as the system's text files want it.
   void open_for_text(const char* name);
+  // The same, but what the file holds stays, and every write goes behind it.
+  void open_for_appending(const char* name);
   // Made with mode 0700 if there is none; what an existing file holds stays until it is written over.
   void open_for_overwriting(const char* name);
 

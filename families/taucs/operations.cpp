@@ -5,6 +5,7 @@
 
 #include "families/taucs/dispatch.hpp"
 #include "families/taucs/engine_view.hpp"
+#include "families/taucs/messages.hpp"
 
 namespace quorin::taucs {
 namespace {
@@ -41,10 +42,10 @@ CcsMatrix* copy_columns(const CcsMatrix& A, int first, int last, int rows, int o
 template <Element T>
 CcsMatrix* transpose(const CcsMatrix* A) noexcept {
   const int rows = holds<T>(A) ? rows_of(*A) : sparse::kNone;
-  if (rows == sparse::kNone) return nullptr;
+  if (rows == sparse::kNone) return refuse("taucs_ccs_transpose: wrong type or damaged matrix\n");
   Indices next(length(rows));
   CcsMatrix* const B = next ? create<T>(A->n, rows, A->colptr[A->n]) : nullptr;
-  if (B == nullptr) return nullptr;
+  if (B == nullptr) return refuse("taucs_ccs_transpose: out of memory\n");
   sparse::transpose(columns_of<T>(*A, rows), arrays_of<T>(*B), next.data());
   B->flags = A->flags & ~(kLower | kUpper);
   if (A->has(kLower)) B->flags |= kUpper;
@@ -54,10 +55,12 @@ CcsMatrix* transpose(const CcsMatrix* A) noexcept {
 
 template <Element T>
 CcsMatrix* permute_symmetrically(const CcsMatrix* A, const std::int32_t*, const std::int32_t* invperm) noexcept {
-  if (!holds<T>(A) || !is_lower_stored(*A) || !is_within_order(*A) || !are_indices(invperm, A->n, A->n)) return nullptr;
+  if (!holds<T>(A) || !is_lower_stored(*A) || !is_within_order(*A) || !are_indices(invperm, A->n, A->n)) {
+    return refuse("taucs_ccs_permute_symmetrically: no permutation, or matrix not symmetric or not lower\n");
+  }
   Indices next(length(A->n));
   CcsMatrix* const B = next ? create<T>(A->n, A->n, A->colptr[A->n]) : nullptr;
-  if (B == nullptr) return nullptr;
+  if (B == nullptr) return refuse("taucs_ccs_permute_symmetrically: out of memory\n");
   sparse::permute_symmetrically(columns_of<T>(*A, A->n), symmetry_of(*A), invperm, arrays_of<T>(*B), next.data());
   B->flags = A->flags;
   return B;
@@ -73,11 +76,13 @@ void ccs_permute_rows_inplace(CcsMatrix* A, const std::int32_t* perm) noexcept {
 template <Element T>
 void split(const CcsMatrix* A, CcsMatrix** L, CcsMatrix** R, std::int32_t p) noexcept {
   *L = *R = nullptr;
-  if (!holds<T>(A) || p < 0 || p > A->n) return;
-  if (!sparse::check_compressed(A->n, A->n, A->colptr, A->rowind, {.is_lower = true})) return;
+  if (!holds<T>(A) || p < 0 || p > A->n ||
+      !sparse::check_compressed(A->n, A->n, A->colptr, A->rowind, {.is_lower = true})) {
+    return message("taucs_ccs_split: p=%d is no column, or matrix not lower\n", p);
+  }
   OwnedMatrix left(copy_columns<T>(*A, 0, p, A->n, 0));
   OwnedMatrix right(copy_columns<T>(*A, p, A->n, A->n - p, p));
-  if (left == nullptr || right == nullptr) return;
+  if (left == nullptr || right == nullptr) return message("taucs_ccs_split: out of memory\n");
   left->flags |= kLower;
   right->flags = A->flags;
   *L = left.release();
@@ -88,12 +93,14 @@ void split(const CcsMatrix* A, CcsMatrix** L, CcsMatrix** R, std::int32_t p) noe
 template <Element T>
 CcsMatrix* augment(const CcsMatrix* A) noexcept {
   constexpr int kMost = std::numeric_limits<int>::max() / 2;
-  if (!holds<T>(A) || !is_lower_stored(*A) || !is_within_order(*A)) return nullptr;
+  if (!holds<T>(A) || !is_lower_stored(*A) || !is_within_order(*A)) {
+    return refuse("taucs_ccs_augment_nonpositive_offdiagonal: matrix not symmetric or not lower\n");
+  }
   const int n = A->n, nnz = A->colptr[n];
-  if (n > kMost || nnz > kMost) return nullptr;
-  Indices next(length(2 * n));
-  CcsMatrix* const M = next ? create<T>(2 * n, 2 * n, 2 * nnz) : nullptr;
-  if (M == nullptr) return nullptr;
+  const bool fits = n <= kMost && nnz <= kMost;
+  Indices next(fits ? length(2 * n) : 0);
+  CcsMatrix* const M = fits && next ? create<T>(2 * n, 2 * n, 2 * nnz) : nullptr;
+  if (M == nullptr) return refuse("taucs_ccs_augment_nonpositive_offdiagonal: out of memory\n");
 
   const T* const values = A->elements<T>();
   const sparse::ColumnArrays<T> to = arrays_of<T>(*M);

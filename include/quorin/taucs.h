@@ -15,7 +15,8 @@
  * that: free, or i_free_dll.
  *
  * Null (a status of -1 where a routine has one) means out of memory, a wrong structure, or a file that cannot be read.
- * Messages go to taucs_printf, which drops them.
+ * Which of them it was, a program that is being looked into can see: if the environment variable QUORIN_TAUCS_LOG names
+ * a file, a line for each refusal is added to it. taucs_printf itself drops what it gets.
  *
  * Permutations are zero-based: perm[i] is the old index that moves to position i, and invperm[perm[i]] = i.
  *
@@ -399,9 +400,9 @@ QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_read_ccs(const char* filenam
      filename: name of a file, ended by a zero */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_read_binary(const char* filename);
 
-/* Reads a Harwell-Boeing file of an assembled matrix, in the formats I, F, E, D and G; Rutherford-Boeing files of the
-   same types, too. The entries of a pattern become 1. A real matrix is always double; to read a complex one without
-   asking for TAUCS_DCOMPLEX stops the process.
+/* Reads a Harwell-Boeing file of an assembled matrix, in any Fortran formats of I, F, E, D and G with groups, scales
+   and positions; Rutherford-Boeing files of the same types, too. The entries of a pattern become 1. A real matrix is
+   always double; to read a complex one without asking for TAUCS_DCOMPLEX stops the process.
      filename: name of a file, ended by a zero
      flags: the type of the elements, and for a matrix what is stored */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_read_hb(const char* filename, int32_t flags);

@@ -177,6 +177,9 @@ void File::open_for_reading(const char* name) {
 void File::open_for_text(const char* name) {
   if (name != nullptr) handle_ = open(name, O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
 }
+void File::open_for_appending(const char* name) {
+  if (name != nullptr) handle_ = open(name, O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0666);
+}
 void File::open_for_overwriting(const char* name) {
   if (name != nullptr) handle_ = open(name, O_WRONLY | O_CREAT | O_CLOEXEC, 0700);
 }

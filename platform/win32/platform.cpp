@@ -198,6 +198,9 @@ void File::open_for_reading(const char* name) {
 void File::open_for_text(const char* name) {
   if (name != nullptr) handle_ = _open(name, _O_WRONLY | _O_CREAT | _O_TRUNC | _O_TEXT, _S_IREAD | _S_IWRITE);
 }
+void File::open_for_appending(const char* name) {
+  if (name != nullptr) handle_ = _open(name, _O_WRONLY | _O_CREAT | _O_APPEND | _O_TEXT, _S_IREAD | _S_IWRITE);
+}
 void File::open_for_overwriting(const char* name) {
   if (name != nullptr) handle_ = _open(name, _O_WRONLY | _O_CREAT | _O_BINARY, _S_IREAD | _S_IWRITE | _S_IEXEC);
 }

@@ -7,18 +7,18 @@
 #include <complex>
 #include <cstdint>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <functional>
-#include <iterator>
 #include <memory>
 #include <random>
 #include <string>
 #include <vector>
 
 #include "quorin/taucs.h"
+#include "tests/support/temporary_file.hpp"
 
 namespace taucs_test {
+
+using quorin::test::TemporaryFile;
 
 using Complex = std::complex<double>;
 
@@ -129,35 +129,6 @@ inline void expect_consistent(const taucs_ccs_matrix& A) {
     }
   }
 }
-
-class TemporaryFile {
- public:
-  TemporaryFile() {
-    static int count = 0;
-    static const unsigned run = std::random_device()();
-    name_ = (std::filesystem::temp_directory_path() / ("taucs-" + std::to_string(run) + "-" + std::to_string(++count)))
-                .string();
-  }
-  explicit TemporaryFile(const std::string& content) : TemporaryFile() { write(content); }
-  TemporaryFile(const TemporaryFile&) = delete;
-  TemporaryFile& operator=(const TemporaryFile&) = delete;
-  ~TemporaryFile() {
-    std::error_code ignored;
-    std::filesystem::remove(name_, ignored);
-  }
-
-  const char* name() const { return name_.c_str(); }
-  void write(const std::string& content) const {
-    std::ofstream(name_, std::ios::binary).write(content.data(), static_cast<std::streamsize>(content.size()));
-  }
-  std::string read() const {
-    std::ifstream file(name_, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
-
- private:
-  std::string name_;
-};
 
 template <class T>
 std::string bytes_of(const T* data, std::size_t count) {

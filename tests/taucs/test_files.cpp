@@ -187,6 +187,15 @@ TEST(HarwellBoeing, TypesAndStructures) {
         "  1  3  4\n  0  2  2\n  1.0E+0  -2.D+1    3.+2\n", "-2147483648  4\n"}) {
     EXPECT_EQ(hb("RUA", body, TAUCS_DOUBLE), nullptr) << body;
   }
+  // The same numbers in any form.
+  for (const char* const format :
+       {"(2(E8.2))", "(1P,2(E8.2))", "(2(1P,E8.2))", "(E8.2,E8.2,F8.0)", "(3ES8.2)", "(2(1X,E7.2))"}) {
+    const std::string any = "(2(I3),I3)      (3(1X,I2))      " + std::string(format);
+    const std::string body =
+        std::strchr(format, 'F') || format[1] == '3' ? real : pattern + "  1.0E+0  -2.D+1\n    3.+2\n";
+    expect_record(read(taucs_ccs_read_hb, harwell_boeing("RUA", sizes, any, body), TAUCS_DOUBLE),
+                  record(TAUCS_DOUBLE, {1, -20, 300}));
+  }
   // Symmetric must be square, and a file cannot hold more than it is long.
   for (const char* const wrong :
        {"             2             3             3", "             2    2000000000             3",

@@ -10,7 +10,6 @@
 #include <random>
 #include <string>
 
-#include "families/taucs/files/fixed_fields.hpp"
 #include "families/taucs/files/number_parser.hpp"
 
 namespace quorin::taucs {
@@ -163,56 +162,6 @@ TEST(NumberParser, KnowsNoLocale) {
   EXPECT_EQ(parsed<double>("1.5"), (Reading{true, bits_of(1.5), 3}));
   EXPECT_EQ(parsed<double>("1.2345678901234567891e40").bits, bits_of(1.2345678901234567891e40));
   std::setlocale(LC_ALL, before.c_str());
-}
-
-TEST(FixedFields, DescriptorsOfFortran) {
-  const auto is = [](const char* text, char kind, int repeat, int width, int decimals, int scale) {
-    FieldFormat format;
-    return format.parse(text) && format.kind == kind && format.repeat == repeat && format.width == width &&
-           format.decimals == decimals && format.scale == scale;
-  };
-  EXPECT_TRUE(is("(16I5)", 'I', 16, 5, 0, 0));
-  EXPECT_TRUE(is(" ( 4e20.12 ) ", 'E', 4, 20, 12, 0));
-  EXPECT_TRUE(is("(1P,3D26.17E3)", 'D', 3, 26, 17, 1));
-  EXPECT_TRUE(is("(1P5E16.8)", 'E', 5, 16, 8, 1));
-  EXPECT_TRUE(is("(-2PF10.3)", 'F', 1, 10, 3, -2));
-  EXPECT_TRUE(is("(G25.16)", 'G', 1, 25, 16, 0));
-  FieldFormat format;
-  for (const char* const text : {"", "(", "()", "(I)", "(0I5)", "(5I0)", "(5I5", "5I5)", "(5A5)", "(-3I5)", "(5I1000)",
-                                 "(99999999999I5)", "(1X,I5)", "(5E10.)", "(PI5)"}) {
-    EXPECT_FALSE(format.parse(text)) << text;
-  }
-}
-
-TEST(FixedFields, NumbersOfFortran) {
-  struct Case {
-    const char* format;
-    const char* field;
-    double expected;
-  };
-  for (const Case& c : {Case{"(E12.4)", "  1.5E+02 ", 150},
-                        {"(E12.4)", "1.5D2", 150},
-                        {"(E12.4)", "1.5-3", 1.5e-3},
-                        {"(E12.4)", "-1.5+3", -1500},
-                        {"(F10.3)", "   12345", 12.345},
-                        {"(F10.3)", "12.5", 12.5},
-                        {"(2PF10.3)", "12.5", 0.125},
-                        {"(1PE10.3)", "1.25E1", 12.5},
-                        {"(I10)", "  -42", -42},
-                        {"(E10.2)", "1234E2", 1234},
-                        {"(D25.16)", "0.1000000000000000D+00", 0.1}}) {
-    FieldFormat format;
-    double number = 0;
-    ASSERT_TRUE(format.parse(c.format));
-    EXPECT_TRUE(parse_field(c.field, format, number) && number == c.expected) << c.format << ' ' << c.field;
-  }
-  FieldFormat format;
-  ASSERT_TRUE(format.parse("(E12.4)"));
-  double number = 0;
-  for (const char* const field :
-       {"", "   ", "1.5E", "E5", "1.5E+", "1 5", "abc", "1.5F2", "-", ".", "1.2.3", "inf", "1E99999999999"}) {
-    EXPECT_FALSE(parse_field(field, format, number)) << field;
-  }
 }
 
 }  // namespace

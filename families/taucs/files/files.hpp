@@ -34,8 +34,8 @@ CcsMatrix* ccs_read_ccs(const char* filename, std::int32_t flags) noexcept;
 // m, n, flags, colptr, rowind, values as they stand in memory, integers of 32 bits, lowest byte first.
 CcsMatrix* ccs_read_binary(const char* filename) noexcept;
 
-// Harwell-Boeing files of assembled matrices with the formats I, F, E, D and G; Rutherford-Boeing files of the same
-// types, too. The entries of a pattern become 1. A real matrix is always double; a complex one must be asked for.
+// Harwell-Boeing files of assembled matrices in Fortran formats of I, F, E, D and G; Rutherford-Boeing files of the
+// same types, too. The entries of a pattern become 1. A real matrix is always double; a complex one must be asked for.
 // I. S. Duff, R. G. Grimes, J. G. Lewis, Sparse matrix test problems, ACM TOMS 15 (1989) 1-14.
 CcsMatrix* ccs_read_hb(const char* filename, std::int32_t flags) noexcept;
 

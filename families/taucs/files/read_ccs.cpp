@@ -5,6 +5,7 @@
 #include "families/taucs/dispatch.hpp"
 #include "families/taucs/files/files.hpp"
 #include "families/taucs/files/text_scanner.hpp"
+#include "families/taucs/messages.hpp"
 #include "sparse/sparse.hpp"
 
 namespace quorin::taucs {
@@ -44,9 +45,10 @@ template <Element T>
 CcsMatrix* read_ccs(const char* filename, int flags) {
   platform::File file;
   file.open_for_reading(filename);
-  if (!file) return nullptr;
+  if (!file) return refuse("taucs_ccs_read_ccs: could not open ccs file %s\n", filename);
   TextScanner text(file);
-  return read_text<T>(text, file.size(), (flags & kSymmetric) != 0);
+  CcsMatrix* const A = read_text<T>(text, file.size(), (flags & kSymmetric) != 0);
+  return A != nullptr ? A : refuse("taucs_ccs_read_ccs: wrong or missing numbers, or out of memory\n");
 }
 
 template <class Number>
@@ -55,17 +57,7 @@ bool read_array(platform::File& file, Number* array, int count) {
   return file.read(array, bytes) == bytes;
 }
 
-}  // namespace
-
-CcsMatrix* ccs_read_ccs(const char* filename, std::int32_t flags) noexcept {
-  return is_complex_or_stop(flags, kFilesSource) ? read_ccs<Complex>(filename, flags)
-                                                 : read_ccs<double>(filename, flags);
-}
-
-CcsMatrix* ccs_read_binary(const char* filename) noexcept {
-  platform::File file;
-  file.open_for_reading(filename);
-  if (!file) return nullptr;
+CcsMatrix* read_binary(platform::File& file) {
   const std::uint64_t file_size = file.size();
   int header[3];
   if (!read_array(file, header, 3)) return nullptr;
@@ -84,6 +76,21 @@ CcsMatrix* ccs_read_binary(const char* filename) noexcept {
   if (!read_array(file, A->rowind, nnz) || !sparse::check_compressed(n, m, A->colptr, A->rowind)) return nullptr;
   const bool is_read = A->has(kDcomplex) ? read_array(file, A->values.z, nnz) : read_array(file, A->values.d, nnz);
   return is_read ? A.release() : nullptr;
+}
+
+}  // namespace
+
+CcsMatrix* ccs_read_ccs(const char* filename, std::int32_t flags) noexcept {
+  return is_complex_or_stop(flags, kFilesSource) ? read_ccs<Complex>(filename, flags)
+                                                 : read_ccs<double>(filename, flags);
+}
+
+CcsMatrix* ccs_read_binary(const char* filename) noexcept {
+  platform::File file;
+  file.open_for_reading(filename);
+  if (!file) return refuse("taucs_ccs_read_binary: could not open binary file %s\n", filename);
+  CcsMatrix* const A = read_binary(file);
+  return A != nullptr ? A : refuse("taucs_ccs_read_binary: wrong or missing numbers, or out of memory\n");
 }
 
 }  // namespace quorin::taucs

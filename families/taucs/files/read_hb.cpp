@@ -5,8 +5,9 @@
 
 #include "families/taucs/dispatch.hpp"
 #include "families/taucs/files/files.hpp"
-#include "families/taucs/files/fixed_fields.hpp"
+#include "families/taucs/files/fortran_format.hpp"
 #include "families/taucs/files/text_scanner.hpp"
+#include "families/taucs/messages.hpp"
 #include "sparse/sparse.hpp"
 
 namespace quorin::taucs {
@@ -23,7 +24,7 @@ char lower(char c) noexcept { return c >= 'A' && c <= 'Z' ? static_cast<char>(c 
 struct Header {
   char value_type = '\0', structure = '\0';  // lower case
   int m = 0, n = 0, nnz = 0;
-  FieldFormat pointers, rows, values;
+  FortranFormat pointers, rows, values;
 
   bool is_pattern() const noexcept { return value_type == 'p'; }
   bool is_complex() const noexcept { return value_type == 'c'; }
@@ -52,34 +53,32 @@ struct Header {
 
   bool read_formats(std::string_view line) noexcept {
     constexpr std::size_t kShort = 16, kLong = 20;
-    return pointers.parse(columns(line, 0, kShort)) && pointers.is_integer() &&
-           rows.parse(columns(line, kShort, kShort)) && rows.is_integer() &&
-           (is_pattern() || values.parse(columns(line, 2 * kShort, kLong)));
+    const bool is_known = pointers.parse(columns(line, 0, kShort)) && pointers.is_integer() &&
+                          rows.parse(columns(line, kShort, kShort)) && rows.is_integer() &&
+                          (is_pattern() || values.parse(columns(line, 2 * kShort, kLong)));
+    if (!is_known) {
+      const std::string_view formats = columns(line, 0, 2 * kShort + kLong);
+      message("taucs_ccs_read_hb: unknown formats %.*s\n", static_cast<int>(formats.size()), formats.data());
+    }
+    return is_known;
   }
 };
 
-bool convert(std::string_view field, const FieldFormat&, int& number) noexcept { return parse_field(field, number); }
-bool convert(std::string_view field, const FieldFormat& format, double& number) noexcept {
-  return parse_field(field, format, number);
-}
-
 // Calls store(k, number) for `count` numbers, which begin on a new line.
 template <class Number, class Store>
-bool read_section(TextScanner& text, const FieldFormat& format, std::size_t count, Store store) noexcept {
-  std::string_view line;
-  const auto width = static_cast<std::size_t>(format.width), per_line = static_cast<std::size_t>(format.repeat);
+bool read_section(TextScanner& text, const FortranFormat& format, std::size_t count, Store store) noexcept {
+  FieldReader reader(text, format);
   for (std::size_t k = 0; k < count; ++k) {
-    const std::size_t field = k % per_line;
-    if (field == 0 && !text.next_line(line)) return false;
+    Field field;
     Number number{};
-    if (!convert(columns(line, field * width, width), format, number)) return false;
+    if (!reader.next(field) || !parse_field(field, number)) return false;
     store(k, number);
   }
   return true;
 }
 
 // Indices, counted from one in the file. What is out of range is found when the pattern is checked.
-bool read_indices(TextScanner& text, const FieldFormat& format, int* indices, std::size_t count) noexcept {
+bool read_indices(TextScanner& text, const FortranFormat& format, int* indices, std::size_t count) noexcept {
   bool is_good = true;
   const bool is_read = read_section<int>(text, format, count, [&](std::size_t k, int number) {
     is_good = is_good && number > 0;
@@ -124,12 +123,17 @@ int matrix_flags(const Header& header, int requested) noexcept {
 CcsMatrix* read_hb(platform::File& file, int requested) noexcept {
   TextScanner text(file);
   Header header;
-  if (!text || !header.read(text)) return nullptr;
+  if (!text) return refuse("taucs_ccs_read_hb: out of memory\n");
+  if (!header.read(text)) return refuse("taucs_ccs_read_hb: wrong header\n");
   const int flags = matrix_flags(header, requested);
   // A pointer and an index take a character at least, so larger counts are none that this file can have.
-  if (static_cast<std::uint64_t>(header.n) + static_cast<std::uint64_t>(header.nnz) > file.size()) return nullptr;
+  if (static_cast<std::uint64_t>(header.n) + static_cast<std::uint64_t>(header.nnz) > file.size()) {
+    return refuse("taucs_ccs_read_hb: the file is too short for its header\n");
+  }
   OwnedMatrix A(ccs_create(header.m, header.n, header.nnz, flags));
-  return A != nullptr && read_body(text, header, *A) ? A.release() : nullptr;
+  if (A == nullptr) return refuse("taucs_ccs_read_hb: out of memory\n");
+  if (!read_body(text, header, *A)) return refuse("taucs_ccs_read_hb: wrong or missing numbers\n");
+  return A.release();
 }
 
 }  // namespace
@@ -137,7 +141,7 @@ CcsMatrix* read_hb(platform::File& file, int requested) noexcept {
 CcsMatrix* ccs_read_hb(const char* filename, std::int32_t flags) noexcept {
   platform::File file;
   file.open_for_reading(filename);
-  return file ? read_hb(file, flags) : nullptr;
+  return file ? read_hb(file, flags) : refuse("taucs_ccs_read_hb: could not open HB file %s\n", filename);
 }
 
 }  // namespace quorin::taucs

@@ -6,6 +6,7 @@
 #include "families/taucs/files/files.hpp"
 #include "families/taucs/files/text_scanner.hpp"
 #include "families/taucs/files/triplets.hpp"
+#include "families/taucs/messages.hpp"
 
 namespace quorin::taucs {
 namespace {
@@ -38,7 +39,7 @@ template <Element T>
 CcsMatrix* read_ijv(const char* filename, int flags, int shift) {
   platform::File file;
   file.open_for_reading(filename);
-  if (!file) return nullptr;
+  if (!file) return refuse("taucs_ccs_read_ijv: could not open ijv file %s\n", filename);
   int structure = 0;
   if ((flags & kSymmetric) != 0) structure = kSymmetric | kLower;
   if ((flags & kHermitian) != 0) structure = kHermitian | kLower;
@@ -47,24 +48,28 @@ CcsMatrix* read_ijv(const char* filename, int flags, int shift) {
   const bool is_read = text && read_entries<T>(text, shift, [&](int row, int column, T value) {
                          return (structure != 0 && row < column) || triplets.add(row, column, value);
                        });
-  return is_read ? triplets.assemble(structure) : nullptr;
+  CcsMatrix* const A = is_read ? triplets.assemble(structure) : nullptr;
+  return A != nullptr ? A : refuse("taucs_ccs_read_ijv: a wrong index, or out of memory\n");
 }
 
 template <Element T>
 CcsMatrix* read_mtx(const char* filename, int flags) {
   platform::File file;
   file.open_for_reading(filename);
-  if (!file) return nullptr;
+  if (!file) return refuse("taucs_ccs_read_mtx: could not open mtx file %s\n", filename);
   TextScanner text(file);
   int rows = 0, columns = 0, entries = 0;
-  if (!text.next(rows) || !text.next(columns) || !text.next(entries)) return nullptr;
+  if (!text.next(rows) || !text.next(columns) || !text.next(entries)) {
+    return refuse("taucs_ccs_read_mtx: wrong header\n");
+  }
   const bool is_symmetric = (flags & kSymmetric) != 0;
   Triplets<T> triplets;
   const bool is_read = read_entries<T>(text, 0, [&](int row, int column, T value) {
     if (is_symmetric && row < column) std::swap(row, column);
     return triplets.add(row, column, row == column ? value : T{-1.0});
   });
-  return is_read ? triplets.assemble(is_symmetric ? kSymmetric | kLower : 0) : nullptr;
+  CcsMatrix* const A = is_read ? triplets.assemble(is_symmetric ? kSymmetric | kLower : 0) : nullptr;
+  return A != nullptr ? A : refuse("taucs_ccs_read_mtx: a wrong index, or out of memory\n");
 }
 
 CcsMatrix* read_ijv(const char* filename, int flags, int shift) {
