@@ -4,6 +4,7 @@
   exports/generate.py                  rewrites the committed files: headers, manual pages, the list of names
   exports/generate.py --check          fails if a committed file is not what the tables say, or the tables are not what was released
   exports/generate.py --build DIR      writes what a build needs: entry points, .def files, version script
+  exports/generate.py --bindings DIR   writes declarations for other languages
 """
 
 from __future__ import annotations
@@ -13,6 +14,7 @@ import sys
 from pathlib import Path
 
 from generator import constants, headers, linking, loader, manual, released, tables, thunks
+from generator.bindings import csharp, fortran, pascal, python, visual_basic
 from generator.model import Family
 from generator.product import PRODUCT
 
@@ -54,6 +56,16 @@ def build_files(families: list[Family]) -> dict[str, str]:
     return files
 
 
+def binding_files(families: list[Family]) -> dict[str, str]:
+    files = {
+        "fortran/quorin_lapacks.f90": fortran.source(families),
+        "python/quorin_lapacks/_exports.py": python.source(families),
+    }
+    for language, module in (("csharp", csharp), ("pascal", pascal), ("vb", visual_basic)):
+        files.update((f"{language}/{name}", text) for name, text in module.files(families).items())
+    return files
+
+
 def write(directory: Path, files: dict[str, str]) -> None:
     for name, text in files.items():
         path = directory / name
@@ -70,6 +82,7 @@ def main() -> int:
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--check", action="store_true")
     parser.add_argument("--build", type=Path, metavar="DIR")
+    parser.add_argument("--bindings", type=Path, metavar="DIR")
     options = parser.parse_args()
     try:
         families = tables.read(ROOT / "exports/tables", ROOT)
@@ -78,6 +91,9 @@ def main() -> int:
         return 1
     if options.build:
         write(options.build, build_files(families))
+    if options.bindings:
+        write(options.bindings, binding_files(families))
+    if options.build or options.bindings:
         return 0
     if options.check:
         stale = differing(committed_files(families))

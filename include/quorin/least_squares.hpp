@@ -142,7 +142,7 @@ template <class Residual, std::invocable<std::span<const float>, std::span<float
 Result minimize(std::size_t m, std::span<float> x, Residual&& residual, Jacobian&& jacobian, const Bounds& bounds = {},
                 const Options& options = {}) {
   const bool is_bounded = !bounds.lower.empty() || !bounds.upper.empty();
-  constexpr auto kMost = static_cast<std::size_t>(std::numeric_limits<int32_t>::max());
+  constexpr auto kMost = static_cast<std::size_t>((std::numeric_limits<int32_t>::max)());
   if (x.empty() || m < x.size() || m > kMost || (is_bounded && bounds.lower.size() != x.size()) ||
       bounds.lower.size() != bounds.upper.size()) {
     throw std::invalid_argument("quorin::least_squares: sizes do not fit together");

@@ -100,8 +100,8 @@ class Scaled {
  public:
   Scaled(std::span<const double> b, std::span<double> x) : b_(b), x_(x) {
     double largest = 0.0, largest_x = 0.0;
-    for (const double e : b) largest = std::max(largest, std::abs(e));
-    for (const double e : x) largest_x = std::max(largest_x, std::abs(e));
+    for (const double e : b) largest = (std::max)(largest, std::abs(e));
+    for (const double e : x) largest_x = (std::max)(largest_x, std::abs(e));
     if (!(largest > 0.0) || !std::isfinite(largest)) return;
     const int exponent = std::ilogb(largest);
     const int harmless = 200;
@@ -260,7 +260,7 @@ class IncompleteLu {
     f.columns_.resize(length);
     f.values_.resize(length);
     detail::Parameters s = settings();
-    s.real(QUORIN_RCI_DPAR_PIVOT_MULTIPLIER) = std::max(std::abs(tolerance), 1.0e-5);
+    s.real(QUORIN_RCI_DPAR_PIVOT_MULTIPLIER) = (std::max)(std::abs(tolerance), 1.0e-5);
     int error = 0;
     DCSRILUT(&n, a, ia, ja, f.values_.data(), f.starts_.data(), f.columns_.data(), &tolerance, &fill, s.ipar.data(),
              s.dpar.data(), &error);

@@ -1,0 +1,1 @@
+"""Declarations of all exports for hosts in other languages than C."""
