@@ -6,7 +6,7 @@
 //
 // Arguments: the small table, the full one, which is compared instead when QUORIN_FULL_TESTS is "true", the one of
 // points next to real zeros, the one of random points and points next to complex zeros, and optionally a file for one
-// line per value (function, z, order, relative error): plot_errors.py draws it.
+// line per value (function, z, order, relative error): tools/plot_amos_errors.py draws it.
 #include <gtest/gtest.h>
 
 #include <algorithm>

@@ -1,13 +1,10 @@
 // Hosts as the documents describe them, for the tests of the iterative solvers, and matrices in compressed rows.
 #pragma once
 
-#include <algorithm>
-#include <cmath>
 #include <cstddef>
 #include <functional>
 #include <random>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -27,115 +24,34 @@ struct Csr {
   std::vector<int> ia, ja;
   Vector a;
 
-  void multiply(const double* x, double* y) const {
-    for (int i = 0; i < n; ++i) {
-      double sum = 0.0;
-      for (int k = ia[i] - 1; k < ia[i + 1] - 1; ++k) sum += a[k] * x[ja[k] - 1];
-      y[i] = sum;
-    }
-  }
-  Vector operator*(const Vector& x) const {
-    Vector y(x.size());
-    multiply(x.data(), y.data());
-    return y;
-  }
+  void multiply(const double* x, double* y) const;
+  Vector operator*(const Vector& x) const;
 };
 
 using Dense = std::vector<Vector>;
 
-inline Csr sparse(const Dense& m) {
-  Csr s;
-  s.n = static_cast<int>(m.size());
-  s.ia.push_back(1);
-  for (const Vector& row : m) {
-    for (std::size_t j = 0; j < row.size(); ++j) {
-      if (row[j] == 0.0) continue;
-      s.a.push_back(row[j]);
-      s.ja.push_back(static_cast<int>(j) + 1);
-    }
-    s.ia.push_back(static_cast<int>(s.a.size()) + 1);
-  }
-  return s;
-}
+Csr sparse(const Dense& m);
 
 // The matrices of the published examples.
-inline Csr spd4() { return sparse({{4, -1, -1, 0}, {-1, 4, 0, -1}, {-1, 0, 4, -1}, {0, -1, -1, 4}}); }
-inline Csr nonsymmetric5() {
-  return sparse({{1, 0, -1, 0, 0}, {-1, 1, 0, -1, 0}, {0, 1, -2, 0, 1}, {0, 0, -1, 2, -1}, {0, 0, 0, -1, -3}});
-}
+Csr spd4();
+Csr nonsymmetric5();
 // Symmetric and indefinite; CG gets by.
-inline Csr indefinite8() {
-  return sparse({{7, 0, 1, 0, 0, 2, 7, 0},
-                 {0, -4, 8, 0, 2, 0, 0, 0},
-                 {1, 8, 1, 0, 0, 0, 0, 5},
-                 {0, 0, 0, 7, 0, 0, 9, 0},
-                 {0, 2, 0, 0, 5, 1, 5, 0},
-                 {2, 0, 0, 0, 1, -1, 0, 5},
-                 {7, 0, 0, 9, 5, 0, 11, 0},
-                 {0, 0, 5, 0, 0, 5, 0, 5}});
-}
+Csr indefinite8();
 
-inline Dense dense(const Csr& s) {
-  Dense m(s.n, Vector(s.n, 0.0));
-  for (int i = 0; i < s.n; ++i) {
-    for (int k = s.ia[i] - 1; k < s.ia[i + 1] - 1; ++k) m[i][s.ja[k] - 1] += s.a[k];
-  }
-  return m;
-}
+Dense dense(const Csr& s);
 
-inline void expect_near(const Vector& actual, const Vector& expected, double slack) {
-  ASSERT_EQ(actual.size(), expected.size());
-  for (std::size_t i = 0; i < actual.size(); ++i) EXPECT_NEAR(actual[i], expected[i], slack) << "entry " << i;
-}
+void expect_near(const Vector& actual, const Vector& expected, double slack);
 
 // Published values have 10 digits or fewer; a 0 stands for rounding errors of at most `zero`.
-inline void expect_history(const Vector& actual, const Vector& expected, double zero, double relative = 5e-7) {
-  ASSERT_EQ(actual.size(), expected.size());
-  for (std::size_t k = 0; k < actual.size(); ++k) {
-    EXPECT_NEAR(actual[k], expected[k], expected[k] == 0.0 ? zero : relative * std::fabs(expected[k])) << "step " << k;
-  }
-}
+void expect_history(const Vector& actual, const Vector& expected, double zero, double relative = 5e-7);
+Vector joined(const Vector& first, const Vector& second);
 
-inline Vector joined(const Vector& first, const Vector& second) {
-  Vector all = first;
-  all.insert(all.end(), second.begin(), second.end());
-  return all;
-}
-
-inline double dot(int n, const double* x, const double* y) {
-  double sum = 0.0;
-  for (int i = 0; i < n; ++i) sum += x[i] * y[i];
-  return sum;
-}
-
-inline double norm(const Vector& x) {
-  double sum = 0.0;
-  for (const double e : x) sum = std::hypot(sum, e);
-  return sum;
-}
-
-inline double residual_norm(const Csr& A, const double* b, const double* x) {
-  Vector r(A.n);
-  A.multiply(x, r.data());
-  for (int i = 0; i < A.n; ++i) r[i] = b[i] - r[i];
-  return norm(r);
-}
-
-inline Vector random_vector(int n, std::mt19937& random) {
-  std::uniform_real_distribution<double> entry(-1.0, 1.0);
-  Vector x(n);
-  for (double& e : x) e = entry(random);
-  return x;
-}
-
-inline Csr csr(const quorin::test::SparseMatrix& A) {
-  quorin::test::CompressedArrays rows = compressed_rows(A, 1);
-  return {A.rows, std::move(rows.starts), std::move(rows.indices), std::move(rows.re)};
-}
-
-inline Csr random_matrix(int n, double density, double dominance, bool symmetric, std::mt19937& random) {
-  return csr(quorin::test::random_dominant(n, density, dominance, symmetric, random));
-}
+double dot(int n, const double* x, const double* y);
+double norm(const Vector& x);
+double residual_norm(const Csr& A, const double* b, const double* x);
+Vector random_vector(int n, std::mt19937& random);
+Csr csr(const quorin::test::SparseMatrix& A);
+Csr random_matrix(int n, double density, double dominance, bool symmetric, std::mt19937& random);
 
 using quorin::test::call_index_form;
 using quorin::test::Guarded;
@@ -143,15 +59,7 @@ using quorin::test::Guarded;
 // Applies M^-1; `iteration` is ipar(4).
 using Preconditioner = std::function<void(int iteration, const double* in, double* out)>;
 
-inline Preconditioner jacobi(const Csr& A) {
-  Vector diagonal(A.n);
-  for (int i = 0; i < A.n; ++i) {
-    for (int k = A.ia[i] - 1; k < A.ia[i + 1] - 1; ++k) diagonal[i] += A.ja[k] == i + 1 ? A.a[k] : 0.0;
-  }
-  return [diagonal](int, const double* in, double* out) {
-    for (std::size_t i = 0; i < diagonal.size(); ++i) out[i] = in[i] / diagonal[i];
-  };
-}
+Preconditioner jacobi(const Csr& A);
 
 // One solve, through the index forms. Work arrays are as short as a plain run allows and stand between guard words;
 // options are set through ipar and dpar.
@@ -164,33 +72,13 @@ class Host {
   virtual Vector solution() { return x; }
 
   // Does what the last request asks. False when nothing is left to do.
-  bool serve() {
-    if (request == 1) A.multiply(source(), target());
-    if (request == 3) precondition(ipar[3], source(), target());
-    if (request == 2) return !(satisfied && satisfied());
-    if (request == 4) return dpar[6] >= 1e-12;
-    return request > 0;
-  }
+  bool serve();
   // A leg and its answer, with a record.
-  bool advance() {
-    const bool product_taken = request == 1;
-    step();
-    if (request > 0) requests += static_cast<char>('0' + request);
-    if (product_taken && request >= -1) residuals.push_back(dpar[4]);
-    return serve();
-  }
+  bool advance();
   // To the end. Returns the status.
-  int run(int most = 10000) {
-    while (most-- > 0 && advance()) {
-    }
-    return request;
-  }
+  int run(int most = 10000);
   // The automatic residual test alone.
-  void test_residual(double relative) {
-    ipar[8] = 1;
-    ipar[9] = 0;
-    dpar[0] = relative;
-  }
+  void test_residual(double relative);
   double true_residual() { return residual_norm(A, b.data(), solution().data()); }
   bool intact() const { return ipar.intact() && dpar.intact() && tmp.intact(); }
 
@@ -206,12 +94,8 @@ class Host {
 
  protected:
   Host(const Csr& matrix, const Vector& rhs, const Vector& start, std::size_t integers, std::size_t reals,
-       std::size_t work)
-      : A(matrix), ipar(integers, -77), dpar(reals, -7.7), tmp(work, std::nan("")), x(start), b(rhs) {}
-  void begin(bool preconditioned) {
-    ipar[5] = ipar[6] = 0;  // no messages
-    if (preconditioned) ipar[10] = 1;
-  }
+       std::size_t work);
+  void begin(bool preconditioned);
   template <class Form, class... More>
   int call(Form* form, int n, More... more) {
     call_index_form(form, &n, x, b, &request, ipar, dpar, tmp, more...);
@@ -225,43 +109,21 @@ class Host {
 
 class CgHost : public Host {
  public:
-  CgHost(const Csr& matrix, const Vector& rhs, const Vector& start, bool preconditioned = false)
-      : Host(matrix, rhs, start, preconditioned ? 128 : 11, preconditioned ? 128 : 8,
-             rhs.size() * (preconditioned ? 4 : 3)) {
-    init(A.n);
-    begin(preconditioned);
-  }
+  CgHost(const Csr& matrix, const Vector& rhs, const Vector& start, bool preconditioned = false);
   int init(int n) { return call(sDCG_INIT_Idx, n); }
   int check() override { return call(sDCG_CHECK_Idx, A.n); }
   int step() override { return call(sDCG_Idx, A.n); }
-  int itercount() {
-    int count = -1;
-    call(sDCG_GET_Idx, A.n, &count);
-    return count;
-  }
+  int itercount();
 };
 
 // Several right-hand sides.
 class ManyHost : public Host {
  public:
-  ManyHost(const Csr& matrix, const Vector& rhs, const Vector& start, bool preconditioned = false)
-      : Host(matrix, rhs, start, 128 + 2 * rhs.size() / matrix.n, 128 + 2 * rhs.size() / matrix.n,
-             static_cast<std::size_t>(3 * matrix.n) + rhs.size()),
-        nrhs(static_cast<int>(rhs.size()) / A.n) {
-    init(nrhs, 1);
-    begin(preconditioned);
-  }
-  int init(int count, int method) {
-    call_index_form(sDCGMRHS_INIT_Idx, &A.n, x, &count, b, &method, &request, ipar, dpar, tmp);
-    return request;
-  }
+  ManyHost(const Csr& matrix, const Vector& rhs, const Vector& start, bool preconditioned = false);
+  int init(int count, int method);
   int check() override { return call_with_count(sDCGMRHS_CHECK_Idx); }
   int step() override { return call_with_count(sDCGMRHS_Idx); }
-  std::vector<int> counts() {
-    std::vector<int> k(nrhs);
-    call_with_count(sDCGMRHS_GET_Idx, k.data());
-    return k;
-  }
+  std::vector<int> counts();
 
   int nrhs;
 
@@ -278,57 +140,25 @@ class ManyHost : public Host {
 class FgmresHost : public Host {
  public:
   // `m`: cycle length (0: the default); without a preconditioner tmp ends before the preconditioned vectors.
-  FgmresHost(const Csr& matrix, const Vector& rhs, const Vector& start, int m = 0, bool preconditioned = false)
-      : Host(matrix, rhs, start, 128, 128, tmp_size(matrix.n, m > 0 ? m : std::min(150, matrix.n), preconditioned)) {
-    init(A.n);
-    if (m > 0) ipar[14] = m;
-    begin(preconditioned);
-  }
+  FgmresHost(const Csr& matrix, const Vector& rhs, const Vector& start, int m = 0, bool preconditioned = false);
   int init(int n) { return call(sDFGMRES_INIT_Idx, n); }
   int check() override { return call(sDFGMRES_CHECK_Idx, A.n); }
   int step() override { return call(sDFGMRES_Idx, A.n); }
-  void test_residual(double relative) {
-    Host::test_residual(relative);
-    ipar[11] = 1;
-  }
+  void test_residual(double relative);
   // The iterate where ipar(13) says, b being `into`. Returns the status.
-  int get(Vector& into) {
-    int status = -1;
-    itercount = -1;
-    call_index_form(sDFGMRES_GET_Idx, &A.n, x, into, &status, ipar, dpar, tmp, &itercount);
-    return status;
-  }
+  int get(Vector& into);
   int get() { return get(b); }
   // The iterate, by GET into a vector for it.
-  Vector solution() override {
-    Vector iterate(x.size());
-    const int target = std::exchange(ipar[12], 1);
-    get(iterate);
-    ipar[12] = target;
-    return iterate;
-  }
+  Vector solution() override;
 
   int itercount = -1;
 
  private:
-  static std::size_t tmp_size(int n, int m, bool preconditioned) {
-    return static_cast<std::size_t>((preconditioned ? 2 * m + 1 : m + 1) * n + m * (m + 9) / 2 + 1);
-  }
   double* source() override { return tmp.data() + ipar[21] - 1; }
   double* target() override { return tmp.data() + ipar[22] - 1; }
 };
 
 // out <- U^-1 L^-1 in, with L (unit diagonal) and U stored in one pattern.
-inline void solve_lu(const Csr& lu, const double* in, double* out) {
-  for (int i = 0; i < lu.n; ++i) {
-    out[i] = in[i];
-    for (int k = lu.ia[i] - 1; lu.ja[k] - 1 < i; ++k) out[i] -= lu.a[k] * out[lu.ja[k] - 1];
-  }
-  for (int i = lu.n - 1; i >= 0; --i) {
-    int k = lu.ia[i + 1] - 2;
-    for (; lu.ja[k] - 1 > i; --k) out[i] -= lu.a[k] * out[lu.ja[k] - 1];
-    out[i] /= lu.a[k];
-  }
-}
+void solve_lu(const Csr& lu, const double* in, double* out);
 
 }  // namespace rci_test

@@ -1,41 +1,21 @@
-// TSLS1 and TSLC1 against dense elimination in double precision, and against LAPACK.
+// TSLS1 and TSLC1 against dense elimination in double precision.
 #include <gtest/gtest.h>
 
 #include <cfenv>
 #include <cstring>
-#include <limits>
-#include <numbers>
-#include <string>
 
 #include "quorin/signal.h"
 #include "tests/signal/toeplitz_systems.hpp"
-
-extern "C" {
-// LAPACK's report of a wrong argument.
-void xerbla_(const char* routine, const int* position, std::size_t length) {
-  ADD_FAILURE() << std::string(routine, length) << ", argument " << *position;
-}
-void sgesv_(const int* n, const int* nrhs, float* a, const int* lda, int* ipiv, float* b, const int* ldb, int* info);
-void cgesv_(const int* n, const int* nrhs, std::complex<float>* a, const int* lda, int* ipiv, std::complex<float>* b,
-            const int* ldb, int* info);
-void sgerfs_(const char* trans, const int* n, const int* nrhs, const float* a, const int* lda, const float* af,
-             const int* ldaf, const int* ipiv, const float* b, const int* ldb, float* x, const int* ldx, float* ferr,
-             float* berr, float* work, int* iwork, int* info, std::size_t trans_length);
-void cgerfs_(const char* trans, const int* n, const int* nrhs, const std::complex<float>* a, const int* lda,
-             const std::complex<float>* af, const int* ldaf, const int* ipiv, const std::complex<float>* b,
-             const int* ldb, std::complex<float>* x, const int* ldx, float* ferr, float* berr,
-             std::complex<float>* work, float* rwork, int* info, std::size_t trans_length);
-}
+#include "tests/support/guarded.hpp"
 
 namespace {
 
 using namespace quorin::signal_tests;
+using quorin::test::Guarded;
 using Complex = std::complex<float>;
 
 // Half a unit in the last place of the largest element, and a little for the oracle.
 constexpr double kOneRounding = 1.01 / (1 << 24);
-constexpr float kGuard = 12345.0F;
-constexpr int kMargin = 3;
 
 const quorin_complex* c(const Complex* p) { return reinterpret_cast<const quorin_complex*>(p); }
 quorin_complex* c(Complex* p) { return reinterpret_cast<quorin_complex*>(p); }
@@ -53,38 +33,23 @@ void call_indexed(const Complex* a1, const Complex* a2, const Complex* b, Comple
   TSLC1_Idx(c(a1) - 1, 1, c(a2) - 2, 2, c(b) + 3, -3, c(x) - 4, 4, c(c1) - 5, 5, c(c2) - 6, 6, &m);
 }
 
-// An output array between guard words.
-template <class T>
-class Guarded {
- public:
-  explicit Guarded(int n) : data_(static_cast<std::size_t>(n) + 2 * kMargin, T(kGuard)) {}
-  T* get() { return data_.data() + kMargin; }
-  bool intact() const {
-    const auto is_guard = [](T v) { return v == T(kGuard); };
-    return std::all_of(data_.begin(), data_.begin() + kMargin, is_guard) &&
-           std::all_of(data_.end() - kMargin, data_.end(), is_guard);
-  }
-
- private:
-  std::vector<T> data_;
-};
-
 // Plain, in place and through the index form: the same numbers, and nothing beside them is touched.
 template <class T>
 std::vector<T> solve(const System<T>& s) {
   const int m = s.order();
   std::vector<T> column = s.column;
   column.reserve(static_cast<std::size_t>(m));  // an address, even of no elements
-  Guarded<T> x(m), in_place(m), indexed(m), c1(m - 1), c2(m - 1);
-  call(s.row.data(), column.data(), s.b.data(), x.get(), c1.get(), c2.get(), m);
-  std::copy(s.b.begin(), s.b.end(), in_place.get());
-  call(s.row.data(), column.data(), in_place.get(), in_place.get(), c1.get(), c2.get(), m);
-  call_indexed(s.row.data(), column.data(), s.b.data(), indexed.get(), c1.get(), c2.get(), m);
+  const auto length = static_cast<std::size_t>(m);
+  Guarded<T> x(length, T{}), in_place(length, T{}), indexed(length, T{}), c1(length - 1, T{}), c2(length - 1, T{});
+  call(s.row.data(), column.data(), s.b.data(), x.data(), c1.data(), c2.data(), m);
+  std::copy(s.b.begin(), s.b.end(), in_place.data());
+  call(s.row.data(), column.data(), in_place.data(), in_place.data(), c1.data(), c2.data(), m);
+  call_indexed(s.row.data(), column.data(), s.b.data(), indexed.data(), c1.data(), c2.data(), m);
   EXPECT_TRUE(x.intact() && in_place.intact() && indexed.intact() && c1.intact() && c2.intact()) << "order " << m;
-  std::vector<T> result(x.get(), x.get() + m);
+  std::vector<T> result(x.data(), x.data() + m);
   const std::size_t bytes = result.size() * sizeof(T);
-  EXPECT_EQ(std::memcmp(result.data(), in_place.get(), bytes), 0) << "order " << m;
-  EXPECT_EQ(std::memcmp(result.data(), indexed.get(), bytes), 0) << "order " << m;
+  EXPECT_EQ(std::memcmp(result.data(), in_place.data(), bytes), 0) << "order " << m;
+  EXPECT_EQ(std::memcmp(result.data(), indexed.data(), bytes), 0) << "order " << m;
   return result;
 }
 
@@ -109,11 +74,11 @@ TYPED_TEST(Toeplitz, UnsymmetricSystemsOfEveryOrder) {
 // Condition numbers from 1e4 to 1e8: in single precision nothing of the last ones would be left.
 TYPED_TEST(Toeplitz, IllConditionedSystemsLoseNothing) {
   using T = TypeParam;
-  for (const double r : {0.99, 0.999, 0.9999}) {
+  for (const double r : {0.5, 0.99, 0.999, 0.9999}) {
     expect_one_rounding(hermitian_system<T>(
         100, [&](int k) { return std::pow(r, k); }, 1));
   }
-  for (const double width : {1.0, 1.4, 1.8}) {
+  for (const double width : {0.8, 1.0, 1.4, 1.8}) {
     expect_one_rounding(hermitian_system<T>(
         40, [&](int k) { return std::exp(-k * k / (2 * width * width)); }, 2));
   }
@@ -123,105 +88,9 @@ TYPED_TEST(Toeplitz, IllConditionedSystemsLoseNothing) {
 }
 
 TEST(ToeplitzComplex, HermitianSystem) {
-  const auto f = [](int k) { return std::polar(std::pow(0.999, k), 0.7 * k); };
-  expect_one_rounding(hermitian_system<Complex>(80, f, 4));
-}
-
-// Solves with LAPACK and returns its own bound of the solution's relative error.
-template <class T>
-double solve_with_lapack(const System<T>& s, std::vector<T>& x) {
-  const int m = s.order(), one = 1;
-  const std::size_t order = s.row.size();
-  std::vector<T> a(order * order), factors, work(3 * order);
-  for (int j = 0; j < m; ++j) {
-    for (int i = 0; i < m; ++i) a[i + j * order] = static_cast<T>(s.entry(i, j));
-  }
-  factors = a;
-  x = s.b;
-  std::vector<int> pivots(order), integers(order);
-  std::vector<float> reals(order);
-  int info = -1;
-  float forward = 0, backward = 0;
-  if constexpr (std::is_same_v<T, float>) {
-    sgesv_(&m, &one, factors.data(), &m, pivots.data(), x.data(), &m, &info);
-    sgerfs_("N", &m, &one, a.data(), &m, factors.data(), &m, pivots.data(), s.b.data(), &m, x.data(), &m, &forward,
-            &backward, work.data(), integers.data(), &info, 1);
-  } else {
-    cgesv_(&m, &one, factors.data(), &m, pivots.data(), x.data(), &m, &info);
-    cgerfs_("N", &m, &one, a.data(), &m, factors.data(), &m, pivots.data(), s.b.data(), &m, x.data(), &m, &forward,
-            &backward, work.data(), reals.data(), &info, 1);
-  }
-  EXPECT_EQ(info, 0);
-  return static_cast<double>(forward);
-}
-
-TYPED_TEST(Toeplitz, AgreesWithLapackWithinItsErrorBound) {
-  using T = TypeParam;
-  std::vector<System<T>> systems;
-  for (const int m : {1, 2, 7, 50, 150}) systems.push_back(random_system<T>(m, T(4), static_cast<unsigned>(m)));
-  for (const double r : {0.9, 0.99}) {
-    systems.push_back(hermitian_system<T>(
-        100, [&](int k) { return std::pow(r, k); }, 5));
-  }
-  for (const System<T>& s : systems) {
-    std::vector<T> lapack;
-    const double bound = solve_with_lapack(s, lapack);
-    const std::vector<T> x = solve(s);
-    EXPECT_LE(relative_error(lapack.data(), std::vector<Wide<T>>(x.begin(), x.end())), bound + kOneRounding);
-    EXPECT_LT(bound, 0.1) << "the bound says nothing, order " << s.order();
-  }
-}
-
-// The recursion's own bound, which its reflection coefficients k give in closed form for a positive definite matrix:
-// G. Cybenko (SIAM J. Sci. Stat. Comput. 1 (1980) 303-319) shows that its residual is as small as that of Cholesky's
-// method, and that the norm of the inverse is at most (1/e) prod (1 + |k|) / (1 - |k|), e = t(0). So the error is at
-// most m u ||T|| / e times this product, u being 2^-53 here, and one rounding of each element.
-template <class T>
-double recursion_bound(const System<T>& s) {
-  const int m = s.order();
-  std::vector<Wide<T>> a, next;  // Durbin: predictor of order j
-  double product = 1.0, power = std::abs(s.entry(0, 0)), norm = power;
-  for (int j = 0; j + 1 < m; ++j) {
-    Wide<T> miss = s.entry(j + 1, 0);
-    for (int i = 0; i < j; ++i) miss += a[i] * s.entry(j - i, 0);
-    const Wide<T> k = -miss / power;
-    next = a;
-    for (int i = 0; i < j; ++i) {
-      if constexpr (std::is_same_v<T, float>) {
-        next[i] += k * a[j - 1 - i];
-      } else {
-        next[i] += k * std::conj(a[j - 1 - i]);
-      }
-    }
-    next.push_back(k);
-    a = next;
-    power *= 1.0 - std::norm(k);
-    product *= (1.0 + std::abs(k)) / (1.0 - std::abs(k));
-    norm += 2 * std::abs(s.entry(j + 1, 0));
-    EXPECT_LT(std::abs(k), 1.0) << "not positive definite";
-  }
-  return m * 0x1p-53 * norm / std::abs(s.entry(0, 0)) * product;
-}
-
-TYPED_TEST(Toeplitz, StaysWithinTheBoundOfItsReflectionCoefficients) {
-  using T = TypeParam;
-  std::vector<System<T>> systems;
-  const auto add = [&](int m, const auto& f) { systems.push_back(hermitian_system<T>(m, f, 6)); };
-  for (const double r : {0.5, 0.99, 0.9999}) add(100, [=](int k) { return std::pow(r, k); });
-  for (const double width : {0.8, 1.4, 1.8}) add(30, [=](int k) { return std::exp(-k * k / (2 * width * width)); });
-  add(60, [](int k) { return (k == 0 ? 1e-2 : 0.0) + std::cos(0.3 * k); });
-  if constexpr (!std::is_same_v<T, float>) add(80, [](int k) { return std::polar(std::pow(0.99, k), 0.7 * k); });
-  for (const System<T>& s : systems) {
-    const std::vector<Wide<T>> exact = solve_densely(s);
-    const std::vector<T> x = solve(s);
-    double error = 0.0, size = 0.0;
-    for (std::size_t i = 0; i < x.size(); ++i) {
-      error += std::abs(Wide<T>(x[i]) - exact[i]);
-      size += std::abs(exact[i]);
-    }
-    const double bound = recursion_bound(s);
-    EXPECT_LE(error, (bound + kOneRounding) * size) << "order " << s.order();
-    EXPECT_LT(bound, 0.1) << "the bound says nothing, order " << s.order();
+  for (const double r : {0.99, 0.999}) {
+    expect_one_rounding(hermitian_system<Complex>(
+        80, [=](int k) { return std::polar(std::pow(r, k), 0.7 * k); }, 4));
   }
 }
 
@@ -252,9 +121,9 @@ TYPED_TEST(Toeplitz, SingularLeadingMinorGivesNaNWithoutDividingByZero) {
 
 TYPED_TEST(Toeplitz, OrderZeroTouchesNothing) {
   using T = TypeParam;
-  Guarded<T> x(0);
+  Guarded<T> x(0, T{});
   for (const int m : {0, -1}) {
-    call(static_cast<T*>(nullptr), static_cast<T*>(nullptr), static_cast<T*>(nullptr), x.get(),
+    call(static_cast<T*>(nullptr), static_cast<T*>(nullptr), static_cast<T*>(nullptr), x.data(),
          static_cast<T*>(nullptr), static_cast<T*>(nullptr), m);
   }
   EXPECT_TRUE(x.intact());
