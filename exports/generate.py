@@ -50,6 +50,8 @@ def build_files(families: list[Family]) -> dict[str, str]:
     for family in families:
         if text := constants.cpp_header(family, table_of(family)):
             files[f"{family.name}_constants.hpp"] = text
+        if text := constants.status_texts(family, table_of(family)):
+            files[f"{family.name}_status_texts.hpp"] = text
         files[f"entries_{family.name}.cpp"] = thunks.source(family, table_of(family))
         files[f"fortran_{family.name}_plain.c"] = linking.fortran_names(family, through_index=False)
         files[f"fortran_{family.name}_index.c"] = linking.fortran_names(family, through_index=True)

@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import json
 import os
 import re
 
@@ -119,4 +120,20 @@ def cpp_header(family: Family, table: str) -> str:
     if not parts:
         return ""
     head = HEAD.format(table=table, namespace=family.namespace)
+    return "\n".join([head, *parts, f"}}  // namespace quorin::{family.namespace}\n"])
+
+
+def status_texts(family: Family, table: str) -> str:
+    """What each routine's statuses mean, in words. Empty for a family that does not take its statuses from the table."""
+    if not any(group.tag for group in family.statuses):
+        return ""
+    parts = ["struct StatusText {\n  std::int32_t status;\n  const char* text;\n};\n"]
+    for routine in family.routines:
+        values = [value for group in family.status_groups(routine) for value in family.statuses_of(routine, group)]
+        texts = {value.value: value.text for value in values}
+        rows = "".join(f"    {{{value}, {json.dumps(text)}}},\n" for value, text in texts.items())
+        name = "".join(part.capitalize() for part in routine.name.split("_"))
+        if rows:
+            parts.append(f"inline constexpr StatusText k{name}Texts[] = {{\n{rows}}};\n")
+    head = HEAD.format(table=table, namespace=family.namespace).replace("#include <array>\n", "")
     return "\n".join([head, *parts, f"}}  // namespace quorin::{family.namespace}\n"])

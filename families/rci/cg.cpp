@@ -16,7 +16,7 @@ void cg_init(int n, const double*, const double*, int* request, int* ipar, doubl
 }
 
 void cg_check(int, const double*, const double*, int* request, int* ipar, const double* dpar, const double*) noexcept {
-  const Messages messages("dcg_check", kCgFiles, ConstIpar(ipar));
+  const Messages messages("dcg_check", kDcgCheckTexts, kCgFiles, ConstIpar(ipar));
   *request = static_cast<int>(check_cg(true, Ipar(ipar), ConstDpar(dpar), messages));
 }
 
@@ -31,7 +31,7 @@ void cg(int, double* x, const double* b, int* request, int* ipar, double* dpar, 
     what = advance_cg(vectors, stage, parameters, Dpar(dpar));
     parameters.stage() = static_cast<int>(stage);
   }
-  report_cg(what, Messages("dcg", kCgFiles, ConstIpar(ipar)));
+  Messages("dcg", kDcgTexts, kCgFiles, ConstIpar(ipar)).report(what);
   *request = static_cast<int>(what);
 }
 

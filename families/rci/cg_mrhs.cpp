@@ -78,14 +78,14 @@ void cg_mrhs_init(int n, const double*, int nrhs, const double*, int method, int
 
 void cg_mrhs_check(int, const double*, int nrhs, const double*, int* request, int* ipar, const double* dpar,
                    const double*) noexcept {
-  const Messages messages("dcgmrhs_check", kCgFiles, ConstIpar(ipar));
+  const Messages messages("dcgmrhs_check", kDcgmrhsCheckTexts, kCgFiles, ConstIpar(ipar));
   *request = static_cast<int>(check_cg(nrhs > 0, Ipar(ipar), ConstDpar(dpar), messages));
 }
 
 void cg_mrhs(int, double* x, int nrhs, const double* b, int* request, int* ipar, double* dpar, double* tmp) noexcept {
   const Ipar parameters(ipar);
   const Request what = advance_all(parameters.size(), x, nrhs, b, parameters, Dpar(dpar), tmp);
-  report_cg(what, Messages("dcgmrhs", kCgFiles, ConstIpar(ipar)));
+  Messages("dcgmrhs", kDcgmrhsTexts, kCgFiles, ConstIpar(ipar)).report(what);
   *request = static_cast<int>(what);
 }
 

@@ -135,13 +135,6 @@ class CgRun {
   Dpar dpar_;
 };
 
-constexpr Messages::Meaning<Request> kMeanings[] = {
-    {kIterationLimit, "the iteration limit was reached before the residual test was met"},
-    {kCgZeroDivision, "division by zero; the matrix is not, or almost not, positive definite"},
-    {kCgInvalidNorm, "the residual norm is invalid; dpar was altered or the check routine was skipped"},
-    {kEndlessLoop, "endless loop; no stopping test is on, or the size or stage in ipar was altered"},
-};
-
 }  // namespace
 
 Request advance_cg(const CgVectors& v, CgStage& stage, Ipar ipar, Dpar dpar) {
@@ -162,7 +155,5 @@ void set_cg_defaults(int n, Ipar ipar, Dpar dpar) {
 Check check_cg(bool sizes_valid, Ipar ipar, ConstDpar dpar, Messages messages) {
   return check_stopping(sizes_valid && ipar.size() > 0, ipar, dpar, messages);
 }
-
-void report_cg(Request request, Messages messages) { messages.report(request, kMeanings); }
 
 }  // namespace quorin::rci

@@ -45,7 +45,4 @@ void set_cg_defaults(int n, Ipar ipar, Dpar dpar);
 // What both check routines do. `sizes_valid`: the sizes beyond ipar(1) are.
 [[nodiscard]] Check check_cg(bool sizes_valid, Ipar ipar, ConstDpar dpar, Messages messages);
 
-// Puts a negative request into words.
-void report_cg(Request request, Messages messages);
-
 }  // namespace quorin::rci

@@ -213,15 +213,6 @@ bool is_intact(ConstIpar ipar, const FgmresLayout& layout) {
 
 bool has_begun(ConstIpar ipar) { return ipar.stage() != static_cast<int>(kGmresStart); }
 
-constexpr Messages::Meaning<Request> kMeanings[] = {
-    {kIterationLimit, "the iteration limit was reached before the residual test was met"},
-    {kGmresZeroDivision,
-     "division by zero; the matrix is degenerate or nearly so, dpar was altered, or the iteration went "
-     "on from the solution"},
-    {kEndlessLoop, "endless loop; no stopping test is on"},
-    {kCorruptParameters, "the parameters in ipar are not those of a run under way"},
-};
-
 Request advance(double* x, const double* b, Ipar ipar, Dpar dpar, double* tmp) {
   const FgmresLayout layout(ipar.size(), ipar.cycle_length());
   if (!has_begun(ipar.as_const())) {
@@ -263,7 +254,7 @@ void fgmres_check(int, const double*, const double*, int* request, int* ipar, co
                   const double*) noexcept {
   const Ipar parameters(ipar);
   const ConstIpar values(ipar);
-  Messages messages("dfgmres_check", kFgmresFiles, values);
+  Messages messages("dfgmres_check", kDfgmresCheckTexts, kFgmresFiles, values);
   const FgmresLayout layout(parameters.size(), parameters.cycle_length());
   *request = static_cast<int>(check_stopping(layout.valid, parameters, ConstDpar(dpar), messages));
   if (layout.valid && !layout.matches(values)) {
@@ -274,7 +265,7 @@ void fgmres_check(int, const double*, const double*, int* request, int* ipar, co
 
 void fgmres(int, double* x, double* b, int* request, int* ipar, double* dpar, double* tmp) noexcept {
   const Request what = advance(x, b, Ipar(ipar), Dpar(dpar), tmp);
-  Messages("dfgmres", kFgmresFiles, ConstIpar(ipar)).report(what, kMeanings);
+  Messages("dfgmres", kDfgmresTexts, kFgmresFiles, ConstIpar(ipar)).report(what);
   *request = static_cast<int>(what);
 }
 
@@ -288,7 +279,7 @@ void fgmres_get(int, double* x, double* b, int* request, const int* ipar, const 
   const FgmresLayout layout(n, parameters.cycle_length());
   if (n <= 0 || (has_begun(parameters) && !is_intact(parameters, layout))) {
     *request = static_cast<int>(kCorruptParameters);
-    return Messages("dfgmres_get", kFgmresFiles, parameters).report(kCorruptParameters, kMeanings);
+    return Messages("dfgmres_get", kDfgmresGetTexts, kFgmresFiles, parameters).report(kCorruptParameters);
   }
   const bool into_b = parameters.solution_target() > 0;
   if (into_b) copy(static_cast<std::size_t>(n), x, b);

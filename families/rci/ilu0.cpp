@@ -82,15 +82,6 @@ Ilu0Status factorize(int n, const double* a, const int* ia, const int* ja, Pivot
   return kDone;
 }
 
-constexpr Messages::Meaning<Ilu0Status> kMeanings[] = {
-    {kNoDiagonal, "a diagonal entry is absent from the matrix"},
-    {kZeroPivot, "a pivot is zero"},
-    {kSmallPivot, "a pivot is too small, or not finite"},
-    {kNoMemory, "not enough memory for work arrays"},
-    {kBadSize, "the size of the matrix is not positive"},
-    {kUnsortedColumns, "the columns of a row do not ascend, or are outside the matrix"},
-};
-
 }  // namespace
 
 void ilu0(int n, const double* a, const int* ia, const int* ja, double* bilu0, const int* ipar, const double* dpar,
@@ -99,7 +90,7 @@ void ilu0(int n, const double* a, const int* ia, const int* ja, double* bilu0, c
   const ConstDpar reals(dpar);
   const PivotRule rule{integers.replace_pivots() != 0, std::fabs(reals.pivot_threshold()), reals.replacement_pivot()};
   const Ilu0Status status = factorize(n, a, ia, ja, rule, bilu0);
-  Messages("dcsrilu0", kIluFiles, integers).report(status, kMeanings);
+  Messages("dcsrilu0", kDcsrilu0Texts, kIluFiles, integers).report(status);
   *ierr = static_cast<int>(status);
 }
 

@@ -210,34 +210,22 @@ class Factorization {
 // Puts tolerance and fill right. Returns the first warning that applies.
 IlutStatus adjust(int n, Rule& rule, Messages& messages) {
   IlutStatus first = kDone;
-  const auto warn = [&](IlutStatus code, const char* text) {
-    messages.warning(code, text);
+  const auto warn = [&](IlutStatus code) {
+    messages.warning(code);
     if (first == kDone) first = code;
   };
   if (rule.fill >= n) {
-    warn(kFillReduced, "the maximal fill is not less than the size of the matrix; size - 1 is used");
+    warn(kFillReduced);
     rule.fill = n - 1;
   }
   if (rule.tolerance < 0.0) {
-    warn(kToleranceNegative, "the tolerance is negative; its magnitude is used");
+    warn(kToleranceNegative);
     rule.tolerance = -rule.tolerance;
   }
-  if (rule.tolerance > rule.pivot_multiplier) {
-    warn(kToleranceLarge, "the tolerance is greater than dpar(31); the calculation may be unstable");
-  }
-  if (rule.pivot_multiplier == 0.0) warn(kMultiplierZero, "dpar(31) is zero; the calculation may fail");
+  if (rule.tolerance > rule.pivot_multiplier) warn(kToleranceLarge);
+  if (rule.pivot_multiplier == 0.0) warn(kMultiplierZero);
   return first;
 }
-
-constexpr Messages::Meaning<IlutStatus> kMeanings[] = {
-    {kEmptyRow, "a row has no elements"},
-    {kBadPivot, "a pivot is too small for its row, or not finite"},
-    {kDecreasingRows, "the row starts do not increase"},
-    {kNoMemory, "not enough memory for work arrays"},
-    {kBadFill, "the maximal fill is negative"},
-    {kBadSize, "the size of the matrix is not positive"},
-    {kBadColumn, "a column is outside the matrix"},
-};
 
 IlutStatus factorize(const Matrix& m, const Rule& rule, const Factors& out) {
   Scratch scratch(static_cast<std::size_t>(m.n));
@@ -255,7 +243,7 @@ IlutStatus check(const Matrix& m, const Rule& rule) {
 void ilut(int n, const double* a, const int* ia, const int* ja, double* bilut, int* ibilut, int* jbilut, double tol,
           int maxfil, const int* ipar, const double* dpar, int* ierr) noexcept {
   const ConstIpar integers(ipar);
-  Messages messages("dcsrilut", kIluFiles, integers);
+  Messages messages("dcsrilut", kDcsrilutTexts, kIluFiles, integers);
   const Matrix matrix{n, a, ia, ja};
   Rule rule{tol, maxfil, integers.replace_pivots() != 0, ConstDpar(dpar).pivot_multiplier()};
   IlutStatus warning = kDone, error = check(matrix, rule);
@@ -263,7 +251,7 @@ void ilut(int n, const double* a, const int* ia, const int* ja, double* bilut, i
     warning = adjust(n, rule, messages);
     error = factorize(matrix, rule, {bilut, ibilut, jbilut});
   }
-  messages.report(error, kMeanings);
+  messages.report(error);
   *ierr = static_cast<int>(error != kDone ? error : warning);
 }
 

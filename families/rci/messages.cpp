@@ -24,6 +24,9 @@ void put_line(const char* line, const char* file, bool append) {
 }  // namespace
 
 void Messages::print(const char* kind, int code, const char* text, const char* file) {
+  for (const StatusText& known : texts_) {
+    if (text == nullptr && known.status == code) text = known.text;
+  }
   char line[256];
   if (code != 0) {
     std::snprintf(line, sizeof line, "%s: %s %d: %s\n", routine_, kind, code, text);

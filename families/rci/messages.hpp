@@ -1,9 +1,10 @@
 // What the solvers tell in words, when the host wants it: whole lines, to the screen or to a file of the family.
 #pragma once
 
-#include <cstddef>
+#include <span>
 
 #include "families/rci/parameters.hpp"
+#include "generated/rci_status_texts.hpp"
 
 namespace quorin::rci {
 
@@ -17,42 +18,32 @@ class Messages {
     const char* warnings;
   };
 
-  Messages(const char* routine, Files files, ConstIpar ipar)
+  // `texts`: what the routine's statuses mean.
+  Messages(const char* routine, std::span<const StatusText> texts, Files files, ConstIpar ipar)
       : routine_(routine),
+        texts_(texts),
         files_(files),
         to_screen_(ipar.message_destination() == kScreen),
         errors_wanted_(ipar.print_errors() != 0),
         warnings_wanted_(ipar.print_warnings() != 0) {}
 
-  // What a code that a routine returns means.
+  // The error message of a code that is one.
   template <class Code>
-  struct Meaning {
-    Code code;
-    const char* text;
-  };
-
-  // The error message of a code that has a meaning.
-  template <class Code, std::size_t n>
-  void report(Code code, const Meaning<Code> (&meanings)[n]) {
-    for (const auto& [known, text] : meanings) {
-      if (known == code) error(code, text);
-    }
+  void report(Code code) {
+    if (errors_wanted_ && static_cast<int>(code) < 0) print("error", static_cast<int>(code), nullptr, files_.errors);
   }
-
-  // `code` is what the routine returns; 0 is left out of the text.
+  // A warning, in the words of its status or in others. `code` is what the routine returns; 0 is left out of the text.
   template <class Code>
-  void error(Code code, const char* text) {
-    if (errors_wanted_) print("error", static_cast<int>(code), text, files_.errors);
-  }
-  template <class Code>
-  void warning(Code code, const char* text) {
+  void warning(Code code, const char* text = nullptr) {
     if (warnings_wanted_) print("warning", static_cast<int>(code), text, files_.warnings);
   }
 
  private:
+  // Without `text`, in the words of the status.
   void print(const char* kind, int code, const char* text, const char* file);
 
   const char* routine_;
+  std::span<const StatusText> texts_;
   Files files_;
   bool to_screen_;
   bool errors_wanted_;

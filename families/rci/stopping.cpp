@@ -26,24 +26,23 @@ void set_stopping_defaults(int n, int initial_stage, Ipar ipar, Dpar dpar) {
 
 Check check_stopping(bool sizes_valid, Ipar ipar, ConstDpar dpar, Messages& messages) {
   if (!sizes_valid) {
-    messages.error(Check::kErrors,
-                   "a size in the parameters is not positive, or too large for the work array's positions");
+    messages.report(Check::kErrors);
     return Check::kErrors;
   }
   bool warned = false;
   if (ipar.iteration_limit() <= 0) {
-    messages.warning(Check::kWarnings, "the maximum number of iterations is not positive");
+    messages.warning(Check::kWarnings, "the iteration limit is not positive");
     warned = true;
   }
   // Written so that a NaN is caught too.
   if (!(dpar.relative_tolerance() >= 0.0) || !(dpar.absolute_tolerance() >= 0.0)) {
-    messages.warning(Check::kWarnings, "a tolerance is negative");
+    messages.warning(Check::kWarnings, "a tolerance is negative or NaN");
     warned = true;
   }
   if (ipar.has_stopping_test()) return warned ? Check::kWarnings : Check::kConsistent;
   ipar.limit_test() = 1;
   ipar.residual_test() = 1;
-  messages.warning(Check::kAltered, "no stopping test was on; the iteration limit and the residual test are on now");
+  messages.warning(Check::kAltered);
   return Check::kAltered;
 }
 

@@ -1,8 +1,9 @@
 // The incomplete factorizations when memory fails: each allocation in turn.
-#include <algorithm>
+#include <gtest/gtest.h>
 
-#include "tests/rci/ilu_oracle.hpp"
-#include "tests/rci/rci_host.hpp"
+#include <algorithm>
+#include <vector>
+
 #include "tests/support/failing_host.hpp"
 
 namespace rci_test {
@@ -10,17 +11,19 @@ namespace {
 
 TEST(IluWithoutMemory, ReportsItAndLeavesTheOutputs) {
   const quorin::test::FailingHost host;
-  const Csr A = spd4();
-  const Settings s(1.0);
+  const int n = 4, ia[] = {1, 4, 7, 10, 13}, ja[] = {1, 2, 3, 1, 2, 4, 1, 3, 4, 2, 3, 4};
+  const double a[] = {4, -1, -1, -1, 4, -1, -1, 4, -1, -1, -1, 4};
+  const std::vector<int> ipar(128);
+  std::vector<double> dpar(128), values;
+  dpar[30] = 1;
   const double tolerance = 1e-6;
   const int full = 3;
-  Vector values;
   std::vector<int> starts(5), columns(17);
   const auto is_marked = [&] { return std::all_of(values.begin(), values.end(), [](double v) { return v == -7.0; }); };
   const auto ilu0 = [&] {
-    values.assign(A.a.size(), -7.0);
+    values.assign(std::size(a), -7.0);
     int ierr = 7;
-    host->DCSRILU0(&A.n, A.a.data(), A.ia.data(), A.ja.data(), values.data(), s.ipar.data(), s.dpar.data(), &ierr);
+    host->DCSRILU0(&n, a, ia, ja, values.data(), ipar.data(), dpar.data(), &ierr);
     return ierr;
   };
   expect_status_without_memory(host, -104, ilu0, is_marked);
@@ -28,8 +31,8 @@ TEST(IluWithoutMemory, ReportsItAndLeavesTheOutputs) {
   const auto ilut = [&] {
     values.assign(columns.size(), -7.0);
     int ierr = 7;
-    host->DCSRILUT(&A.n, A.a.data(), A.ia.data(), A.ja.data(), values.data(), starts.data(), columns.data(), &tolerance,
-                   &full, s.ipar.data(), s.dpar.data(), &ierr);
+    host->DCSRILUT(&n, a, ia, ja, values.data(), starts.data(), columns.data(), &tolerance, &full, ipar.data(),
+                   dpar.data(), &ierr);
     return ierr;
   };
   expect_status_without_memory(host, -104, ilut, is_marked);
