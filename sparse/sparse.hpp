@@ -1,6 +1,9 @@
 // The engine under the sparse direct solvers, as they see it.
 #pragma once
 
+#include "sparse/numeric/assembly.hpp"
+#include "sparse/numeric/factor.hpp"
+#include "sparse/numeric/solve.hpp"
 #include "sparse/orderings/minimum_degree.hpp"
 #include "sparse/orderings/orderings.hpp"
 #include "sparse/pattern/compressed.hpp"
@@ -9,3 +12,4 @@
 #include "sparse/pattern/product.hpp"
 #include "sparse/pattern/transpose.hpp"
 #include "sparse/symbolic/elimination_tree.hpp"
+#include "sparse/symbolic/plan.hpp"

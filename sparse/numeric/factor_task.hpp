@@ -1,0 +1,68 @@
+// What both methods of factorization work on.
+#pragma once
+
+#include <atomic>
+
+#include "sparse/numeric/factor.hpp"
+
+namespace quorin::sparse {
+
+// One factorization, under way. Its functions may be called from several threads, for different supernodes.
+template <Scalar T>
+class FactorTask {
+ public:
+  FactorTask(const Plan& shared_plan, const Assembly& places, const Values<T>& values, const PivotRule<T>& pivot_rule,
+             const Panels<T>& factor_panels, const PivotOrder& pivot_order, int most_threads,
+             Progress* progress) noexcept
+      : plan(shared_plan),
+        assembly(places),
+        A(values),
+        rule(pivot_rule),
+        panels(factor_panels),
+        order(pivot_order),
+        threads(most_threads),
+        progress_(progress),
+        failed_supernode_(plan.supernodes()) {}
+
+  // Assembles panel s: zeros, and the entries of A.
+  void assemble_panel(int s, T* panel) const noexcept { assemble(plan, assembly, A, s, panel); }
+  // Eliminates panel s, whose updates have all been made; the panel of a Schur complement is left as it is. False when
+  // that failed. `scratch`: elimination_scratch(plan.most_columns()).
+  bool eliminate(int s, T* panel, T* scratch, int panel_threads) noexcept;
+
+  // Says that work on supernode s cannot go on. Of several failures the one of the first supernode counts, so that the
+  // outcome does not depend on the number of threads.
+  void fail(int s, FactorOutcome outcome) noexcept;
+  // Whether work on supernode s is still of use: no supernode before it has failed, and nobody has cancelled.
+  bool may_go_on(int s) const noexcept { return s < failed_supernode_.load(std::memory_order_relaxed); }
+  // All panels before supernode `done` are made; or, in a subtree, `done` - `first` more of them.
+  void report_progress(int first, int done) noexcept;
+
+  FactorOutcome outcome() const noexcept { return outcome_; }
+  int failed_column() const noexcept { return failed_column_; }
+  const PivotCounts& counts() const noexcept { return counts_; }
+
+  const Plan& plan;
+  const Assembly& assembly;
+  const Values<T>& A;
+  const PivotRule<T> rule;
+  const Panels<T>& panels;
+  const PivotOrder order;
+  const int threads;
+
+ private:
+  Progress* const progress_;
+  std::atomic<int> failed_supernode_;
+  std::atomic_flag is_locked_;  // guards what follows
+  FactorOutcome outcome_ = FactorOutcome::kDone;
+  int failed_column_ = kNone;
+  double operations_done_ = 0;
+  PivotCounts counts_;
+};
+
+// The methods. Kernel buffers for task.threads threads are reserved. What goes wrong stands in the task; `bytes`
+// becomes what was allocated beside the panels.
+template <Scalar T>
+void factor_left_looking(FactorTask<T>& task, std::int64_t& bytes) noexcept;
+
+}  // namespace quorin::sparse

@@ -1,0 +1,302 @@
+#include "sparse/symbolic/plan.hpp"
+
+#include <algorithm>
+#include <limits>
+#include <numeric>
+
+#include "sparse/symbolic/elimination_tree.hpp"
+#include "sparse/symbolic/supernodes.hpp"
+
+namespace quorin::sparse {
+
+using base::Workspace;
+
+namespace {
+
+std::size_t to_size(int n) noexcept { return static_cast<std::size_t>(n); }
+
+// The elimination tree with the steps in postorder.
+struct OrderedTree {
+  explicit OrderedTree(int n) noexcept
+      : memory(base::saturating_product(to_size(n), 8)),
+        steps{memory.data(), memory.data() + n},
+        parent(steps.inverse + n),
+        counts(parent + n),
+        scratch(counts + n) {}
+
+  Workspace<int> memory;
+  Ordering steps;
+  int *parent, *counts;
+  int* scratch;  // 4 n
+};
+
+// Rearranges the ordering into a postorder of its tree. The last `schur_size` steps are taken for a clique, so that
+// they remain the last: each is the parent of the one before, and comes after all of its other children.
+void order_tree_by_depth(const Graph& graph, const Ordering& ordering, int schur_size, OrderedTree& tree) noexcept {
+  const int n = graph.size();
+  int* const given_parent = tree.counts;  // which is not in use yet
+  elimination_tree(graph, ordering, given_parent, tree.scratch);
+  for (int k = n - schur_size; k < n; ++k) given_parent[k] = k + 1 < n ? k + 1 : kNone;
+  int* const order = tree.scratch;
+  int* const place = order + n;
+  postorder(n, given_parent, order, place);
+  for (int k = 0; k < n; ++k) place[order[k]] = k;
+  for (int k = 0; k < n; ++k) {
+    const int given = order[k];
+    tree.steps.place(ordering.permutation[given], k);
+    tree.parent[k] = given_parent[given] == kNone ? kNone : place[given_parent[given]];
+  }
+}
+
+void count_entries(const Graph& graph, int schur_size, OrderedTree& tree, int* identity) noexcept {
+  const int n = graph.size();
+  std::iota(identity, identity + n, 0);
+  column_counts(graph, tree.steps, tree.parent, identity, tree.counts, tree.scratch);
+  for (int k = n - schur_size; k < n; ++k) tree.counts[k] = n - k;
+}
+
+// The remaining supernodes in postorder, the children of each arranged so that a stack of update matrices is smallest.
+struct Arrangement {
+  explicit Arrangement(int supernodes) noexcept
+      : memory(base::saturating_product(to_size(supernodes), 5) + 1),
+        peak(to_size(supernodes)),
+        order(memory.data()),
+        child_starts(order + supernodes),
+        children(child_starts + supernodes + 1),
+        place(children + supernodes) {}
+
+  Workspace<int> memory;
+  Workspace<double> peak;
+  int count = 0;
+  int* order;         // supernodes by their new numbers
+  int* child_starts;  // count + 1
+  int* children;
+  int* place;  // new numbers
+  double stack = 0;
+};
+
+double update_size(const Supernodes& supernodes, int s) noexcept {
+  return static_cast<double>(supernodes.below[s]) * supernodes.below[s];
+}
+
+// If children c_1, c_2, ... of s need P(c) elements at the most and leave U(c), then s needs the largest of
+// U(c_1) + ... + U(c_i-1) + P(c_i) and, when all of them are added into its own update, U(c_1) + ... + U(s). That is
+// least with P(c) - U(c) descending. Liu, ACM TOMS 12 (1986) 249-264.
+double least_stack(const Supernodes& supernodes, int s, Arrangement& arranged) noexcept {
+  int* const begin = arranged.children + arranged.child_starts[s];
+  int* const end = arranged.children + arranged.child_starts[s + 1];
+  const auto rest = [&](int c) { return arranged.peak[to_size(c)] - update_size(supernodes, c); };
+  std::sort(begin, end, [&](int a, int b) { return rest(a) != rest(b) ? rest(a) > rest(b) : a < b; });
+  double left = 0, most = 0;
+  for (const int* c = begin; c != end; ++c) {
+    most = std::max(most, left + arranged.peak[to_size(*c)]);
+    left += update_size(supernodes, *c);
+  }
+  return std::max(most, left + update_size(supernodes, s));
+}
+
+void arrange(const Supernodes& supernodes, const int* parent, const int* merged_into, Arrangement& arranged) noexcept {
+  const int count = supernodes.count;
+  const auto remains = [&](int s) { return merged_into[s] == s; };
+  int* const next = arranged.place;
+  std::fill_n(next, count, 0);
+  for (int s = 0; s < count; ++s) {
+    if (remains(s) && parent[s] != kNone) ++next[parent[s]];
+  }
+  cumulate(count, next, arranged.child_starts);
+  for (int s = 0; s < count; ++s) {
+    if (remains(s) && parent[s] != kNone) arranged.children[next[parent[s]]++] = s;
+  }
+  for (int s = 0; s < count; ++s) {
+    if (!remains(s)) continue;
+    arranged.peak[to_size(s)] = least_stack(supernodes, s, arranged);
+    if (parent[s] == kNone) arranged.stack = std::max(arranged.stack, arranged.peak[to_size(s)]);
+  }
+  // Postorder: down to the next child that has not been visited, else up.
+  std::copy_n(arranged.child_starts, count, next);
+  for (int root = 0; root < count; ++root) {
+    if (!remains(root) || parent[root] != kNone) continue;
+    for (int s = root; s != kNone;) {
+      if (next[s] < arranged.child_starts[s + 1]) {
+        s = arranged.children[next[s]++];
+      } else {
+        arranged.order[arranged.count++] = s;
+        s = parent[s];
+      }
+    }
+  }
+  for (int k = 0; k < arranged.count; ++k) arranged.place[arranged.order[k]] = k;
+}
+
+// Operations on a column with r rows below it: its pivot, r divisions, and its multiples are subtracted from r columns
+// of 1, ..., r rows.
+double column_operations(double r) noexcept { return 1 + r + r * (r + 1); }
+
+// `before` is ascending, from 0 to the sum.
+template <class Before>
+int cut_tree(const Plan& plan, int parts, const Before& before, SupernodeRange* ranges) noexcept {
+  const int count = plan.eliminated();
+  const double most = before(count) / parts, least = most / kRangesPerPart;
+  int found = 0;
+  const auto weight = [&](int first, int end) { return before(end) - before(first); };
+  const auto is_subtree_too_much = [&](int s) { return weight(plan.first_descendant(s), s + 1) > most; };
+  // Supernodes whose subtree is too much for a part come last, and with them all above. What stands between two of them
+  // is whole subtrees, as many as fit into a part.
+  SupernodeRange open = {0, 0};
+  const auto close = [&] {
+    if (open.end > open.first && weight(open.first, open.end) >= least) ranges[found++] = open;
+  };
+  for (int s = 0; s < count; ++s) {
+    if (is_subtree_too_much(s)) {
+      close();
+      open = {s + 1, s + 1};
+      continue;
+    }
+    const int p = plan.parent(s);
+    if (p != kNone && p < count && !is_subtree_too_much(p)) continue;
+    const int first = plan.first_descendant(s);  // of a subtree that is cut off at s
+    if (weight(open.first, s + 1) > most) {
+      close();
+      open.first = first;
+    }
+    open.end = s + 1;
+  }
+  close();
+  return found;
+}
+
+}  // namespace
+
+Outcome Plan::build(const Graph& graph, const Ordering& ordering, const PlanOptions& options) noexcept {
+  const int n = graph.size();
+  Plan plan;
+  plan.size_ = n;
+  plan.schur_size_ = options.schur_size;
+  plan.permutation_ = Workspace<int>(to_size(n));
+  plan.inverse_ = Workspace<int>(to_size(n));
+  plan.supernode_of_ = Workspace<int>(to_size(n));
+  OrderedTree tree(n);
+  Supernodes supernodes(n);
+  if (!plan.permutation_ || !plan.inverse_ || !plan.supernode_of_ || !tree.memory || !supernodes.memory) {
+    return Outcome::kOutOfMemory;
+  }
+  order_tree_by_depth(graph, ordering, options.schur_size, tree);
+  count_entries(graph, options.schur_size, tree, plan.permutation_.data());
+  plan.entries_ = std::accumulate(tree.counts, tree.counts + n, std::int64_t{0});
+  int* const height = tree.scratch;
+  std::fill_n(height, n, 1);
+  for (int k = 0; k < n; ++k) {
+    plan.depth_ = std::max(plan.depth_, height[k]);
+    if (tree.parent[k] != kNone) height[tree.parent[k]] = std::max(height[tree.parent[k]], height[k] + 1);
+  }
+
+  find_supernodes(n, tree.parent, tree.counts, n - options.schur_size, supernodes);
+  const int fundamental = supernodes.count;
+  int* const merged_into = tree.scratch;
+  int* must_merge = nullptr;
+  if (options.pair_of != nullptr) {
+    must_merge = tree.scratch + n;
+    std::fill_n(must_merge, fundamental, 0);
+    for (int k = 0; k < n; ++k) {
+      const int p = tree.parent[k];
+      if (p == kNone || supernodes.of[p] == supernodes.of[k]) continue;
+      must_merge[supernodes.of[k]] = options.pair_of[tree.steps.permutation[k]] == tree.steps.permutation[p];
+    }
+  }
+  const int fixed = options.schur_size > 0 ? fundamental - 1 : fundamental;
+  if (!merge_supernodes(fixed, must_merge, supernodes, merged_into)) return Outcome::kOutOfMemory;
+  int* const parent = tree.scratch + n;
+  for (int s = 0; s < fundamental; ++s) {
+    parent[s] = supernodes.parent[s] == kNone ? kNone : merged_into[supernodes.parent[s]];
+  }
+  Arrangement arranged(fundamental);
+  if (!arranged.memory || !arranged.peak) return Outcome::kOutOfMemory;
+  arrange(supernodes, parent, merged_into, arranged);
+
+  const int count = arranged.count;
+  plan.supernodes_ = count;
+  plan.stack_elements_ = static_cast<std::int64_t>(arranged.stack);
+  plan.first_ = Workspace<int>(to_size(count) + 1);
+  plan.row_starts_ = Workspace<int>(to_size(count) + 1);
+  plan.parent_ = Workspace<int>(to_size(count));
+  plan.first_descendant_ = Workspace<int>(to_size(count));
+  plan.work_ = Workspace<double>(to_size(count) + 1);
+  plan.elements_ = Workspace<double>(to_size(count) + 1);
+  if (!plan.first_ || !plan.row_starts_ || !plan.parent_ || !plan.first_descendant_ || !plan.work_ || !plan.elements_) {
+    return Outcome::kOutOfMemory;
+  }
+  std::int64_t row_count = 0;
+  plan.first_[0] = plan.row_starts_[0] = 0;
+  for (int s = 0; s < count; ++s) {
+    const int old = arranged.order[s];
+    const std::size_t i = to_size(s);
+    row_count += supernodes.below[old];
+    if (row_count > std::numeric_limits<int>::max()) return Outcome::kTooLarge;
+    plan.first_[i + 1] = plan.first_[i] + supernodes.columns[old];
+    plan.row_starts_[i + 1] = static_cast<int>(row_count);
+    plan.parent_[i] = parent[old] == kNone ? kNone : arranged.place[parent[old]];
+  }
+  // The steps of a supernode in their old order, which is one of elimination.
+  int* const next = tree.scratch + 2 * n;
+  std::copy_n(plan.first_.data(), count, next);
+  const Ordering steps{plan.permutation_.data(), plan.inverse_.data()};
+  for (int k = 0; k < n; ++k) {
+    const int s = arranged.place[merged_into[supernodes.of[k]]];
+    plan.supernode_of_[to_size(next[s])] = s;
+    steps.place(tree.steps.permutation[k], next[s]++);
+  }
+
+  // Row k of the factor: each entry a_ki, i < k, makes entries in all supernodes on the way from i's up to k's.
+  plan.rows_ = Workspace<int>(to_size(static_cast<int>(row_count)));
+  if (!plan.rows_) return Outcome::kOutOfMemory;
+  int* const visited = tree.scratch + 3 * n;
+  std::fill_n(visited, count, kNone);
+  std::copy_n(plan.row_starts_.data(), count, next);
+  for (int k = 0; k < n; ++k) {
+    const int own = plan.supernode_of(k);
+    for (const int neighbour : graph.neighbours(plan.permutation()[k])) {
+      const int i = plan.inverse()[neighbour];
+      if (i > k) continue;
+      for (int s = plan.supernode_of(i); s != own && visited[s] != k; s = plan.parent(s)) {
+        visited[s] = k;
+        plan.rows_[to_size(next[s]++)] = k;
+      }
+    }
+  }
+
+  std::iota(plan.first_descendant_.begin(), plan.first_descendant_.end(), 0);
+  plan.work_[0] = plan.elements_[0] = 0;
+  for (int s = 0; s < count; ++s) {
+    const std::size_t i = to_size(s);
+    const int p = plan.parent_[i], columns = plan.columns(s), below = plan.below_count(s);
+    if (p != kNone) {
+      int& descendant = plan.first_descendant_[to_size(p)];
+      descendant = std::min(descendant, plan.first_descendant_[i]);
+    }
+    double operations = 0;
+    for (int r = below; r < below + columns; ++r) operations += column_operations(r);
+    plan.work_[i + 1] = plan.work_[i] + (s < plan.eliminated() ? operations : 0);
+    plan.elements_[i + 1] = plan.elements_[i] + static_cast<double>(columns) * plan.rows(s);
+    plan.most_columns_ = std::max(plan.most_columns_, columns);
+    plan.most_below_ = std::max(plan.most_below_, below);
+    for (const PanelKind kind : {PanelKind::kSymmetric, PanelKind::kUnsymmetric}) {
+      const auto which = static_cast<std::size_t>(kind);
+      plan.panel_elements_[which] += plan.panel_size(kind, s);
+      plan.largest_panel_[which] = std::max(plan.largest_panel_[which], plan.panel_size(kind, s));
+    }
+  }
+  *this = std::move(plan);
+  return Outcome::kDone;
+}
+
+int Plan::cut_by_operations(int parts, SupernodeRange* ranges) const noexcept {
+  return cut_tree(
+      *this, parts, [this](int s) { return work_[to_size(s)]; }, ranges);
+}
+
+int Plan::cut_by_elements(int parts, SupernodeRange* ranges) const noexcept {
+  return cut_tree(
+      *this, parts, [this](int s) { return elements_[to_size(s)]; }, ranges);
+}
+
+}  // namespace quorin::sparse

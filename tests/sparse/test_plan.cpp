@@ -1,0 +1,332 @@
+// Plans beside dense symbolic elimination, and assembled panels beside the dense matrix.
+#include <gtest/gtest.h>
+
+#include <complex>
+#include <cstddef>
+#include <random>
+#include <set>
+
+#include "tests/sparse/matrices.hpp"
+
+namespace quorin::sparse::test {
+namespace {
+
+using Dense = std::vector<std::vector<int>>;
+
+// Row lists of L by eliminating the dense pattern in the plan's order; the last `schur_size` steps are a clique.
+Dense dense_factor(const Graph& graph, const int* permutation, int schur_size) {
+  const int n = graph.size();
+  Dense has(n, std::vector<int>(n, 0));
+  std::vector<int> step(n);
+  for (int k = 0; k < n; ++k) step[permutation[k]] = k;
+  for (int v = 0; v < n; ++v) {
+    for (const int w : graph.neighbours(v)) has[step[v]][step[w]] = 1;
+  }
+  for (int k = 0; k < n; ++k) {
+    for (int i = k + 1; i < n; ++i) {
+      if (k >= n - schur_size) has[i][k] = 1;
+      for (int j = k + 1; has[i][k] != 0 && j < n; ++j) has[i][j] |= has[j][k];
+    }
+  }
+  return has;
+}
+
+Plan plan_of(const Matrix& A, const Ordering& ordering, const PlanOptions& options = {}) {
+  Plan plan;
+  EXPECT_EQ(plan.build(graph_of(A), ordering, options), Outcome::kDone);
+  return plan;
+}
+
+void check_tree(const Plan& plan) {
+  for (int s = 0; s < plan.supernodes(); ++s) {
+    const auto below = plan.below(s);
+    EXPECT_TRUE(std::is_sorted(below.begin(), below.end()));
+    EXPECT_TRUE(below.empty() || below[0] >= plan.first(s + 1));
+    if (!below.empty()) {
+      EXPECT_EQ(plan.parent(s), plan.supernode_of(below[0]));
+    }
+    for (int d = plan.first_descendant(s); d < s; ++d) {
+      EXPECT_LE(plan.parent(d), s);
+      EXPECT_GE(plan.first_descendant(d), plan.first_descendant(s));
+    }
+    for (int k = 0; k < plan.columns(s); ++k) EXPECT_EQ(plan.supernode_of(plan.first(s) + k), s);
+  }
+  for (const int parts : {1, 3, 16}) {
+    std::vector<SupernodeRange> ranges(kRangesPerPart * parts);
+    for (const bool by_elements : {false, true}) {
+      const int count =
+          by_elements ? plan.cut_by_elements(parts, ranges.data()) : plan.cut_by_operations(parts, ranges.data());
+      int end = 0;
+      for (int r = 0; r < count; ++r) {
+        EXPECT_GE(ranges[r].first, end);
+        end = ranges[r].end;
+        EXPECT_LE(end, plan.eliminated());
+        for (int s = ranges[r].first; s < end; ++s) EXPECT_GE(plan.first_descendant(s), ranges[r].first);
+      }
+      for (int s = 0; s < plan.supernodes(); ++s) {
+        const bool is_inside = std::any_of(ranges.begin(), ranges.begin() + count,
+                                           [&](SupernodeRange range) { return s >= range.first && s < range.end; });
+        if (is_inside || plan.parent(s) == kNone) continue;
+        for (int r = 0; r < count; ++r)
+          EXPECT_FALSE(plan.parent(s) >= ranges[r].first && plan.parent(s) < ranges[r].end);
+      }
+    }
+  }
+}
+
+// Every entry of L stands in the panels, and all that stands there beside L are the zeros of merged supernodes.
+void check_rows(const Plan& plan, const Dense& L, double most_zeros) {
+  const int n = plan.size();
+  double entries = n, stored = 0;
+  for (int k = 0; k < n; ++k) {
+    const int s = plan.supernode_of(k);
+    const auto below = plan.below(s);
+    const std::set<int> rows(below.begin(), below.end());
+    stored += plan.first(s + 1) - k + static_cast<double>(below.size());
+    for (int i = k + 1; i < n; ++i) {
+      entries += L[i][k];
+      if (L[i][k] != 0) {
+        EXPECT_TRUE(i < plan.first(s + 1) || rows.count(i) == 1) << "entry " << i << ", " << k;
+      }
+    }
+  }
+  EXPECT_EQ(static_cast<double>(plan.entries()), entries);
+  EXPECT_LE(stored, most_zeros * entries);
+}
+
+std::vector<Matrix> small_matrices() {
+  std::vector<Matrix> all = {grid(9, 7, 1, false),
+                             grid(4, 4, 4, false),
+                             wheel(25),
+                             random_forest(60, 5, 3, 2),
+                             complete_bipartite(5, 9),
+                             Edges(12).matrix("diagonal"),
+                             Edges(1).matrix("one"),
+                             Edges(2).add(0, 1).matrix("two"),
+                             Edges(0).matrix("none")};
+  for (unsigned seed = 1; seed < 12; ++seed) all.push_back(random_matrix(70, static_cast<int>(15 * seed), seed));
+  return all;
+}
+
+TEST(Plan, IsTheFactorOfDenseElimination) {
+  for (const Matrix& A : small_matrices()) {
+    SCOPED_TRACE(A.name);
+    const int n = A.columns;
+    Arrays given(n);
+    for (const std::uint64_t seed : {0, 1, 2}) {
+      order_random(n, seed, given.ordering());
+      if (seed == 0) {
+        ASSERT_EQ(order_minimum_degree(graph_of(A), given.ordering()), Outcome::kDone);
+      }
+      const Plan plan = plan_of(A, given.ordering());
+      Arrays arrays(n);
+      std::copy_n(plan.permutation(), n, arrays.permutation.begin());
+      std::copy_n(plan.inverse(), n, arrays.inverse.begin());
+      EXPECT_TRUE(arrays.is_valid());
+      EXPECT_EQ(plan.entries(), factor_entries(graph_of(A), given.ordering()));
+      check_rows(plan, dense_factor(graph_of(A), plan.permutation(), 0), 2.5);
+      check_tree(plan);
+    }
+  }
+}
+
+TEST(Plan, LeavesASchurComplementAtTheEnd) {
+  for (const Matrix& A : small_matrices()) {
+    SCOPED_TRACE(A.name);
+    const int n = A.columns;
+    Arrays given(n);
+    order_random(n, 5, given.ordering());
+    for (const int schur_size : {1, 3, n / 2, n}) {
+      if (schur_size > n || schur_size == 0) continue;
+      const Plan plan = plan_of(A, given.ordering(), {.schur_size = schur_size});
+      EXPECT_EQ(plan.eliminated(), plan.supernodes() - 1);
+      EXPECT_EQ(plan.columns(plan.eliminated()), schur_size);
+      EXPECT_EQ(plan.below_count(plan.eliminated()), 0);
+      for (int k = n - schur_size; k < n; ++k) EXPECT_EQ(plan.permutation()[k], given.permutation[k]);
+      check_rows(plan, dense_factor(graph_of(A), plan.permutation(), schur_size), 3.5);
+      check_tree(plan);
+    }
+  }
+}
+
+TEST(Plan, NeverCutsPairsApart) {
+  const Matrix A = random_matrix(80, 800, 3);
+  const Graph graph = graph_of(A);
+  const int n = A.columns;
+  Arrays given(n);
+  order_random(n, 8, given.ordering());
+  // Neighbours in the graph and in the order become pairs.
+  std::vector<int> pair_of(n, kNone);
+  int pairs = 0;
+  for (int k = 0; k + 1 < n; ++k) {
+    const int v = given.permutation[k], w = given.permutation[k + 1];
+    const auto list = graph.neighbours(v);
+    if (pair_of[v] != kNone || !std::binary_search(list.begin(), list.end(), w)) continue;
+    pair_of[v] = w;
+    pair_of[w] = v;
+    ++pairs;
+  }
+  ASSERT_GT(pairs, 10);
+  const Plan plan = plan_of(A, given.ordering(), {.pair_of = pair_of.data()});
+  for (int v = 0; v < n; ++v) {
+    if (pair_of[v] == kNone) continue;
+    EXPECT_EQ(plan.supernode_of(plan.inverse()[v]), plan.supernode_of(plan.inverse()[pair_of[v]]));
+  }
+  check_rows(plan, dense_factor(graph, plan.permutation(), 0), 3);
+}
+
+// A path whose tree is as deep as it has nodes; numbered from one end, and by halves.
+TEST(Plan, OfAMillionStepsNeedsNoDeepStack) {
+  constexpr int n = 1'000'000;
+  Edges path(n);
+  for (int i = 0; i + 1 < n; ++i) path.add(i, i + 1);
+  const Matrix A = path.matrix("path");
+  Arrays given(n);
+  order_identity(n, given.ordering());
+  const Plan plan = plan_of(A, given.ordering());
+  EXPECT_EQ(plan.entries(), 2 * n - 1);
+  EXPECT_EQ(plan.depth(), n);
+}
+
+template <Scalar T>
+T random_scalar(std::mt19937& numbers) {
+  const auto next = [&] { return static_cast<RealOf<T>>(static_cast<int>(numbers() % 2001) - 1000) / 8; };
+  if constexpr (kIsComplex<T>) {
+    const RealOf<T> re = next();
+    return {re, next()};
+  } else {
+    return next();
+  }
+}
+
+// The dense matrix that the panels hold.
+template <Scalar T>
+std::vector<T> assembled(const Plan& plan, const Assembly& assembly, const Values<T>& values) {
+  const int n = plan.size();
+  std::vector<T> dense(static_cast<std::size_t>(n) * n);
+  const bool is_symmetric = assembly.panels() == PanelKind::kSymmetric;
+  for (int s = 0; s < plan.supernodes(); ++s) {
+    const int height = plan.height(assembly.panels(), s), rows = plan.rows(s), columns = plan.columns(s);
+    std::vector<T> panel(static_cast<std::size_t>(height) * columns, T{77});
+    assemble(plan, assembly, values, s, panel.data());
+    for (int c = 0; c < columns; ++c) {
+      for (int r = 0; r < height; ++r) {
+        const int k = plan.first(s) + c;
+        const int i = r < columns ? plan.first(s) + r : plan.below(s)[r < rows ? r - columns : r - rows];
+        const T value = panel[static_cast<std::size_t>(c) * height + r];
+        dense[static_cast<std::size_t>(r < rows ? k * n + i : i * n + k)] += value;
+        if (!is_symmetric || i == k) continue;
+        dense[static_cast<std::size_t>(i * n + k)] +=
+            assembly.symmetry() == Symmetry::kHermitian ? conjugate(value) : value;
+      }
+    }
+  }
+  return dense;
+}
+
+template <class T>
+class AssembledMatrix : public testing::Test {};
+using Scalars = testing::Types<float, double, std::complex<float>, std::complex<double>>;
+TYPED_TEST_SUITE(AssembledMatrix, Scalars);
+
+TYPED_TEST(AssembledMatrix, IsThePermutedOneInAllForms) {
+  using T = TypeParam;
+  using Real = RealOf<T>;
+  std::mt19937 numbers(4);
+  for (const Matrix& graph_matrix : small_matrices()) {
+    SCOPED_TRACE(graph_matrix.name);
+    const int n = graph_matrix.columns;
+    const Graph graph = graph_of(graph_matrix);
+    Arrays given(n);
+    order_random(n, 3, given.ordering());
+    const Plan plan = plan_of(graph_matrix, given.ordering());
+    std::vector<int> row_position(n);
+    std::vector<Real> row_scale(n), column_scale(n);
+    for (int i = 0; i < n; ++i) {
+      row_position[i] = i;
+      row_scale[i] = static_cast<Real>(1 << (numbers() % 4));
+      column_scale[i] = static_cast<Real>(1 << (numbers() % 4));
+    }
+    std::shuffle(row_position.begin(), row_position.end(), numbers);
+    std::vector<int> row_at(n);
+    for (int i = 0; i < n; ++i) row_at[row_position[i]] = i;
+
+    for (int variant = 0; variant < 48; ++variant) {
+      const bool is_unsymmetric = variant % 2 == 1, by_rows = variant / 2 % 2 == 1, is_scaled = variant / 24 == 1;
+      const auto symmetry = static_cast<Symmetry>(variant / 4 % 3);
+      const auto read = static_cast<Triangle>(variant / 4 / 3 % 2 == 0 ? 0 : 1);
+      const bool is_permuted = symmetry == Symmetry::kGeneral && is_unsymmetric && read == Triangle::kAll;
+      if (!is_unsymmetric && symmetry == Symmetry::kGeneral) continue;
+      // Entries on the graph, some of them twice; with mirror images, of either triangle.
+      Edges edges(0);
+      std::vector<std::vector<int>> lists(n);
+      for (int v = 0; v < n; ++v) {
+        lists[v].push_back(is_permuted && !by_rows ? row_at[v] : v);
+        for (const int w : graph.neighbours(v)) {
+          if (numbers() % 2 == 0) lists[v].push_back(is_permuted && !by_rows ? row_at[w] : w);
+          if (numbers() % 8 == 0) lists[v].push_back(lists[v].back());
+        }
+      }
+      if (is_permuted && by_rows) {
+        std::vector<std::vector<int>> permuted(n);
+        for (int v = 0; v < n; ++v) permuted[row_at[v]] = lists[v];
+        lists = permuted;
+      }
+      const Matrix A = from_columns("entries", n, lists);
+      std::vector<T> values(A.indices.size());
+      for (T& value : values) value = random_scalar<T>(numbers);
+
+      std::vector<T> expected(static_cast<std::size_t>(n) * n);
+      std::vector<Real> sums(n);
+      const auto& scale_right = symmetry == Symmetry::kGeneral ? column_scale : row_scale;
+      for (int list = 0; list < n; ++list) {
+        for (int k = A.starts[list]; k < A.starts[list + 1]; ++k) {
+          const int i = by_rows ? list : A.indices[k], j = by_rows ? A.indices[k] : list;
+          if (read == Triangle::kLower && i < j) continue;
+          const T value = is_scaled ? values[k] * (row_scale[i] * scale_right[j]) : values[k];
+          const int row = plan.inverse()[is_permuted ? row_position[i] : i], column = plan.inverse()[j];
+          expected[static_cast<std::size_t>(column * n + row)] += value;
+          if (symmetry == Symmetry::kGeneral || row == column) continue;
+          expected[static_cast<std::size_t>(row * n + column)] +=
+              symmetry == Symmetry::kHermitian ? conjugate(value) : value;
+        }
+      }
+      Assembly assembly;
+      ASSERT_EQ(assembly.build(plan, A.pattern(),
+                               {.panels = is_unsymmetric ? PanelKind::kUnsymmetric : PanelKind::kSymmetric,
+                                .by_rows = by_rows,
+                                .read = read,
+                                .symmetry = symmetry,
+                                .row_position = is_permuted ? row_position.data() : nullptr}),
+                Outcome::kDone);
+      const Values<T> scaled{values.data(), is_scaled ? row_scale.data() : nullptr,
+                             is_scaled ? scale_right.data() : nullptr};
+      std::vector<T> dense = assembled(plan, assembly, scaled);
+      if (symmetry == Symmetry::kHermitian && !is_unsymmetric) {
+        for (int i = 0; i < n; ++i) dense[i * n + i] = expected[i * n + i];  // whose imaginary part is nobody's
+      }
+      EXPECT_EQ(dense, expected) << variant;
+
+      std::vector<Real> scratch(n);
+      EXPECT_GT(largest_row_sum(plan, assembly, scaled, scratch.data()), n == 0 ? -1 : 0);
+      if (n == 0) continue;
+      values[0] = std::numeric_limits<Real>::quiet_NaN();
+      if (A.starts[1] > 0 && read == Triangle::kAll) {
+        EXPECT_EQ(largest_row_sum(plan, assembly, scaled, scratch.data()), -1);
+      }
+    }
+  }
+}
+
+TEST(Assembly, RefusesEntriesOutsideOfThePlan) {
+  Arrays given(3);
+  order_identity(3, given.ordering());
+  const Plan plan = plan_of(Edges(3).add(0, 1).matrix("planned"), given.ordering());
+  Assembly assembly;
+  EXPECT_EQ(assembly.build(plan, Edges(3).add(0, 2).matrix("other").pattern(), {}), Outcome::kBadPattern);
+  EXPECT_EQ(assembly.build(plan, Edges(2).matrix("smaller").pattern(), {}), Outcome::kBadPattern);
+  EXPECT_EQ(assembly.build(plan, Edges(3).add(0, 1).matrix("planned").pattern(), {}), Outcome::kDone);
+}
+
+}  // namespace
+}  // namespace quorin::sparse::test
