@@ -1,6 +1,7 @@
 // The engine under the sparse direct solvers, as they see it.
 #pragma once
 
+#include "sparse/matching/matching.hpp"
 #include "sparse/numeric/assembly.hpp"
 #include "sparse/numeric/factor.hpp"
 #include "sparse/numeric/solve.hpp"

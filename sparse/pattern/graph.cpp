@@ -79,4 +79,35 @@ Outcome induced_subgraph(const Graph& graph, std::span<const int> vertices, std:
   return Outcome::kDone;
 }
 
+Outcome quotient_graph(const Graph& graph, std::span<const int> part, int parts, Graph& quotient) noexcept {
+  const auto count = static_cast<std::size_t>(parts);
+  Workspace<int> members(part.size()), member_starts(count + 1), seen(count), starts(count + 1);
+  Workspace<int> adjacency(static_cast<std::size_t>(graph.directed_edges()));
+  if (!members || !member_starts || !seen || !starts || !adjacency) return Outcome::kOutOfMemory;
+  std::fill(seen.begin(), seen.end(), 0);
+  for (const int p : part) ++seen[p];
+  cumulate(parts, seen.data(), member_starts.data());
+  for (std::size_t v = 0; v < part.size(); ++v) members[seen[part[v]]++] = static_cast<int>(v);
+
+  std::fill(seen.begin(), seen.end(), kNone);  // the last part in whose list a part was put
+  int end = 0;
+  for (int p = 0; p < parts; ++p) {
+    starts[p] = end;
+    seen[p] = p;
+    for (int k = member_starts[p]; k < member_starts[p + 1]; ++k) {
+      for (const int w : graph.neighbours(members[k])) {
+        const int other = part[static_cast<std::size_t>(w)];
+        if (seen[other] == p) continue;
+        seen[other] = p;
+        adjacency[end++] = other;
+      }
+    }
+  }
+  starts[parts] = end;
+  quotient.size_ = parts;
+  quotient.starts_ = std::move(starts);
+  quotient.adjacency_ = std::move(adjacency);
+  return Outcome::kDone;
+}
+
 }  // namespace quorin::sparse

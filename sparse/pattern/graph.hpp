@@ -34,6 +34,7 @@ class Graph {
   friend Outcome build_graph(const Pattern& pattern, Graph& graph) noexcept;
   friend Outcome induced_subgraph(const Graph& graph, std::span<const int> vertices, std::span<int> number,
                                   Graph& subgraph) noexcept;
+  friend Outcome quotient_graph(const Graph& graph, std::span<const int> part, int parts, Graph& quotient) noexcept;
 
   int size_ = 0;
   base::Workspace<int> starts_, adjacency_;
@@ -47,6 +48,10 @@ Outcome build_graph(const Pattern& pattern, Graph& graph) noexcept;
 // and negative for all others. Ascending only if the list is.
 Outcome induced_subgraph(const Graph& graph, std::span<const int> vertices, std::span<int> number,
                          Graph& subgraph) noexcept;
+
+// The graph whose vertices are `parts` sets of vertices, joined where any of their members are: part[v] is the set of
+// v. Its lists do not ascend. kOutOfMemory.
+Outcome quotient_graph(const Graph& graph, std::span<const int> part, int parts, Graph& quotient) noexcept;
 
 // An order of elimination and its inverse: permutation[k] is eliminated in step k, inverse[permutation[k]] = k.
 // Borrowed arrays of n.
