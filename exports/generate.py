@@ -32,10 +32,11 @@ def committed_files(families: list[Family]) -> dict[str, str]:
         "include/quorin/quorin.h": headers.umbrella(families),
         "include/quorin/loader.h": loader.header(families),
         "docs/manual/README.md": manual.contents(families, head),
+        "docs/manual/a-to-z.md": manual.a_to_z(families),
     }
     for family in families:
         files[f"include/quorin/{family.name}.h"] = headers.header(family, table_of(family))
-        files[f"docs/manual/{family.name}.md"] = manual.page(family, table_of(family))
+        files.update((f"docs/manual/{name}", text) for name, text in manual.pages(family, table_of(family)).items())
     return files
 
 

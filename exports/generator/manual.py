@@ -1,4 +1,4 @@
-"""The reference manual, one page for each family; routines that differ only in type share an entry."""
+"""The reference manual, one page for each family, or for each section of a large one; routines that differ only in type share an entry."""
 
 from __future__ import annotations
 
@@ -6,7 +6,7 @@ import re
 
 from generator import model
 from generator.declarations import callback, parameters, record, result_type, wrapped
-from generator.model import Family, Group, ParameterArray, Routine
+from generator.model import Family, Group, ParameterArray, Routine, Section
 
 
 def signature(name: str, routine: Routine, is_index_form: bool) -> str:
@@ -91,7 +91,7 @@ def not_finite(check: model.FiniteCheck) -> model.Value:
     return model.Value(check.status, "", text + "results are of no use")
 
 
-def status_tables(family: Family, routine: Routine) -> list[str]:
+def status_tables(family: Family, routine: Routine, head_page: str) -> list[str]:
     """The statuses that are not those of every routine, and a reference to these."""
     parts = []
     for group in family.status_groups(routine):
@@ -104,7 +104,7 @@ def status_tables(family: Family, routine: Routine) -> list[str]:
             parts.append(value_table(place_name(group), own))
         if len(own) < len(statuses):
             common = ", ".join(f"`{value.value}`" for value in statuses if value not in own)
-            parts.append(f"{'Also ' if own else ''}{place_name(group)} {common}: see [{group.title}]({anchor(group.title)}).\n")
+            parts.append(f"{'Also ' if own else ''}{place_name(group)} {common}: see [{group.title}]({head_page}{anchor(group.title)}).\n")
     return parts
 
 
@@ -113,7 +113,7 @@ def anchor(title: str) -> str:
     return "#" + re.sub(r"[^\w -]", "", title.lower()).replace(" ", "-")
 
 
-def entry(family: Family, routines: list[Routine]) -> str:
+def entry(family: Family, routines: list[Routine], head_page: str) -> str:
     names = [name for routine in routines for name in ([routine.name] if routine.has_plain else []) + routine.aliases]
     names = names or [routine.index_name for routine in routines]
     lines = []
@@ -131,7 +131,7 @@ def entry(family: Family, routines: list[Routine]) -> str:
         parts.append(f"Result: {result.text}.\n")
     if first.result_is_argument:
         parts.append("The result is stored through the extra first argument `result`.\n")
-    return "\n".join(parts + status_tables(family, first))
+    return "\n".join(parts + status_tables(family, first, head_page))
 
 
 def parameter_table(array: ParameterArray) -> str:
@@ -168,14 +168,61 @@ def shared_tables(family: Family) -> list[str]:
     return parts
 
 
-def page(family: Family, table: str) -> str:
-    parts = [f"# {family.title}\n", f"<!-- Generated from {table}. Do not edit. -->\n"]
-    parts.extend(paragraph + "\n" for paragraph in family.text)
-    parts.extend(shared_tables(family))
-    for section in family.sections:
-        parts.append(f"## {section.title}\n")
-        parts.extend(entry(family, group) for group in family.twins(section))
-    return "\n".join(parts)
+# A page that is longer is split by section.
+LONGEST_PAGE = 2000
+
+
+def slug(title: str) -> str:
+    return anchor(title)[1:]
+
+
+def is_split(family: Family) -> bool:
+    return sum(len(section_text(family, section, "").splitlines()) for section in family.sections) > LONGEST_PAGE
+
+
+def link(family: Family, section: Section) -> str:
+    """Where a section stands, seen from the manual's first page."""
+    return f"{family.name}-{slug(section.title)}.md" if is_split(family) else f"{family.name}.md{anchor(section.title)}"
+
+
+def section_text(family: Family, section: Section, head_page: str) -> str:
+    """`head_page` is where the tables are that all routines share, if not on the same page."""
+    return "\n".join(entry(family, group, head_page) for group in family.twins(section))
+
+
+def pages(family: Family, table: str) -> dict[str, str]:
+    """File names and texts: one page, or one with what all sections share and one for each section."""
+    mark = f"<!-- Generated from {table}. Do not edit. -->\n"
+    parts = [f"# {family.title}\n", mark, *(paragraph + "\n" for paragraph in family.text)]
+    texts = {}
+    if is_split(family):
+        parts.append("## Sections\n")
+        for section in family.sections:
+            names = ", ".join(f"`{routine.export_names[0]}`" for routine in section.routines)
+            parts.append(f"[{section.title}]({link(family, section)}): {names}\n")
+            head_page = f"{family.name}.md"
+            head = f"# {family.title}: {section.title}\n\n{mark}\nWhat all sections share: [{family.title}]({head_page}).\n\n"
+            texts[link(family, section)] = head + section_text(family, section, head_page)
+        parts.extend(shared_tables(family))
+    else:
+        parts.extend(shared_tables(family))
+        for section in family.sections:
+            parts += [f"## {section.title}\n", section_text(family, section, "")]
+    return {f"{family.name}.md": "\n".join(parts)} | texts
+
+
+def a_to_z(families: list[Family]) -> str:
+    """Every export, with its index form beside it and the section that describes it."""
+    rows = []
+    for family in families:
+        for section in family.sections:
+            for routine in section.routines:
+                where = f"[{family.title}: {section.title}]({link(family, section)})"
+                plain = [f"`{name}`" for name in ([routine.name] if routine.has_plain else []) + routine.aliases]
+                key = (plain or [f"`{routine.index_name}`"])[0].strip("`").lower()
+                rows.append((key, row([", ".join(plain), f"`{routine.index_name}`" if routine.index_name else "", where])))
+    head = "# All exports from A to Z\n\n<!-- Generated from the export tables. Do not edit. -->\n\n"
+    return head + "| plain | index form | where |\n|---|---|---|\n" + "".join(f"{text}\n" for _, text in sorted(rows))
 
 
 def contents(families: list[Family], head: str) -> str:
@@ -190,5 +237,5 @@ def contents(families: list[Family], head: str) -> str:
         parts.append(f"## {family.title}\n")
         for section in family.sections:
             names = ", ".join(f"`{routine.export_names[0]}`" for routine in section.routines)
-            parts.append(f"[{section.title}]({family.name}.md{anchor(section.title)}): {names}\n")
+            parts.append(f"[{section.title}]({link(family, section)}): {names}\n")
     return "\n".join(parts)

@@ -158,7 +158,7 @@ class Descriptions(unittest.TestCase):
         self.assertEqual(groups, {"f": ["info"], "g": ["info"], "h": ["info"], "k": [], "l": ["result"]})
 
     def test_the_manual_shows_what_a_routine_needs_and_answers(self):
-        page = manual.page(self.family, "t.table")
+        page = manual.pages(self.family, "t.table")["t.md"]
         self.assertIn("| `c` | in | char | 1 | by reference | which triangle<br>`U`: upper<br>`L`: lower |", page)
         self.assertIn("| `x` | in | float | n | array | a vector; may be null<br>at least `2*n if c == 'U' else n` elements<br>**Kept**", page)
         self.assertIn("| `info` | meaning |\n|---|---|\n| `>0` | failed for f |\n| `i` | failed at i |\n\nAlso `info` `0`: see", page)
