@@ -3,7 +3,7 @@
 #   bindings    that of the declarations for hosts in other languages than C
 #   tables      the tables
 set(generated ${PROJECT_BINARY_DIR}/generated)
-set(bindings ${PROJECT_BINARY_DIR}/bindings)
+set(bindings ${generated}/bindings)
 set(exports ${PROJECT_SOURCE_DIR}/exports)
 file(GLOB tables CONFIGURE_DEPENDS ${exports}/tables/*.table)
 file(GLOB generator ${exports}/generator/*.py ${exports}/generator/bindings/*.py)
