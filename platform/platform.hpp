@@ -11,6 +11,11 @@ namespace quorin::platform {
 
 // --- Locks -----------------------------------------------------------------------------------------------------------
 
+namespace detail {
+// Not std::max_align_t's: MinGW has two headers for that, which do not agree.
+inline constexpr std::size_t kLockAlignment = 8;
+}  // namespace detail
+
 class Mutex {
  public:
   constexpr Mutex() = default;
@@ -21,7 +26,7 @@ class Mutex {
 
  private:
   friend class ConditionVariable;
-  alignas(std::max_align_t) std::byte storage_[64] = {};
+  alignas(detail::kLockAlignment) std::byte storage_[64] = {};
 };
 
 class ConditionVariable {
@@ -36,7 +41,7 @@ class ConditionVariable {
   void notify_all();
 
  private:
-  alignas(std::max_align_t) std::byte storage_[64] = {};
+  alignas(detail::kLockAlignment) std::byte storage_[64] = {};
 };
 
 inline constexpr std::int32_t kForever = INT32_MAX;

@@ -24,6 +24,7 @@ namespace quorin::platform {
 namespace {
 
 static_assert(sizeof(pthread_mutex_t) <= 64 && sizeof(pthread_cond_t) <= 64);
+static_assert(alignof(pthread_mutex_t) <= detail::kLockAlignment && alignof(pthread_cond_t) <= detail::kLockAlignment);
 
 // The static initialisers of both types are all zero on this system, as the storage is.
 pthread_mutex_t* as_mutex(std::byte* storage) { return std::launder(reinterpret_cast<pthread_mutex_t*>(storage)); }

@@ -50,7 +50,7 @@ class PanelStore {
   virtual void unpin(int s, bool is_changed) noexcept = 0;
   // All panels are written, or the factorization has failed and no panel will be read any more.
   virtual FactorOutcome finish(bool is_complete) noexcept = 0;
-  // Why a call failed: kOutOfMemory, kFileFailed.
+  // Why a call failed: kOutOfMemory, kTooLarge, kBudgetTooSmall, kCannotOpen, kFileFailed.
   virtual FactorOutcome outcome() const noexcept = 0;
 };
 

@@ -1,0 +1,81 @@
+// For tests of what is kept in files: a folder that goes with the test, and disks that fail on demand.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <string>
+
+#include "platform/block_file.hpp"
+
+namespace quorin::sparse::test {
+
+class Folder {
+ public:
+  Folder() {
+    const unsigned number = std::random_device{}();
+    path_ = std::filesystem::temp_directory_path() / ("sparse-" + std::to_string(number));
+    std::filesystem::create_directory(path_);
+  }
+  Folder(const Folder&) = delete;
+  Folder& operator=(const Folder&) = delete;
+  ~Folder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+  }
+
+  std::string file(const std::string& name) const { return (path_ / name).string(); }
+  int files() const {
+    return static_cast<int>(
+        std::distance(std::filesystem::directory_iterator(path_), std::filesystem::directory_iterator()));
+  }
+
+ private:
+  std::filesystem::path path_;
+};
+
+inline std::string contents(const std::string& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+inline void write_contents(const std::string& file, const std::string& text) {
+  std::ofstream(file, std::ios::binary) << text;
+}
+
+// While it lives, the k-th operation on a file fails, and all that follow if the disk is `broken` from there on.
+class FailingDisk {
+ public:
+  FailingDisk(int k, bool broken) {
+    state = {k, broken, 0, {}};
+    platform::refuse_file_operation = [](platform::FileOperation operation) {
+      ++state.asked;
+      const bool fails = state.broken ? state.asked >= state.k : state.asked == state.k;
+      if (fails && state.asked == state.k) state.refused = operation;
+      return fails;
+    };
+  }
+  FailingDisk(const FailingDisk&) = delete;
+  FailingDisk& operator=(const FailingDisk&) = delete;
+  ~FailingDisk() { platform::refuse_file_operation = nullptr; }
+
+  static bool has_failed() { return state.asked >= state.k; }
+  // What failed first.
+  static bool was_opening() {
+    return state.refused == platform::FileOperation::kOpen || state.refused == platform::FileOperation::kCreate;
+  }
+
+ private:
+  struct State {
+    int k;
+    bool broken;
+    int asked;
+    platform::FileOperation refused;
+  };
+  static inline State state{};
+};
+
+}  // namespace quorin::sparse::test
