@@ -32,4 +32,18 @@ inline int rows_of(const CcsMatrix& A) {
   return sparse::kNone;
 }
 
+inline bool is_lower_stored(const CcsMatrix& A) { return A.is_symmetric_or_hermitian() && A.has(kLower); }
+
+// Whether all entries lie in the n x n matrix.
+inline bool is_within_order(const CcsMatrix& A) {
+  return static_cast<bool>(sparse::check_compressed(A.n, A.n, A.colptr, A.rowind));
+}
+
+// Whether A is a sound symmetric or Hermitian matrix of this element type with its lower triangle stored.
+template <Element T>
+bool is_sound_triangle(const CcsMatrix* A) {
+  return holds<T>(A) && is_lower_stored(*A) &&
+         sparse::check_compressed(A->n, A->n, A->colptr, A->rowind, {.is_lower = true});
+}
+
 }  // namespace quorin::taucs

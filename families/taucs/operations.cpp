@@ -14,13 +14,6 @@ using Indices = base::Workspace<int>;
 
 std::size_t length(int n) { return static_cast<std::size_t>(n); }
 
-bool is_lower_stored(const CcsMatrix& A) { return A.is_symmetric_or_hermitian() && A.has(kLower); }
-
-// Whether all entries lie in the n x n matrix.
-bool is_within_order(const CcsMatrix& A) {
-  return static_cast<bool>(sparse::check_compressed(A.n, A.n, A.colptr, A.rowind));
-}
-
 bool are_indices(const int* list, int count, int bound) {
   return std::all_of(list, list + count, [bound](int i) { return i >= 0 && i < bound; });
 }

@@ -7,4 +7,8 @@
 #include "families/taucs/ordering.hpp"
 #include "families/taucs/process.hpp"
 #include "families/taucs/products.hpp"
+#include "families/taucs/solvers/amwb.hpp"
+#include "families/taucs/solvers/column_factors.hpp"
+#include "families/taucs/solvers/iterations.hpp"
+#include "families/taucs/solvers/lu.hpp"
 #include "families/taucs/vectors.hpp"

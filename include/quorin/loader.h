@@ -19,7 +19,7 @@
 #define QUORIN_LIBRARY_NAME "libquorin_lapacks.so"
 #endif
 
-#define QUORIN_EXPORT_COUNT 735
+#define QUORIN_EXPORT_COUNT 747
 
 #ifdef __cplusplus
 extern "C" {
@@ -1886,6 +1886,24 @@ typedef struct quorin_library {
   double(QUORIN_CDECL* taucs_available_memory_size)(void);
   int32_t(QUORIN_CDECL* taucs_maximize_stacksize)(void);
   void(QUORIN_CDECL* taucs_ccs_order)(const taucs_ccs_matrix* A, int32_t** perm, int32_t** invperm, const char* name);
+  taucs_ccs_matrix*(QUORIN_CDECL* taucs_ccs_factor_llt)(const taucs_ccs_matrix* A, double droptol, int32_t modified);
+  taucs_ccs_matrix*(QUORIN_CDECL* taucs_ccs_factor_llt_maxdepth)(const taucs_ccs_matrix* A, double droptol,
+                                                                 int32_t modified, int32_t maxdepth);
+  taucs_ccs_matrix*(QUORIN_CDECL* taucs_ccs_factor_ldlt)(const taucs_ccs_matrix* A);
+  taucs_ccs_matrix*(QUORIN_CDECL* taucs_ccs_factor_ldlt_maxdepth)(const taucs_ccs_matrix* A, int32_t maxdepth);
+  int32_t(QUORIN_CDECL* taucs_ccs_solve_llt)(void* L, void* x, const void* b);
+  int32_t(QUORIN_CDECL* taucs_ccs_solve_ldlt)(void* L, void* x, const void* b);
+  void*(QUORIN_CDECL* taucs_ccs_factor_lu)(const taucs_ccs_matrix* A, const int32_t* perm, double threshold);
+  int32_t(QUORIN_CDECL* taucs_multilu_solve_many)(void* factor, int32_t nrhs, void* X, int32_t ldX, const void* B,
+                                                  int32_t ldB);
+  void(QUORIN_CDECL* taucs_multilu_factor_free)(void* factor);
+  int32_t(QUORIN_CDECL* taucs_conjugate_gradients)(const taucs_ccs_matrix* A, quorin_preconditioner precond_fn,
+                                                   void* precond_args, void* X, const void* B, int32_t itermax,
+                                                   double convergetol);
+  int32_t(QUORIN_CDECL* taucs_minres)(const taucs_ccs_matrix* A, quorin_preconditioner precond_fn, void* precond_args,
+                                      void* X, const void* B, int32_t itermax, double convergetol);
+  taucs_ccs_matrix*(QUORIN_CDECL* taucs_amwb_preconditioner_create)(const taucs_ccs_matrix* A, int32_t rnd,
+                                                                    double subgraphs, int32_t stretch_flag);
   taucs_ccs_matrix*(QUORIN_CDECL* taucs_ccs_read_ijv)(const char* filename, int32_t flags);
   taucs_ccs_matrix*(QUORIN_CDECL* taucs_ccs_read_ijv_zero_based)(const char* filename, int32_t flags);
   taucs_ccs_matrix*(QUORIN_CDECL* taucs_ccs_read_mtx)(const char* filename, int32_t flags);
@@ -2833,6 +2851,18 @@ static const char* const quorin_export_names[QUORIN_EXPORT_COUNT] = {
     "taucs_available_memory_size",
     "taucs_maximize_stacksize",
     "taucs_ccs_order",
+    "taucs_ccs_factor_llt",
+    "taucs_ccs_factor_llt_maxdepth",
+    "taucs_ccs_factor_ldlt",
+    "taucs_ccs_factor_ldlt_maxdepth",
+    "taucs_ccs_solve_llt",
+    "taucs_ccs_solve_ldlt",
+    "taucs_ccs_factor_lu",
+    "taucs_multilu_solve_many",
+    "taucs_multilu_factor_free",
+    "taucs_conjugate_gradients",
+    "taucs_minres",
+    "taucs_amwb_preconditioner_create",
     "taucs_ccs_read_ijv",
     "taucs_ccs_read_ijv_zero_based",
     "taucs_ccs_read_mtx",

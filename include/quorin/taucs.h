@@ -46,6 +46,10 @@ typedef struct taucs_ccs_matrix {
   } values;
 } taucs_ccs_matrix;
 
+/* Solves M x = b for one right-hand side, with what belongs to M at factor; 0, or anything else to end the iteration.
+ * The routines that solve with a factor, taucs_supernodal_solve_llt and its like, are such functions. */
+typedef int32_t(QUORIN_CDECL* quorin_preconditioner)(void* factor, void* x, const void* b);
+
 /* The bits of flags. A matrix has elements of TAUCS_DOUBLE or TAUCS_DCOMPLEX only. */
 enum {
   TAUCS_LOWER = 1, /* only the lower triangle is stored */
@@ -59,6 +63,18 @@ enum {
   TAUCS_SINGLE = 4096, /* elements are floats */
   TAUCS_DCOMPLEX = 8192, /* elements are double complex */
   TAUCS_SCOMPLEX = 16384 /* elements are single complex */
+};
+
+/* How a solution ended. */
+enum quorin_taucs_status {
+  TAUCS_SUCCESS = 0, /* done */
+  TAUCS_ERROR = -1, /* a factorization, a solution or a preconditioner failed */
+  TAUCS_ERROR_NOMEM = -2, /* no memory */
+  TAUCS_ERROR_BADARGS = -3, /* an argument, or options, that cannot be */
+  TAUCS_ITERATION_LIMIT = 1, /* the limit was reached; X is the last iterate */
+  TAUCS_BREAKDOWN = 2, /* a matrix or preconditioner is not positive definite that should be, or singular; X is the last
+      iterate */
+  TAUCS_NOT_FINITE = 3 /* a NaN or an infinity; X is nothing */
 };
 
 /* ---- Matrices ---- */
@@ -365,6 +381,112 @@ QUORIN_API int32_t QUORIN_CDECL taucs_maximize_stacksize(void);
      name: the method, exactly (metis, genmmd, camd, tree, colamd, random, identity) */
 QUORIN_API void QUORIN_CDECL taucs_ccs_order(const taucs_ccs_matrix* A, int32_t** perm, int32_t** invperm,
                                              const char* name);
+
+/* ---- Factors as matrices ---- */
+
+/* The lower triangular L with L L^H = A, for a positive definite A, symmetric or Hermitian, of which the lower triangle
+   is stored; in the order in which A is, computed by columns. With droptol > 0 the factor is incomplete: an entry of L
+   at a place below the diagonal where A has none is dropped if it is smaller than droptol times the norm of its column;
+   an infinite droptol leaves A's pattern, IC(0).
+     A: a matrix
+     droptol: 0 for the complete factor
+     modified: not 0: what is dropped is added to the diagonal of its row and column, so that row sums stay */
+QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_factor_llt(const taucs_ccs_matrix* A, double droptol,
+                                                               int32_t modified);
+
+/* As taucs_ccs_factor_llt, if A's elimination tree is not too deep.
+     A: a matrix
+     droptol: 0 for the complete factor
+     modified: not 0: what is dropped is added to the diagonal of its row and column, so that row sums stay
+     maxdepth: the most levels that the elimination tree may have; 0: any number */
+QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_factor_llt_maxdepth(const taucs_ccs_matrix* A, double droptol,
+                                                                        int32_t modified, int32_t maxdepth);
+
+/* L and D with L D L^H = A, D diagonal and L with a unit diagonal, in whose place D stands; without pivoting, for
+   instance for quasidefinite matrices. A is symmetric or, if complex, Hermitian.
+     A: a matrix */
+QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_factor_ldlt(const taucs_ccs_matrix* A);
+
+/* As taucs_ccs_factor_ldlt, if A's elimination tree is not too deep.
+     A: a matrix
+     maxdepth: the most levels that the elimination tree may have; 0: any number */
+QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_factor_ldlt_maxdepth(const taucs_ccs_matrix* A, int32_t maxdepth);
+
+/* x <- (L L^H)^-1 b with what taucs_ccs_factor_llt gave; x may be b.
+     L: a lower triangular matrix, the diagonal entry first in each column; row indices are not checked
+     x: the solution
+     b: the right-hand side */
+QUORIN_API int32_t QUORIN_CDECL taucs_ccs_solve_llt(void* L, void* x, const void* b);
+
+/* x <- (L D L^H)^-1 b with what taucs_ccs_factor_ldlt gave; x may be b.
+     L: a lower triangular matrix, the diagonal entry first in each column; row indices are not checked
+     x: the solution
+     b: the right-hand side */
+QUORIN_API int32_t QUORIN_CDECL taucs_ccs_solve_ldlt(void* L, void* x, const void* b);
+
+/* ---- LU factors ---- */
+
+/* LU factors of a square matrix, real or complex, by UMFPACK, with the columns in the order perm and exchanges of rows;
+   a symmetric or Hermitian matrix stands for the full one.
+     A: a matrix
+     perm: [A.n]: the order of the columns, as taucs_ccs_order gives it for colamd
+     threshold: an entry may be the pivot if it is as large as this times the largest of its column (rows are scaled); 1
+         is partial pivoting */
+QUORIN_API void* QUORIN_CDECL taucs_ccs_factor_lu(const taucs_ccs_matrix* A, const int32_t* perm, double threshold);
+
+/* X <- A^-1 B with LU factors. X may be B if ldX is ldB.
+     factor: a factor
+     nrhs: number of right-hand sides
+     X: the solutions, ldX x nrhs
+     ldX: elements from one column of X to the next, at least n
+     B: the right-hand sides, ldB x nrhs
+     ldB: elements from one column of B to the next, at least n */
+QUORIN_API int32_t QUORIN_CDECL taucs_multilu_solve_many(void* factor, int32_t nrhs, void* X, int32_t ldX,
+                                                         const void* B, int32_t ldB);
+
+/* Frees LU factors; null, and what is no factor any more, are left alone.
+     factor: may be null: a factor */
+QUORIN_API void QUORIN_CDECL taucs_multilu_factor_free(void* factor);
+
+/* ---- Iterations ---- */
+
+/* Solves A X = B for one right-hand side by preconditioned conjugate gradients, from X = 0, until ||B - A X|| <=
+   convergetol ||B||. A is positive definite, symmetric or Hermitian, its lower triangle stored.
+     A: a matrix
+     precond_fn: may be null: solves with a preconditioner; null for none
+     precond_args: may be null: what precond_fn gets as its factor
+     X: the solution, n elements; not B
+     B: the right-hand side, n elements
+     itermax: the most steps
+     convergetol: how small the residual has to become, relative to the right-hand side */
+QUORIN_API int32_t QUORIN_CDECL taucs_conjugate_gradients(const taucs_ccs_matrix* A, quorin_preconditioner precond_fn,
+                                                          void* precond_args, void* X, const void* B, int32_t itermax,
+                                                          double convergetol);
+
+/* Solves A X = B for one right-hand side by preconditioned MINRES, from X = 0, until ||B - A X|| <= convergetol ||B||.
+   A is symmetric or Hermitian, its lower triangle stored, and may be indefinite; the preconditioner is positive
+   definite.
+     A: a matrix
+     precond_fn: may be null: solves with a preconditioner; null for none
+     precond_args: may be null: what precond_fn gets as its factor
+     X: the solution, n elements; not B
+     B: the right-hand side, n elements
+     itermax: the most steps
+     convergetol: how small the residual has to become, relative to the right-hand side */
+QUORIN_API int32_t QUORIN_CDECL taucs_minres(const taucs_ccs_matrix* A, quorin_preconditioner precond_fn,
+                                             void* precond_args, void* X, const void* B, int32_t itermax,
+                                             double convergetol);
+
+/* A sparser positive definite M that preconditions conjugate gradients on a real symmetric A: an augmented
+   maximum-weight basis. To be factored, in an order of its own. For diagonally dominant matrices; of others the
+   positive off-diagonal entries go to the diagonal, and what then still lacks is added.
+     A: a matrix of doubles, its lower triangle stored, with a positive diagonal
+     rnd: chooses the vertex near which, of equal weights, edges are taken first
+     subgraphs: pieces of about equal size, between which the heaviest edges are added: 1 for the basis alone, n for all
+         of A; n / 100 to n / 20 is good on grids
+     stretch_flag: 0; anything else gives null */
+QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_amwb_preconditioner_create(const taucs_ccs_matrix* A, int32_t rnd,
+                                                                           double subgraphs, int32_t stretch_flag);
 
 /* ---- Files ---- */
 
