@@ -1,19 +1,10 @@
 // The log that the environment asks for: a line for each refusal, and nothing without it.
-#include <cstdlib>
-
 #include "tests/support/capture_output.hpp"
+#include "tests/taucs/log.hpp"
 #include "tests/taucs/taucs_host.hpp"
 
 namespace taucs_test {
 namespace {
-
-void set_log(const char* name) {
-#if defined(_WIN32)
-  _putenv_s("QUORIN_TAUCS_LOG", name);
-#else
-  setenv("QUORIN_TAUCS_LOG", name, 1);
-#endif
-}
 
 void order(const Matrix& A, const char* name) {
   int *perm = nullptr, *inverse = nullptr;

@@ -1,0 +1,31 @@
+// What the family says in the log that the environment asks for.
+#pragma once
+
+#include <cstdlib>
+#include <string>
+
+#include "tests/support/temporary_file.hpp"
+
+namespace taucs_test {
+
+inline void set_log(const char* name) {
+#if defined(_WIN32)
+  _putenv_s("QUORIN_TAUCS_LOG", name);
+#else
+  setenv("QUORIN_TAUCS_LOG", name, 1);
+#endif
+}
+
+// What the action has the library say.
+template <class Action>
+std::string logged(const Action& action) {
+  const quorin::test::TemporaryFile log;
+  set_log(log.name());
+  action();
+  set_log("");
+  std::string text = log.read();
+  std::erase(text, '\r');
+  return text;
+}
+
+}  // namespace taucs_test

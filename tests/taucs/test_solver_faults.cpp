@@ -1,0 +1,91 @@
+// The k-th allocation of each solver's call fails, for each k: null or the status, and nothing is left behind.
+#include "tests/support/failing_host.hpp"
+#include "tests/taucs/taucs_host.hpp"
+
+namespace taucs_test {
+namespace {
+
+class SolverFaults : public testing::Test {
+ protected:
+  SolverFaults() {
+    constexpr int kSide = 6, kOrder = kSide * kSide;
+    A_ = host->taucs_ccs_create(kOrder, kOrder, 3 * kOrder, kFlags);
+    int k = 0;
+    for (int j = 0; j < kOrder; ++j) {
+      A_->colptr[j] = k;
+      const auto put = [&](int i, double value) {
+        A_->rowind[k] = i;
+        A_->values.d[k++] = value;
+      };
+      put(j, 4.5);
+      if (j % kSide + 1 < kSide) put(j + 1, -1);
+      if (j + kSide < kOrder) put(j + kSide, -1);
+    }
+    A_->colptr[kOrder] = k;
+    for (int j = 0; j < kOrder; ++j) perm_.push_back(kOrder - 1 - j);
+    b_.assign(kOrder, 1);
+    x_.assign(kOrder, 0);
+  }
+  ~SolverFaults() override {
+    host->taucs_ccs_free(A_);
+    EXPECT_EQ(host.live_blocks(), 0);
+  }
+
+  // `call()` is whether it succeeded, and gives back what it made.
+  template <class Call>
+  void run(const char* name, const Call& call) {
+    SCOPED_TRACE(name);
+    constexpr int kMost = 400;
+    const int before = host.live_blocks();
+    for (const int failures : {1, kMost}) {
+      int k = 1;
+      for (bool is_noticed = true; is_noticed && k < kMost; ++k) {
+        bool succeeded = false;
+        is_noticed = host.run_failing(k, failures, [&] { succeeded = call(); });
+        EXPECT_EQ(succeeded, !is_noticed) << "allocation " << k;
+        EXPECT_EQ(host.live_blocks(), before) << "allocation " << k << " left memory behind";
+      }
+      EXPECT_GT(k, 2) << "nothing was ever allocated";
+      EXPECT_LT(k, kMost);
+    }
+  }
+  bool is_made(taucs_ccs_matrix* made) {
+    host->taucs_ccs_free(made);
+    return made != nullptr;
+  }
+
+  static constexpr int kFlags = TAUCS_DOUBLE | TAUCS_SYMMETRIC | TAUCS_LOWER;
+  const quorin::test::FailingHost host;
+  taucs_ccs_matrix* A_;
+  std::vector<int> perm_;
+  std::vector<double> b_, x_;
+};
+
+TEST_F(SolverFaults, LeaveNothingBehind) {
+  run("llt", [&] { return is_made(host->taucs_ccs_factor_llt(A_, 0, 0)); });
+  run("llt, incomplete", [&] { return is_made(host->taucs_ccs_factor_llt(A_, 1e-3, 1)); });
+  run("ldlt", [&] { return is_made(host->taucs_ccs_factor_ldlt(A_)); });
+  run("amwb", [&] { return is_made(host->taucs_amwb_preconditioner_create(A_, 1, 4, 0)); });
+  for (const auto method : {host->taucs_conjugate_gradients, host->taucs_minres}) {
+    run("iteration", [&] {
+      const int status = method(A_, nullptr, nullptr, x_.data(), b_.data(), 100, 1e-9);
+      EXPECT_TRUE(status == TAUCS_SUCCESS || status == TAUCS_ERROR_NOMEM);
+      return status == TAUCS_SUCCESS;
+    });
+  }
+  run("lu", [&] {
+    void* const factor = host->taucs_ccs_factor_lu(A_, perm_.data(), 1);
+    host->taucs_multilu_factor_free(factor);
+    return factor != nullptr;
+  });
+  void* const factor = host->taucs_ccs_factor_lu(A_, perm_.data(), 1);
+  run("lu solve", [&] {
+    const int status = host->taucs_multilu_solve_many(factor, 1, x_.data(), A_->n, b_.data(), A_->n);
+    EXPECT_TRUE(status == TAUCS_SUCCESS || status == TAUCS_ERROR_NOMEM);
+    return status == TAUCS_SUCCESS;
+  });
+  host->taucs_multilu_factor_free(factor);
+}
+
+}  // namespace
+}  // namespace taucs_test
