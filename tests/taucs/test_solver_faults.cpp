@@ -28,6 +28,7 @@ class SolverFaults : public testing::Test {
   }
   ~SolverFaults() override {
     host->taucs_ccs_free(A_);
+    host->sMKL_FreeBuffers();
     EXPECT_EQ(host.live_blocks(), 0);
   }
 
@@ -36,6 +37,7 @@ class SolverFaults : public testing::Test {
   void run(const char* name, const Call& call) {
     SCOPED_TRACE(name);
     constexpr int kMost = 400;
+    host->sMKL_FreeBuffers();
     const int before = host.live_blocks();
     for (const int failures : {1, kMost}) {
       int k = 1;
@@ -43,6 +45,7 @@ class SolverFaults : public testing::Test {
         bool succeeded = false;
         is_noticed = host.run_failing(k, failures, [&] { succeeded = call(); });
         EXPECT_EQ(succeeded, !is_noticed) << "allocation " << k;
+        host->sMKL_FreeBuffers();
         EXPECT_EQ(host.live_blocks(), before) << "allocation " << k << " left memory behind";
       }
       EXPECT_GT(k, 2) << "nothing was ever allocated";

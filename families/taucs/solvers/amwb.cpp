@@ -100,8 +100,11 @@ class Builder {
     std::sort(edges_.begin(), edges_.begin() + count_, [this](const Edge& a, const Edge& b) { return precedes(a, b); });
     choose_basis();
     if (!walk_forest()) return nullptr;
-    cut_into_pieces(subgraphs);
-    return join_pieces() ? assemble() : nullptr;
+    if (subgraphs > 1) {
+      cut_into_pieces(subgraphs);
+      if (!join_pieces()) return nullptr;
+    }
+    return assemble();
   }
 
  private:
@@ -187,7 +190,7 @@ class Builder {
     return (components_.find(edge.i).is_opposite != components_.find(edge.j).is_opposite) != edge.opposes();
   }
 
-  // Kruskal's greedy method.
+  // The greedy method, with joins that a basis would not have: of trees that are both tied down.
   void choose_basis() {
     for (int v = 0; v < n_; ++v) components_.start(v, surplus_.data()[v] > 0);
     for (Edge* edge = edges_.begin(); edge != edges_.begin() + count_; ++edge) {
@@ -220,7 +223,7 @@ class Builder {
   // A subtree is cut off as soon as it has n / subgraphs vertices, from the leaves up. What is left at a root is a
   // piece, too.
   void cut_into_pieces(double subgraphs) {
-    const double least = n_ / std::clamp(subgraphs, 1.0, std::max<double>(1, n_));
+    const double least = n_ / std::min<double>(subgraphs, n_);
     int* const size = level_.data();  // not needed any more
     std::fill_n(size, n_, 1);
     for (int k = n_ - 1; k >= 0; --k) {
