@@ -26,7 +26,8 @@ std::map<std::pair<int, int>, double> edges(const taucs_ccs_matrix& A) {
 }
 
 double total_weight(const std::map<std::pair<int, int>, double>& edges) {
-  return std::accumulate(edges.begin(), edges.end(), 0.0, [](double sum, auto& e) { return sum + std::fabs(e.second); });
+  return std::accumulate(edges.begin(), edges.end(), 0.0,
+                         [](double sum, auto& e) { return sum + std::fabs(e.second); });
 }
 
 // The weight of a maximum spanning tree of a connected graph, by Prim's method.
@@ -162,7 +163,8 @@ TEST(Amwb, TakesPositiveEntriesOfDominantMatrices) {
       ASSERT_NE(M, nullptr);
       const auto all = edges(*A), chosen = edges(*M);
       for (const auto& [ends, value] : chosen) EXPECT_EQ(all.at(ends), value);
-      for (const auto& ends : basis(*A, shift > 0)) EXPECT_TRUE(chosen.count(ends)) << ends.first << ", " << ends.second;
+      for (const auto& ends : basis(*A, shift > 0))
+        EXPECT_TRUE(chosen.count(ends)) << ends.first << ", " << ends.second;
       if (subgraphs == 1) {
         EXPECT_GE(chosen.size(), shift > 0 ? 63U : 64U);
         EXPECT_LE(chosen.size(), shift > 0 ? 63U : 72U);

@@ -145,7 +145,8 @@ TEST(IncompleteFactors, KeepWhatTheyPromise) {
       expect_lower_factor(*L, TAUCS_DOUBLE);
       if (droptol == kInfinity) {
         EXPECT_EQ(std::vector(L->colptr, L->colptr + L->n + 1), std::vector(A->colptr, A->colptr + A->n + 1));
-        EXPECT_EQ(std::vector(L->rowind, L->rowind + L->colptr[L->n]), std::vector(A->rowind, A->rowind + A->colptr[A->n]));
+        EXPECT_EQ(std::vector(L->rowind, L->rowind + L->colptr[L->n]),
+                  std::vector(A->rowind, A->rowind + A->colptr[A->n]));
       }
       const Dense<double> product = multiplied<double>(*L, false);
       for (int i = 0; i < A->n; ++i) {

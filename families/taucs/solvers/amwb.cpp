@@ -147,7 +147,8 @@ class Builder {
     return true;
   }
   void drop_positive_edges() {
-    Edge* const end = std::remove_if(edges_.begin(), edges_.begin() + count_, [](const Edge& e) { return e.opposes(); });
+    Edge* const end =
+        std::remove_if(edges_.begin(), edges_.begin() + count_, [](const Edge& e) { return e.opposes(); });
     count_ = static_cast<int>(end - edges_.begin());
   }
 

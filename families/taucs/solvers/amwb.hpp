@@ -8,13 +8,14 @@ namespace quorin::taucs {
 // A sparser symmetric positive definite M for a real symmetric A of which the lower triangle is stored, and whose
 // diagonal is positive: to be factored, where it has little fill, and to precondition conjugate gradients on A.
 //
-// Off-diagonal entries are edges of the weight |a_ij|. A negative one asks x_i and x_j to be equal, a positive one to be
-// opposite. Edges are taken by weight: those that join two trees, and those that contradict a tree that neither A's
+// Off-diagonal entries are edges of the weight |a_ij|. A negative one asks x_i and x_j to be equal, a positive one to
+// be opposite. Edges are taken by weight: those that join two trees, and those that contradict a tree that neither A's
 // dominance nor an edge before has tied down. That is a spanning forest of maximum weight, and all of a maximum-weight
-// basis of A. The trees are then cut into about `subgraphs` connected pieces of equal size. For each pair of pieces, the
-// heaviest edge that agrees with the trees on both sides and the heaviest that contradicts them are added, unless the
-// basis has them, and the latter within each piece, too. `subgraphs` = 1 makes the basis alone, and n nearly all of A.
-// Where weights are equal, edges near the root go first, a vertex that `seed` chooses: on grids that gives short paths.
+// basis of A. The trees are then cut into about `subgraphs` connected pieces of equal size. For each pair of pieces,
+// the heaviest edge that agrees with the trees on both sides and the heaviest that contradicts them are added, unless
+// the basis has them, and the latter within each piece, too. `subgraphs` = 1 makes the basis alone, and n nearly all of
+// A. Where weights are equal, edges near the root go first, a vertex that `seed` chooses: on grids that gives short
+// paths.
 //
 // - A diagonally dominant: each row of M keeps the surplus that its diagonal has over the magnitudes beside it.
 // - Else A = (D + N) + P, of which P has the positive off-diagonal entries: they go to the diagonal, which only adds to

@@ -195,9 +195,9 @@ class ColumnMethod {
   int n_;
   GrowingFactor<T> L_;
   base::Workspace<T> c_;
-  base::Workspace<double> shift_;                      // what dropping adds to diagonal entries
-  base::Workspace<int> rows_, mark_;                   // of c below the diagonal, those of A first; mark: in c for j
-  base::Workspace<int> head_, next_, place_;           // lists of columns by the row of their next entry, and its place
+  base::Workspace<double> shift_;             // what dropping adds to diagonal entries
+  base::Workspace<int> rows_, mark_;          // of c below the diagonal, those of A first; mark: in c for j
+  base::Workspace<int> head_, next_, place_;  // lists of columns by the row of their next entry, and its place
   int count_ = 0, count_of_A_ = 0;
 };
 

@@ -12,7 +12,7 @@
 namespace quorin::taucs {
 namespace {
 
-using Field = std::variant<bool Options::*, double Options::*, const char* Options::*, void* Options::*>;
+using Field = std::variant<bool Options::*, double Options::*, const char * Options::*, void * Options::*>;
 
 struct Key {
   std::string_view name;
