@@ -141,6 +141,7 @@ void run(int argc, char** argv) {
   add_slap_rows(suite);
   add_ordering_rows(suite);
   add_taucs_file_rows(suite);
+  add_taucs_solver_rows(suite);
 
   std::ofstream file;
   if (!options.out.empty()) {

@@ -16,7 +16,7 @@ from dataclasses import dataclass, field
 PRODUCT, INDEX, LIMIT = "quorin", "index", "limit"
 TITLES = {
     "openblas": "OpenBLAS", "lapack": "LAPACK", "eigen": "Eigen", "boost": "Boost.Math", "gsl": "GSL", "umfpack": "UMFPACK",
-    "loop": "a loop", "amd": "AMD",
+    "loop": "a loop", "amd": "AMD", "ic0": "IC(0)",
 }
 
 # What a section of the results answers. A section without an entry here is shown under its own name.
@@ -79,6 +79,14 @@ SECTIONS = {
         " others, with a diagonal or IncompleteLUT of about as many entries. They have no counterpart for the iterations of"
         " SSJAC, SSGS and SSILUR.",
     ),
+    "taucs-preconditioners": (
+        "Preconditioners of conjugate gradients",
+        "One thread. `taucs_conjugate_gradients` on five-point differences in a square with n unknowns, hardly held anywhere, until"
+        " ||r|| <= 1e-8 ||b||, with `taucs_amwb_preconditioner_create` (n / 10 subgraphs, factored in the order camd), with IC(0), which is"
+        " `taucs_ccs_factor_llt` with an infinite drop tolerance, and with none; the making of the preconditioner is in the time. Anisotropic: weights of 1"
+        " between neighbours in a row, which the order of the unknowns follows, and of 0.001 in a column; in patches of 10 x 10 points in turns the other way round."
+        " Scattered: random over six powers of ten. \"Steps\" are iterations.",
+    ),
     "taucs_files": (
         "Matrix files",
         "One thread. A text file of n entries made a matrix of n / 10 columns, against a loop of the C library's `fscanf` that"
@@ -95,6 +103,7 @@ class Side:
     work: float = 0
     unit: str = ""
     fill: float = 0  # entries of the factors that the call makes
+    steps: float = 0  # iterations
     times: list = field(default_factory=list)
 
     def median(self):
@@ -122,6 +131,7 @@ def read_groups(results):
         entry = groups[Key(section, operation, int(size), int(threads))].setdefault(side, Side())
         entry.unit = next(unit for unit in ("flop", "byte", "time") if unit in run)
         entry.fill = run.get("fill", 0)
+        entry.steps = run.get("steps", 0)
         entry.work = run[entry.unit]
         entry.times.append(run["real_time"] / run["calls"])
     return groups
@@ -221,19 +231,20 @@ def microseconds(side):
 def time_table(groups):
     """One operation whose work has no common measure: a line for each size."""
     peers = peers_of(groups)
-    has_fill = any(side.fill for sides in groups.values() for side in sides.values())
+    all_sides = [side for sides in groups.values() for side in sides.values()]
+    counters = [name for name in ("fill", "steps") if any(getattr(side, name) for side in all_sides)]
     heads = ["n", "time, us"]
     for peer in peers:
         heads += [f"{title(peer)}, us", f"speed / {title(peer)}"]
-    if has_fill:
-        heads += ["fill"] + [f"{title(peer)}, fill" for peer in peers]
+    for name in counters:
+        heads += [name] + [f"{title(peer)}, {name}" for peer in peers]
     rows = []
     for key, sides in sorted(groups.items()):
         row = [str(key.size), microseconds(sides[PRODUCT])]
         for peer in peers:
             row += [microseconds(sides[peer]), speed_ratio(sides[PRODUCT], sides[peer])]
-        if has_fill:
-            row += [f"{sides[side].fill:.0f}" for side in [PRODUCT] + peers]
+        for name in counters:
+            row += [f"{getattr(sides[side], name):.0f}" for side in [PRODUCT] + peers]
         rows.append(row)
     return table(heads, rows)
 

@@ -54,7 +54,8 @@ class Suite {
   std::vector<int> sizes(std::vector<int> full, std::vector<int> quick) const { return is_quick_ ? quick : full; }
 
   // Adds one side of a row. `prepare()` makes the operands and returns the call that is measured; `callers` threads
-  // each do so at the same time. The fill() of a call that has one is reported: the entries of the factors it makes.
+  // each do so at the same time. The fill() and steps() of a call that has them are reported: the entries of the
+  // factors it makes, the iterations it takes.
   template <class Prepare>
   void measure(const Row& row, const std::string& side, Prepare prepare, int callers = 1) {
     const Effort effort = effort_for(row);
@@ -67,6 +68,7 @@ class Suite {
                                    }
                                    count_work(state, row, effort.calls);
                                    if constexpr (requires { call.fill(); }) state.counters["fill"] = call.fill();
+                                   if constexpr (requires { call.steps(); }) state.counters["steps"] = call.steps();
                                  })
         ->Repetitions(effort.repetitions)
         ->Iterations(effort.iterations)
@@ -136,5 +138,6 @@ void add_pack_rows(Suite& suite);
 void add_slap_rows(Suite& suite);
 void add_ordering_rows(Suite& suite);
 void add_taucs_file_rows(Suite& suite);
+void add_taucs_solver_rows(Suite& suite);
 
 }  // namespace quorin::bench

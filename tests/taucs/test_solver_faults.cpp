@@ -32,9 +32,9 @@ class SolverFaults : public testing::Test {
     EXPECT_EQ(host.live_blocks(), 0);
   }
 
-  // `call()` is whether it succeeded, and gives back what it made.
+  // `call()` is whether it succeeded, and gives back what it made. One that `may_recover` goes on with less memory.
   template <class Call>
-  void run(const char* name, const Call& call) {
+  void run(const char* name, const Call& call, bool may_recover = false) {
     SCOPED_TRACE(name);
     constexpr int kMost = 400;
     host->sMKL_FreeBuffers();
@@ -44,7 +44,7 @@ class SolverFaults : public testing::Test {
       for (bool is_noticed = true; is_noticed && k < kMost; ++k) {
         bool succeeded = false;
         is_noticed = host.run_failing(k, failures, [&] { succeeded = call(); });
-        EXPECT_EQ(succeeded, !is_noticed) << "allocation " << k;
+        EXPECT_TRUE(succeeded == !is_noticed || (succeeded && may_recover)) << "allocation " << k;
         host->sMKL_FreeBuffers();
         EXPECT_EQ(host.live_blocks(), before) << "allocation " << k << " left memory behind";
       }
@@ -76,11 +76,14 @@ TEST_F(SolverFaults, LeaveNothingBehind) {
       return status == TAUCS_SUCCESS;
     });
   }
-  run("lu", [&] {
-    void* const factor = host->taucs_ccs_factor_lu(A_, perm_.data(), 1);
-    host->taucs_multilu_factor_free(factor);
-    return factor != nullptr;
-  });
+  run(
+      "lu",
+      [&] {
+        void* const factor = host->taucs_ccs_factor_lu(A_, perm_.data(), 1);
+        host->taucs_multilu_factor_free(factor);
+        return factor != nullptr;
+      },
+      true);
   void* const factor = host->taucs_ccs_factor_lu(A_, perm_.data(), 1);
   run("lu solve", [&] {
     const int status = host->taucs_multilu_solve_many(factor, 1, x_.data(), A_->n, b_.data(), A_->n);
