@@ -302,6 +302,13 @@ void herk(char uplo, char trans, int n, int k, RealOf<T> alpha, const T* a, int 
 }
 
 template <Scalar T>
+void gemmt(char uplo, char transa, char transb, int n, int k, T alpha, const T* a, int lda, const T* b, int ldb, T beta,
+           T* c, int ldc, int threads) noexcept {
+  const Product<T> product{view_of(transa, a, lda), view_of(transb, b, ldb), k, alpha, T{}, c, ldc, 0, 0, 0, 0};
+  update_triangle(uplo, false, n, beta, c, ldc, threads, &product, 1);
+}
+
+template <Scalar T>
 void syr2k(char uplo, char trans, int n, int k, T alpha, const T* a, int lda, const T* b, int ldb, T beta, T* c,
            int ldc, int threads) noexcept {
   const Product<T> products[] = {rank_k_product(trans, false, k, alpha, a, lda, b, ldb, c, ldc),
@@ -339,6 +346,8 @@ template void hemm<float>(char, char, int, int, float, const float*, int, const 
                           int) noexcept;
 template void syrk<float>(char, char, int, int, float, const float*, int, float, float*, int, int) noexcept;
 template void herk<float>(char, char, int, int, float, const float*, int, float, float*, int, int) noexcept;
+template void gemmt<float>(char, char, char, int, int, float, const float*, int, const float*, int, float, float*, int,
+                           int) noexcept;
 template void syr2k<float>(char, char, int, int, float, const float*, int, const float*, int, float, float*, int,
                            int) noexcept;
 template void her2k<float>(char, char, int, int, float, const float*, int, const float*, int, float, float*, int,
@@ -354,6 +363,8 @@ template void hemm<double>(char, char, int, int, double, const double*, int, con
                            int) noexcept;
 template void syrk<double>(char, char, int, int, double, const double*, int, double, double*, int, int) noexcept;
 template void herk<double>(char, char, int, int, double, const double*, int, double, double*, int, int) noexcept;
+template void gemmt<double>(char, char, char, int, int, double, const double*, int, const double*, int, double, double*,
+                            int, int) noexcept;
 template void syr2k<double>(char, char, int, int, double, const double*, int, const double*, int, double, double*, int,
                             int) noexcept;
 template void her2k<double>(char, char, int, int, double, const double*, int, const double*, int, double, double*, int,
@@ -374,6 +385,9 @@ template void syrk<std::complex<float>>(char, char, int, int, std::complex<float
                                         std::complex<float>, std::complex<float>*, int, int) noexcept;
 template void herk<std::complex<float>>(char, char, int, int, float, const std::complex<float>*, int, float,
                                         std::complex<float>*, int, int) noexcept;
+template void gemmt<std::complex<float>>(char, char, char, int, int, std::complex<float>, const std::complex<float>*,
+                                         int, const std::complex<float>*, int, std::complex<float>,
+                                         std::complex<float>*, int, int) noexcept;
 template void syr2k<std::complex<float>>(char, char, int, int, std::complex<float>, const std::complex<float>*, int,
                                          const std::complex<float>*, int, std::complex<float>, std::complex<float>*,
                                          int, int) noexcept;
@@ -398,6 +412,9 @@ template void syrk<std::complex<double>>(char, char, int, int, std::complex<doub
                                          std::complex<double>, std::complex<double>*, int, int) noexcept;
 template void herk<std::complex<double>>(char, char, int, int, double, const std::complex<double>*, int, double,
                                          std::complex<double>*, int, int) noexcept;
+template void gemmt<std::complex<double>>(char, char, char, int, int, std::complex<double>, const std::complex<double>*,
+                                          int, const std::complex<double>*, int, std::complex<double>,
+                                          std::complex<double>*, int, int) noexcept;
 template void syr2k<std::complex<double>>(char, char, int, int, std::complex<double>, const std::complex<double>*, int,
                                           const std::complex<double>*, int, std::complex<double>, std::complex<double>*,
                                           int, int) noexcept;

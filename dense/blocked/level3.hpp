@@ -36,6 +36,12 @@ template <Scalar T>
 void herk(char uplo, char trans, int n, int k, RealOf<T> alpha, const T* a, int lda, RealOf<T> beta, T* c, int ldc,
           int threads = 1) noexcept;
 
+// The triangle `uplo` of C <- alpha op(A) op(B) + beta C, n by n with k terms: for products that are known to be
+// symmetric or Hermitian.
+template <Scalar T>
+void gemmt(char uplo, char transa, char transb, int n, int k, T alpha, const T* a, int lda, const T* b, int ldb, T beta,
+           T* c, int ldc, int threads = 1) noexcept;
+
 // The triangle `uplo` of C <- alpha op(A) op(B)' + alpha' op(B) op(A)' + beta C; alpha' is alpha, for her2k conjugated.
 template <Scalar T>
 void syr2k(char uplo, char trans, int n, int k, T alpha, const T* a, int lda, const T* b, int ldb, T beta, T* c,

@@ -1,7 +1,9 @@
 // What both methods of factorization work on.
 #pragma once
 
+#include <algorithm>
 #include <atomic>
+#include <cstdint>
 
 #include "sparse/numeric/factor.hpp"
 
@@ -30,13 +32,13 @@ class FactorTask {
   // that failed. `scratch`: elimination_scratch(plan.most_columns()).
   bool eliminate(int s, T* panel, T* scratch, int panel_threads) noexcept;
 
-  // Says that work on supernode s cannot go on. Of several failures the one of the first supernode counts, so that the
-  // outcome does not depend on the number of threads.
-  void fail(int s, FactorOutcome outcome) noexcept;
+  // Says that work on supernode s cannot go on, because of that column of it, if one is to blame. Of several failures
+  // the one of the first supernode counts, so that the outcome does not depend on the number of threads.
+  void fail(int s, FactorOutcome outcome, int column = kNone) noexcept;
   // Whether work on supernode s is still of use: no supernode before it has failed, and nobody has cancelled.
   bool may_go_on(int s) const noexcept { return s < failed_supernode_.load(std::memory_order_relaxed); }
-  // All panels before supernode `done` are made; or, in a subtree, `done` - `first` more of them.
-  void report_progress(int first, int done) noexcept;
+  // Supernode s is done.
+  void report_progress(int s) noexcept;
 
   FactorOutcome outcome() const noexcept { return outcome_; }
   int failed_column() const noexcept { return failed_column_; }
@@ -60,9 +62,16 @@ class FactorTask {
   PivotCounts counts_;
 };
 
-// The methods. Kernel buffers for task.threads threads are reserved. What goes wrong stands in the task; `bytes`
-// becomes what was allocated beside the panels.
+// The left-looking method: each panel gathers the updates of its descendants, in ascending order, and is eliminated.
+// Kernel buffers for task.threads threads are reserved. What goes wrong stands in the task.
+//
+// E. G. Ng, B. W. Peyton, Block sparse Cholesky algorithms on advanced uniprocessor computers, SIAM J. Sci. Comput. 14
+// (1993) 1034-1056.
 template <Scalar T>
-void factor_left_looking(FactorTask<T>& task, std::int64_t& bytes) noexcept;
+void factor_left_looking(FactorTask<T>& task) noexcept;
+
+// Bytes that it takes beside the panels.
+template <Scalar T>
+std::int64_t left_looking_bytes(const Plan& plan, Factorization factorization, int threads) noexcept;
 
 }  // namespace quorin::sparse

@@ -1,0 +1,361 @@
+#include <algorithm>
+#include <array>
+#include <complex>
+#include <cstddef>
+
+#include "base/parallel.hpp"
+#include "base/thread_settings.hpp"
+#include "dense/blocked.hpp"
+#include "sparse/numeric/factor_task.hpp"
+#include "sparse/numeric/loops.hpp"
+#include "sparse/numeric/thread_slots.hpp"
+#include "sparse/numeric/two_by_two.hpp"
+
+namespace quorin::sparse {
+
+using base::Workspace;
+
+namespace {
+
+std::size_t to_size(std::int64_t n) noexcept { return static_cast<std::size_t>(n); }
+
+// Updates of so few terms, or with so few multiplications, are made by loops.
+constexpr int kFewTerms = 8;
+constexpr double kFewProducts = 2000;
+
+// Scalars that an update is made in before it is scattered. An update that does not fit is made in slices of columns.
+template <Scalar T>
+std::size_t buffer_size(const Plan& plan, PanelKind kind, int threads) noexcept {
+  constexpr std::int64_t kEnough = 512 * 1024 / sizeof(T);
+  const std::int64_t most_columns = std::min(plan.most_columns(), plan.most_below());
+  const std::int64_t largest = (plan.most_below() + std::int64_t{plan.most_columns()}) * most_columns;
+  const std::int64_t share = plan.panel_elements(kind) / (40 * threads);
+  const std::size_t one_column = to_size(plan.most_below()) + to_size(plan.most_columns());
+  return std::max({one_column, elimination_scratch(plan.most_columns()), to_size(std::min({largest, kEnough, share}))});
+}
+
+// The memory of one thread.
+template <Scalar T>
+class Worker {
+ public:
+  static std::size_t bytes(const Plan& plan, PanelKind kind, int threads) noexcept {
+    return buffer_size<T>(plan, kind, threads) * sizeof(T) +
+           (to_size(plan.size()) + to_size(plan.most_below())) * sizeof(int);
+  }
+
+  bool create(const Plan& plan, PanelKind kind, int threads) noexcept {
+    buffer = Workspace<T>(buffer_size<T>(plan, kind, threads));
+    position = Workspace<int>(to_size(plan.size()));
+    places = Workspace<int>(to_size(plan.most_below()));
+    return buffer && position && places;
+  }
+
+  Workspace<T> buffer;
+  Workspace<int> position;  // of the rows of the panel that this thread makes
+  Workspace<int> places;    // most_below: rows of an update in a panel
+};
+
+// A panel that is being made, and its place in the matrix.
+template <Scalar T>
+struct Target {
+  int s;
+  T* panel;
+  std::ptrdiff_t height;
+  int u_offset;  // rows between a row of L and the same of U^T
+  const int* position;
+};
+
+// Of the m rows below a descendant's diagonal block, those that make columns of the target are rows [first, last). Of
+// these, the columns [p, q) are at hand.
+struct Span {
+  int first, last, p, q, m;
+};
+
+template <Scalar T>
+class LeftLooking {
+ public:
+  explicit LeftLooking(FactorTask<T>& task) noexcept
+      : task_(task),
+        plan_(task.plan),
+        kind_(task.panels.kind()),
+        is_conjugated_(task.rule.factorization == Factorization::kLLT ||
+                       task.rule.factorization == Factorization::kLDLH),
+        has_diagonal_(task.rule.factorization == Factorization::kLDLT ||
+                      task.rule.factorization == Factorization::kLDLH) {}
+
+  static std::int64_t bytes(const Plan& plan, Factorization factorization, int threads) noexcept {
+    return static_cast<std::int64_t>(4 * to_size(plan.supernodes()) * sizeof(int) +
+                                     to_size(threads) * Worker<T>::bytes(plan, panel_kind(factorization), threads));
+  }
+
+  void run() noexcept {
+    if (!create()) return task_.fail(0, FactorOutcome::kOutOfMemory);
+    const int count = plan_.supernodes();
+    const int range_count =
+        task_.threads == 1 ? 0 : plan_.cut_by_operations(kPartsPerThread * task_.threads, ranges_.data());
+    base::parallel_for(range_count, task_.threads, [&](int r) {
+      const SupernodeRange range = ranges_[to_size(r)];
+      const ThreadSlots::Slot slot(slots_, task_.threads);
+      Worker<T>& worker = workers_[slot.number()];
+      for (int s = range.first; s < range.end && task_.may_go_on(s); ++s) make_panel(s, range, worker, 1);
+    });
+    // What subtrees do to panels above them. A range that has been cut short means that nothing above is made.
+    for (int r = 0; r < range_count && task_.may_go_on(ranges_[to_size(r)].end - 1); ++r) {
+      for (int d = ranges_[to_size(r)].first; d < ranges_[to_size(r)].end; ++d) link(d, {0, count});
+    }
+    int next_range = 0;
+    for (int s = 0; s < count && task_.may_go_on(s);) {
+      if (next_range < range_count && s == ranges_[to_size(next_range)].first) {
+        s = ranges_[to_size(next_range++)].end;
+      } else {
+        make_panel(s++, {0, count}, workers_[0], task_.threads);
+      }
+    }
+  }
+
+ private:
+  static constexpr int kPartsPerThread = 8;
+
+  bool create() noexcept {
+    const std::size_t count = to_size(plan_.supernodes());
+    lists_ = Workspace<int>(4 * count);
+    ranges_ = Workspace<SupernodeRange>(to_size(kRangesPerPart * kPartsPerThread * task_.threads));
+    if (!lists_ || !ranges_) return false;
+    head_ = lists_.data();
+    next_ = head_ + count;
+    done_ = next_ + count;
+    gathered_ = done_ + count;
+    std::fill_n(head_, count, kNone);
+    for (int i = 0; i < task_.threads; ++i) {
+      if (!workers_[to_size(i)].create(plan_, kind_, task_.threads)) return false;
+    }
+    return true;
+  }
+
+  // Puts d into the list of the next supernode that it updates, if that is within the range.
+  void link(int d, SupernodeRange range) noexcept {
+    const auto rows = plan_.below(d);
+    if (to_size(done_[d]) == rows.size()) return;
+    const int s = plan_.supernode_of(rows[to_size(done_[d])]);
+    if (s >= range.end) return;
+    next_[d] = head_[s];
+    head_[s] = d;
+  }
+
+  void make_panel(int s, SupernodeRange range, Worker<T>& worker, int threads) noexcept {
+    T* const panel = task_.panels.pin(s, true);
+    if (panel == nullptr) return task_.fail(s, task_.panels.store()->outcome());
+    task_.assemble_panel(s, panel);
+    // Ascending, so that sums do not depend on the order in which threads finish.
+    int* const descendants = gathered_ + range.first;
+    int* end = descendants;
+    for (int d = head_[s]; d != kNone; d = next_[d]) *end++ = d;
+    if (end != descendants) {
+      std::sort(descendants, end);
+      gather_updates(s, panel, descendants, end, worker, threads);
+      for (const int* d = descendants; d != end; ++d) {
+        done_[*d] = first_row_from(*d, done_[*d], plan_.first(s + 1));
+        link(*d, range);
+      }
+    }
+    if (task_.may_go_on(s) && task_.eliminate(s, panel, worker.buffer.data(), threads)) {
+      done_[s] = 0;
+      link(s, range);
+      task_.report_progress(s);
+    }
+    task_.panels.unpin(s, true);
+  }
+
+  // The first of the rows below d's block, from `begin` on, that is not above `row`.
+  int first_row_from(int d, int begin, int row) const noexcept {
+    const auto rows = plan_.below(d);
+    return static_cast<int>(std::lower_bound(rows.begin() + begin, rows.end(), row) - rows.begin());
+  }
+
+  void gather_updates(int s, T* panel, const int* begin, const int* end, Worker<T>& worker, int threads) noexcept {
+    const int first = plan_.first(s), columns = plan_.columns(s);
+    int* const position = worker.position.data();
+    for (int k = 0; k < columns; ++k) position[first + k] = k;
+    int row = columns;
+    for (const int k : plan_.below(s)) position[k] = row++;
+    const Target<T> target{s, panel, plan_.height(kind_, s), plan_.below_count(s), position};
+
+    // Columns of the panel to threads. An element's bits do not depend on how columns are cut.
+    constexpr int kLeastColumns = 16;
+    const int slices = threads == 1 ? 1 : std::clamp(columns / kLeastColumns, 1, 4 * threads);
+    const auto gather = [&](int begin_column, int end_column, Worker<T>& own) {
+      for (const int* d = begin; d != end && task_.may_go_on(s); ++d) {
+        update(*d, target, first + begin_column, first + end_column, own);
+      }
+    };
+    if (slices == 1) return gather(0, columns, worker);
+    base::parallel_for(slices, threads, [&](int slice) {
+      const auto cut = [&](int i) { return static_cast<int>(std::int64_t{columns} * i / slices); };
+      const ThreadSlots::Slot slot(slots_, threads);
+      gather(cut(slice), cut(slice + 1), workers_[slot.number()]);
+    });
+  }
+
+  // Subtracts from columns first, ..., end - 1 what descendant d contributes.
+  void update(int d, const Target<T>& target, int first, int end, Worker<T>& worker) noexcept {
+    const auto rows = plan_.below(d);
+    Span span{done_[d], 0, 0, 0, static_cast<int>(rows.size())};
+    span.p = first_row_from(d, span.first, first);
+    span.q = first_row_from(d, span.p, end);
+    span.last = first_row_from(d, span.q, plan_.first(target.s + 1));
+    if (span.p == span.q) return;
+    const PinnedPanel<T> pinned(task_.panels, d);
+    if (pinned.data() == nullptr) return task_.fail(target.s, task_.panels.store()->outcome());
+    int* const places = worker.places.data();
+    for (int i = span.first; i < span.m; ++i) places[i] = target.position[rows[to_size(i)]];
+
+    const int k = plan_.columns(d), height = plan_.height(kind_, d);
+    const T* const l = pinned.data() + k;
+    T* const buffer = worker.buffer.data();
+    const std::size_t size = worker.buffer.size();
+    if (has_diagonal_) return update_symmetric(d, pinned.data(), l, height, k, span, target, worker);
+    if (kind_ == PanelKind::kSymmetric) {
+      return subtract(l, l, height, height, k, span, span.first, target, 0, buffer, size, places);
+    }
+    const T* const u = l + span.m;
+    subtract(l, u, height, height, k, span, span.first, target, 0, buffer, size, places);
+    subtract(u, l, height, height, k, span, span.last, target, target.u_offset, buffer, size, places);
+  }
+
+  // - L D L': with W = L D for the rows [p, q), some of them at a time.
+  void update_symmetric(int d, const T* panel, const T* l, int height, int k, const Span& span, const Target<T>& target,
+                        Worker<T>& worker) noexcept {
+    T* const w = worker.buffer.data();
+    const std::size_t each = to_size(k) + to_size(span.m - span.p);
+    const int most =
+        static_cast<int>(std::clamp<std::size_t>(worker.buffer.size() / each, 1, to_size(span.q - span.p)));
+    for (int p = span.p; p < span.q; p += most) {
+      Span slice = span;
+      slice.p = p;
+      slice.q = std::min(p + most, span.q);
+      const int count = slice.q - p;
+      multiply_by_diagonal(d, panel, l + p, height, k, count, w);
+      const std::size_t used = to_size(count) * to_size(k);
+      subtract(l, w - p, height, count, k, slice, span.first, target, 0, w + used, worker.buffer.size() - used,
+               worker.places.data());
+    }
+  }
+
+  // W <- L D for `count` rows of the panel of d.
+  void multiply_by_diagonal(int d, const T* panel, const T* l, int height, int k, int count, T* w) const noexcept {
+    const int* const order = task_.order.rows == nullptr ? nullptr : task_.order.rows + plan_.first(d);
+    const std::ptrdiff_t ld = height;
+    const auto diagonal = [&](int i, int j) { return panel[i + j * ld]; };
+    for (int j = 0; j < k; ++j) {
+      T* const w1 = w + to_size(j) * to_size(count);
+      std::copy_n(l + j * ld, count, w1);
+      if (order == nullptr || order[j] >= 0) {
+        scale_column(count, diagonal(j, j), w1);
+        continue;
+      }
+      T* const w2 = w1 + count;
+      std::copy_n(l + (j + 1) * ld, count, w2);
+      const TwoByTwo<T> pivot(diagonal(j, j), diagonal(j, j + 1), diagonal(j + 1, j + 1), is_conjugated_);
+      for (int i = 0; i < count; ++i) pivot.multiply_row(w1[i], w2[i]);
+      ++j;
+    }
+  }
+
+  // Subtracts X Y' from the target, where X is the rows [from, m) of x and Y the rows [p, q) of y, both with k columns.
+  // Of kSymmetric panels only what is not above the diagonal is made; there `from` is the span's first row. `offset` is
+  // added to places of rows. How it is done depends on all of the target's columns, so that each element's bits do not
+  // depend on how they were cut.
+  void subtract(const T* x, const T* y, int ldx, int ldy, int k, const Span& span, int from, const Target<T>& target,
+                int offset, T* buffer, std::size_t size, const int* places) noexcept {
+    const int p = span.p, q = span.q, m = span.m;
+    if (from == m) return;
+    const bool is_triangle = kind_ == PanelKind::kSymmetric;
+    const auto column = [&](int c) { return target.panel + target.height * places[c] + offset; };
+    const bool is_contiguous = places[m - 1] - places[from] == m - 1 - from;
+    if (k <= kFewTerms || static_cast<double>(m - from) * (span.last - span.first) * k <= kFewProducts) {
+      T row[kFewTerms];
+      for (int c = p; c < q; ++c) {
+        const int begin = is_triangle ? c : from;
+        for (int first = 0; first < k; first += kFewTerms) {
+          const int count = std::min(kFewTerms, k - first);
+          const T* const terms = x + begin + static_cast<std::ptrdiff_t>(first) * ldx;
+          for (int j = 0; j < count; ++j) {
+            row[j] = conjugate_if(is_conjugated_, y[c + static_cast<std::ptrdiff_t>(first + j) * ldy]);
+          }
+          if (is_contiguous) {
+            subtract_multiples(m - begin, count, row, terms, ldx, column(c) + places[begin]);
+          } else {
+            scatter_multiples(m - begin, count, row, terms, ldx, places + begin, column(c));
+          }
+        }
+      }
+      return;
+    }
+    if (is_contiguous && places[span.last - 1] - places[span.first] == span.last - 1 - span.first) {
+      const int begin = is_triangle ? p : from;
+      return multiply(x, y, ldx, ldy, k, p, q, m, begin, T{1}, column(p) + places[begin],
+                      static_cast<int>(target.height));
+    }
+    const int most =
+        static_cast<int>(std::min<std::size_t>(size / to_size(m - (is_triangle ? p : from)), to_size(q - p)));
+    for (int c = p; c < q; c += most) {
+      const int end = std::min(c + most, q), begin = is_triangle ? c : from, rows = m - begin;
+      multiply(x, y, ldx, ldy, k, c, end, m, begin, T{}, buffer, rows);
+      for (int j = c; j < end; ++j) {
+        const T* const made = buffer + static_cast<std::ptrdiff_t>(j - c) * rows;
+        T* const y_j = column(j);
+        for (int i = is_triangle ? j : from; i < m; ++i) y_j[places[i]] += made[i - begin];
+      }
+    }
+  }
+
+  // C <- beta C - X Y', X the rows [from, m), Y the rows [p, q). Of symmetric panels the lower trapezoid.
+  void multiply(const T* x, const T* y, int ldx, int ldy, int k, int p, int q, int m, int from, T beta, T* c,
+                int ldc) const noexcept {
+    const char prime = is_conjugated_ ? 'C' : 'T';
+    const int square = kind_ == PanelKind::kSymmetric ? q - p : 0;
+    if (square > 0) {
+      dense::blocked::gemmt('L', 'N', prime, square, k, T{-1}, x + p, ldx, y + p, ldy, beta, c, ldc);
+    }
+    if (m - from > square) {
+      dense::blocked::gemm('N', prime, m - from - square, q - p, k, T{-1}, x + from + square, ldx, y + p, ldy, beta,
+                           c + square, ldc);
+    }
+  }
+
+  FactorTask<T>& task_;
+  const Plan& plan_;
+  const PanelKind kind_;
+  const bool is_conjugated_, has_diagonal_;
+
+  // For each supernode the list of those that update it next, by links; and how many rows of a supernode's have been
+  // dealt with.
+  Workspace<int> lists_;
+  int *head_ = nullptr, *next_ = nullptr, *done_ = nullptr, *gathered_ = nullptr;
+  Workspace<SupernodeRange> ranges_;
+  ThreadSlots slots_;
+  std::array<Worker<T>, base::kMostThreads> workers_;
+};
+
+}  // namespace
+
+template <Scalar T>
+void factor_left_looking(FactorTask<T>& task) noexcept {
+  LeftLooking<T>(task).run();
+}
+
+template <Scalar T>
+std::int64_t left_looking_bytes(const Plan& plan, Factorization factorization, int threads) noexcept {
+  return LeftLooking<T>::bytes(plan, factorization, threads);
+}
+
+template void factor_left_looking<float>(FactorTask<float>&) noexcept;
+template void factor_left_looking<double>(FactorTask<double>&) noexcept;
+template void factor_left_looking<std::complex<float>>(FactorTask<std::complex<float>>&) noexcept;
+template void factor_left_looking<std::complex<double>>(FactorTask<std::complex<double>>&) noexcept;
+template std::int64_t left_looking_bytes<float>(const Plan&, Factorization, int) noexcept;
+template std::int64_t left_looking_bytes<double>(const Plan&, Factorization, int) noexcept;
+template std::int64_t left_looking_bytes<std::complex<float>>(const Plan&, Factorization, int) noexcept;
+template std::int64_t left_looking_bytes<std::complex<double>>(const Plan&, Factorization, int) noexcept;
+
+}  // namespace quorin::sparse

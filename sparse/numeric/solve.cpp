@@ -1,0 +1,562 @@
+#include "sparse/numeric/solve.hpp"
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <complex>
+
+#include "base/parallel.hpp"
+#include "base/thread_settings.hpp"
+#include "dense/blocked.hpp"
+#include "sparse/numeric/loops.hpp"
+#include "sparse/numeric/thread_slots.hpp"
+#include "sparse/numeric/two_by_two.hpp"
+
+namespace quorin::sparse {
+
+using base::Workspace;
+
+namespace {
+
+std::size_t to_size(std::int64_t n) noexcept { return static_cast<std::size_t>(n); }
+
+// So many right-hand sides are solved for together at the least, and at the most.
+constexpr int kFewestTogether = 4, kMostTogether = 32;
+// Supernodes with so many columns, and rows below, are worth a call of the dense kernels.
+constexpr int kManyColumns = 12;
+// The subtrees that go to threads are so many parts of the factor, whatever the number of threads, because their sums
+// are added up. Of a small factor there are none.
+constexpr int kParts = 16;
+constexpr std::int64_t kFewElements = 100'000;
+
+// The triangle of a diagonal block that a solve needs: L or U.
+struct Triangle {
+  bool is_upper;
+  bool has_unit_diagonal;
+};
+
+// One vector x with the columns of a block's triangle, several at a time: x <- L^-1 x or U^-1 x.
+template <Scalar T>
+void solve_by_columns(Triangle triangle, int n, const T* block, std::ptrdiff_t ld, T* x) noexcept {
+  const auto a = [&](int i, int j) { return block[i + j * ld]; };
+  const auto divide = [&](int k) {
+    if (!triangle.has_unit_diagonal) x[k] /= a(k, k);
+  };
+  constexpr int kGroup = kColumnsAtOnce<T>;
+  if (triangle.is_upper) {
+    for (int end = n; end > 0; end -= kGroup) {
+      const int begin = std::max(0, end - kGroup);
+      for (int k = end - 1; k >= begin; --k) {
+        divide(k);
+        for (int i = begin; i < k; ++i) x[i] -= product(a(i, k), x[k]);
+      }
+      subtract_multiples(begin, end - begin, x + begin, block + begin * ld, ld, x);
+    }
+  } else {
+    for (int begin = 0; begin < n; begin += kGroup) {
+      const int end = std::min(n, begin + kGroup);
+      for (int k = begin; k < end; ++k) {
+        divide(k);
+        for (int i = k + 1; i < end; ++i) x[i] -= product(a(i, k), x[k]);
+      }
+      subtract_multiples(n - end, end - begin, x + begin, block + end + begin * ld, ld, x + end);
+    }
+  }
+}
+
+// x <- L^-T x or U^-T x.
+template <Scalar T>
+void solve_by_products(Triangle triangle, int n, const T* block, std::ptrdiff_t ld, T* x) noexcept {
+  const auto a = [&](int i, int j) { return block[i + j * ld]; };
+  const auto divide = [&](int k) {
+    if (!triangle.has_unit_diagonal) x[k] /= a(k, k);
+  };
+  constexpr int kGroup = kColumnsAtOnce<T>;
+  if (triangle.is_upper) {
+    for (int begin = 0; begin < n; begin += kGroup) {
+      const int end = std::min(n, begin + kGroup);
+      subtract_products(begin, end - begin, block + begin * ld, ld, x, x + begin);
+      for (int k = begin; k < end; ++k) {
+        for (int i = begin; i < k; ++i) x[k] -= product(a(i, k), x[i]);
+        divide(k);
+      }
+    }
+  } else {
+    for (int end = n; end > 0; end -= kGroup) {
+      const int begin = std::max(0, end - kGroup);
+      subtract_products(n - end, end - begin, block + end + begin * ld, ld, x + end, x + begin);
+      for (int k = end - 1; k >= begin; --k) {
+        for (int i = k + 1; i < end; ++i) x[k] -= product(a(i, k), x[i]);
+        divide(k);
+      }
+    }
+  }
+}
+
+// w vectors whose elements of a row stand side by side, Z = X^T, w x n: X <- op(L)^-1 X or op(U)^-1 X, where op is
+// transposition if so said.
+template <Scalar T>
+void solve_together(Triangle triangle, bool is_transposed, int n, const T* block, std::ptrdiff_t ld, T* z,
+                    int w) noexcept {
+  if (n >= kManyColumns) {
+    return dense::blocked::trsm('R', triangle.is_upper ? 'U' : 'L', is_transposed ? 'N' : 'T',
+                                triangle.has_unit_diagonal ? 'U' : 'N', w, n, T{1}, block, static_cast<int>(ld), z, w);
+  }
+  T row[kManyColumns];
+  const bool is_ascending = triangle.is_upper == is_transposed;
+  for (int step = 0; step < n; ++step) {
+    const int k = is_ascending ? step : n - 1 - step, first = is_ascending ? 0 : k + 1;
+    for (int j = 0; j < step; ++j) row[j] = is_transposed ? block[first + j + k * ld] : block[k + (first + j) * ld];
+    T* const zk = z + std::ptrdiff_t{k} * w;
+    subtract_multiples(w, step, row, z + std::ptrdiff_t{first} * w, w, zk);
+    if (!triangle.has_unit_diagonal) scale_column(w, T{1} / block[k + k * ld], zk);
+  }
+}
+
+// A x = M N x or M D N x, where M consists of lower and N of upper triangles: `down_` is M's in a diagonal block, and
+// `up_` is N's, or its transpose. Below the block, panels hold L or U^T.
+template <Scalar T>
+class Solver {
+ public:
+  Solver(const Factor<T>& factor, Operation operation) noexcept
+      : factor_(factor), plan_(factor.plan()), panels_(factor.panels()), kind_(panels_.kind()) {
+    const Factorization factorization = factor.factorization();
+    const bool is_lu = factorization == Factorization::kLU, is_llt = factorization == Factorization::kLLT;
+    const bool is_transposed = operation == Operation::kTransposed || operation == Operation::kAdjoint;
+    const bool is_conjugated = operation == Operation::kConjugated || operation == Operation::kAdjoint;
+    is_hermitian_ = kIsComplex<T> && (is_llt || factorization == Factorization::kLDLH);
+    has_diagonal_ = !is_lu && !is_llt;
+    // L U, or for the transposed matrix U^T L^T; else L and L^T. A symmetric matrix is its own transpose, and the
+    // conjugate of a Hermitian one is.
+    const Triangle l{false, !is_llt}, u{true, false};
+    down_ = is_lu && is_transposed ? u : l;
+    up_ = is_lu && !is_transposed ? u : l;
+    conjugates_down_ = kIsComplex<T> && (is_hermitian_ ? is_conjugated != is_transposed : is_conjugated);
+    const PivotOrder order = factor.pivot_order();
+    order_down_ = down_.is_upper ? order.columns : order.rows;
+    order_up_ = up_.is_upper ? order.columns : order.rows;
+    pairs_ = is_lu ? nullptr : order.rows;
+  }
+
+  const Plan& plan() const noexcept { return plan_; }
+  bool has_diagonal() const noexcept { return has_diagonal_; }
+  // Whether M and D, or N, are solved with for the conjugate of x: L^H x = b is L^T conj(x) = conj(b).
+  bool conjugates_down() const noexcept { return conjugates_down_; }
+  bool conjugates_up() const noexcept { return conjugates_down_ != is_hermitian_; }
+  std::size_t buffer_size(int w) const noexcept {
+    return to_size(std::max(plan_.most_below(), plan_.most_columns())) * to_size(w);
+  }
+  FactorOutcome outcome() const noexcept { return panels_.store()->outcome(); }
+
+  // ---- One vector ---------------------------------------------------------------------------------------------------
+
+  // Supernode s. What rows of x from `outside` on get is added to sums[place[row]] instead.
+  bool forward(int s, T* x, int outside, T* sums, const int* place, T* buffer) const noexcept {
+    const PinnedPanel<T> panel(panels_, s);
+    if (panel.data() == nullptr) return false;
+    const Shape shape = shape_of(s, down_);
+    T* const xs = x + plan_.first(s);
+    take_order(s, 1, xs, buffer);
+    if (down_.is_upper) {
+      solve_by_products(down_, shape.columns, panel.data(), shape.height, xs);
+    } else {
+      solve_by_columns(down_, shape.columns, panel.data(), shape.height, xs);
+    }
+    const auto below = plan_.below(s);
+    const int m = shape.below, *const rows = below.data();
+    const T* const b = panel.data() + shape.offset;
+    const bool is_inside = m == 0 || below.back() < outside;
+    if (is_inside && shape.columns <= kColumnsAtOnce<T>) {
+      scatter_multiples(m, shape.columns, xs, b, shape.height, rows, x);
+      return true;
+    }
+    std::fill_n(buffer, m, T{});
+    subtract_multiples(m, shape.columns, xs, b, shape.height, buffer);
+    const int inside =
+        is_inside ? m : static_cast<int>(std::lower_bound(below.begin(), below.end(), outside) - below.begin());
+    for (int i = 0; i < inside; ++i) x[rows[i]] += buffer[i];
+    for (int i = inside; i < m; ++i) sums[place[rows[i]]] += buffer[i];
+    return true;
+  }
+
+  bool backward(int s, T* x, T* buffer) const noexcept {
+    const PinnedPanel<T> panel(panels_, s);
+    if (panel.data() == nullptr) return false;
+    const Shape shape = shape_of(s, up_);
+    const int* const rows = plan_.below(s).data();
+    T* const xs = x + plan_.first(s);
+    for (int i = 0; i < shape.below; ++i) buffer[i] = x[rows[i]];
+    subtract_products(shape.below, shape.columns, panel.data() + shape.offset, shape.height, buffer, xs);
+    if (up_.is_upper) {
+      solve_by_columns(up_, shape.columns, panel.data(), shape.height, xs);
+    } else {
+      solve_by_products(up_, shape.columns, panel.data(), shape.height, xs);
+    }
+    give_order(s, 1, xs, buffer);
+    return true;
+  }
+
+  // ---- w vectors, the elements of a row side by side: Z = X^T, w x n
+  // --------------------------------------------------
+
+  bool forward_together(int s, T* z, int w, T* buffer) const noexcept {
+    const PinnedPanel<T> panel(panels_, s);
+    if (panel.data() == nullptr) return false;
+    const Shape shape = shape_of(s, down_);
+    const int* const rows = plan_.below(s).data();
+    T* const zs = row(z, plan_.first(s), w);
+    take_order(s, w, zs, buffer);
+    solve_together(down_, down_.is_upper, shape.columns, panel.data(), shape.height, zs, w);
+    const T* const b = panel.data() + shape.offset;
+    if (is_large(shape)) {
+      dense::blocked::gemm('N', 'T', w, shape.below, shape.columns, T{-1}, zs, w, b, shape.height, T{}, buffer, w);
+      for (int i = 0; i < shape.below; ++i) {
+        const T* const made = row(buffer, i, w);
+        T* const zi = row(z, rows[i], w);
+        for (int r = 0; r < w; ++r) zi[r] += made[r];
+      }
+      return true;
+    }
+    constexpr int kAtOnce = 32;
+    T factors[kAtOnce];
+    for (int i = 0; i < shape.below; ++i) {
+      for (int first = 0; first < shape.columns; first += kAtOnce) {
+        const int count = std::min(kAtOnce, shape.columns - first);
+        for (int k = 0; k < count; ++k) factors[k] = b[i + std::ptrdiff_t{first + k} * shape.height];
+        subtract_multiples(w, count, factors, row(zs, first, w), w, row(z, rows[i], w));
+      }
+    }
+    return true;
+  }
+
+  bool backward_together(int s, T* z, int w, T* buffer) const noexcept {
+    const PinnedPanel<T> panel(panels_, s);
+    if (panel.data() == nullptr) return false;
+    const Shape shape = shape_of(s, up_);
+    const int* const rows = plan_.below(s).data();
+    T* const zs = row(z, plan_.first(s), w);
+    for (int i = 0; i < shape.below; ++i) std::copy_n(row(z, rows[i], w), w, row(buffer, i, w));
+    const T* const b = panel.data() + shape.offset;
+    if (is_large(shape)) {
+      dense::blocked::gemm('N', 'N', w, shape.columns, shape.below, T{-1}, buffer, w, b, shape.height, T{1}, zs, w);
+    } else {
+      for (int k = 0; k < shape.columns; ++k) {
+        subtract_multiples(w, shape.below, b + std::ptrdiff_t{k} * shape.height, buffer, w, row(zs, k, w));
+      }
+    }
+    solve_together(up_, !up_.is_upper, shape.columns, panel.data(), shape.height, zs, w);
+    give_order(s, w, zs, buffer);
+    return true;
+  }
+
+  // X <- D^-1 X for supernode s; Z = X^T, w x n.
+  bool divide_by_diagonal(int s, T* z, int w) const noexcept {
+    const PinnedPanel<T> panel(panels_, s);
+    if (panel.data() == nullptr) return false;
+    const int first = plan_.first(s);
+    const std::ptrdiff_t height = plan_.height(kind_, s);
+    const auto d = [&](int i, int j) { return panel.data()[i + j * height]; };
+    for (int k = 0; k < plan_.columns(s); ++k) {
+      T* const z1 = row(z, first + k, w);
+      if (pairs_ != nullptr && pairs_[first + k] < 0) {
+        const TwoByTwo<T> pivot(d(k, k), d(k, k + 1), d(k + 1, k + 1), is_hermitian_);
+        for (int r = 0; r < w; ++r) pivot.divide_column(z1[r], z1[w + r]);
+        ++k;
+      } else {
+        for (int r = 0; r < w; ++r) z1[r] = d(k, k) == T{} ? T{} : z1[r] / d(k, k);
+      }
+    }
+    return true;
+  }
+
+ private:
+  struct Shape {
+    int columns, below, height;
+    int offset;  // of the rows of L or U^T below the diagonal block
+  };
+  Shape shape_of(int s, Triangle triangle) const noexcept {
+    const int columns = plan_.columns(s), below = plan_.below_count(s);
+    return {columns, below, plan_.height(kind_, s), columns + (triangle.is_upper ? below : 0)};
+  }
+  static bool is_large(const Shape& shape) noexcept {
+    return shape.columns >= kManyColumns && shape.below >= kManyColumns;
+  }
+  template <class Pointer>
+  static Pointer row(Pointer z, int k, int w) noexcept {
+    return z + std::ptrdiff_t{k} * w;
+  }
+
+  // The unknowns of supernode s in the order of its pivots, and back.
+  static int position(int pivot) noexcept { return pivot < 0 ? ~pivot : pivot; }
+  void take_order(int s, int w, T* xs, T* buffer) const noexcept {
+    if (order_down_ == nullptr) return;
+    const int columns = plan_.columns(s), *const pivots = order_down_ + plan_.first(s);
+    std::copy_n(xs, to_size(columns) * to_size(w), buffer);
+    for (int k = 0; k < columns; ++k) std::copy_n(row(buffer, position(pivots[k]), w), w, row(xs, k, w));
+  }
+  void give_order(int s, int w, T* xs, T* buffer) const noexcept {
+    if (order_up_ == nullptr) return;
+    const int columns = plan_.columns(s), *const pivots = order_up_ + plan_.first(s);
+    std::copy_n(xs, to_size(columns) * to_size(w), buffer);
+    for (int k = 0; k < columns; ++k) std::copy_n(row(buffer, k, w), w, row(xs, position(pivots[k]), w));
+  }
+
+  const Factor<T>& factor_;
+  const Plan& plan_;
+  const Panels<T>& panels_;
+  const PanelKind kind_;
+  bool is_hermitian_ = false, has_diagonal_ = false, conjugates_down_ = false;
+  Triangle down_{}, up_{};
+  const int *order_down_ = nullptr, *order_up_ = nullptr, *pairs_ = nullptr;
+};
+
+struct Stages {
+  bool forward, diagonal, backward;
+};
+
+template <Scalar T>
+void conjugate_all(bool is_needed, std::size_t count, T* x) noexcept {
+  if constexpr (kIsComplex<T>) {
+    for (std::size_t i = 0; is_needed && i < count; ++i) x[i] = std::conj(x[i]);
+  }
+}
+
+// Runs the stages for the vectors in z, of `count` numbers, each stage on what may be their conjugates.
+template <Scalar T, class Forward, class Diagonal, class Backward>
+bool run_stages(const Solver<T>& solver, Stages stages, std::size_t count, T* z, const Forward& forward,
+                const Diagonal& diagonal, const Backward& backward) noexcept {
+  bool is_conjugated = false, is_sound = true;
+  const auto make = [&](bool conjugates) {
+    conjugate_all(is_conjugated != conjugates, count, z);
+    is_conjugated = conjugates;
+  };
+  if (stages.forward || stages.diagonal) make(solver.conjugates_down());
+  if (stages.forward) is_sound = forward();
+  if (stages.diagonal && solver.has_diagonal()) is_sound = is_sound && diagonal();
+  if (stages.backward) {
+    make(solver.conjugates_up());
+    is_sound = is_sound && backward();
+  }
+  make(false);
+  return is_sound;
+}
+
+// ---- One vector at a time, subtrees to threads
+// ------------------------------------------------------------------------
+
+// The subtrees are the same for any number of threads, and what each of them adds to the unknowns above is summed on
+// its own and added in a fixed order.
+template <Scalar T>
+class VectorSolve {
+ public:
+  explicit VectorSolve(const Solver<T>& solver) noexcept : solver_(solver), plan_(solver.plan()) {}
+
+  bool create(int threads) noexcept {
+    if (plan_.panel_elements(PanelKind::kSymmetric) > kFewElements) {
+      ranges_count_ = plan_.cut_by_elements(kParts, ranges_.data());
+    }
+    threads_ = std::clamp(threads, 1, std::max(1, ranges_count_));
+    std::size_t sums = 0;
+    for (int r = 0; r < ranges_count_; ++r) {
+      sums_start_[to_size(r)] = sums;
+      for_each_row_above(ranges_[to_size(r)], [&](int) { ++sums; });
+    }
+    sums_ = Workspace<T>(sums);
+    buffers_ = Workspace<T>(solver_.buffer_size(1) * to_size(threads_));
+    places_ = Workspace<int>(ranges_count_ == 0 ? 0 : to_size(plan_.size()) * to_size(threads_));
+    return sums_ && buffers_ && places_;
+  }
+
+  bool run(Stages stages, T* x) noexcept {
+    is_sound_ = true;
+    return run_stages(
+        solver_, stages, to_size(plan_.size()), x, [&] { return forward(x); },
+        [&] {
+          for (int s = 0; s < plan_.eliminated(); ++s) {
+            if (!solver_.divide_by_diagonal(s, x, 1)) return false;
+          }
+          return true;
+        },
+        [&] { return backward(x); });
+  }
+
+ private:
+  // Rows below the roots of the subtrees, once for each root.
+  template <class Take>
+  void for_each_row_above(SupernodeRange range, const Take& take) const noexcept {
+    for (int s = range.first; s < range.end; ++s) {
+      const int p = plan_.parent(s);
+      if (p == kNone || p < range.end) continue;
+      for (const int k : plan_.below(s)) take(k);
+    }
+  }
+
+  bool forward(T* x) noexcept {
+    base::parallel_for(ranges_count_, threads_, [&](int r) {
+      const SupernodeRange range = ranges_[to_size(r)];
+      const ThreadSlots::Slot slot(slots_, threads_);
+      int* const place = places_.data() + slot.number() * to_size(plan_.size());
+      int next = 0;
+      for_each_row_above(range, [&](int k) { place[k] = next++; });
+      T* const sums = sums_.data() + sums_start_[to_size(r)];
+      std::fill_n(sums, next, T{});
+      const int outside = plan_.first(range.end);
+      for (int s = range.first; s < range.end && is_sound_.load(std::memory_order_relaxed); ++s) {
+        if (!solver_.forward(s, x, outside, sums, place, buffer(slot.number()))) is_sound_ = false;
+      }
+    });
+    for (int r = 0; r < ranges_count_; ++r) {
+      // A row below several roots has its sum in the last of its places, zeros in the others.
+      const T* sum = sums_.data() + sums_start_[to_size(r)];
+      for_each_row_above(ranges_[to_size(r)], [&](int k) { x[k] += *sum++; });
+    }
+    for_each_above([&](int s) { return solver_.forward(s, x, plan_.size(), nullptr, nullptr, buffer(0)); });
+    return is_sound_;
+  }
+
+  bool backward(T* x) noexcept {
+    int next_range = ranges_count_ - 1;
+    for (int s = plan_.eliminated() - 1; s >= 0 && is_sound_;) {
+      if (next_range >= 0 && s == ranges_[to_size(next_range)].end - 1) {
+        s = ranges_[to_size(next_range--)].first - 1;
+      } else if (!solver_.backward(s--, x, buffer(0))) {
+        is_sound_ = false;
+      }
+    }
+    base::parallel_for(ranges_count_, threads_, [&](int r) {
+      const ThreadSlots::Slot slot(slots_, threads_);
+      for (int s = ranges_[to_size(r)].end - 1; s >= ranges_[to_size(r)].first; --s) {
+        if (!is_sound_.load(std::memory_order_relaxed)) break;
+        if (!solver_.backward(s, x, buffer(slot.number()))) is_sound_ = false;
+      }
+    });
+    return is_sound_;
+  }
+
+  // Supernodes in no range, ascending.
+  template <class Body>
+  void for_each_above(const Body& body) noexcept {
+    int next_range = 0;
+    for (int s = 0; s < plan_.eliminated() && is_sound_;) {
+      if (next_range < ranges_count_ && s == ranges_[to_size(next_range)].first) {
+        s = ranges_[to_size(next_range++)].end;
+      } else if (!body(s++)) {
+        is_sound_ = false;
+      }
+    }
+  }
+
+  T* buffer(std::size_t thread) noexcept { return buffers_.data() + solver_.buffer_size(1) * thread; }
+
+  const Solver<T>& solver_;
+  const Plan& plan_;
+  int threads_ = 1, ranges_count_ = 0;
+  std::array<SupernodeRange, kRangesPerPart * kParts> ranges_;
+  std::array<std::size_t, kRangesPerPart * kParts> sums_start_{};
+  ThreadSlots slots_;
+  std::atomic<bool> is_sound_{true};
+  Workspace<T> sums_, buffers_;
+  Workspace<int> places_;
+};
+
+// ---- Vectors side by side, blocks of them to threads
+// ------------------------------------------------------------------
+
+template <Scalar T>
+class BlockSolve {
+ public:
+  BlockSolve(const Solver<T>& solver, int nrhs, int threads) noexcept : solver_(solver), plan_(solver.plan()) {
+    const int blocks = std::max((nrhs + kMostTogether - 1) / kMostTogether, std::min(threads, nrhs));
+    width_ = (nrhs + blocks - 1) / blocks;
+    blocks_ = (nrhs + width_ - 1) / width_;
+    threads_ = std::min(threads, blocks_);
+    nrhs_ = nrhs;
+  }
+
+  bool create() noexcept {
+    memory_ = Workspace<T>(base::saturating_product(size_of_block(), to_size(threads_)));
+    return static_cast<bool>(memory_);
+  }
+
+  bool run(Stages stages, T* x, int ldx) noexcept {
+    base::parallel_for(blocks_, threads_, [&](int block) {
+      const ThreadSlots::Slot slot(slots_, threads_);
+      const int first = block * width_, w = std::min(width_, nrhs_ - first);
+      T* const z = memory_.data() + size_of_block() * slot.number();
+      T* const columns = x + std::ptrdiff_t{first} * ldx;
+      for (int r = 0; r < w; ++r) {
+        for (int k = 0; k < plan_.size(); ++k)
+          z[to_size(k) * to_size(w) + to_size(r)] = columns[k + std::ptrdiff_t{r} * ldx];
+      }
+      if (!run_block(stages, z, w)) is_sound_ = false;
+      for (int r = 0; r < w; ++r) {
+        for (int k = 0; k < plan_.size(); ++k)
+          columns[k + std::ptrdiff_t{r} * ldx] = z[to_size(k) * to_size(w) + to_size(r)];
+      }
+    });
+    return is_sound_;
+  }
+
+ private:
+  std::size_t size_of_block() const noexcept {
+    return base::saturating_product(to_size(plan_.size()), to_size(width_)) + solver_.buffer_size(width_);
+  }
+
+  bool run_block(Stages stages, T* z, int w) const noexcept {
+    const int count = plan_.eliminated();
+    T* const buffer = z + to_size(plan_.size()) * to_size(w);
+    const auto ascending = [&](const auto& body) {
+      for (int s = 0; s < count; ++s) {
+        if (!body(s)) return false;
+      }
+      return true;
+    };
+    return run_stages(
+        solver_, stages, to_size(plan_.size()) * to_size(w), z,
+        [&] { return ascending([&](int s) { return solver_.forward_together(s, z, w, buffer); }); },
+        [&] { return ascending([&](int s) { return solver_.divide_by_diagonal(s, z, w); }); },
+        [&] { return ascending([&](int s) { return solver_.backward_together(count - 1 - s, z, w, buffer); }); });
+  }
+
+  const Solver<T>& solver_;
+  const Plan& plan_;
+  int nrhs_, blocks_, width_, threads_;
+  ThreadSlots slots_;
+  std::atomic<bool> is_sound_{true};
+  Workspace<T> memory_;
+};
+
+}  // namespace
+
+template <Scalar T>
+FactorOutcome solve(const Factor<T>& factor, Operation operation, Stage stage, int nrhs, T* x, int ldx,
+                    int threads) noexcept {
+  if (nrhs <= 0 || factor.plan().size() == 0) return FactorOutcome::kDone;
+  const dense::KernelBuffer buffers(std::clamp(threads, 1, base::kMostThreads));
+  if (buffers.granted() == 0) return FactorOutcome::kOutOfMemory;
+  const int granted = std::clamp(threads, 1, buffers.granted());
+  const bool is_all = stage == Stage::kAll;
+  const Stages stages{is_all || stage == Stage::kForward, is_all || stage == Stage::kDiagonal,
+                      is_all || stage == Stage::kBackward};
+  const Solver<T> solver(factor, operation);
+  bool is_sound = true;
+  if (nrhs >= kFewestTogether) {
+    BlockSolve<T> block(solver, nrhs, granted);
+    if (!block.create()) return FactorOutcome::kOutOfMemory;
+    is_sound = block.run(stages, x, ldx);
+  } else {
+    VectorSolve<T> vector(solver);
+    if (!vector.create(granted)) return FactorOutcome::kOutOfMemory;
+    for (int r = 0; r < nrhs && is_sound; ++r) is_sound = vector.run(stages, x + std::ptrdiff_t{r} * ldx);
+  }
+  return is_sound ? FactorOutcome::kDone : solver.outcome();
+}
+
+template FactorOutcome solve<float>(const Factor<float>&, Operation, Stage, int, float*, int, int) noexcept;
+template FactorOutcome solve<double>(const Factor<double>&, Operation, Stage, int, double*, int, int) noexcept;
+template FactorOutcome solve<std::complex<float>>(const Factor<std::complex<float>>&, Operation, Stage, int,
+                                                  std::complex<float>*, int, int) noexcept;
+template FactorOutcome solve<std::complex<double>>(const Factor<std::complex<double>>&, Operation, Stage, int,
+                                                   std::complex<double>*, int, int) noexcept;
+
+}  // namespace quorin::sparse
