@@ -2,8 +2,10 @@
 #pragma once
 
 #include "sparse/matching/matching.hpp"
+#include "sparse/matching/preprocess.hpp"
 #include "sparse/numeric/assembly.hpp"
 #include "sparse/numeric/factor.hpp"
+#include "sparse/numeric/refinement.hpp"
 #include "sparse/numeric/solve.hpp"
 #include "sparse/orderings/minimum_degree.hpp"
 #include "sparse/orderings/orderings.hpp"

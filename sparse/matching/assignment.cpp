@@ -1,11 +1,15 @@
 #include "sparse/matching/assignment.hpp"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace quorin::sparse {
 namespace {
 
 constexpr double kFar = std::numeric_limits<double>::infinity();
+
+// How often columns without a row bid for one, and how many entries they may look at for each that there is.
+constexpr int kBiddingRounds = 2, kBiddingWork = 8;
 
 }  // namespace
 
@@ -25,12 +29,19 @@ Assignment::Assignment(int n) noexcept : n_(n) {
 
 int Assignment::solve(const CostMatrix& matrix) noexcept {
   matrix_ = matrix;
+  const int rank = attempt(true);
+  // Columns that compete for too few rows bid without an end: their duals may have left all bounds.
+  return rank == n_ ? rank : attempt(false);
+}
+
+int Assignment::attempt(bool with_bids) noexcept {
   start();
   match_row_minima();
   std::copy_n(matrix_.starts, n_, group_);  // for exchange()
   for (int j = 0; j < n_; ++j) {
     if (row_of_[j] == kNone) match_cheaply(j);
   }
+  if (with_bids) bid_for_rows();
   std::fill_n(group_, n_, kNone);
   int rank = 0;
   for (int j = 0; j < n_; ++j) rank += row_of_[j] != kNone || augment(j) ? 1 : 0;
@@ -103,6 +114,47 @@ bool Assignment::exchange(int i, int j, int entry) noexcept {
     return true;
   }
   return false;
+}
+
+// Each column without a row takes the one that is cheapest for it, from the column that has it if need be, which then
+// does the same. Such chains may be long, and end only where there are rows enough: so their work is limited.
+void Assignment::bid_for_rows() noexcept {
+  std::int64_t work = kBiddingWork * matrix_.starts[n_];
+  for (int round = 0; round < kBiddingRounds; ++round) {
+    for (int first = 0; first < n_; ++first) {
+      if (row_of_[first] != kNone) continue;
+      for (int j = first; j != kNone && work > 0; j = bid(j)) work -= matrix_.starts[j + 1] - matrix_.starts[j];
+    }
+  }
+}
+
+// The column takes its cheapest row and lowers u there until another row is as cheap: no other row is cheaper for it
+// now, and no reduced cost has fallen. Returns the column that has lost its row, kNone if none has.
+int Assignment::bid(int j) noexcept {
+  double least = kForbidden, second = kForbidden;
+  int entry = kNone;
+  for (int k = matrix_.starts[j]; k < matrix_.starts[j + 1]; ++k) {
+    const int i = matrix_.indices[k];
+    const double cost = matrix_.costs[k] - u_[i];
+    if (cost < least || (cost == least && column_of_[i] == kNone)) {
+      second = least;
+      least = cost;
+      entry = k;
+    } else {
+      second = std::min(second, cost);
+    }
+  }
+  if (entry == kNone || least == kForbidden) return kNone;
+  v_[j] = least;
+  const int i = matrix_.indices[entry], loser = column_of_[i];
+  if (loser != kNone) {
+    if (second == least || second == kForbidden) return kNone;
+    row_of_[loser] = kNone;
+    u_[i] -= second - least;
+    v_[j] = matrix_.costs[entry] - u_[i];
+  }
+  match(i, j, entry);
+  return loser;
 }
 
 // One row more, from the free column `root`. Distances are sums of reduced costs along alternating paths; they ascend

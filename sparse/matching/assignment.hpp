@@ -29,7 +29,9 @@ struct CostMatrix {
 // Shortest augmenting paths (Dijkstra's algorithm on c_ij - u_i - v_j) from one unmatched column after the other, as in
 // I. S. Duff & J. Koster, On algorithms for permuting large entries to the diagonal of a sparse matrix, SIAM J. Matrix
 // Anal. Appl. 22 (2001) 973-996, section 4: after a cheap assignment along entries that the first duals make tight, one
-// exchange deep. A column without a path, and all that can be reached from it, is looked at only once.
+// exchange deep, and two rounds in which columns bid for rows: the augmenting row reduction of R. Jonker & A.
+// Volgenant, A shortest augmenting path algorithm for dense and sparse linear assignment problems, Computing 38 (1987)
+// 325-340. A column without a path, and all that can be reached from it, is looked at only once.
 //
 // Memory: 10 integers and 3 doubles a row. Time: O(n (entries + n log n)) at most; near linear where, as in most
 // applications, the cheap assignment finds nearly all.
@@ -49,10 +51,13 @@ class Assignment {
   double column_dual(int j) const noexcept { return v_[j]; }
 
  private:
+  int attempt(bool with_bids) noexcept;
   void start() noexcept;
   void match_row_minima() noexcept;
   bool match_cheaply(int j) noexcept;
   bool exchange(int i, int j, int entry) noexcept;
+  void bid_for_rows() noexcept;
+  int bid(int j) noexcept;
 
   bool augment(int root) noexcept;
   void scan(int j, double distance) noexcept;

@@ -15,6 +15,7 @@ enum class [[nodiscard]] MatchingOutcome{
     kOutOfMemory,
     kBadPattern,  // as of Outcome
     kTooLarge,
+    kFailed,  // a library that orders gave up
 };
 
 // A matching of rows and columns, and scalings with

@@ -63,6 +63,28 @@ Call on_graph(Outcome (*order)(const Graph&, const Ordering&) noexcept) {
   };
 }
 
+// With pairs and scales of a symmetric matrix, or a row permutation of a general one.
+Outcome preprocessed(const Matrix& A, const Ordering& ordering, Symmetry symmetry) {
+  heap.watches = false;
+  static std::vector<double> values;
+  values.resize(A.indices.size());
+  for (std::size_t k = 0; k < values.size(); ++k) values[k] = 1.0 + static_cast<double>(k % 7);
+  const int last[] = {3, 70};
+  heap.watches = true;
+  Preprocessing<double> result;
+  const ColumnMatrix<double> matrix{A.pattern(), values.data()};
+  switch (preprocess(matrix, {.symmetry = symmetry, .scales = true, .matches = true, .last = last}, result)) {
+    case MatchingOutcome::kDone:
+      std::copy_n(result.permutation.data(), A.columns, ordering.permutation);
+      std::copy_n(result.inverse.data(), A.columns, ordering.inverse);
+      return Outcome::kDone;
+    case MatchingOutcome::kOutOfMemory:
+      return Outcome::kOutOfMemory;
+    default:
+      return Outcome::kFailed;
+  }
+}
+
 void run(const char* name, const Call& call, const Matrix& A, int failures) {
   SCOPED_TRACE(name);
   bool succeeded = false;
@@ -93,6 +115,8 @@ TEST(Memory, RunsOutWithoutLossAndWithoutAnEnd) {
       {"tree", on_graph(order_tree)},
       {"metis", on_graph(order_metis)},
       {"amd", [](const Matrix& B, const Ordering& o) { return order_amd(B.pattern(), o); }},
+      {"pairs", [](const Matrix& B, const Ordering& o) { return preprocessed(B, o, Symmetry::kSymmetric); }},
+      {"matching", [](const Matrix& B, const Ordering& o) { return preprocessed(B, o, Symmetry::kGeneral); }},
       {"colamd", [](const Matrix& B, const Ordering& o) { return order_colamd(B.pattern(), o); }},
   };
   for (const auto& [name, call] : calls) {

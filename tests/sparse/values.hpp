@@ -33,6 +33,7 @@ struct TypedMatrix {
   std::vector<T> values;
 };
 
+#if defined(QUORIN_MATRICES_DIR)
 // Real matrices of applications that come with the dependencies.
 inline std::vector<quorin::test::SparseMatrix> matrices_with_values() {
   std::vector<quorin::test::SparseMatrix> all;
@@ -46,5 +47,6 @@ inline std::vector<quorin::test::SparseMatrix> matrices_with_values() {
   }
   return all;
 }
+#endif
 
 }  // namespace quorin::sparse::test

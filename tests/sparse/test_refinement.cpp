@@ -1,0 +1,289 @@
+// Refinement, over dense solves that are wrong on purpose. Backward errors are computed again from dense matrices in
+// long double; for systems of integers the solution is known.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <random>
+
+#include "tests/sparse/matrices.hpp"
+#include "tests/sparse/values.hpp"
+
+namespace quorin::sparse::test {
+namespace {
+
+using Wide = std::complex<long double>;
+
+template <Scalar T>
+constexpr double kEpsilon = std::numeric_limits<RealOf<T>>::epsilon();
+
+long double magnitude(Wide x) { return std::abs(x.real()) + std::abs(x.imag()); }
+
+template <Scalar T>
+T scalar(double re, double im) {
+  if constexpr (kIsComplex<T>) {
+    return {static_cast<RealOf<T>>(re), static_cast<RealOf<T>>(im)};
+  } else {
+    return static_cast<T>(re);
+  }
+}
+
+struct Dense {
+  explicit Dense(int size) : n(size), a(static_cast<std::size_t>(size) * size) {}
+  Wide& operator()(int i, int j) { return a[i + static_cast<std::size_t>(j) * n]; }
+
+  // x <- A^-1 x, by Gaussian elimination with row exchanges.
+  template <Scalar T>
+  void solve(T* x) const {
+    Dense A = *this;
+    std::vector<Wide> y(x, x + n);
+    for (int k = 0; k < n; ++k) {
+      int p = k;
+      for (int i = k; i < n; ++i) p = magnitude(A(i, k)) > magnitude(A(p, k)) ? i : p;
+      std::swap(y[k], y[p]);
+      for (int j = 0; j < n; ++j) std::swap(A(k, j), A(p, j));
+      for (int i = k + 1; i < n; ++i) {
+        const Wide l = A(i, k) / A(k, k);
+        for (int j = k; j < n; ++j) A(i, j) -= l * A(k, j);
+        y[i] -= l * y[k];
+      }
+    }
+    for (int k = n - 1; k >= 0; --k) {
+      for (int j = k + 1; j < n; ++j) y[k] -= A(k, j) * y[j];
+      y[k] /= A(k, k);
+      x[k] = scalar<T>(static_cast<double>(y[k].real()), static_cast<double>(y[k].imag()));
+    }
+  }
+
+  int n;
+  std::vector<Wide> a;
+};
+
+// A random system, stored in one of the ways that there are.
+template <Scalar T>
+struct System {
+  System(int n, Symmetry symmetry, Triangle read, bool by_rows, Operation operation, unsigned seed)
+      : matrix(quorin::test::SparseMatrix{}), dense(n) {
+    std::mt19937 numbers(seed);
+    std::uniform_real_distribution<double> uniform(-1, 1);
+    quorin::test::SparseMatrix A{"random", n, n, {}, true};
+    Dense full(n);
+    for (int j = 0; j < n; ++j) {
+      for (int i = 0; i < n; ++i) {
+        if (i != j && numbers() % 4 != 0) continue;
+        const bool is_real = i == j && symmetry == Symmetry::kHermitian;
+        const T value = scalar<T>(uniform(numbers) + (i == j ? 6 : 0), is_real ? 0 : uniform(numbers));
+        // What is not read would spoil everything.
+        const bool is_read = read == Triangle::kAll ? symmetry == Symmetry::kGeneral || i >= j
+                                                    : (read == Triangle::kLower ? i >= j : i <= j);
+        if (!is_read && read == Triangle::kAll) continue;
+        A.add(by_rows ? j : i, by_rows ? i : j, value);
+        if (!is_read) continue;
+        full(i, j) = Wide(value);
+        if (i != j && symmetry == Symmetry::kSymmetric) full(j, i) = Wide(value);
+        if (i != j && symmetry == Symmetry::kHermitian) full(j, i) = std::conj(Wide(value));
+      }
+    }
+    const bool is_transposed = operation == Operation::kTransposed || operation == Operation::kAdjoint;
+    const bool is_conjugated = operation == Operation::kConjugated || operation == Operation::kAdjoint;
+    for (int j = 0; j < n; ++j) {
+      for (int i = 0; i < n; ++i) {
+        const Wide value = is_transposed ? full(j, i) : full(i, j);
+        dense(i, j) = is_conjugated ? std::conj(value) : value;
+      }
+    }
+    matrix = TypedMatrix<T>(A);
+    system = {matrix.matrix(), by_rows, read, symmetry, operation};
+  }
+
+  TypedMatrix<T> matrix;
+  LinearSystem<T> system;
+  Dense dense;
+};
+
+template <Scalar T>
+double error_of(Dense A, const T* b, const T* x) {
+  long double most = 0;
+  for (int i = 0; i < A.n; ++i) {
+    Wide r(b[i]);
+    long double size = magnitude(r);
+    for (int j = 0; j < A.n; ++j) {
+      r -= A(i, j) * Wide(x[j]);
+      size += magnitude(A(i, j)) * magnitude(Wide(x[j]));
+    }
+    most = std::max(most, magnitude(r) / size);
+  }
+  return static_cast<double>(most);
+}
+
+// Solves with a matrix whose entries are wrong by a part in a thousand.
+template <Scalar T>
+auto sloppy_solve(const Dense& A, int& solves) {
+  Dense wrong = A;
+  std::mt19937 numbers(99);
+  for (Wide& a : wrong.a) a *= 1 + 1e-3L * (numbers() % 2);
+  return [wrong, &solves](int count, T* columns) {
+    solves += count;
+    for (int k = 0; k < count; ++k) wrong.solve(columns + static_cast<std::size_t>(k) * wrong.n);
+    return FactorOutcome::kDone;
+  };
+}
+
+template <Scalar T>
+class RefinementOf : public testing::Test {};
+using Scalars = testing::Types<float, double, std::complex<float>, std::complex<double>>;
+TYPED_TEST_SUITE(RefinementOf, Scalars);
+
+// However the matrix is stored, and whichever system is solved. Eleven columns: more than are worked on at a time.
+TYPED_TEST(RefinementOf, MakesTheBackwardErrorAFewUlp) {
+  using T = TypeParam;
+  constexpr int n = 20, ld = n + 3, nrhs = 11;
+  unsigned seed = 1;
+  for (const auto symmetry : {Symmetry::kGeneral, Symmetry::kSymmetric, Symmetry::kHermitian}) {
+    for (const auto read : {Triangle::kAll, Triangle::kLower, Triangle::kUpper}) {
+      for (int variant = 0; variant < 16; ++variant) {
+        const auto operation = static_cast<Operation>(variant % 4);
+        const bool is_extended = variant >= 8;
+        const System<T> s(n, symmetry, read, variant / 4 % 2 == 1, operation, ++seed);
+        std::vector<T> b(ld * nrhs), x(ld * nrhs);
+        std::mt19937 numbers(seed);
+        for (T& b_i : b) b_i = scalar<T>(static_cast<int>(numbers() % 17) - 8, static_cast<int>(numbers() % 5) - 2);
+        int solves = 0;
+        auto solve = sloppy_solve<T>(s.dense, solves);
+        for (int k = 0; k < nrhs; ++k) {
+          std::copy_n(&b[ld * k], n, &x[ld * k]);
+          static_cast<void>(solve(1, &x[ld * k]));
+        }
+        RefinementReport report;
+        const RefinementOptions options{.most_steps = 30, .extended = is_extended};
+        ASSERT_EQ(refine(s.system, options, nrhs, b.data(), ld, x.data(), ld, solve, report), FactorOutcome::kDone);
+        EXPECT_LE(report.end, RefinementEnd::kStopped);
+        EXPECT_GE(report.steps, 2);
+        double worst = 0;
+        for (int k = 0; k < nrhs; ++k) worst = std::max(worst, error_of(s.dense, &b[ld * k], &x[ld * k]));
+        EXPECT_LE(worst, 4 * kEpsilon<T>) << static_cast<int>(symmetry) << static_cast<int>(read) << ' ' << variant;
+        // A residual of the working precision is wrong by a few ulp of the largest term itself.
+        EXPECT_NEAR(report.backward_error, worst, (is_extended ? 0.01 : 4) * kEpsilon<T>);
+      }
+    }
+  }
+}
+
+// Of an ill-conditioned matrix of integers, Hilbert's times a common multiple of its denominators.
+TYPED_TEST(RefinementOf, WithWiderResidualsMakesSolutionsAccurate) {
+  using T = TypeParam;
+  const bool is_single = std::is_same_v<RealOf<T>, float>;
+  const int n = is_single ? 4 : 8;
+  const double multiple = is_single ? 420 : 360360;
+  quorin::test::SparseMatrix A{"Hilbert", n, n, {}};
+  Dense dense(n);
+  std::vector<T> b(n), x(n), exact(n);
+  for (int j = 0; j < n; ++j) {
+    exact[j] = scalar<T>(j + 1, kIsComplex<T> ? 2 - j : 0);
+    for (int i = 0; i < n; ++i) {
+      A.add(i, j, multiple / (i + j + 1));
+      b[i] += scalar<T>(multiple / (i + j + 1), 0) * exact[j];
+      // What is solved with is right to the working precision only.
+      dense(i, j) = multiple / (i + j + 1) * (1 + (i * 3 + j * 5) % 7 * kEpsilon<T> / 4);
+    }
+  }
+  const TypedMatrix<T> matrix(A);
+  const auto solve = [&](int, T* column) { return dense.solve(column), FactorOutcome::kDone; };
+  const auto error = [&] {
+    double most = 0;
+    for (int i = 0; i < n; ++i) most = std::max(most, static_cast<double>(magnitude(Wide(x[i]) - Wide(exact[i]))));
+    return most / n;
+  };
+  x = b;
+  static_cast<void>(solve(1, x.data()));
+  const double before = error();
+  EXPECT_GT(before, 50 * kEpsilon<T>);
+  RefinementReport report;
+  const RefinementOptions options{.most_steps = 20, .extended = true};
+  ASSERT_EQ(refine({matrix.matrix()}, options, 1, b.data(), n, x.data(), n, solve, report), FactorOutcome::kDone);
+  EXPECT_EQ(report.end, RefinementEnd::kConverged);
+  EXPECT_LE(error(), 2 * kEpsilon<T>);
+}
+
+TEST(Refinement, LooksAtEachColumnAlone) {
+  constexpr int n = 20, nrhs = 3;
+  const System<double> s(n, Symmetry::kGeneral, Triangle::kAll, false, Operation::kPlain, 5);
+  std::vector<double> b(n * nrhs, 1.0), x = b;
+  s.dense.solve(&x[0]);  // solved already
+  std::fill_n(&x[n], n, 0.0);
+  std::fill_n(&b[2 * n], n, 0.0);
+  std::fill_n(&x[2 * n], n, 0.0);  // solved exactly
+  int solves = 0;
+  RefinementReport report;
+  const auto solve = sloppy_solve<double>(s.dense, solves);
+  ASSERT_EQ(refine(s.system, {.most_steps = 9}, nrhs, b.data(), n, x.data(), n, solve, report), FactorOutcome::kDone);
+  EXPECT_EQ(report.steps, solves) << "all of them for one column";
+  EXPECT_GE(solves, 4);
+  EXPECT_LE(report.backward_error, 2 * kEpsilon<double>);
+  ASSERT_EQ(refine(s.system, {.most_steps = 0}, nrhs, b.data(), n, x.data(), n, solve, report), FactorOutcome::kDone);
+  EXPECT_EQ(report.steps, 0);
+}
+
+// Where x_i is noise beside ||x||, the plain quotient would be 1 for ever.
+TEST(Refinement, MeasuresTinyComponentsBesideTheNorm) {
+  const double values[] = {1, 1}, b[] = {1, 0}, x[] = {1, 1e-20};
+  const int starts[] = {0, 1, 2}, indices[] = {0, 1};
+  const LinearSystem<double> system{{{2, 2, starts, indices}, values}};
+  EXPECT_LE(backward_error(system, b, x), 2e-20);
+  const double y[] = {1, 1e-3};
+  EXPECT_EQ(backward_error(system, b, y), 1);
+}
+
+TEST(Refinement, TakesBackWhatMakesThingsWorse) {
+  constexpr int n = 20;
+  const System<double> s(n, Symmetry::kGeneral, Triangle::kAll, false, Operation::kPlain, 7);
+  std::vector<double> b(n, 1.0), x = b;
+  s.dense.solve(x.data());
+  for (const double error : {1e-2, 1e-10}) {
+    std::vector<double> y = x;
+    y[3] *= 1 + error;
+    const std::vector<double> before = y;
+    const auto worse = [&](int, double* column) {
+      s.dense.solve(column);
+      for (int i = 0; i < n; ++i) column[i] *= -5;
+      return FactorOutcome::kDone;
+    };
+    RefinementReport report;
+    ASSERT_EQ(refine(s.system, {.most_steps = 5}, 1, b.data(), n, y.data(), n, worse, report), FactorOutcome::kDone);
+    EXPECT_EQ(report.end, error > 1e-5 ? RefinementEnd::kDiverged : RefinementEnd::kStopped);
+    EXPECT_EQ(report.steps, 1);
+    EXPECT_EQ(y, before);
+    EXPECT_EQ(report.backward_error, backward_error(s.system, b.data(), y.data()));
+  }
+}
+
+TEST(Refinement, EndsWhereNumbersOrSolvesDo) {
+  constexpr int n = 20;
+  for (const bool is_extended : {false, true}) {
+    const System<double> s(n, Symmetry::kSymmetric, Triangle::kUpper, false, Operation::kPlain, 8);
+    std::vector<double> b(n, 1.0), x(n, 1.0);
+    const RefinementOptions options{.most_steps = 5, .extended = is_extended};
+    RefinementReport report;
+    const auto fails = [](int, double*) { return FactorOutcome::kFileFailed; };
+    EXPECT_EQ(refine(s.system, options, 1, b.data(), n, x.data(), n, fails, report), FactorOutcome::kFileFailed);
+    EXPECT_EQ(report.end, RefinementEnd::kStopped);
+    const auto to_nan = [](int, double* column) { return column[2] = NAN, FactorOutcome::kDone; };
+    EXPECT_EQ(refine(s.system, options, 1, b.data(), n, x.data(), n, to_nan, report), FactorOutcome::kDone);
+    EXPECT_EQ(report.end, RefinementEnd::kDiverged);
+    EXPECT_EQ(x, std::vector<double>(n, 1.0));
+    for (double* const spoilt : {&b[7], &x[7]}) {
+      for (const double bad : {NAN, INFINITY}) {
+        const double good = *spoilt;
+        *spoilt = bad;
+        EXPECT_EQ(refine(s.system, options, 1, b.data(), n, x.data(), n, fails, report), FactorOutcome::kDone);
+        EXPECT_EQ(report.end, RefinementEnd::kNotFinite);
+        EXPECT_EQ(report.steps, 0);
+        *spoilt = good;
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace quorin::sparse::test
