@@ -3,11 +3,15 @@
 // too.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <csignal>
+#include <cstdint>
 #include <cstdlib>
 #include <functional>
 
-#include "tests/sparse/matrices.hpp"
+#include "dense/dense.hpp"
+#include "tests/sparse/systems.hpp"
 
 namespace {
 
@@ -15,15 +19,40 @@ struct Heap {
   bool watches = false;
   int asked = 0, live = 0;
   int fail_at = 0, failures = 1;
+  // Of the blocks that have been asked for while it watched.
+  std::int64_t bytes = 0, most_bytes = 0;
+  struct Block {
+    void* address;
+    std::int64_t bytes;
+  };
+  std::array<Block, 4096> blocks{};
 
   bool refuses() {
     if (!watches) return false;
     ++asked;
     return asked >= fail_at && asked < fail_at + failures;
   }
-  void* count(void* block) {
-    live += watches && block != nullptr;
+  void* count(void* block, std::size_t size) {
+    if (!watches || block == nullptr) return block;
+    ++live;
+    for (Block& entry : blocks) {
+      if (entry.address != nullptr) continue;
+      entry = {block, static_cast<std::int64_t>(size)};
+      bytes += entry.bytes;
+      most_bytes = std::max(most_bytes, bytes);
+      break;
+    }
     return block;
+  }
+  void forget(void* block) {
+    if (!watches || block == nullptr) return;
+    --live;
+    for (Block& entry : blocks) {
+      if (entry.address != block) continue;
+      bytes -= entry.bytes;
+      entry = {};
+      break;
+    }
   }
 } heap;
 
@@ -35,17 +64,17 @@ void* __real_calloc(std::size_t count, std::size_t bytes);
 void* __real_realloc(void* block, std::size_t bytes);
 void __real_free(void* block);
 
-void* __wrap_malloc(std::size_t bytes) { return heap.refuses() ? nullptr : heap.count(__real_malloc(bytes)); }
+void* __wrap_malloc(std::size_t bytes) { return heap.refuses() ? nullptr : heap.count(__real_malloc(bytes), bytes); }
 void* __wrap_calloc(std::size_t count, std::size_t bytes) {
-  return heap.refuses() ? nullptr : heap.count(__real_calloc(count, bytes));
+  return heap.refuses() ? nullptr : heap.count(__real_calloc(count, bytes), count * bytes);
 }
 void* __wrap_realloc(void* block, std::size_t bytes) {
   if (heap.refuses()) return nullptr;
   void* const moved = __real_realloc(block, bytes);
-  return block == nullptr ? heap.count(moved) : moved;
+  return block == nullptr ? heap.count(moved, bytes) : moved;
 }
 void __wrap_free(void* block) {
-  heap.live -= heap.watches && block != nullptr;
+  heap.forget(block);
   __real_free(block);
 }
 }
@@ -91,7 +120,10 @@ void run(const char* name, const Call& call, const Matrix& A, int failures) {
   int k = 1;
   for (; !succeeded && k < 5000; ++k) {
     Arrays arrays(A.columns);
-    heap = {.watches = true, .fail_at = k, .failures = failures};
+    heap = {};
+    heap.watches = true;
+    heap.fail_at = k;
+    heap.failures = failures;
     const Outcome outcome = call(A, arrays.ordering());
     const bool failed = heap.asked >= k;
     heap.watches = false;
@@ -132,11 +164,89 @@ TEST(Memory, OfMetisRunsOutWithoutASignal) {
   const auto before = std::signal(SIGABRT, handler);
   const Graph graph = graph_of(grid(15, 15, 2, false));
   Arrays arrays(graph.size());
-  heap = {.watches = true, .fail_at = 20, .failures = 1};
+  heap = {};
+  heap.watches = true;
+  heap.fail_at = 20;
   EXPECT_EQ(order_metis(graph, arrays.ordering()), Outcome::kOutOfMemory);
   heap.watches = false;
   EXPECT_EQ(caught, 0);
   EXPECT_EQ(std::signal(SIGABRT, before), static_cast<void (*)(int)>(handler));
+}
+
+// Every allocation of a plan, an assembly, a factorization on two threads and solves fails once.
+TEST(Memory, OfFactorsRunsOutWithoutLossAndThePlanStaysUsable) {
+  const System<double> A = dominant_system<double>(grid(30, 31, 1, false), Symmetry::kGeneral, true, 1.1, 1);
+  const Solved<double> arrays(A);
+  const Graph graph = graph_of(arrays.matrix);
+  Arrays order(A.n);
+  order_identity(A.n, order.ordering());
+  const FactorOptions options{.factorization = Factorization::kLU, .pivoting = Pivoting::kPartial, .threads = 2};
+  std::vector<double> x(static_cast<std::size_t>(A.n) * 5, 1.0), before(x);
+  bool succeeded = false;
+  int k = 0;
+  while (!succeeded && ++k < 1000) {
+    heap = {};
+    heap.watches = true;
+    heap.fail_at = k;
+    {
+      Plan plan;
+      Assembly assembly;
+      Factor<double> factor;
+      const bool is_planned =
+          plan.build(graph, order.ordering()) == Outcome::kDone &&
+          assembly.build(plan, arrays.matrix.pattern(),
+                         {.panels = PanelKind::kUnsymmetric, .symmetry = Symmetry::kGeneral}) == Outcome::kDone;
+      if (is_planned) {
+        FactorOutcome outcome = factor.compute(plan, assembly, {arrays.values.data()}, options);
+        if (outcome != FactorOutcome::kDone) {
+          EXPECT_EQ(outcome, FactorOutcome::kOutOfMemory) << "allocation " << k;
+          EXPECT_EQ(factor.compute(plan, assembly, {arrays.values.data()}, options), FactorOutcome::kDone);
+        }
+        succeeded = heap.asked < k;
+        for (const int nrhs : {1, 5}) {
+          std::copy(x.begin(), x.end(), before.begin());
+          outcome = solve(factor, Operation::kPlain, Stage::kAll, nrhs, x.data(), A.n, 2);
+          EXPECT_TRUE(outcome == FactorOutcome::kDone || (outcome == FactorOutcome::kOutOfMemory && x == before));
+          succeeded = succeeded && outcome == FactorOutcome::kDone;
+        }
+        succeeded = succeeded && heap.asked < k;
+      }
+    }
+    dense::release_buffers();
+    heap.watches = false;
+    EXPECT_EQ(heap.live, 0) << "allocation " << k;
+  }
+  EXPECT_GT(k, 20);
+  EXPECT_TRUE(succeeded);
+}
+
+// The estimates before a factorization, and what it asks for.
+TEST(Memory, OfFactorsIsWhatWasEstimated) {
+  for (const Matrix& pattern : {grid(150, 150, 1, false), grid(17, 17, 17, false)}) {
+    for (const Factorization factorization : {Factorization::kLLT, Factorization::kLDLT, Factorization::kLU}) {
+      const bool is_lu = factorization == Factorization::kLU;
+      const System<double> A =
+          dominant_system<double>(pattern, is_lu ? Symmetry::kGeneral : Symmetry::kSymmetric, true, 1.1, 1);
+      Solved<double> solved(A);
+      const FactorOptions options{.factorization = factorization,
+                                  .pivoting = is_lu ? Pivoting::kPartial : Pivoting::kBunchKaufman};
+      ASSERT_EQ(solved.compute(options), FactorOutcome::kDone);  // which leaves a buffer of the kernels to the next
+      solved.factor.clear();
+      heap = {};
+      heap.watches = true;
+      ASSERT_EQ(solved.compute(options), FactorOutcome::kDone);
+      heap.watches = false;
+      const auto factor = static_cast<double>(factor_bytes<double>(solved.plan, options));
+      const auto peak = static_cast<double>(peak_bytes<double>(solved.plan, options));
+      EXPECT_NEAR(static_cast<double>(heap.bytes) / factor, 1, 0.05);
+      EXPECT_NEAR(static_cast<double>(heap.most_bytes) / peak, 1, 0.05);
+      EXPECT_LE(static_cast<double>(heap.most_bytes) / factor, 1.10) << pattern.name;
+      heap.watches = true;
+      solved.factor.clear();
+      heap.watches = false;
+      EXPECT_EQ(heap.live, 0);
+    }
+  }
 }
 
 }  // namespace
