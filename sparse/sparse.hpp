@@ -6,6 +6,7 @@
 #include "sparse/numeric/assembly.hpp"
 #include "sparse/numeric/factor.hpp"
 #include "sparse/numeric/refinement.hpp"
+#include "sparse/numeric/schur.hpp"
 #include "sparse/numeric/solve.hpp"
 #include "sparse/orderings/minimum_degree.hpp"
 #include "sparse/orderings/orderings.hpp"
@@ -16,3 +17,4 @@
 #include "sparse/pattern/transpose.hpp"
 #include "sparse/symbolic/elimination_tree.hpp"
 #include "sparse/symbolic/plan.hpp"
+#include "sparse/symbolic/solve_paths.hpp"

@@ -4,6 +4,7 @@
 #include <array>
 #include <atomic>
 #include <complex>
+#include <span>
 
 #include "base/parallel.hpp"
 #include "base/thread_settings.hpp"
@@ -465,7 +466,9 @@ class VectorSolve {
 template <Scalar T>
 class BlockSolve {
  public:
-  BlockSolve(const Solver<T>& solver, int nrhs, int threads) noexcept : solver_(solver), plan_(solver.plan()) {
+  // `paths`: null for all of the factor.
+  BlockSolve(const Solver<T>& solver, int nrhs, int threads, const SolvePaths* paths = nullptr) noexcept
+      : solver_(solver), plan_(solver.plan()), paths_(paths) {
     const int blocks = std::max((nrhs + kMostTogether - 1) / kMostTogether, std::min(threads, nrhs));
     width_ = (nrhs + blocks - 1) / blocks;
     blocks_ = (nrhs + width_ - 1) / width_;
@@ -484,15 +487,9 @@ class BlockSolve {
       const int first = block * width_, w = std::min(width_, nrhs_ - first);
       T* const z = memory_.data() + size_of_block() * slot.number();
       T* const columns = x + std::ptrdiff_t{first} * ldx;
-      for (int r = 0; r < w; ++r) {
-        for (int k = 0; k < plan_.size(); ++k)
-          z[to_size(k) * to_size(w) + to_size(r)] = columns[k + std::ptrdiff_t{r} * ldx];
-      }
+      load(columns, ldx, w, z);
       if (!run_block(stages, z, w)) is_sound_ = false;
-      for (int r = 0; r < w; ++r) {
-        for (int k = 0; k < plan_.size(); ++k)
-          columns[k + std::ptrdiff_t{r} * ldx] = z[to_size(k) * to_size(w) + to_size(r)];
-      }
+      store(z, w, columns, ldx);
     });
     return is_sound_;
   }
@@ -502,24 +499,62 @@ class BlockSolve {
     return base::saturating_product(to_size(plan_.size()), to_size(width_)) + solver_.buffer_size(width_);
   }
 
+  // Z <- X^T, or the given rows of it and zeros; and back, or the wanted rows.
+  void load(const T* columns, int ldx, int w, T* z) const noexcept {
+    const auto row = [&](int k, int r) { return columns[k + std::ptrdiff_t{r} * ldx]; };
+    if (paths_ != nullptr) {
+      std::fill_n(z, to_size(plan_.size()) * to_size(w), T{});
+      for (const int k : paths_->given()) {
+        for (int r = 0; r < w; ++r) z[to_size(k) * to_size(w) + to_size(r)] = row(k, r);
+      }
+      return;
+    }
+    for (int r = 0; r < w; ++r) {
+      for (int k = 0; k < plan_.size(); ++k) z[to_size(k) * to_size(w) + to_size(r)] = row(k, r);
+    }
+  }
+  void store(const T* z, int w, T* columns, int ldx) const noexcept {
+    const auto row = [&](int k, int r) -> T& { return columns[k + std::ptrdiff_t{r} * ldx]; };
+    if (paths_ != nullptr) {
+      for (const int k : paths_->wanted()) {
+        for (int r = 0; r < w; ++r) row(k, r) = z[to_size(k) * to_size(w) + to_size(r)];
+      }
+      return;
+    }
+    for (int r = 0; r < w; ++r) {
+      for (int k = 0; k < plan_.size(); ++k) row(k, r) = z[to_size(k) * to_size(w) + to_size(r)];
+    }
+  }
+
   bool run_block(Stages stages, T* z, int w) const noexcept {
-    const int count = plan_.eliminated();
     T* const buffer = z + to_size(plan_.size()) * to_size(w);
-    const auto ascending = [&](const auto& body) {
-      for (int s = 0; s < count; ++s) {
+    // Calls body for the supernodes of a list, or for all that are eliminated.
+    const auto ascending = [&](std::span<const int> list, const auto& body) {
+      if (paths_ != nullptr) return std::all_of(list.begin(), list.end(), body);
+      for (int s = 0; s < plan_.eliminated(); ++s) {
         if (!body(s)) return false;
       }
       return true;
     };
+    const auto descending = [&](std::span<const int> list, const auto& body) {
+      if (paths_ != nullptr) return std::all_of(list.rbegin(), list.rend(), body);
+      for (int s = plan_.eliminated() - 1; s >= 0; --s) {
+        if (!body(s)) return false;
+      }
+      return true;
+    };
+    const std::span<const int> forward = paths_ == nullptr ? std::span<const int>() : paths_->forward();
+    const std::span<const int> backward = paths_ == nullptr ? std::span<const int>() : paths_->backward();
     return run_stages(
         solver_, stages, to_size(plan_.size()) * to_size(w), z,
-        [&] { return ascending([&](int s) { return solver_.forward_together(s, z, w, buffer); }); },
-        [&] { return ascending([&](int s) { return solver_.divide_by_diagonal(s, z, w); }); },
-        [&] { return ascending([&](int s) { return solver_.backward_together(count - 1 - s, z, w, buffer); }); });
+        [&] { return ascending(forward, [&](int s) { return solver_.forward_together(s, z, w, buffer); }); },
+        [&] { return ascending(forward, [&](int s) { return solver_.divide_by_diagonal(s, z, w); }); },
+        [&] { return descending(backward, [&](int s) { return solver_.backward_together(s, z, w, buffer); }); });
   }
 
   const Solver<T>& solver_;
   const Plan& plan_;
+  const SolvePaths* paths_;
   int nrhs_, blocks_, width_, threads_;
   ThreadSlots slots_;
   std::atomic<bool> is_sound_{true};
@@ -552,11 +587,34 @@ FactorOutcome solve(const Factor<T>& factor, Operation operation, Stage stage, i
   return is_sound ? FactorOutcome::kDone : solver.outcome();
 }
 
+template <Scalar T>
+FactorOutcome solve_partly(const Factor<T>& factor, Operation operation, const SolvePaths& paths, int nrhs, T* x,
+                           int ldx, int threads) noexcept {
+  if (nrhs <= 0 || factor.plan().size() == 0) return FactorOutcome::kDone;
+  const dense::KernelBuffer buffers(std::clamp(threads, 1, base::kMostThreads));
+  if (buffers.granted() == 0) return FactorOutcome::kOutOfMemory;
+  const Solver<T> solver(factor, operation);
+  BlockSolve<T> block(solver, nrhs, std::clamp(threads, 1, buffers.granted()), &paths);
+  if (!block.create()) return FactorOutcome::kOutOfMemory;
+  return block.run({true, true, true}, x, ldx) ? FactorOutcome::kDone : solver.outcome();
+}
+
 template FactorOutcome solve<float>(const Factor<float>&, Operation, Stage, int, float*, int, int) noexcept;
 template FactorOutcome solve<double>(const Factor<double>&, Operation, Stage, int, double*, int, int) noexcept;
 template FactorOutcome solve<std::complex<float>>(const Factor<std::complex<float>>&, Operation, Stage, int,
                                                   std::complex<float>*, int, int) noexcept;
 template FactorOutcome solve<std::complex<double>>(const Factor<std::complex<double>>&, Operation, Stage, int,
                                                    std::complex<double>*, int, int) noexcept;
+
+template FactorOutcome solve_partly<float>(const Factor<float>&, Operation, const SolvePaths&, int, float*, int,
+                                           int) noexcept;
+template FactorOutcome solve_partly<double>(const Factor<double>&, Operation, const SolvePaths&, int, double*, int,
+                                            int) noexcept;
+template FactorOutcome solve_partly<std::complex<float>>(const Factor<std::complex<float>>&, Operation,
+                                                         const SolvePaths&, int, std::complex<float>*, int,
+                                                         int) noexcept;
+template FactorOutcome solve_partly<std::complex<double>>(const Factor<std::complex<double>>&, Operation,
+                                                          const SolvePaths&, int, std::complex<double>*, int,
+                                                          int) noexcept;
 
 }  // namespace quorin::sparse

@@ -3,6 +3,7 @@
 
 #include "base/scalar.hpp"
 #include "sparse/numeric/factor.hpp"
+#include "sparse/symbolic/solve_paths.hpp"
 
 namespace quorin::sparse {
 
@@ -26,5 +27,11 @@ enum class Stage { kAll, kForward, kDiagonal, kBackward };
 template <Scalar T>
 FactorOutcome solve(const Factor<T>& factor, Operation operation, Stage stage, int nrhs, T* x, int ldx,
                     int threads = 1) noexcept;
+
+// The wanted rows of the solution for a right-hand side of which only the given rows are read; the others count as
+// zero. `paths` were found for the factor's plan. Other rows of x are neither read nor written. All else is as above.
+template <Scalar T>
+FactorOutcome solve_partly(const Factor<T>& factor, Operation operation, const SolvePaths& paths, int nrhs, T* x,
+                           int ldx, int threads = 1) noexcept;
 
 }  // namespace quorin::sparse
