@@ -179,6 +179,7 @@ void check_product(const std::string& what, const Matrix<T>& c, const std::vecto
     for (int i = 0; i < c.rows; ++i) {
       const T old = before[static_cast<std::size_t>(j) * static_cast<std::size_t>(c.ld) + static_cast<std::size_t>(i)];
       if ((part == 'U' && i > j) || (part == 'L' && i < j)) {
+        // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison): bit for bit
         EXPECT_EQ(std::memcmp(&c(i, j), &old, sizeof old), 0) << what << " changed the other triangle";
         continue;
       }
