@@ -1,7 +1,8 @@
 // The sparse direct engine by itself: analysis, factorizations and solves on model problems, beside the dense product
-// of the same run and, for LU, UMFPACK over the same dense kernels. Prints a table. Usage:
+// of the same run; for LU UMFPACK, and for L L^H CHOLMOD if it is there, over the same dense kernels and with the same
+// ordering. Prints a table; a peer's columns are its times over the engine's. Usage:
 //
-//   bench_direct [--quick]
+//   bench_direct [--quick] [NAME]     only problems whose name contains NAME
 #include <umfpack_double.h>
 
 #include <algorithm>
@@ -15,6 +16,7 @@
 #include <vector>
 
 #include "base/parallel.hpp"
+#include "bench/direct/cholmod_peer.hpp"
 #include "dense/dense.hpp"
 #include "sparse/sparse.hpp"
 #include "tests/support/sparse.hpp"
@@ -156,9 +158,17 @@ void measure(const Problem& problem, double gemm) {
               1e3 * solve_many, solve_one / solve_two, solve_many / solve_many_two);
   if (problem.factorization == Factorization::kLU) {
     const Umfpack peer = umfpack(arrays, n, permutation.data(), repetitions);
-    std::printf(" %.2f | %.2f |\n", peer.factor / one, peer.solve / solve_one);
+    std::printf(" | %.2f | %.2f | |\n", peer.factor / one, peer.solve / solve_one);
+  } else if (problem.factorization == Factorization::kLLT && CholmodPeer::is_there()) {
+    CholmodPeer peer(arrays, n, permutation.data());
+    const double peer_analysis = seconds_of([&] { peer.analyze(); }, 3);
+    const double peer_factor = seconds_of([&] { peer.factorize(); }, repetitions);
+    const double peer_solve = seconds_of([&] { peer.solve(1); }, 7);
+    const double peer_solve_many = seconds_of([&] { peer.solve(kRightHandSides); }, 5);
+    std::printf(" %.2f | %.2f | %.2f | %.2f |\n", peer_analysis / run.analysis, peer_factor / one,
+                peer_solve / solve_one, peer_solve_many / solve_many);
   } else {
-    std::printf(" | |\n");
+    std::printf(" | | | |\n");
   }
   std::fflush(stdout);
 }
@@ -190,15 +200,16 @@ test::SparseMatrix convection(int a, int b, int c) {
   return A;
 }
 
-void run(bool is_quick) {
+void run(bool is_quick, const char* wanted) {
   const double gemm = gemm_rate<double>(1);
   std::printf("Product of 1000 x 1000 doubles: %.1f GFLOP/s on one thread, %.1f on two; floats %.1f.\n\n", gemm,
               gemm_rate<double>(2), gemm_rate<float>(1));
   std::printf(
       "| problem | n | 10^6 entries | GFLOP | analysis ms | factor ms | GFLOP/s | of gemm | two threads | float | "
       "solve 1 "
-      "ms | solve 32 ms | solve 1, two threads | solve 32, two threads | UMFPACK/factor | UMFPACK/solve |\n"
-      "|---|---|---|---|---|---|---|---|---|---|---|---|---|---|---|---|\n");
+      "ms | solve 32 ms | solve 1, two threads | solve 32, two threads | peer's analysis | peer's factor | peer's "
+      "solve 1 | peer's solve 32 |\n"
+      "|---|---|---|---|---|---|---|---|---|---|---|---|---|---|---|---|---|---|\n");
   const auto llt = [](const std::string& name, test::SparseMatrix A) {
     return Problem{"LLT " + name, Factorization::kLLT, Pivoting::kInOrder, std::move(A)};
   };
@@ -220,7 +231,9 @@ void run(bool is_quick) {
     problems.push_back(lu("200 x 200", convection(200, 200, 1)));
     problems.push_back(lu("25^3", convection(25, 25, 25)));
   }
-  for (const Problem& problem : problems) measure(problem, gemm);
+  for (const Problem& problem : problems) {
+    if (problem.name.find(wanted) != std::string::npos) measure(problem, gemm);
+  }
 }
 
 }  // namespace
@@ -229,5 +242,6 @@ void run(bool is_quick) {
 int main(int argc, char** argv) {
   quorin::base::start_parallel();
   quorin::dense::start();
-  quorin::bench::run(argc > 1 && std::strcmp(argv[1], "--quick") == 0);
+  const bool is_quick = argc > 1 && std::strcmp(argv[1], "--quick") == 0;
+  quorin::bench::run(is_quick, argc > 1 + is_quick ? argv[argc - 1] : "");
 }

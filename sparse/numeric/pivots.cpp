@@ -325,7 +325,7 @@ class UnsymmetricElimination {
       if (rows_ != nullptr) rows_[k] = k;
       if (columns_ != nullptr) columns_[k] = k;
     }
-    if (rule_.pivoting == Pivoting::kComplete) {
+    if (rule_.pivoting == Pivoting::kComplete && rows_ != nullptr && columns_ != nullptr) {
       factor_by_blocks();
     } else {
       factor(0, n_);
@@ -361,7 +361,7 @@ class UnsymmetricElimination {
     T* const x = a_.column(k);
     for (int j = first; j < k; ++j) subtract_multiples(k - j - 1, 1, x + j, a_.column(j) + j + 1, 0, x + j + 1);
     subtract_multiples(n_ - k, k - first, x + first, &a_(k, first), a_.lda(), x + k);
-    if (rule_.pivoting != Pivoting::kInOrder) {
+    if (rule_.pivoting != Pivoting::kInOrder && rows_ != nullptr) {
       int pivot = k;
       for (int i = k + 1; i < n_; ++i) {
         if (magnitude(x[i]) > magnitude(x[pivot])) pivot = i;

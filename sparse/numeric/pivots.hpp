@@ -75,8 +75,9 @@ struct Elimination {
 std::size_t elimination_scratch(int most_columns) noexcept;
 
 // Factors the panel of a supernode with `columns` columns, `below` rows below, in place (panels.hpp tells the layout).
-// `rows` and `column_order` are the supernode's part of PivotOrder, or null. The work is cut for at most `threads`
-// threads, for which kernel buffers are reserved; the result has the same bits for any number of them.
+// `rows` and `column_order` are the supernode's part of PivotOrder, or null, without which nothing is exchanged. The
+// work is cut for at most `threads` threads, for which kernel buffers are reserved; the result has the same bits for
+// any number of them.
 //
 // kNotPositiveDefinite, for kLLT. A zero pivot without perturbation: for kLU kSingular. For L D L' it is counted as
 // zero where nothing stands below it, in which case its column of L is zero and solves give that unknown the value 0;

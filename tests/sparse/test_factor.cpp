@@ -1,9 +1,12 @@
 // Factors and solves, by residuals, by inertias that are known, and by what must fail.
 #include <gtest/gtest.h>
 
-#include <bit>
 #include <cstring>
-#include <ostream>
+#include <functional>
+
+#if !defined(_WIN32)
+#include <pthread.h>
+#endif
 
 #include "tests/sparse/systems.hpp"
 
@@ -12,6 +15,11 @@ namespace {
 
 constexpr Operation kOperations[] = {Operation::kPlain, Operation::kTransposed, Operation::kAdjoint,
                                      Operation::kConjugated};
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#define QUORIN_IS_SANITIZED 1
+#else
+#define QUORIN_IS_SANITIZED 0
+#endif
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 struct Kind {
@@ -365,6 +373,38 @@ TYPED_TEST(Factors, LeaveASchurComplement) {
     for (int k = 0; k < n1; ++k) EXPECT_LE(std::abs(b[k]), 50 * tolerance<T>(A.n));
   }
 }
+
+#if !defined(_WIN32)
+// Runs the action on a stack of 64 KB, below what the sanitizers add.
+void run_on_small_stack(const std::function<void()>& action) {
+  pthread_attr_t attributes;
+  ASSERT_EQ(pthread_attr_init(&attributes), 0);
+  ASSERT_EQ(pthread_attr_setstacksize(&attributes, std::size_t{1} << (QUORIN_IS_SANITIZED ? 18 : 16)), 0);
+  pthread_t thread;
+  const auto run = [](void* context) -> void* {
+    (*static_cast<const std::function<void()>*>(context))();
+    return nullptr;
+  };
+  ASSERT_EQ(pthread_create(&thread, &attributes, run, const_cast<std::function<void()>*>(&action)), 0);
+  pthread_join(thread, nullptr);
+  pthread_attr_destroy(&attributes);
+}
+
+TEST(Path, OfAMillionUnknownsNeedsNoDeepStack) {
+  constexpr int n = 1'000'000;
+  const System<double> A = dominant_system<double>(path(n), Symmetry::kSymmetric, true, 1.1, 1);
+  std::vector<int> order(n);
+  for (int k = 0; k < n; ++k) order[k] = k;
+  run_on_small_stack([&] {
+    Solved<double> solved(A, {}, order.data());
+    for (const Factorization factorization : {Factorization::kLLT, Factorization::kLDLT}) {
+      ASSERT_EQ(solved.compute({.factorization = factorization, .pivoting = Pivoting::kBunchKaufman, .threads = 2}),
+                FactorOutcome::kDone);
+      EXPECT_LE(solved.error(Operation::kPlain, 1), tolerance<double>(n));
+    }
+  });
+}
+#endif
 
 class Stopper : public Progress {
  public:
