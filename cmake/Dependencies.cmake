@@ -56,6 +56,9 @@ endif()
 # level 2 are the published ones.
 quorin_import(reference_blas ${prefix_lapack} LINKS ${fortran_runtime})
 quorin_import(lapack ${prefix_lapack} LINKS quorin::reference_blas ${fortran_runtime})
+# In double precision, what FEAST needs of LAPACK; the product defines the BLAS's matrix products itself.
+quorin_import(reference_blas_double ${prefix_lapack-double} LINKS ${fortran_runtime})
+quorin_import(lapack_double ${prefix_lapack-double} LINKS quorin::reference_blas_double ${fortran_runtime})
 quorin_import(suitesparseconfig ${prefix_suitesparse})
 quorin_import(amd ${prefix_suitesparse} LINKS quorin::suitesparseconfig)
 quorin_import(colamd ${prefix_suitesparse} LINKS quorin::suitesparseconfig)

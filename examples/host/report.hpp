@@ -60,5 +60,6 @@ void slap_rows(const Library& library, Report& report);
 void amos_rows(const Library& library, Report& report);
 void umfpack_rows(const Library& library, Report& report);
 void taucs_rows(const Library& library, Report& report);
+void feast_rows(const Library& library, Report& report);
 
 }  // namespace demo

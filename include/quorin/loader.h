@@ -19,7 +19,7 @@
 #define QUORIN_LIBRARY_NAME "libquorin_lapacks.so"
 #endif
 
-#define QUORIN_EXPORT_COUNT 747
+#define QUORIN_EXPORT_COUNT 756
 
 #ifdef __cplusplus
 extern "C" {
@@ -363,6 +363,51 @@ typedef struct quorin_library {
                                 const int32_t* m, const int32_t* n, const quorin_complex* alpha,
                                 const quorin_complex* a, int32_t a_index, const int32_t* lda, quorin_complex* b,
                                 int32_t b_index, const int32_t* ldb);
+
+  /* quorin/feast.h */
+  void(QUORIN_CDECL* feastinit_32f)(int32_t* fpm);
+  void(QUORIN_CDECL* sfeast_scsrev)(const char* uplo, const int32_t* n, const float* a, const int32_t* ia,
+                                    const int32_t* ja, int32_t* fpm, float* epsout, int32_t* loop, const float* emin,
+                                    const float* emax, int32_t* m0, float* e, float* x, int32_t* m, float* res,
+                                    int32_t* info);
+  void(QUORIN_CDECL* sfeast_scsrev_Idx)(const char* uplo, const int32_t* n, const float* a, int32_t a_index,
+                                        const int32_t* ia, int32_t ia_index, const int32_t* ja, int32_t ja_index,
+                                        int32_t* fpm, int32_t fpm_index, float* epsout, int32_t* loop,
+                                        const float* emin, const float* emax, int32_t* m0, float* e, int32_t e_index,
+                                        float* x, int32_t x_index, int32_t* m, float* res, int32_t res_index,
+                                        int32_t* info);
+  void(QUORIN_CDECL* cfeast_hcsrev)(const char* uplo, const int32_t* n, const quorin_complex* a, const int32_t* ia,
+                                    const int32_t* ja, int32_t* fpm, float* epsout, int32_t* loop, const float* emin,
+                                    const float* emax, int32_t* m0, float* e, quorin_complex* x, int32_t* m, float* res,
+                                    int32_t* info);
+  void(QUORIN_CDECL* cfeast_hcsrev_Idx)(const char* uplo, const int32_t* n, const quorin_complex* a, int32_t a_index,
+                                        const int32_t* ia, int32_t ia_index, const int32_t* ja, int32_t ja_index,
+                                        int32_t* fpm, int32_t fpm_index, float* epsout, int32_t* loop,
+                                        const float* emin, const float* emax, int32_t* m0, float* e, int32_t e_index,
+                                        quorin_complex* x, int32_t x_index, int32_t* m, float* res, int32_t res_index,
+                                        int32_t* info);
+  void(QUORIN_CDECL* sfeast_scsrgv)(const char* uplo, const int32_t* n, const float* a, const int32_t* ia,
+                                    const int32_t* ja, const float* b, const int32_t* ib, const int32_t* jb,
+                                    int32_t* fpm, float* epsout, int32_t* loop, const float* emin, const float* emax,
+                                    int32_t* m0, float* e, float* x, int32_t* m, float* res, int32_t* info);
+  void(QUORIN_CDECL* sfeast_scsrgv_Idx)(const char* uplo, const int32_t* n, const float* a, int32_t a_index,
+                                        const int32_t* ia, int32_t ia_index, const int32_t* ja, int32_t ja_index,
+                                        const float* b, int32_t b_index, const int32_t* ib, int32_t ib_index,
+                                        const int32_t* jb, int32_t jb_index, int32_t* fpm, int32_t fpm_index,
+                                        float* epsout, int32_t* loop, const float* emin, const float* emax, int32_t* m0,
+                                        float* e, int32_t e_index, float* x, int32_t x_index, int32_t* m, float* res,
+                                        int32_t res_index, int32_t* info);
+  void(QUORIN_CDECL* cfeast_hcsrgv)(const char* uplo, const int32_t* n, const quorin_complex* a, const int32_t* ia,
+                                    const int32_t* ja, const quorin_complex* b, const int32_t* ib, const int32_t* jb,
+                                    int32_t* fpm, float* epsout, int32_t* loop, const float* emin, const float* emax,
+                                    int32_t* m0, float* e, quorin_complex* x, int32_t* m, float* res, int32_t* info);
+  void(QUORIN_CDECL* cfeast_hcsrgv_Idx)(const char* uplo, const int32_t* n, const quorin_complex* a, int32_t a_index,
+                                        const int32_t* ia, int32_t ia_index, const int32_t* ja, int32_t ja_index,
+                                        const quorin_complex* b, int32_t b_index, const int32_t* ib, int32_t ib_index,
+                                        const int32_t* jb, int32_t jb_index, int32_t* fpm, int32_t fpm_index,
+                                        float* epsout, int32_t* loop, const float* emin, const float* emax, int32_t* m0,
+                                        float* e, int32_t e_index, quorin_complex* x, int32_t x_index, int32_t* m,
+                                        float* res, int32_t res_index, int32_t* info);
 
   /* quorin/jacobi.h */
   int32_t(QUORIN_CDECL* sjacobi_init)(void** handle, const int32_t* n, const int32_t* m, float* x, float* fjac,
@@ -2396,6 +2441,15 @@ static const char* const quorin_export_names[QUORIN_EXPORT_COUNT] = {
     "strsm_Idx",
     "ctrsm",
     "ctrsm_Idx",
+    "feastinit_32f",
+    "sfeast_scsrev",
+    "sfeast_scsrev_Idx",
+    "cfeast_hcsrev",
+    "cfeast_hcsrev_Idx",
+    "sfeast_scsrgv",
+    "sfeast_scsrgv_Idx",
+    "cfeast_hcsrgv",
+    "cfeast_hcsrgv_Idx",
     "sjacobi_init",
     "sjacobi_init_Idx",
     "sjacobi_solve",

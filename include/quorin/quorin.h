@@ -4,6 +4,7 @@
 
 #include "quorin/amos.h"
 #include "quorin/blas.h"
+#include "quorin/feast.h"
 #include "quorin/jacobi.h"
 #include "quorin/lapack.h"
 #include "quorin/pack.h"

@@ -1,0 +1,135 @@
+// Against LAPACK in double precision: the same eigenvalues, none missed and none too many, on structures, with multiple
+// and clustered eigenvalues, ends everywhere, and on many random problems (QUORIN_FEAST_PROBLEMS sets how many).
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <functional>
+#include <numbers>
+
+#include "tests/feast/feast_host.hpp"
+
+namespace feast_test {
+namespace {
+
+// Intervals of all kinds for a spectrum: between eigenvalues, with ends on them, none inside, one, all.
+std::vector<std::pair<double, double>> intervals(const std::vector<double>& eigenvalues, std::mt19937& random) {
+  const double low = eigenvalues.front(), high = eigenvalues.back(), span = std::max(high - low, 1e-3);
+  std::uniform_real_distribution<double> inside(low - 0.1 * span, high + 0.1 * span);
+  std::uniform_int_distribution<std::size_t> some(0, eigenvalues.size() - 1);
+  std::vector<std::pair<double, double>> result = {{low - span, high + span}, {high + 0.1 * span, high + span}};
+  for (int k = 0; k < 3; ++k) {
+    const double a = inside(random), b = inside(random), c = eigenvalues[some(random)], d = eigenvalues[some(random)];
+    result.emplace_back(std::min(a, b), std::max(a, b));
+    result.emplace_back(std::min(c, d), std::max(c, d));
+    result.emplace_back(c - 1e-3 * span, c + 1e-3 * span);
+  }
+  // No end is to be an eigenvalue of zero as LAPACK rounds it.
+  for (auto& [a, b] : result) {
+    for (double* const end : {&a, &b}) {
+      if (std::fabs(*end) < 1e-9 * std::max(std::fabs(low), std::fabs(high))) *end = 0;
+    }
+  }
+  std::erase_if(result, [](const auto& x) { return !(static_cast<float>(x.first) < static_cast<float>(x.second)); });
+  return result;
+}
+
+int count_inside(const std::vector<double>& eigenvalues, double low, double high) {
+  return static_cast<int>(
+      std::count_if(eigenvalues.begin(), eigenvalues.end(), [&](double x) { return x >= low && x <= high; }));
+}
+
+// Solves with m0 too small, exact and generous.
+void expect_agreement(const Problem& problem, const std::vector<double>& eigenvalues, double low, double high) {
+  const int inside = count_inside(eigenvalues, low, high), n = problem.n();
+  for (const int room : {inside, inside + inside / 2 + 1, n}) {
+    if (room < 1 || room > n) continue;
+    Call call(low, high, room);
+    solve(problem, call);
+    // With ends rounded to floats there may be more, and what is an end to LAPACK's rounding may be inside.
+    const double unsure = 1e-13 * std::max(std::fabs(eigenvalues.front()), std::fabs(eigenvalues.back()));
+    if (call.info == 3 && count_inside(eigenvalues, call.emin - unsure, call.emax + unsure) > room) continue;
+    EXPECT_TRUE(call.info == 0 || call.info == 1)
+        << problem.name << ' ' << low << ' ' << high << " m0 " << room << " status " << call.info;
+    expect_right(problem, call, eigenvalues);
+  }
+  if (inside < 2) return;
+  Call small(low, high, inside - 1);
+  solve(problem, small);
+  const double margin = 1e-6 * (high - low);
+  if (count_inside(eigenvalues, low + margin, high - margin) == inside) {
+    EXPECT_EQ(small.info, 3) << problem.name << ' ' << low << ' ' << high;
+    EXPECT_LE(small.m, inside - 1);
+  }
+}
+
+class Structures : public testing::TestWithParam<std::function<Problem()>> {};
+
+TEST_P(Structures, AgreeWithLapack) {
+  const Problem problem = GetParam()();
+  const std::vector<double> eigenvalues = all_eigenvalues(problem);
+  std::mt19937 random(7);
+  for (const auto& [low, high] : intervals(eigenvalues, random)) expect_agreement(problem, eigenvalues, low, high);
+}
+
+// Consistent mass of linear elements.
+SparseMatrix mass(int n) {
+  SparseMatrix M = second_difference(n);
+  for (auto& entry : M.entries) entry.value = entry.row == entry.column ? 4 : 1;
+  return M;
+}
+
+SparseMatrix graded(int n, double decades) {
+  std::vector<double> values;
+  for (int i = 0; i < n; ++i) values.push_back(std::pow(10.0, -decades * i / (n - 1)));
+  return diagonal(values);
+}
+
+SparseMatrix clusters() {
+  std::vector<double> values;
+  for (int i = 0; i < 60; ++i) values.push_back(1 + i % 4 + 1e-6 * (i / 20));
+  return diagonal(values);
+}
+
+const std::function<Problem()> kStructures[] = {
+    [] { return make_problem("one", diagonal({3})); },
+    [] { return make_problem("one, generalized", diagonal({3}), diagonal({0.5})); },
+    [] { return make_problem("two", laplacian(2, 1, 1)); },
+    [] { return make_problem("zero", diagonal(std::vector<double>(9, 0))); },
+    [] { return make_problem("chain", second_difference(70)); },
+    [] { return make_problem("grid", laplacian(8, 9, 1)); },
+    [] { return make_problem("cube", laplacian(5, 5, 5)); },
+    [] { return make_problem("turned cube", turned(laplacian(4, 4, 4))); },
+    [] { return make_problem("vibration", laplacian(9, 7, 1), mass(63)); },
+    [] { return make_problem("ill-conditioned B", second_difference(40), graded(40, 6)); },
+    [] { return make_problem("large and small", laplacian(6, 6, 1), graded(36, -9)); },
+    [] { return make_problem("clusters", clusters()); },
+    [] { return make_problem("lattice", magnetic_lattice(9, 8, 2 * std::numbers::pi / 5)); },
+    [] { return make_problem("lattice without flux", magnetic_lattice(8, 8, 0)); },
+    [] { return make_problem("lattice, generalized", magnetic_lattice(7, 9, 0.7), turned(mass(63))); },
+};
+INSTANTIATE_TEST_SUITE_P(All, Structures, testing::ValuesIn(kStructures));
+
+TEST(RandomProblems, NoneMissedAndNoneTooMany) {
+  const char* const text = std::getenv("QUORIN_FEAST_PROBLEMS");
+  const int problems = text == nullptr ? 60 : std::atoi(text);
+  std::uniform_int_distribution<int> any_size(1, 60), any_kind(0, 3), coin(0, 1);
+  std::uniform_real_distribution<double> any_degree(0, 6), any_scale(-6, 6), any_decades(0, 8);
+  for (int k = 0; k < problems && !testing::Test::HasFailure(); ++k) {
+    std::mt19937 random(static_cast<unsigned>(k));
+    const int n = any_size(random);
+    const bool is_complex = coin(random) == 1;
+    const double degree = any_degree(random), scale = std::pow(10.0, any_scale(random));
+    SparseMatrix A = random_matrix(n, degree, is_complex, random), B;
+    if (any_kind(random) == 0) {
+      for (auto& entry : A.entries) entry.value *= entry.row == entry.column ? 0 : 1;
+    }
+    for (auto& entry : A.entries) entry.value *= scale;
+    if (coin(random) == 1) B = random_definite(n, degree, any_decades(random), is_complex, random);
+    const Problem problem = make_problem("random " + std::to_string(k), A, B);
+    const std::vector<double> eigenvalues = all_eigenvalues(problem);
+    for (const auto& [low, high] : intervals(eigenvalues, random)) expect_agreement(problem, eigenvalues, low, high);
+  }
+}
+
+}  // namespace
+}  // namespace feast_test

@@ -1,0 +1,339 @@
+// The problems with published or closed-form eigenvalues, each parameter, and each form of each routine.
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "quorin/feast.h"
+#include "tests/feast/feast_host.hpp"
+#include "tests/support/capture_output.hpp"
+#include "tests/support/guarded.hpp"
+#include "tests/support/index_form.hpp"
+
+namespace feast_test {
+namespace {
+
+// Diagonal 6 (corners 5), then 3 (2 at both ends), 1, 1.
+Problem band_matrix() {
+  SparseMatrix A;
+  for (int i = 0; i < 11; ++i) {
+    A.add(i, i, i == 0 || i == 10 ? 5 : 6);
+    if (i >= 1) A.add(i, i - 1, i == 1 || i == 10 ? 2 : 3);
+    if (i >= 2) A.add(i, i - 2, 1);
+    if (i >= 3) A.add(i, i - 3, 1);
+  }
+  return make_problem("band of 7", A);
+}
+
+TEST(Published, BandMatrix) {
+  const Problem problem = band_matrix();
+  const double expected[] = {3.171572875253810, 4, 4, 4.129248484189093, 4.406649900673160, 6};
+  for (const char uplo : {'F', 'U', 'L', 'f', 'u', 'l'}) {
+    for (const int m0 : {6, 8, 11}) {
+      for (const bool as_complex : {false, true}) {
+        Call call(3, 7, m0);
+        call.uplo = uplo;
+        solve(problem, call, as_complex);
+        ASSERT_EQ(call.info, 0);
+        ASSERT_EQ(call.m, 6);
+        EXPECT_LE(call.loop, 2);
+        for (std::size_t k = 0; k < 6; ++k) EXPECT_NEAR(call.e[k], expected[k], 5e-7);
+        expect_right(problem, call, all_eigenvalues(problem));
+      }
+    }
+  }
+  Call none(7, 8, 3), one(14, 15, 1), all(-1e6, 1e30, 11);
+  solve(problem, none);
+  EXPECT_EQ(none.info, 1);
+  EXPECT_EQ(none.m, 0);
+  solve(problem, one);
+  EXPECT_EQ(one.info, 0);
+  EXPECT_NEAR(one.e[0], 14.941819327676388, 1e-6);
+  solve(problem, all);
+  ASSERT_EQ(all.m, 11);
+  EXPECT_NEAR(all.e[0], 0.522282287461374, 1e-6);
+  EXPECT_NEAR(all.e[1], 1.803847577293370, 1e-6);
+  EXPECT_NEAR(all.e[8], 8.828427124746209, 1e-6);
+  EXPECT_NEAR(all.e[9], 12.196152422706655, 1e-6);
+  expect_right(problem, all, all_eigenvalues(problem));
+}
+
+TEST(Published, SecondDifference) {
+  const Problem real = make_problem("second difference", second_difference(50));
+  const Problem complex = make_problem("turned second difference", turned(second_difference(50)));
+  const double expected[] = {0.135055541191, 0.183069456361, 0.237975611428, 0.299565728541,
+                             0.367606175288, 0.441838850949, 0.521982165559};
+  for (const Problem& problem : {real, complex}) {
+    for (const int m0 : {7, 9, 13, 50}) {
+      Call call(0.1, 0.6, m0);
+      solve(problem, call);
+      EXPECT_EQ(call.info, 0);
+      ASSERT_EQ(call.m, 7);
+      for (std::size_t k = 0; k < 7; ++k) {
+        EXPECT_NEAR(call.e[k], expected[k], 5e-8);
+        EXPECT_NEAR(call.e[k], 2 - 2 * std::cos(static_cast<double>(k + 6) * std::numbers::pi / 51), 5e-8);
+        EXPECT_LE(call.res[k], 1e-5);
+      }
+      EXPECT_LE(call.loop, m0 == 7 ? 4 : 2);
+    }
+    Call small(0.1, 0.6, 5), none(0.3825, 0.4270, 5);
+    solve(problem, small);
+    EXPECT_EQ(small.info, 3);
+    solve(problem, none);
+    EXPECT_EQ(none.info, 1);
+    EXPECT_EQ(none.m, 0);
+  }
+}
+
+// Ends that are eigenvalues count as inside; those beside the interval do not, however near they are.
+TEST(Published, Ends) {
+  const Problem whole = make_problem("whole numbers", diagonal({-3, -2, -2, -1, 0, 0, 0, 1, 2, 3, 4, 4.000001, 5}));
+  const auto count = [&whole](double low, double high) {
+    Call call(low, high, 13);
+    solve(whole, call);
+    EXPECT_EQ(call.info, call.m > 0 ? 0 : 1);
+    expect_right(whole, call, all_eigenvalues(whole));
+    return call.m;
+  };
+  EXPECT_EQ(count(-2, 2), 8);
+  EXPECT_EQ(count(0, 4), 7);
+  EXPECT_EQ(count(1e-9, 4), 4);
+  EXPECT_EQ(count(-1e-6, 1e-6), 3);
+  EXPECT_EQ(count(4.0000005, 4.9999995), 1);
+  EXPECT_EQ(count(std::nextafter(1.0F, 2.0F), std::nextafter(2.0F, 1.0F)), 0);
+  EXPECT_EQ(count(-1e20, -2), 3);
+  EXPECT_EQ(count(3, 1e38), 4);
+  EXPECT_EQ(count(100, 1e38), 0);
+}
+
+// ---- Parameters -----------------------------------------------------------------------------------------------------
+
+TEST(Parameters, Defaults) {
+  std::vector<std::int32_t> expected(128, 0);
+  expected[1] = 8;
+  expected[2] = 12;
+  expected[3] = 20;
+  expected[6] = 5;
+  quorin::test::Guarded<std::int32_t> fpm(128, -7);
+  feastinit_32f(fpm.data());
+  EXPECT_EQ(std::vector<std::int32_t>(fpm.data(), fpm.data() + 128), expected);
+  EXPECT_TRUE(fpm.intact());
+}
+
+TEST(Parameters, AnyNumberOfNodes) {
+  const Problem problem = make_problem("grid", laplacian(6, 5, 4));
+  const std::vector<double> eigenvalues = all_eigenvalues(problem);
+  for (const int nodes : {3, 4, 5, 6, 8, 10, 12, 16, 20, 24, 32, 40, 48}) {
+    Call call(2.9, 5.1, 40);
+    call.parameter(2) = nodes;
+    solve(problem, call);
+    EXPECT_EQ(call.info, 0) << nodes;
+    expect_right(problem, call, eigenvalues);
+  }
+}
+
+TEST(Parameters, ToleranceLoopsAndTests) {
+  const Problem problem = make_problem("second difference", second_difference(50));
+  const std::vector<double> eigenvalues = all_eigenvalues(problem);
+  int loops[2] = {};
+  for (const int digits : {2, 12}) {
+    Call call(0.1, 0.6, 9);
+    call.parameter(7) = digits;
+    solve(problem, call);
+    EXPECT_EQ(call.info, 0);
+    expect_right(problem, call, eigenvalues);
+    loops[digits == 12] = call.loop;
+    EXPECT_LE(*std::max_element(call.res.begin(), call.res.begin() + 7), std::pow(10.0, -digits));
+  }
+  EXPECT_LT(loops[0], loops[1]);
+
+  Call hopeless(0.1, 0.6, 9);
+  hopeless.parameter(7) = 30;
+  hopeless.parameter(4) = 3;
+  solve(problem, hopeless);
+  EXPECT_EQ(hopeless.info, 2);
+  EXPECT_EQ(hopeless.loop, 3);
+  EXPECT_EQ(hopeless.m, 7);
+  expect_right(problem, hopeless, eigenvalues);
+
+  Call by_trace(0.1, 0.6, 9);
+  by_trace.parameter(6) = 1;
+  solve(problem, by_trace);
+  EXPECT_EQ(by_trace.info, 0);
+  EXPECT_LT(by_trace.epsout, 1e-5);
+  EXPECT_GE(by_trace.loop, 1);
+  expect_right(problem, by_trace, eigenvalues);
+}
+
+// What the filter does to eigenvectors is known: about 1 inside, 1/2 at the ends, and the published values elsewhere.
+TEST(Parameters, FilterOnly) {
+  const Problem problem = make_problem("diagonal", diagonal({0, 0.5, 0.9, 1, 1.1, 1.5, 2, 3}));
+  const double three[] = {1, 1.015, 0.748, 0.5, 0.273, -1.2e-2, -1.5e-2, -3.0e-3};
+  const double eight[] = {1, 1.000, 1.021, 0.5, -2.3e-2, 2.4e-4, -1.6e-5, 4.3e-7};
+  for (const bool as_complex : {false, true}) {
+    for (const int nodes : {3, 8}) {
+      Call call(-1, 1, 2);
+      call.parameter(2) = nodes;
+      call.parameter(5) = call.parameter(14) = 1;
+      call.guess.assign(16, 1);
+      std::fill_n(call.guess.begin() + 8, 8, Complex(-2));
+      solve(problem, call, as_complex);
+      EXPECT_EQ(call.info, 4);
+      EXPECT_EQ(call.m, 0);
+      for (std::size_t i = 0; i < 8; ++i) {
+        const double expected = nodes == 3 ? three[i] : eight[i];
+        const double tolerance = std::fabs(expected) < 0.1 ? 0.05 * std::fabs(expected) : 6e-4;
+        EXPECT_NEAR(call.x[i].real(), expected, tolerance) << nodes << " nodes, " << i;
+        EXPECT_NEAR(call.x[i + 8].real(), -2 * expected, 2 * tolerance);
+        EXPECT_NEAR(call.x[i].imag(), 0, 1e-12);
+      }
+    }
+  }
+}
+
+TEST(Parameters, InitialSubspace) {
+  const Problem problem = make_problem("grid", laplacian(9, 8, 1));
+  const std::vector<double> eigenvalues = all_eigenvalues(problem);
+  Call first(1, 2, 30);
+  solve(problem, first);
+  ASSERT_EQ(first.info, 0);
+  ASSERT_GT(first.m, 5);
+  const auto again = [&](std::vector<Complex> guess) {
+    Call call(1, 2, 30);
+    call.parameter(5) = 1;
+    call.guess = std::move(guess);
+    solve(problem, call);
+    EXPECT_EQ(call.info, 0);
+    EXPECT_EQ(call.m, first.m);
+    expect_right(problem, call, eigenvalues);
+    return call.loop;
+  };
+  const std::size_t elements = 72U * 30U;
+  EXPECT_EQ(again(first.x), 0);
+  again(std::vector<Complex>(elements));     // zeros
+  again(std::vector<Complex>(elements, 1));  // one vector, thirty times
+  again(std::vector<Complex>(elements, Complex(1e-30F)));
+  // An eigenvector that is not wanted, so that the first loops find nothing else.
+  Call other(5, 8, 72);
+  solve(problem, other);
+  ASSERT_EQ(other.info, 0);
+  other.x.resize(72);
+  std::vector<Complex> repeated;
+  for (int k = 0; k < 30; ++k) repeated.insert(repeated.end(), other.x.begin(), other.x.end());
+  again(repeated);
+}
+
+TEST(Parameters, OrderingsOfTheSolver) {
+  const Problem problem = make_problem("grid", laplacian(7, 6, 5));
+  const std::vector<double> eigenvalues = all_eigenvalues(problem);
+  for (const int given : {0, 1}) {
+    for (const int ordering : {0, 2, 3}) {
+      Call call(0.5, 1.5, 40);
+      call.parameter(64) = 1;
+      call.parameter(65) = given;
+      call.parameter(66) = ordering;
+      solve(problem, call);
+      EXPECT_EQ(call.info, 0);
+      expect_right(problem, call, eigenvalues);
+    }
+  }
+}
+
+TEST(Parameters, PrintsALineForEachLoop) {
+  const Problem problem = make_problem("second difference", second_difference(50));
+  Call call(0.1, 0.6, 9);
+  EXPECT_EQ(quorin::test::captured([&] { solve(problem, call); }), "");
+  call = Call(0.1, 0.6, 9);
+  call.parameter(1) = 1;
+  call.parameter(7) = 10;
+  const std::string text = quorin::test::captured([&] { solve(problem, call); });
+  EXPECT_NE(text.find("n = 50, interval [0.100000001, 0.600000024]"), std::string::npos) << text;
+  EXPECT_NE(text.find("7 eigenvalues"), std::string::npos) << text;
+  constexpr int kHeadLines = 3;
+  EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), kHeadLines + call.loop + 1) << text;
+}
+
+// ---- Forms ----------------------------------------------------------------------------------------------------------
+
+// Each index form on the arrays of a generalized problem, all at odd places between guard words.
+class Forms : public testing::Test {
+ protected:
+  const int n_ = 12, m_ = 12;
+  const char uplo_ = 'U';
+  const float low_ = 0.1F, high_ = 1.1F;
+  const Problem real_ = make_problem("", second_difference(12), diagonal({2, 1, 2, 1, 2, 1, 2, 1, 2, 1, 2, 1}));
+  const Problem complex_ = make_problem("", turned(real_.A), turned(real_.B));
+
+  template <class T>
+  struct Operands {
+    Operands(const Problem& problem, char uplo) : A(csr<T>(problem.A, uplo)), B(csr<T>(problem.B, uplo)) {
+      feastinit_32f(fpm.data());
+    }
+    Csr<T> A, B;
+    quorin::test::Guarded<std::int32_t> fpm{128, -7};
+    quorin::test::Guarded<float> e{12, -7}, res{12, -7};
+    quorin::test::Guarded<T> x{144, T(-7)};
+    float epsout = -7;
+    int loop = -7, m0 = 12, m = -7, info = -7;
+
+    void expect(const Call& call) {
+      EXPECT_EQ(info, 0);
+      ASSERT_EQ(m, call.m);
+      EXPECT_EQ(loop, call.loop);
+      EXPECT_EQ(m0, call.m0);
+      for (std::size_t k = 0; k < static_cast<std::size_t>(m); ++k) {
+        EXPECT_EQ(e[k], call.e[k]);
+        EXPECT_EQ(res[k], call.res[k]);
+      }
+      for (std::size_t k = 0; k < 12U * static_cast<std::size_t>(m); ++k) EXPECT_EQ(Complex(x[k]), call.x[k]);
+      EXPECT_TRUE(fpm.intact() && e.intact() && res.intact() && x.intact());
+    }
+  };
+  Call plain(const Problem& problem, bool is_generalized) {
+    Call call(low_, high_, m_);
+    call.uplo = uplo_;
+    Problem solved = problem;
+    if (!is_generalized) solved.B = {};
+    solve(solved, call);
+    return call;
+  }
+};
+
+struct ComplexArray {
+  std::vector<Complex>& values;
+  const quorin_complex* data() const { return reinterpret_cast<const quorin_complex*>(values.data()); }
+};
+struct ComplexResults {
+  quorin::test::Guarded<Complex>& values;
+  quorin_complex* data() const { return reinterpret_cast<quorin_complex*>(values.data()); }
+};
+
+TEST_F(Forms, Real) {
+  using quorin::test::call_index_form;
+  Operands<float> s(real_, uplo_), g(real_, uplo_);
+  call_index_form(sfeast_scsrev_Idx, &uplo_, &n_, s.A.values, s.A.starts, s.A.columns, s.fpm, &s.epsout, &s.loop, &low_,
+                  &high_, &s.m0, s.e, s.x, &s.m, s.res, &s.info);
+  s.expect(plain(real_, false));
+  call_index_form(sfeast_scsrgv_Idx, &uplo_, &n_, g.A.values, g.A.starts, g.A.columns, g.B.values, g.B.starts,
+                  g.B.columns, g.fpm, &g.epsout, &g.loop, &low_, &high_, &g.m0, g.e, g.x, &g.m, g.res, &g.info);
+  g.expect(plain(real_, true));
+  EXPECT_NE(s.m, g.m);
+}
+
+TEST_F(Forms, ComplexAndTheIgnoredIndex) {
+  using quorin::test::call_index_form;
+  Operands<Complex> s(complex_, uplo_), g(complex_, uplo_);
+  call_index_form(cfeast_hcsrev_Idx, &uplo_, &n_, ComplexArray{s.A.values}, s.A.starts, s.A.columns, s.fpm, &s.epsout,
+                  &s.loop, &low_, &high_, &s.m0, s.e, ComplexResults{s.x}, &s.m, s.res, &s.info);
+  s.expect(plain(complex_, false));
+  for (const int ignored : {0, 5, -1000000}) {
+    g.m0 = 12;
+    const quorin_complex* const a = ComplexArray{g.A.values}.data();
+    call_index_form(cfeast_hcsrgv_Idx, &uplo_, &n_, a, ignored, g.A.starts, g.A.columns, ComplexArray{g.B.values},
+                    g.B.starts, g.B.columns, g.fpm, &g.epsout, &g.loop, &low_, &high_, &g.m0, g.e, ComplexResults{g.x},
+                    &g.m, g.res, &g.info);
+    g.expect(plain(complex_, true));
+  }
+}
+
+}  // namespace
+}  // namespace feast_test
