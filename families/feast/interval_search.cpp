@@ -135,8 +135,10 @@ bool IntervalSearch<Host>::load_subspace() {
   const int n = pencil_.size(), size = working_size();
   pairs_ = base::Workspace<Pair>(static_cast<std::size_t>(size));
   order_ = base::Workspace<int>(static_cast<std::size_t>(size));
+  previous_values_ = base::Workspace<double>(static_cast<std::size_t>(size));
   contour_ = Contour(bounds_, arguments_.parameter(kFpmNodes));
-  if (!pairs_ || !order_ || !X_.reserve(n, size, threads_) || !filter_.reserve(pencil_, solver_, contour_, X_)) {
+  if (!pairs_ || !order_ || !previous_values_ || !X_.reserve(n, size, threads_) ||
+      !filter_.reserve(pencil_, solver_, contour_, X_)) {
     return false;
   }
   X_.resize(size);
@@ -188,12 +190,12 @@ Status IntervalSearch<Host>::iterate() {
     measure();
     const Tally now = tally();
     epsout_ = std::fabs(now.sum - previous_sum_) / scale_;
-    previous_sum_ = now.sum;
     if (arguments_.is_on(kFpmPrint)) print_loop(now);
     if (const std::optional<Status> reached = verdict(now)) {
       write_results(now);
       return *reached;
     }
+    remember(now);
     replenish(now);
   }
 }
@@ -259,6 +261,24 @@ bool IntervalSearch<Host>::is_inside(int j) const {
   return is_candidate(j) && value >= interval_.low - rounding && value <= interval_.high + rounding;
 }
 
+// Whether the candidate of that number has the same value as in the loop before: then it converges no further, though
+// eigenvectors far away may still be in its residual.
+template <Scalar Host>
+bool IntervalSearch<Host>::rests(int candidate, double value, double rounding) const {
+  if (!was_orthonormal_ || candidate >= previous_candidates_) return false;
+  return std::fabs(value - previous_values_.data()[candidate]) <= rounding;
+}
+
+template <Scalar Host>
+void IntervalSearch<Host>::remember(const Tally& now) {
+  int place = 0;
+  for (int j = 0; j < X_.size(); ++j) {
+    if (is_candidate(j)) previous_values_.data()[place++] = ritz_.value(j);
+  }
+  previous_candidates_ = place;
+  previous_sum_ = now.sum;
+}
+
 template <Scalar Host>
 auto IntervalSearch<Host>::tally() const -> Tally {
   Tally result;
@@ -271,7 +291,8 @@ auto IntervalSearch<Host>::tally() const -> Tally {
     const double to_end = std::min(std::fabs(value - interval_.low), std::fabs(value - interval_.high));
     ++result.candidates;
     result.largest_residual = std::max(result.largest_residual, pair.residual / scale_);
-    if (error_of_value > std::max(pair.rounding, std::min(precise, to_end))) result.is_resolved = false;
+    const bool is_right = error_of_value <= std::max(pair.rounding, std::min(precise, to_end));
+    if (!is_right && !rests(result.candidates - 1, value, pair.rounding)) result.is_resolved = false;
     if (!is_inside(j)) continue;
     ++result.inside;
     result.sum += value;

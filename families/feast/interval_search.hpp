@@ -65,6 +65,8 @@ class IntervalSearch {
   void measure();
   Interval surroundings() const;
   double error(int j, const Interval& others) const;
+  bool rests(int candidate, double value, double rounding) const;
+  void remember(const Tally& now);
   Tally tally() const;
   std::optional<int> expected() const;
   std::optional<Status> verdict(const Tally& now) const;
@@ -95,7 +97,11 @@ class IntervalSearch {
   base::Workspace<int> order_;
 
   int loop_ = 0;
-  double epsout_ = 0, previous_sum_ = 0;
+  double epsout_ = 0;
+  // Of the loop before.
+  double previous_sum_ = 0;
+  int previous_candidates_ = 0;
+  base::Workspace<double> previous_values_;
   bool was_orthonormal_ = false;  // the basis that was filtered last, so that gains mean something
 };
 
