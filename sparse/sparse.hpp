@@ -3,6 +3,7 @@
 
 #include "sparse/matching/matching.hpp"
 #include "sparse/matching/preprocess.hpp"
+#include "sparse/numeric/archive.hpp"
 #include "sparse/numeric/assembly.hpp"
 #include "sparse/numeric/factor.hpp"
 #include "sparse/numeric/refinement.hpp"

@@ -118,14 +118,19 @@ FactorOutcome FileWriter::complete() {
   if (outcome_ != FactorOutcome::kDone) abandon();
   // Nothing is left to be removed; a file in place stays locked.
   name_ = {};
+  final_name_ = {};
   buffer_ = {};
   return outcome_;
 }
 
 void FileWriter::abandon() {
-  if (!file_) return;
-  file_.close();
-  if (name_) platform::remove_file(name_.data());
+  if (file_) {
+    file_.close();
+    if (name_) platform::remove_file(name_.data());
+  }
+  name_ = {};
+  final_name_ = {};
+  buffer_ = {};
 }
 
 FactorOutcome FileReader::begin(const char* name, FileKind kind) {

@@ -59,6 +59,10 @@ class FileWriter {
   void put(std::span<const T> values) {
     write(values.data(), values.size_bytes());
   }
+  // For a failure of the caller's.
+  void fail(FactorOutcome outcome) {
+    if (outcome_ == FactorOutcome::kDone) outcome_ = outcome;
+  }
   FactorOutcome outcome() const { return outcome_; }
   // Writes the header, and waits until the disk has all of it. The writer can begin anew then.
   FactorOutcome complete();
@@ -120,9 +124,14 @@ class FileReader {
     if (outcome_ == FactorOutcome::kDone) outcome_ = outcome;
   }
   FactorOutcome outcome() const { return outcome_; }
+  // Bytes that are not got yet.
+  std::uint64_t left() const { return left_; }
   // Whether all of the file was read and is as it was written. The file stays open, so that nobody writes it anew.
   FactorOutcome complete();
-  void close() { file_.close(); }
+  void close() {
+    file_.close();
+    buffer_ = {};
+  }
 
  private:
   void read(void* data, std::size_t bytes);

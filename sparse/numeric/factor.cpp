@@ -26,6 +26,13 @@ std::int64_t panel_bytes(const Plan& plan, const FactorOptions& options) noexcep
          plan.supernodes() * static_cast<std::int64_t>(sizeof(std::size_t));
 }
 
+// What the method takes beside the factor.
+template <Scalar T>
+std::int64_t work_bytes(const Plan& plan, const FactorOptions& options, int threads) noexcept {
+  return options.method == Method::kMultifrontal ? multifrontal_bytes<T>(plan, threads, options.store)
+                                                 : left_looking_bytes<T>(plan, options.factorization, threads);
+}
+
 }  // namespace
 
 template <Scalar T>
@@ -36,7 +43,7 @@ std::int64_t factor_bytes(const Plan& plan, const FactorOptions& options) noexce
 
 template <Scalar T>
 std::int64_t peak_bytes(const Plan& plan, const FactorOptions& options) noexcept {
-  return factor_bytes<T>(plan, options) + left_looking_bytes<T>(plan, options.factorization, threads_of(options));
+  return factor_bytes<T>(plan, options) + work_bytes<T>(plan, options, threads_of(options));
 }
 
 template <Scalar T>
@@ -63,7 +70,8 @@ FactorOutcome Factor<T>::compute(const Plan& plan, const Assembly& assembly, con
     clear();
     return outcome;
   };
-  if (panel_bytes<T>(plan, options) > Panels<T>::kMostElements * static_cast<std::int64_t>(sizeof(T))) {
+  constexpr std::int64_t kMostBytes = Panels<T>::kMostElements * static_cast<std::int64_t>(sizeof(T));
+  if (panel_bytes<T>(plan, options) > kMostBytes || work_bytes<T>(plan, options, threads_of(options)) > kMostBytes) {
     return refuse(FactorOutcome::kTooLarge);
   }
   PivotRule<T> rule{options.factorization, options.pivoting, 0};
@@ -80,11 +88,15 @@ FactorOutcome Factor<T>::compute(const Plan& plan, const Assembly& assembly, con
   const int threads = std::min(threads_of(options), buffers.granted());
 
   FactorTask<T> task(plan, assembly, A, rule, panels_, order_, threads, options.progress);
-  factor_left_looking(task);
+  if (options.method == Method::kMultifrontal) {
+    factor_multifrontal(task);
+  } else {
+    factor_left_looking(task);
+  }
   report_.pivots = task.counts();
   report_.failed_column = task.failed_column();
   report_.bytes = factor_bytes<T>(plan, options);
-  report_.peak_bytes = report_.bytes + left_looking_bytes<T>(plan, options.factorization, threads);
+  report_.peak_bytes = report_.bytes + work_bytes<T>(plan, options, threads);
   FactorOutcome outcome = task.outcome();
   if (options.store != nullptr) {
     const FactorOutcome finished = options.store->finish(outcome == FactorOutcome::kDone);

@@ -76,6 +76,7 @@ class Factor {
   const FactorReport& report() const noexcept { return report_; }
 
  private:
+  friend class Archive;
   FactorOutcome create(const Plan& plan, const FactorOptions& options) noexcept;
 
   const Plan* plan_ = nullptr;

@@ -1,5 +1,8 @@
 #include "sparse/numeric/factor_task.hpp"
 
+#include "sparse/numeric/loops.hpp"
+#include "sparse/numeric/two_by_two.hpp"
+
 namespace quorin::sparse {
 
 namespace {
@@ -35,6 +38,27 @@ bool FactorTask<T>::eliminate(int s, T* panel, T* scratch, int panel_threads) no
   const Guard guard(is_locked_);
   counts_.add(result.counts);
   return true;
+}
+
+template <Scalar T>
+void FactorTask<T>::multiply_by_diagonal(int s, const T* panel, const T* l, int count, T* w) const noexcept {
+  const int* const pivots = order.rows == nullptr ? nullptr : order.rows + plan.first(s);
+  const std::ptrdiff_t ld = plan.height(PanelKind::kSymmetric, s);
+  const auto diagonal = [&](int i, int j) { return panel[i + j * ld]; };
+  for (int j = 0; j < plan.columns(s); ++j) {
+    T* const w1 = w + static_cast<std::ptrdiff_t>(j) * count;
+    std::copy_n(l + j * ld, count, w1);
+    if (pivots == nullptr || pivots[j] >= 0) {
+      scale_column(count, diagonal(j, j), w1);
+      continue;
+    }
+    T* const w2 = w1 + count;
+    std::copy_n(l + (j + 1) * ld, count, w2);
+    const TwoByTwo<T> pivot(diagonal(j, j), diagonal(j, j + 1), diagonal(j + 1, j + 1),
+                            rule.factorization == Factorization::kLDLH);
+    for (int i = 0; i < count; ++i) pivot.multiply_row(w1[i], w2[i]);
+    ++j;
+  }
 }
 
 template <Scalar T>

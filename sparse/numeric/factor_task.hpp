@@ -32,6 +32,9 @@ class FactorTask {
   // that failed. `scratch`: elimination_scratch(plan.most_columns()).
   bool eliminate(int s, T* panel, T* scratch, int panel_threads) noexcept;
 
+  // W <- L D, of `count` rows `l` of the panel of s; W is without gaps between columns.
+  void multiply_by_diagonal(int s, const T* panel, const T* l, int count, T* w) const noexcept;
+
   // Says that work on supernode s cannot go on, because of that column of it, if one is to blame. Of several failures
   // the one of the first supernode counts, so that the outcome does not depend on the number of threads.
   void fail(int s, FactorOutcome outcome, int column = kNone) noexcept;
@@ -73,5 +76,17 @@ void factor_left_looking(FactorTask<T>& task) noexcept;
 // Bytes that it takes beside the panels.
 template <Scalar T>
 std::int64_t left_looking_bytes(const Plan& plan, Factorization factorization, int threads) noexcept;
+
+// The multifrontal method: each supernode adds the update matrices of its children to its own panel and update matrix,
+// which stand on a stack until the parent is made. Kernel buffers are reserved, and what goes wrong stands in the task,
+// as above. The stack of one thread takes plan.stack_elements().
+//
+// J. W. H. Liu, The multifrontal method for sparse matrix solution: theory and practice, SIAM Review 34 (1992) 82-109.
+template <Scalar T>
+void factor_multifrontal(FactorTask<T>& task) noexcept;
+
+// Bytes that it takes beside the panels.
+template <Scalar T>
+std::int64_t multifrontal_bytes(const Plan& plan, int threads, const PanelStore* store) noexcept;
 
 }  // namespace quorin::sparse

@@ -9,7 +9,6 @@
 #include "sparse/numeric/factor_task.hpp"
 #include "sparse/numeric/loops.hpp"
 #include "sparse/numeric/thread_slots.hpp"
-#include "sparse/numeric/two_by_two.hpp"
 
 namespace quorin::sparse {
 
@@ -91,8 +90,9 @@ class LeftLooking {
   void run() noexcept {
     if (!create()) return task_.fail(0, FactorOutcome::kOutOfMemory);
     const int count = plan_.supernodes();
-    const int range_count =
-        task_.threads == 1 ? 0 : plan_.cut_by_operations(kPartsPerThread * task_.threads, ranges_.data());
+    // A store's budget need not have room for the panels of several threads.
+    const bool is_divided = task_.threads > 1 && task_.panels.store() == nullptr;
+    const int range_count = !is_divided ? 0 : plan_.cut_by_operations(kPartsPerThread * task_.threads, ranges_.data());
     base::parallel_for(range_count, task_.threads, [&](int r) {
       const SupernodeRange range = ranges_[to_size(r)];
       const ThreadSlots::Slot slot(slots_, task_.threads);
@@ -183,37 +183,42 @@ class LeftLooking {
     // Columns of the panel to threads. An element's bits do not depend on how columns are cut.
     constexpr int kLeastColumns = 16;
     const int slices = threads == 1 ? 1 : std::clamp(columns / kLeastColumns, 1, 4 * threads);
-    const auto gather = [&](int begin_column, int end_column, Worker<T>& own) {
-      for (const int* d = begin; d != end && task_.may_go_on(s); ++d) {
-        update(*d, target, first + begin_column, first + end_column, own);
-      }
+    const auto gather = [&](const int* from, const int* to) {
+      const auto cut = [&](int i) { return first + static_cast<int>(std::int64_t{columns} * i / slices); };
+      const auto gather_slice = [&](int slice, Worker<T>& own) {
+        for (const int* d = from; d != to && task_.may_go_on(s); ++d) {
+          const PinnedPanel<T> source(task_.panels, *d);
+          if (source.data() == nullptr) return task_.fail(s, task_.panels.store()->outcome());
+          update(*d, source.data(), target, cut(slice), cut(slice + 1), own);
+        }
+      };
+      if (slices == 1) return gather_slice(0, worker);
+      base::parallel_for(slices, threads, [&](int slice) {
+        const ThreadSlots::Slot slot(slots_, threads);
+        gather_slice(slice, workers_[slot.number()]);
+      });
     };
-    if (slices == 1) return gather(0, columns, worker);
-    base::parallel_for(slices, threads, [&](int slice) {
-      const auto cut = [&](int i) { return static_cast<int>(std::int64_t{columns} * i / slices); };
-      const ThreadSlots::Slot slot(slots_, threads);
-      gather(cut(slice), cut(slice + 1), workers_[slot.number()]);
-    });
+    if (task_.panels.store() == nullptr) return gather(begin, end);
+    // All threads at the same descendant, so that a store needs room for one.
+    for (const int* d = begin; d != end; ++d) gather(d, d + 1);
   }
 
-  // Subtracts from columns first, ..., end - 1 what descendant d contributes.
-  void update(int d, const Target<T>& target, int first, int end, Worker<T>& worker) noexcept {
+  // Subtracts from columns first, ..., end - 1 what descendant d contributes, whose panel is `source`.
+  void update(int d, const T* source, const Target<T>& target, int first, int end, Worker<T>& worker) noexcept {
     const auto rows = plan_.below(d);
     Span span{done_[d], 0, 0, 0, static_cast<int>(rows.size())};
     span.p = first_row_from(d, span.first, first);
     span.q = first_row_from(d, span.p, end);
     span.last = first_row_from(d, span.q, plan_.first(target.s + 1));
     if (span.p == span.q) return;
-    const PinnedPanel<T> pinned(task_.panels, d);
-    if (pinned.data() == nullptr) return task_.fail(target.s, task_.panels.store()->outcome());
     int* const places = worker.places.data();
     for (int i = span.first; i < span.m; ++i) places[i] = target.position[rows[to_size(i)]];
 
     const int k = plan_.columns(d), height = plan_.height(kind_, d);
-    const T* const l = pinned.data() + k;
+    const T* const l = source + k;
     T* const buffer = worker.buffer.data();
     const std::size_t size = worker.buffer.size();
-    if (has_diagonal_) return update_symmetric(d, pinned.data(), l, height, k, span, target, worker);
+    if (has_diagonal_) return update_symmetric(d, source, l, height, k, span, target, worker);
     if (kind_ == PanelKind::kSymmetric) {
       return subtract(l, l, height, height, k, span, span.first, target, 0, buffer, size, places);
     }
@@ -234,30 +239,10 @@ class LeftLooking {
       slice.p = p;
       slice.q = std::min(p + most, span.q);
       const int count = slice.q - p;
-      multiply_by_diagonal(d, panel, l + p, height, k, count, w);
+      task_.multiply_by_diagonal(d, panel, l + p, count, w);
       const std::size_t used = to_size(count) * to_size(k);
       subtract(l, w - p, height, count, k, slice, span.first, target, 0, w + used, worker.buffer.size() - used,
                worker.places.data());
-    }
-  }
-
-  // W <- L D for `count` rows of the panel of d.
-  void multiply_by_diagonal(int d, const T* panel, const T* l, int height, int k, int count, T* w) const noexcept {
-    const int* const order = task_.order.rows == nullptr ? nullptr : task_.order.rows + plan_.first(d);
-    const std::ptrdiff_t ld = height;
-    const auto diagonal = [&](int i, int j) { return panel[i + j * ld]; };
-    for (int j = 0; j < k; ++j) {
-      T* const w1 = w + to_size(j) * to_size(count);
-      std::copy_n(l + j * ld, count, w1);
-      if (order == nullptr || order[j] >= 0) {
-        scale_column(count, diagonal(j, j), w1);
-        continue;
-      }
-      T* const w2 = w1 + count;
-      std::copy_n(l + (j + 1) * ld, count, w2);
-      const TwoByTwo<T> pivot(diagonal(j, j), diagonal(j, j + 1), diagonal(j + 1, j + 1), is_conjugated_);
-      for (int i = 0; i < count; ++i) pivot.multiply_row(w1[i], w2[i]);
-      ++j;
     }
   }
 

@@ -148,6 +148,7 @@ void PanelFiles::close() noexcept {
   writer_.abandon();
   reader_.close();
   is_new_ = is_read_only_ = false;
+  base_name_ = {};
 }
 
 FactorOutcome PanelFiles::remove(const char* base_name) noexcept {
@@ -195,6 +196,9 @@ FactorOutcome PanelFiles::lay_out() noexcept {
 void PanelFiles::drop_panels() noexcept {
   for (Run& each : std::span<Run>(runs_)) base::release(each.block);
   runs_ = {};
+  sizes_ = {};
+  offsets_ = {};
+  run_of_ = {};
   for (int part = 0; part < part_count_; ++part) parts_[static_cast<std::size_t>(part)].close();
   if (is_new_) remove_parts(base_name_.data(), part_count_);
   part_count_ = panels_ = 0;

@@ -36,6 +36,13 @@ FactorOutcome Panels<T>::create(const Plan& plan, PanelKind kind, PanelStore* st
 }
 
 template <Scalar T>
+void Panels<T>::attach(PanelKind kind, PanelStore& store) noexcept {
+  clear();
+  kind_ = kind;
+  store_ = &store;
+}
+
+template <Scalar T>
 void Panels<T>::clear() noexcept {
   block_ = {};
   starts_ = {};

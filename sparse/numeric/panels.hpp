@@ -61,6 +61,8 @@ class Panels {
   // Room for all panels, which replaces what was there. kTooLarge before anything is allocated, kOutOfMemory, and what
   // the store says. A store is borrowed. An existing block of the right size is used again.
   FactorOutcome create(const Plan& plan, PanelKind kind, PanelStore* store) noexcept;
+  // Takes the panels that the store has.
+  void attach(PanelKind kind, PanelStore& store) noexcept;
   void clear() noexcept;
 
   // What the address space may hold.

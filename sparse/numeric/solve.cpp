@@ -567,9 +567,11 @@ template <Scalar T>
 FactorOutcome solve(const Factor<T>& factor, Operation operation, Stage stage, int nrhs, T* x, int ldx,
                     int threads) noexcept {
   if (nrhs <= 0 || factor.plan().size() == 0) return FactorOutcome::kDone;
-  const dense::KernelBuffer buffers(std::clamp(threads, 1, base::kMostThreads));
+  // One thread sweeps over panels in files: several would each need room for panels, and read them again.
+  const int wanted = factor.panels().store() == nullptr ? std::clamp(threads, 1, base::kMostThreads) : 1;
+  const dense::KernelBuffer buffers(wanted);
   if (buffers.granted() == 0) return FactorOutcome::kOutOfMemory;
-  const int granted = std::clamp(threads, 1, buffers.granted());
+  const int granted = std::min(wanted, buffers.granted());
   const bool is_all = stage == Stage::kAll;
   const Stages stages{is_all || stage == Stage::kForward, is_all || stage == Stage::kDiagonal,
                       is_all || stage == Stage::kBackward};

@@ -72,7 +72,6 @@ struct Arrangement {
   int* child_starts;  // count + 1
   int* children;
   int* place;  // new numbers
-  double stack = 0;
 };
 
 double update_size(const Supernodes& supernodes, int s) noexcept {
@@ -110,7 +109,6 @@ void arrange(const Supernodes& supernodes, const int* parent, const int* merged_
   for (int s = 0; s < count; ++s) {
     if (!remains(s)) continue;
     arranged.peak[to_size(s)] = least_stack(supernodes, s, arranged);
-    if (parent[s] == kNone) arranged.stack = std::max(arranged.stack, arranged.peak[to_size(s)]);
   }
   // Postorder: down to the next child that has not been visited, else up.
   std::copy_n(arranged.child_starts, count, next);
@@ -215,16 +213,9 @@ Outcome Plan::build(const Graph& graph, const Ordering& ordering, const PlanOpti
 
   const int count = arranged.count;
   plan.supernodes_ = count;
-  plan.stack_elements_ = static_cast<std::int64_t>(arranged.stack);
   plan.first_ = Workspace<int>(to_size(count) + 1);
   plan.row_starts_ = Workspace<int>(to_size(count) + 1);
-  plan.parent_ = Workspace<int>(to_size(count));
-  plan.first_descendant_ = Workspace<int>(to_size(count));
-  plan.work_ = Workspace<double>(to_size(count) + 1);
-  plan.elements_ = Workspace<double>(to_size(count) + 1);
-  if (!plan.first_ || !plan.row_starts_ || !plan.parent_ || !plan.first_descendant_ || !plan.work_ || !plan.elements_) {
-    return Outcome::kOutOfMemory;
-  }
+  if (!plan.first_ || !plan.row_starts_ || !plan.allocate_tree()) return Outcome::kOutOfMemory;
   std::int64_t row_count = 0;
   plan.first_[0] = plan.row_starts_[0] = 0;
   for (int s = 0; s < count; ++s) {
@@ -264,29 +255,78 @@ Outcome Plan::build(const Graph& graph, const Ordering& ordering, const PlanOpti
     }
   }
 
-  std::iota(plan.first_descendant_.begin(), plan.first_descendant_.end(), 0);
-  plan.work_[0] = plan.elements_[0] = 0;
-  for (int s = 0; s < count; ++s) {
-    const std::size_t i = to_size(s);
-    const int p = plan.parent_[i], columns = plan.columns(s), below = plan.below_count(s);
-    if (p != kNone) {
-      int& descendant = plan.first_descendant_[to_size(p)];
-      descendant = std::min(descendant, plan.first_descendant_[i]);
-    }
-    double operations = 0;
-    for (int r = below; r < below + columns; ++r) operations += column_operations(r);
-    plan.work_[i + 1] = plan.work_[i] + (s < plan.eliminated() ? operations : 0);
-    plan.elements_[i + 1] = plan.elements_[i] + static_cast<double>(columns) * plan.rows(s);
-    plan.most_columns_ = std::max(plan.most_columns_, columns);
-    plan.most_below_ = std::max(plan.most_below_, below);
-    for (const PanelKind kind : {PanelKind::kSymmetric, PanelKind::kUnsymmetric}) {
-      const auto which = static_cast<std::size_t>(kind);
-      plan.panel_elements_[which] += plan.panel_size(kind, s);
-      plan.largest_panel_[which] = std::max(plan.largest_panel_[which], plan.panel_size(kind, s));
-    }
-  }
+  plan.measure();
   *this = std::move(plan);
   return Outcome::kDone;
+}
+
+bool Plan::allocate_tree() noexcept {
+  const std::size_t count = to_size(supernodes_);
+  parent_ = Workspace<int>(count);
+  first_descendant_ = Workspace<int>(count);
+  work_ = Workspace<double>(count + 1);
+  elements_ = Workspace<double>(count + 1);
+  return parent_ && first_descendant_ && work_ && elements_;
+}
+
+void Plan::measure() noexcept {
+  std::iota(first_descendant_.begin(), first_descendant_.end(), 0);
+  work_[0] = elements_[0] = 0;
+  std::int64_t stack = 0;
+  for (int s = 0; s < supernodes_; ++s) {
+    const std::size_t i = to_size(s);
+    const int p = parent(s), width = columns(s), length = below_count(s);
+    if (p != kNone) first_descendant_[to_size(p)] = std::min(first_descendant(p), first_descendant(s));
+    double operations = 0;
+    for (int r = length; r < length + width; ++r) operations += column_operations(r);
+    work_[i + 1] = work_[i] + (s < eliminated() ? operations : 0);
+    elements_[i + 1] = elements_[i] + static_cast<double>(width) * rows(s);
+    most_columns_ = std::max(most_columns_, width);
+    most_below_ = std::max(most_below_, length);
+    for (const PanelKind kind : {PanelKind::kSymmetric, PanelKind::kUnsymmetric}) {
+      const auto which = static_cast<std::size_t>(kind);
+      panel_elements_[which] += panel_size(kind, s);
+      largest_panel_[which] = std::max(largest_panel_[which], panel_size(kind, s));
+    }
+    // The update is made while the children's are there.
+    stack += update_size(s);
+    stack_elements_ = std::max(stack_elements_, stack);
+    for_children(s, [&](int c) { stack -= update_size(c); });
+  }
+}
+
+bool Plan::complete_from_lists() noexcept {
+  std::fill(inverse_.begin(), inverse_.end(), kNone);
+  for (int k = 0; k < size_; ++k) {
+    const int vertex = permutation_[to_size(k)];
+    if (vertex < 0 || vertex >= size_ || inverse_[to_size(vertex)] != kNone) return false;
+    inverse_[to_size(vertex)] = k;
+  }
+  for (int s = 0; s < supernodes_; ++s) std::fill_n(&supernode_of_[to_size(first(s))], columns(s), s);
+  if (schur_size_ > 0 && columns(supernodes_ - 1) != schur_size_) return false;
+  for (int s = 0; s < supernodes_; ++s) {
+    const std::span<const int> own = below(s);
+    for (std::size_t i = 0; i < own.size(); ++i) {
+      if (own[i] < (i == 0 ? first_[to_size(s) + 1] : own[i - 1] + 1) || own[i] >= size_) return false;
+    }
+    parent_[to_size(s)] = own.empty() ? kNone : supernode_of(own[0]);
+  }
+  // A supernode's rows are in its parent's front.
+  for (int s = 0; s < supernodes_; ++s) {
+    const int p = parent(s);
+    if (p == kNone) continue;
+    const std::span<const int> own = below(s), above = below(p);
+    const auto* const outside = std::lower_bound(own.data(), own.data() + own.size(), first(p + 1));
+    if (!std::includes(above.begin(), above.end(), outside, own.data() + own.size())) return false;
+  }
+  measure();
+  // Subtrees are whole.
+  for (int s = 0; s < supernodes_; ++s) {
+    bool is_whole = true;
+    for_children(s, [&](int c) { is_whole = is_whole && parent(c) == s; });
+    if (!is_whole) return false;
+  }
+  return true;
 }
 
 int Plan::cut_by_operations(int parts, SupernodeRange* ranges) const noexcept {

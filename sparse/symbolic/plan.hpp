@@ -102,6 +102,14 @@ class Plan {
   // made yet, below_count(s)^2 elements each: what the multifrontal method needs beside the panels.
   std::int64_t stack_elements() const noexcept { return stack_elements_; }
 
+  // Elements of the update matrix of s.
+  std::int64_t update_size(int s) const noexcept { return std::int64_t{below_count(s)} * below_count(s); }
+  // Calls body(c) for the children of s, the last one first: it lies on top of the stack.
+  template <class Body>
+  void for_children(int s, const Body& body) const {
+    for (int c = s - 1; c >= first_descendant(s); c = first_descendant(c) - 1) body(c);
+  }
+
   // Cuts the supernodes that are eliminated into disjoint ranges of whole subtrees, each with at most 1 / parts of all
   // operations (or of the panels' elements), in ascending order; `ranges` holds up to kRangesPerPart * parts. Returns
   // their number. What is in no range, because it is too much or too little, comes after the ranges: none of it lies
@@ -110,6 +118,14 @@ class Plan {
   int cut_by_elements(int parts, SupernodeRange* ranges) const noexcept;
 
  private:
+  friend class Archive;
+  // Room for what is made of the number of supernodes and the lists of their columns and rows.
+  bool allocate_tree() noexcept;
+  // What follows from these, from the permutation and from the parents: subtrees, sizes and work.
+  void measure() noexcept;
+  // The same, and the inverse and parents, from lists that may be anything. False if no plan has them.
+  bool complete_from_lists() noexcept;
+
   int size_ = 0, schur_size_ = 0, supernodes_ = 0, depth_ = 0, most_columns_ = 0, most_below_ = 0;
   std::int64_t entries_ = 0, stack_elements_ = 0, panel_elements_[2] = {}, largest_panel_[2] = {};
   base::Workspace<int> permutation_, inverse_, supernode_of_;
