@@ -6,6 +6,7 @@
 #include "sparse/numeric/archive.hpp"
 #include "sparse/numeric/assembly.hpp"
 #include "sparse/numeric/factor.hpp"
+#include "sparse/numeric/panel_files.hpp"
 #include "sparse/numeric/refinement.hpp"
 #include "sparse/numeric/schur.hpp"
 #include "sparse/numeric/solve.hpp"

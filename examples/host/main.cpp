@@ -17,6 +17,7 @@ int main() {
   demo::slap_rows(library, report);
   demo::amos_rows(library, report);
   demo::umfpack_rows(library, report);
+  demo::pardiso_rows(library, report);
   demo::taucs_rows(library, report);
   demo::feast_rows(library, report);
   std::printf("\n%d rows, %d failed\n", report.rows(), report.failures());

@@ -59,6 +59,7 @@ void least_squares_rows(const Library& library, Report& report);
 void slap_rows(const Library& library, Report& report);
 void amos_rows(const Library& library, Report& report);
 void umfpack_rows(const Library& library, Report& report);
+void pardiso_rows(const Library& library, Report& report);
 void taucs_rows(const Library& library, Report& report);
 void feast_rows(const Library& library, Report& report);
 

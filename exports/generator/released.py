@@ -92,7 +92,8 @@ class Reader:
             return f"{c} {match['name']}"
         if not match["out"]:
             c = f"{c} const" if match["stars"] else f"const {c}"
-        brackets = "[]" if is_array and match["type"] != "void" else ""  # tables have no arrays of an open type
+        is_open = match["type"] == "void" and not match["stars"]  # tables have no arrays of an open type
+        brackets = "[]" if is_array and not is_open else ""
         has_index = has_index_form and kind != model.PLAIN and (is_array or kind == model.PAIRED)
         return f"{c}* {match['name']}{brackets}{index_text(kind) if has_index else ''}"
 

@@ -19,7 +19,7 @@
 #define QUORIN_LIBRARY_NAME "libquorin_lapacks.so"
 #endif
 
-#define QUORIN_EXPORT_COUNT 756
+#define QUORIN_EXPORT_COUNT 765
 
 #ifdef __cplusplus
 extern "C" {
@@ -1637,6 +1637,44 @@ typedef struct quorin_library {
   void(QUORIN_CDECL* vsunpackm_Idx)(const int32_t* n, const float* a, int32_t a_index, float* y, int32_t y_index,
                                     const int32_t* my, int32_t my_index);
 
+  /* quorin/pardiso.h */
+  void(QUORIN_CDECL* PARDISO)(void** pt, const int32_t* maxfct, const int32_t* mnum, const int32_t* mtype,
+                              const int32_t* phase, const int32_t* n, const void* a, const int32_t* ia,
+                              const int32_t* ja, int32_t* perm, const int32_t* nrhs, int32_t* iparm,
+                              const int32_t* msglvl, void* b, void* x, int32_t* error);
+  void(QUORIN_CDECL* sPARDISO_32f_Idx)(void** pt, const int32_t* maxfct, const int32_t* mnum, const int32_t* mtype,
+                                       const int32_t* phase, const int32_t* n, const float* a, int32_t a_index,
+                                       const int32_t* ia, int32_t ia_index, const int32_t* ja, int32_t ja_index,
+                                       int32_t* perm, int32_t perm_index, const int32_t* nrhs, int32_t* iparm,
+                                       int32_t iparm_index, const int32_t* msglvl, float* b, int32_t b_index, float* x,
+                                       int32_t x_index, int32_t* error);
+  void(QUORIN_CDECL* sPARDISO_32fc_Idx)(void** pt, const int32_t* maxfct, const int32_t* mnum, const int32_t* mtype,
+                                        const int32_t* phase, const int32_t* n, const quorin_complex* a,
+                                        int32_t a_index, const int32_t* ia, int32_t ia_index, const int32_t* ja,
+                                        int32_t ja_index, int32_t* perm, int32_t perm_index, const int32_t* nrhs,
+                                        int32_t* iparm, int32_t iparm_index, const int32_t* msglvl, quorin_complex* b,
+                                        int32_t b_index, quorin_complex* x, int32_t x_index, int32_t* error);
+  void(QUORIN_CDECL* sPARDISO_64f_Idx)(void** pt, const int32_t* maxfct, const int32_t* mnum, const int32_t* mtype,
+                                       const int32_t* phase, const int32_t* n, const double* a, int32_t a_index,
+                                       const int32_t* ia, int32_t ia_index, const int32_t* ja, int32_t ja_index,
+                                       int32_t* perm, int32_t perm_index, const int32_t* nrhs, int32_t* iparm,
+                                       int32_t iparm_index, const int32_t* msglvl, double* b, int32_t b_index,
+                                       double* x, int32_t x_index, int32_t* error);
+  void(QUORIN_CDECL* sPARDISO_64fc_Idx)(void** pt, const int32_t* maxfct, const int32_t* mnum, const int32_t* mtype,
+                                        const int32_t* phase, const int32_t* n, const quorin_double_complex* a,
+                                        int32_t a_index, const int32_t* ia, int32_t ia_index, const int32_t* ja,
+                                        int32_t ja_index, int32_t* perm, int32_t perm_index, const int32_t* nrhs,
+                                        int32_t* iparm, int32_t iparm_index, const int32_t* msglvl,
+                                        quorin_double_complex* b, int32_t b_index, quorin_double_complex* x,
+                                        int32_t x_index, int32_t* error);
+  void(QUORIN_CDECL* sPARDISOINIT)(void** pt, const int32_t* mtype, int32_t* iparm);
+  void(QUORIN_CDECL* pardiso_getdiag)(void* const* pt, void* df, void* da, const int32_t* mnum, int32_t* error);
+  void(QUORIN_CDECL* sPARDISO_GETDIAG_32f_Idx)(void* const* pt, float* df, int32_t df_index, float* da,
+                                               int32_t da_index, const int32_t* mnum, int32_t* error);
+  void(QUORIN_CDECL* sPARDISO_GETDIAG_32fc_Idx)(void* const* pt, quorin_complex* df, int32_t df_index,
+                                                quorin_complex* da, int32_t da_index, const int32_t* mnum,
+                                                int32_t* error);
+
   /* quorin/rci.h */
   void(QUORIN_CDECL* DCG_INIT)(const int32_t* n, const double* x, const double* b, int32_t* RCI_request, int32_t* ipar,
                                double* dpar, double* tmp);
@@ -2790,6 +2828,15 @@ static const char* const quorin_export_names[QUORIN_EXPORT_COUNT] = {
     "vsunpackv_Idx",
     "vsunpackm",
     "vsunpackm_Idx",
+    "PARDISO",
+    "sPARDISO_32f_Idx",
+    "sPARDISO_32fc_Idx",
+    "sPARDISO_64f_Idx",
+    "sPARDISO_64fc_Idx",
+    "sPARDISOINIT",
+    "pardiso_getdiag",
+    "sPARDISO_GETDIAG_32f_Idx",
+    "sPARDISO_GETDIAG_32fc_Idx",
     "DCG_INIT",
     "sDCG_INIT_Idx",
     "DCG_CHECK",

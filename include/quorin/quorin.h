@@ -8,6 +8,7 @@
 #include "quorin/jacobi.h"
 #include "quorin/lapack.h"
 #include "quorin/pack.h"
+#include "quorin/pardiso.h"
 #include "quorin/rci.h"
 #include "quorin/services.h"
 #include "quorin/signal.h"
