@@ -20,6 +20,7 @@ int main() {
   demo::pardiso_rows(library, report);
   demo::taucs_rows(library, report);
   demo::feast_rows(library, report);
+  demo::taucs_solver_rows(library, report);
   std::printf("\n%d rows, %d failed\n", report.rows(), report.failures());
   return report.failures() == 0 ? 0 : 1;
 }

@@ -62,5 +62,6 @@ void umfpack_rows(const Library& library, Report& report);
 void pardiso_rows(const Library& library, Report& report);
 void taucs_rows(const Library& library, Report& report);
 void feast_rows(const Library& library, Report& report);
+void taucs_solver_rows(const Library& library, Report& report);
 
 }  // namespace demo

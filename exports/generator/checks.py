@@ -121,6 +121,8 @@ class Checker:
                     self.check_options(routine, argument, note)
 
     def check_options(self, routine: Routine, argument: model.Argument, note: Note) -> None:
+        if argument.type is model.TYPES["text"]:
+            return  # a word each
         is_character = argument.type is model.TYPES["char"]
         if not is_character and argument.type not in (model.TYPES["int"], model.TYPES["logical"]):
             self.fault(note.where, f"'{argument.name}' of '{routine.name}' is neither a character nor an integer")

@@ -28,6 +28,7 @@ TYPES = {
     "logical": ElementType("int32_t", "std::int32_t", "logical"),  # zero is false
     "pointer": ElementType("void*", "void*", "pointer"),
     "const_pointer": ElementType("const void*", "const void*", "pointer"),
+    "text": ElementType("char*", "char*", "text"),
     "int_array": ElementType("int32_t*", "std::int32_t*", "array of int"),
     "double_array": ElementType("double*", "double*", "array of double"),
     "dcomplex_array": ElementType("quorin_double_complex*", "std::complex<double>*", "array of double complex"),

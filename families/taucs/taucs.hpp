@@ -10,5 +10,8 @@
 #include "families/taucs/solvers/amwb.hpp"
 #include "families/taucs/solvers/column_factors.hpp"
 #include "families/taucs/solvers/iterations.hpp"
+#include "families/taucs/solvers/linsolve.hpp"
 #include "families/taucs/solvers/lu.hpp"
+#include "families/taucs/solvers/out_of_core.hpp"
+#include "families/taucs/solvers/supernodal.hpp"
 #include "families/taucs/vectors.hpp"

@@ -19,7 +19,7 @@
 #define QUORIN_LIBRARY_NAME "libquorin_lapacks.so"
 #endif
 
-#define QUORIN_EXPORT_COUNT 765
+#define QUORIN_EXPORT_COUNT 786
 
 #ifdef __cplusplus
 extern "C" {
@@ -1969,6 +1969,8 @@ typedef struct quorin_library {
   double(QUORIN_CDECL* taucs_available_memory_size)(void);
   int32_t(QUORIN_CDECL* taucs_maximize_stacksize)(void);
   void(QUORIN_CDECL* taucs_ccs_order)(const taucs_ccs_matrix* A, int32_t** perm, int32_t** invperm, const char* name);
+  int32_t(QUORIN_CDECL* taucs_linsolve)(const taucs_ccs_matrix* A, void** F, int32_t nrhs, void* X, const void* B,
+                                        char* const* options, void* const* opt_arg);
   taucs_ccs_matrix*(QUORIN_CDECL* taucs_ccs_factor_llt)(const taucs_ccs_matrix* A, double droptol, int32_t modified);
   taucs_ccs_matrix*(QUORIN_CDECL* taucs_ccs_factor_llt_maxdepth)(const taucs_ccs_matrix* A, double droptol,
                                                                  int32_t modified, int32_t maxdepth);
@@ -1976,6 +1978,27 @@ typedef struct quorin_library {
   taucs_ccs_matrix*(QUORIN_CDECL* taucs_ccs_factor_ldlt_maxdepth)(const taucs_ccs_matrix* A, int32_t maxdepth);
   int32_t(QUORIN_CDECL* taucs_ccs_solve_llt)(void* L, void* x, const void* b);
   int32_t(QUORIN_CDECL* taucs_ccs_solve_ldlt)(void* L, void* x, const void* b);
+  void*(QUORIN_CDECL* taucs_ccs_factor_llt_ll)(const taucs_ccs_matrix* A);
+  void*(QUORIN_CDECL* taucs_ccs_factor_llt_ll_maxdepth)(const taucs_ccs_matrix* A, int32_t maxdepth);
+  void*(QUORIN_CDECL* taucs_ccs_factor_llt_mf)(const taucs_ccs_matrix* A);
+  void*(QUORIN_CDECL* taucs_ccs_factor_llt_mf_maxdepth)(const taucs_ccs_matrix* A, int32_t maxdepth);
+  void*(QUORIN_CDECL* taucs_ccs_factor_llt_symbolic)(const taucs_ccs_matrix* A);
+  void*(QUORIN_CDECL* taucs_ccs_factor_llt_symbolic_maxdepth)(const taucs_ccs_matrix* A, int32_t maxdepth);
+  int32_t(QUORIN_CDECL* taucs_ccs_factor_llt_numeric)(const taucs_ccs_matrix* A, void* L);
+  void*(QUORIN_CDECL* taucs_ccs_factor_ldlt_ll)(const taucs_ccs_matrix* A);
+  void*(QUORIN_CDECL* taucs_ccs_factor_ldlt_ll_maxdepth)(const taucs_ccs_matrix* A, int32_t maxdepth);
+  void*(QUORIN_CDECL* taucs_ccs_factor_ldlt_mf)(const taucs_ccs_matrix* A);
+  void*(QUORIN_CDECL* taucs_ccs_factor_ldlt_mf_maxdepth)(const taucs_ccs_matrix* A, int32_t maxdepth);
+  void*(QUORIN_CDECL* taucs_ccs_factor_ldlt_symbolic)(const taucs_ccs_matrix* A);
+  void*(QUORIN_CDECL* taucs_ccs_factor_ldlt_symbolic_maxdepth)(const taucs_ccs_matrix* A, int32_t maxdepth);
+  int32_t(QUORIN_CDECL* taucs_ccs_factor_ldlt_numeric)(const taucs_ccs_matrix* A, void* L);
+  int32_t(QUORIN_CDECL* taucs_supernodal_solve_llt)(void* L, void* x, const void* b);
+  int32_t(QUORIN_CDECL* taucs_supernodal_solve_ldlt_many)(void* L, int32_t n, void* X, int32_t ld_X, const void* B,
+                                                          int32_t ld_B);
+  int32_t(QUORIN_CDECL* taucs_ooc_solve_llt)(void* L, void* x, const void* b);
+  int32_t(QUORIN_CDECL* taucs_inertia_calc)(void* L, int32_t* inertia);
+  void(QUORIN_CDECL* taucs_supernodal_factor_free_numeric)(void* L);
+  void(QUORIN_CDECL* taucs_supernodal_factor_free)(void* L);
   void*(QUORIN_CDECL* taucs_ccs_factor_lu)(const taucs_ccs_matrix* A, const int32_t* perm, double threshold);
   int32_t(QUORIN_CDECL* taucs_multilu_solve_many)(void* factor, int32_t nrhs, void* X, int32_t ldX, const void* B,
                                                   int32_t ldB);
@@ -2952,12 +2975,33 @@ static const char* const quorin_export_names[QUORIN_EXPORT_COUNT] = {
     "taucs_available_memory_size",
     "taucs_maximize_stacksize",
     "taucs_ccs_order",
+    "taucs_linsolve",
     "taucs_ccs_factor_llt",
     "taucs_ccs_factor_llt_maxdepth",
     "taucs_ccs_factor_ldlt",
     "taucs_ccs_factor_ldlt_maxdepth",
     "taucs_ccs_solve_llt",
     "taucs_ccs_solve_ldlt",
+    "taucs_ccs_factor_llt_ll",
+    "taucs_ccs_factor_llt_ll_maxdepth",
+    "taucs_ccs_factor_llt_mf",
+    "taucs_ccs_factor_llt_mf_maxdepth",
+    "taucs_ccs_factor_llt_symbolic",
+    "taucs_ccs_factor_llt_symbolic_maxdepth",
+    "taucs_ccs_factor_llt_numeric",
+    "taucs_ccs_factor_ldlt_ll",
+    "taucs_ccs_factor_ldlt_ll_maxdepth",
+    "taucs_ccs_factor_ldlt_mf",
+    "taucs_ccs_factor_ldlt_mf_maxdepth",
+    "taucs_ccs_factor_ldlt_symbolic",
+    "taucs_ccs_factor_ldlt_symbolic_maxdepth",
+    "taucs_ccs_factor_ldlt_numeric",
+    "taucs_supernodal_solve_llt",
+    "taucs_supernodal_solve_ldlt_many",
+    "taucs_ooc_solve_llt",
+    "taucs_inertia_calc",
+    "taucs_supernodal_factor_free_numeric",
+    "taucs_supernodal_factor_free",
     "taucs_ccs_factor_lu",
     "taucs_multilu_solve_many",
     "taucs_multilu_factor_free",

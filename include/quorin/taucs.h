@@ -382,6 +382,33 @@ QUORIN_API int32_t QUORIN_CDECL taucs_maximize_stacksize(void);
 QUORIN_API void QUORIN_CDECL taucs_ccs_order(const taucs_ccs_matrix* A, int32_t** perm, int32_t** invperm,
                                              const char* name);
 
+/* ---- The driver ---- */
+
+/* Orders, factors and solves, as the options say: each is a text 'key=value', or 'key=#k' for what stands at
+   opt_arg[k]. With all defaults nothing is solved: taucs.factor.LLT, taucs.factor.LU, taucs.solve.cg or
+   taucs.solve.minres has to be true. A text that sets nothing is reported and ignored; the last one for a key counts.
+   With A null and nrhs 0, *F is released and becomes null.
+     A: may be null: the matrix; for all but LU symmetric of doubles or Hermitian (with taucs.factor.indefinite also
+         complex symmetric), its lower triangle stored
+     F: in, out, may be null: the factor object. Null in *F at first; a call that factors leaves a new one there, and
+         releases the one that was; one with taucs.factor=false solves with what is there; one with taucs.factor.mf and
+         taucs.factor.symbolic=false puts new numbers of the same pattern into it. It points to n, flags, kind (0 none,
+         1 LLT, 4 out of core, 6 LDLT, 8 LU: 32-bit integers), perm, invperm and the factor (addresses). Null: the
+         factor is released at the end
+     nrhs: number of right-hand sides; 0: factor only
+     X: may be null: the solutions, n x nrhs
+     B: may be null: the right-hand sides, n x nrhs
+     options: may be null: texts, ended by a null. The defaults are in parentheses (taucs.factor, taucs.factor.LLT,
+         taucs.factor.LU, taucs.factor.indefinite, taucs.factor.mf, taucs.factor.ll, taucs.factor.symbolic,
+         taucs.factor.numeric, taucs.factor.ordering, taucs.maxdepth, taucs.ooc, taucs.ooc.basename, taucs.ooc.iohandle,
+         taucs.ooc.memory, taucs.solve.cg, taucs.solve.minres, taucs.solve.maxits, taucs.solve.convergetol,
+         taucs.approximate.amwb, taucs.approximate.amwb.randomseed, taucs.approximate.amwb.subgraphs,
+         taucs.approximate.sg, taucs.cilk.context, taucs.cilk.nproc)
+     opt_arg: may be null: what '#k' counts in, ended by a null: addresses of doubles, of ints for true and false, of
+         addresses, and texts themselves */
+QUORIN_API int32_t QUORIN_CDECL taucs_linsolve(const taucs_ccs_matrix* A, void** F, int32_t nrhs, void* X,
+                                               const void* B, char* const* options, void* const* opt_arg);
+
 /* ---- Factors as matrices ---- */
 
 /* The lower triangular L with L L^H = A, for a positive definite A, symmetric or Hermitian, of which the lower triangle
@@ -423,6 +450,117 @@ QUORIN_API int32_t QUORIN_CDECL taucs_ccs_solve_llt(void* L, void* x, const void
      x: the solution
      b: the right-hand side */
 QUORIN_API int32_t QUORIN_CDECL taucs_ccs_solve_ldlt(void* L, void* x, const void* b);
+
+/* ---- Factors in panels ---- */
+
+/* L L^H = A for a positive definite A, symmetric of doubles or Hermitian, of which the lower triangle is stored:
+   left-looking, by panels of columns with the same rows, with threads. In the order in which A is: permute it first.
+     A: a matrix */
+QUORIN_API void* QUORIN_CDECL taucs_ccs_factor_llt_ll(const taucs_ccs_matrix* A);
+
+/* As taucs_ccs_factor_llt_ll, if A's elimination tree is not too deep.
+     A: a matrix
+     maxdepth: the most levels that the elimination tree may have; 0: any number */
+QUORIN_API void* QUORIN_CDECL taucs_ccs_factor_llt_ll_maxdepth(const taucs_ccs_matrix* A, int32_t maxdepth);
+
+/* The same factor by the multifrontal method, which takes more memory on its way.
+     A: a matrix */
+QUORIN_API void* QUORIN_CDECL taucs_ccs_factor_llt_mf(const taucs_ccs_matrix* A);
+
+/* As taucs_ccs_factor_llt_mf, if A's elimination tree is not too deep.
+     A: a matrix
+     maxdepth: the most levels that the elimination tree may have; 0: any number */
+QUORIN_API void* QUORIN_CDECL taucs_ccs_factor_llt_mf_maxdepth(const taucs_ccs_matrix* A, int32_t maxdepth);
+
+/* The analysis of A's pattern alone: a factor that taucs_ccs_factor_llt_numeric puts numbers into.
+     A: a matrix */
+QUORIN_API void* QUORIN_CDECL taucs_ccs_factor_llt_symbolic(const taucs_ccs_matrix* A);
+
+/* As taucs_ccs_factor_llt_symbolic, if A's elimination tree is not too deep.
+     A: a matrix
+     maxdepth: the most levels that the elimination tree may have; 0: any number */
+QUORIN_API void* QUORIN_CDECL taucs_ccs_factor_llt_symbolic_maxdepth(const taucs_ccs_matrix* A, int32_t maxdepth);
+
+/* The numbers of the factor of a matrix with the pattern that was analysed, or a part of it, by the multifrontal
+   method. Those that L had are replaced; after a failure it has none.
+     A: a matrix
+     L: what taucs_ccs_factor_llt_symbolic gave, or any other factor of the kind */
+QUORIN_API int32_t QUORIN_CDECL taucs_ccs_factor_llt_numeric(const taucs_ccs_matrix* A, void* L);
+
+/* L D L^T = A for a symmetric A, real or complex, or L D L^H for a Hermitian one, of which the lower triangle is
+   stored, with pivots of order 1 and 2 that are sought inside a panel; left-looking. Rows whose diagonal entries are
+   too small are paired by a matching first. Where a pivot is zero all the same, those below 1e-8 times the norm of A
+   are replaced by that, and solutions want refinement, as taucs_linsolve does it.
+     A: a matrix */
+QUORIN_API void* QUORIN_CDECL taucs_ccs_factor_ldlt_ll(const taucs_ccs_matrix* A);
+
+/* As taucs_ccs_factor_ldlt_ll, if A's elimination tree is not too deep.
+     A: a matrix
+     maxdepth: the most levels that the elimination tree may have; 0: any number */
+QUORIN_API void* QUORIN_CDECL taucs_ccs_factor_ldlt_ll_maxdepth(const taucs_ccs_matrix* A, int32_t maxdepth);
+
+/* The same factor by the multifrontal method, which takes more memory on its way.
+     A: a matrix */
+QUORIN_API void* QUORIN_CDECL taucs_ccs_factor_ldlt_mf(const taucs_ccs_matrix* A);
+
+/* As taucs_ccs_factor_ldlt_mf, if A's elimination tree is not too deep.
+     A: a matrix
+     maxdepth: the most levels that the elimination tree may have; 0: any number */
+QUORIN_API void* QUORIN_CDECL taucs_ccs_factor_ldlt_mf_maxdepth(const taucs_ccs_matrix* A, int32_t maxdepth);
+
+/* The analysis of A alone: a factor that taucs_ccs_factor_ldlt_numeric puts numbers into. Which rows are paired is told
+   by the values that A has now.
+     A: a matrix */
+QUORIN_API void* QUORIN_CDECL taucs_ccs_factor_ldlt_symbolic(const taucs_ccs_matrix* A);
+
+/* As taucs_ccs_factor_ldlt_symbolic, if A's elimination tree is not too deep.
+     A: a matrix
+     maxdepth: the most levels that the elimination tree may have; 0: any number */
+QUORIN_API void* QUORIN_CDECL taucs_ccs_factor_ldlt_symbolic_maxdepth(const taucs_ccs_matrix* A, int32_t maxdepth);
+
+/* The numbers of the factor of a matrix with the pattern that was analysed, or a part of it, by the multifrontal
+   method. Those that L had are replaced; after a failure it has none.
+     A: a matrix
+     L: what taucs_ccs_factor_ldlt_symbolic gave, or any other factor of the kind */
+QUORIN_API int32_t QUORIN_CDECL taucs_ccs_factor_ldlt_numeric(const taucs_ccs_matrix* A, void* L);
+
+/* x <- A^-1 b with L L^H; x may be b.
+     L: a factor with numbers
+     x: the solution
+     b: the right-hand side */
+QUORIN_API int32_t QUORIN_CDECL taucs_supernodal_solve_llt(void* L, void* x, const void* b);
+
+/* X <- A^-1 B with L D L^T or L D L^H. X may be B if ld_X is ld_B.
+     L: a factor with numbers
+     n: number of right-hand sides
+     X: the solutions, ld_X x n
+     ld_X: elements from one column of X to the next, at least the order of A
+     B: the right-hand sides, ld_B x n
+     ld_B: elements from one column of B to the next, at least the order of A */
+QUORIN_API int32_t QUORIN_CDECL taucs_supernodal_solve_ldlt_many(void* L, int32_t n, void* X, int32_t ld_X,
+                                                                 const void* B, int32_t ld_B);
+
+/* x <- A^-1 b with an out-of-core factor, L L^H or L D L^T, in the order of its own: that of perm in the factor object
+   of taucs_linsolve, which makes it. x may be b.
+     L: the factor in a factor object of kind 4
+     x: the solution, permuted
+     b: the right-hand side, permuted */
+QUORIN_API int32_t QUORIN_CDECL taucs_ooc_solve_llt(void* L, void* x, const void* b);
+
+/* How many pivots of L D L^T or L D L^H are zero, positive and negative; by Sylvester's law as many eigenvalues of A
+   are.
+     L: a factor with numbers, out of core too, not of a complex symmetric matrix
+     inertia: out, [3]: zero, positive, negative */
+QUORIN_API int32_t QUORIN_CDECL taucs_inertia_calc(void* L, int32_t* inertia);
+
+/* Frees the numbers of a factor; its analysis stays, for other numbers. Null, and what is no factor any more, are left
+   alone.
+     L: may be null: a factor */
+QUORIN_API void QUORIN_CDECL taucs_supernodal_factor_free_numeric(void* L);
+
+/* Frees a factor. Null, and what is no factor any more, are left alone.
+     L: may be null: a factor */
+QUORIN_API void QUORIN_CDECL taucs_supernodal_factor_free(void* L);
 
 /* ---- LU factors ---- */
 
@@ -478,8 +616,8 @@ QUORIN_API int32_t QUORIN_CDECL taucs_minres(const taucs_ccs_matrix* A, quorin_p
                                              double convergetol);
 
 /* A sparser positive definite M that preconditions conjugate gradients on a real symmetric A: an augmented
-   maximum-weight basis. To be factored, in an order of its own. For diagonally dominant matrices; of others the
-   positive off-diagonal entries go to the diagonal, and what then still lacks is added.
+   maximum-weight basis. To be factored by taucs_ccs_factor_llt_mf, in an order of its own. For diagonally dominant
+   matrices; of others the positive off-diagonal entries go to the diagonal, and what then still lacks is added.
      A: a matrix of doubles, its lower triangle stored, with a positive diagonal
      rnd: chooses the vertex near which, of equal weights, edges are taken first
      subgraphs: pieces of about equal size, between which the heaviest edges are added: 1 for the basis alone, n for all

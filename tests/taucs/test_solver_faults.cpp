@@ -93,5 +93,47 @@ TEST_F(SolverFaults, LeaveNothingBehind) {
   host->taucs_multilu_factor_free(factor);
 }
 
+// Of the whole driver, which has a factor object in the end or none.
+TEST_F(SolverFaults, OfTheDriverReleaseEverything) {
+  const std::vector<std::vector<const char*>> calls = {
+      {"taucs.factor.LLT=true"},
+      {"taucs.factor.LLT=true", "taucs.factor.mf=true", "taucs.factor.ordering=genmmd"},
+      {"taucs.factor.LLT=true", "taucs.factor.indefinite=true", "taucs.factor.ordering=identity"},
+      {"taucs.factor.LLT=true", "taucs.factor.ordering=camd", "taucs.solve.cg=true", "taucs.approximate.amwb=true"},
+      {"taucs.factor=false", "taucs.solve.minres=true"},
+      {"taucs.factor.LU=true", "taucs.factor.ordering=identity"}};
+  for (const auto& call : calls) {
+    std::vector<char*> options;
+    for (const char* const option : call) options.push_back(const_cast<char*>(option));
+    options.push_back(nullptr);
+    run(
+        call.front(),
+        [&] {
+          void* F = nullptr;
+          const int status = host->taucs_linsolve(A_, &F, 1, x_.data(), b_.data(), options.data(), nullptr);
+          EXPECT_TRUE(status == TAUCS_SUCCESS || F == nullptr);
+          EXPECT_EQ(host->taucs_linsolve(nullptr, &F, 0, nullptr, nullptr, nullptr, nullptr), TAUCS_SUCCESS);
+          return status == TAUCS_SUCCESS;
+        },
+        true);
+  }
+  // The numbers alone: the analysis survives.
+  const char* symbolic[] = {"taucs.factor.LLT=true", "taucs.factor.mf=true", "taucs.factor.numeric=false", nullptr};
+  const char* numeric[] = {"taucs.factor.LLT=true", "taucs.factor.mf=true", "taucs.factor.symbolic=false", nullptr};
+  const auto drive = [&](void** F, int nrhs, const char** options) {
+    return host->taucs_linsolve(A_, F, nrhs, x_.data(), b_.data(), const_cast<char**>(options), nullptr);
+  };
+  void* F = nullptr;
+  ASSERT_EQ(drive(&F, 0, symbolic), TAUCS_SUCCESS);
+  for (int k = 1;; ++k) {
+    int status = TAUCS_SUCCESS;
+    const bool is_noticed = host.run_failing(k, 1, [&] { status = drive(&F, 1, numeric); });
+    EXPECT_TRUE(is_noticed || status == TAUCS_SUCCESS);
+    if (!is_noticed) break;
+    ASSERT_EQ(drive(&F, 1, numeric), TAUCS_SUCCESS) << "after allocation " << k;
+  }
+  EXPECT_EQ(host->taucs_linsolve(nullptr, &F, 0, nullptr, nullptr, nullptr, nullptr), TAUCS_SUCCESS);
+}
+
 }  // namespace
 }  // namespace taucs_test

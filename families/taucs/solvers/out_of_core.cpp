@@ -1,0 +1,173 @@
+#include "families/taucs/solvers/out_of_core.hpp"
+
+#include <algorithm>
+#include <cstring>
+
+#include "base/handle_table.hpp"
+#include "families/taucs/dispatch.hpp"
+#include "families/taucs/messages.hpp"
+
+namespace quorin::taucs {
+namespace {
+
+using sparse::Factorization;
+using sparse::FactorOutcome;
+
+struct OutOfCoreFactor : base::HandleNode {
+  explicit OutOfCoreFactor(const char* name) noexcept : base_name(std::strlen(name) + 1) {
+    if (base_name) std::copy_n(name, base_name.size(), base_name.data());
+  }
+  explicit operator bool() const { return static_cast<bool>(base_name); }
+
+  template <Element T>
+  sparse::Factor<T>& numbers() {
+    if constexpr (std::same_as<T, double>) {
+      return real;
+    } else {
+      return complex;
+    }
+  }
+  bool has_numbers() const { return real || complex; }
+  void give_up() {
+    real.clear();
+    complex.clear();
+    files.close();
+  }
+
+  base::Workspace<char> base_name;
+  sparse::PanelFiles files;
+  sparse::Plan plan;
+  sparse::Factor<double> real;  // at most one of the two holds numbers
+  sparse::Factor<Complex> complex;
+};
+
+constinit base::HandleTable<OutOfCoreFactor> factors;
+
+std::uint64_t bytes_of(double memory) {
+  constexpr double kMost = 1e18;
+  return memory > 0 ? static_cast<std::uint64_t>(std::min(memory, kMost)) : 0;
+}
+
+// A new handle, if `make(factor)` succeeds.
+template <class Make>
+void* create(const char* base_name, const Make& make) {
+  void* const handle = factors.create(base_name);
+  OutOfCoreFactor* const factor = factors.find(handle);
+  if (factor == nullptr) return nullptr;
+  if (make(*factor)) return handle;
+  out_of_core_close(handle);
+  return nullptr;
+}
+
+template <Element T>
+Status compute_into_files(const CcsMatrix& A, FactorKind kind, const int* permutation, int maxdepth,
+                          OutOfCoreFactor& factor) {
+  if (!can_be_factored<T>(&A, kind) || !analyze<T>(A, kind, permutation, maxdepth, factor.plan)) return Status::kError;
+  auto& numbers = factor.numbers<T>();
+  const Status status = compute(A, kind, FactorMethod::kLeftLooking, factor.plan, &factor.files, numbers);
+  if (status != Status::kSuccess) return status;
+  const FactorOutcome outcome = sparse::Archive::complete(factor.files, numbers);
+  if (outcome == FactorOutcome::kDone) return Status::kSuccess;
+  message("taucs_ooc_factor: the files [%s] cannot be completed\n", factor.base_name.data());
+  return outcome == FactorOutcome::kOutOfMemory ? Status::kErrorNomem : Status::kError;
+}
+
+OutOfCoreFactor* find_with_numbers(const void* L) {
+  OutOfCoreFactor* const factor = factors.find(L);
+  return factor != nullptr && factor->has_numbers() ? factor : nullptr;
+}
+
+Factorization factorization_of(const OutOfCoreFactor& factor) {
+  return factor.real ? factor.real.factorization() : factor.complex.factorization();
+}
+
+Status solve(OutOfCoreFactor& factor, int nrhs, void* X) {
+  if (factor.plan.size() == 0 || nrhs == 0) return Status::kSuccess;
+  return factor.real ? solve_in_order(factor.real, nrhs, static_cast<double*>(X))
+                     : solve_in_order(factor.complex, nrhs, static_cast<Complex*>(X));
+}
+
+}  // namespace
+
+void* out_of_core_create(const char* base_name, double memory) noexcept {
+  return create(base_name, [&](OutOfCoreFactor& factor) {
+    return factor.files.begin(base_name, bytes_of(memory)) == FactorOutcome::kDone;
+  });
+}
+
+Status out_of_core_compute(void* L, const CcsMatrix* A, FactorKind kind, const int* permutation,
+                           int maxdepth) noexcept {
+  OutOfCoreFactor* const factor = factors.find(L);
+  if (factor == nullptr) return Status::kErrorBadargs;
+  Status status = Status::kErrorBadargs;
+  dispatch(A->flags, [&]<class T>() { status = compute_into_files<T>(*A, kind, permutation, maxdepth, *factor); });
+  if (status != Status::kSuccess) factor->give_up();
+  return status;
+}
+
+void* out_of_core_open(const CcsMatrix* A, const char* base_name, double memory) noexcept {
+  return create(base_name, [&](OutOfCoreFactor& factor) {
+    FactorOutcome outcome = FactorOutcome::kWrongFormat;
+    dispatch(A->flags, [&]<class T>() {
+      outcome = sparse::Archive::open(base_name, bytes_of(memory), factor.files, factor.plan, factor.numbers<T>());
+    });
+    return outcome == FactorOutcome::kDone && factor.plan.size() == A->n;
+  });
+}
+
+bool out_of_core_exists(const char* base_name) noexcept {
+  sparse::PanelFiles files;
+  return files.open(base_name, 0) == FactorOutcome::kDone;
+}
+
+const char* out_of_core_base_name(void* L) noexcept {
+  const OutOfCoreFactor* const factor = factors.find(L);
+  return factor != nullptr ? factor->base_name.data() : nullptr;
+}
+
+void out_of_core_give_up(void* L) noexcept {
+  if (OutOfCoreFactor* const factor = factors.find(L)) factor->give_up();
+}
+
+void out_of_core_close(void* L) noexcept { static_cast<void>(factors.erase(L)); }
+
+bool out_of_core_order(void* L, std::int32_t* perm, std::int32_t* invperm) noexcept {
+  const OutOfCoreFactor* const factor = find_with_numbers(L);
+  if (factor == nullptr) return false;
+  std::copy_n(factor->plan.permutation(), factor->plan.size(), perm);
+  std::copy_n(factor->plan.inverse(), factor->plan.size(), invperm);
+  return true;
+}
+
+FactorKind out_of_core_kind(void* L) noexcept {
+  const OutOfCoreFactor* const factor = find_with_numbers(L);
+  return factor == nullptr || factorization_of(*factor) == Factorization::kLLT ? FactorKind::kLlt : FactorKind::kLdlt;
+}
+
+bool out_of_core_inertia(void* L, std::int32_t* inertia) noexcept {
+  const OutOfCoreFactor* const factor = find_with_numbers(L);
+  if (factor == nullptr) return false;
+  const Factorization kind = factorization_of(*factor);
+  if (kind != Factorization::kLDLH && (kind != Factorization::kLDLT || factor->complex)) return false;
+  const sparse::PivotCounts& pivots = factor->real ? factor->real.report().pivots : factor->complex.report().pivots;
+  inertia[0] = pivots.zero;
+  inertia[1] = pivots.positive;
+  inertia[2] = pivots.negative;
+  return true;
+}
+
+Status out_of_core_solve(void* L, int nrhs, void* X) noexcept {
+  OutOfCoreFactor* const factor = find_with_numbers(L);
+  return factor != nullptr ? solve(*factor, nrhs, X) : Status::kErrorBadargs;
+}
+
+std::int32_t ooc_solve_llt(void* L, void* x, const void* b) noexcept {
+  OutOfCoreFactor* const factor = find_with_numbers(L);
+  if (factor == nullptr || x == nullptr || b == nullptr) return static_cast<std::int32_t>(Status::kErrorBadargs);
+  const std::size_t bytes =
+      static_cast<std::size_t>(factor->plan.size()) * (factor->real ? sizeof(double) : sizeof(Complex));
+  if (x != b) std::memmove(x, b, bytes);
+  return static_cast<std::int32_t>(solve(*factor, 1, x));
+}
+
+}  // namespace quorin::taucs

@@ -1,0 +1,470 @@
+// The driver: every way through it, what it says, and the factor object in every state.
+#include <filesystem>
+#include <limits>
+#include <numeric>
+#include <regex>
+
+#include "tests/taucs/log.hpp"
+#include "tests/taucs/systems.hpp"
+
+namespace taucs_test {
+namespace {
+
+// What a host's handle points to, as the manual has it.
+struct FactorObject {
+  int32_t n, flags, kind;
+  int32_t *perm, *invperm;
+  void* factor;
+};
+
+// A factor handle that is released in the end, whatever state it is in.
+class Handle {
+ public:
+  Handle() = default;
+  Handle(const Handle&) = delete;
+  Handle& operator=(const Handle&) = delete;
+  ~Handle() { EXPECT_EQ(release(), TAUCS_SUCCESS); }
+  int release() {
+    const int status = taucs_linsolve(nullptr, &F, 0, nullptr, nullptr, nullptr, nullptr);
+    EXPECT_EQ(F, nullptr);
+    return status;
+  }
+  const FactorObject* operator->() const { return static_cast<const FactorObject*>(F); }
+  void* F = nullptr;
+};
+
+using Options = std::vector<std::string>;
+
+int call(const taucs_ccs_matrix* A, void** F, int nrhs, void* X, const void* B, const Options& options,
+         std::vector<void*> arguments = {}) {
+  std::vector<char*> strings;
+  Options copies = options;
+  for (std::string& copy : copies) strings.push_back(copy.data());
+  strings.push_back(nullptr);
+  arguments.push_back(nullptr);
+  return taucs_linsolve(A, F, nrhs, X, B, strings.data(), arguments.data());
+}
+
+Options operator+(Options a, const Options& b) {
+  a.insert(a.end(), b.begin(), b.end());
+  return a;
+}
+
+template <class T>
+void expect_solved(const taucs_ccs_matrix& A, int nrhs, const std::vector<T>& X, const std::vector<T>& B,
+                   double tolerance) {
+  for (int c = 0; c < nrhs; ++c) {
+    const std::size_t place = static_cast<std::size_t>(c) * A.n;
+    EXPECT_LE(backward_error(A, X.data() + place, B.data() + place), tolerance) << "right-hand side " << c;
+  }
+}
+
+template <class T>
+class Linsolve : public testing::Test {
+ protected:
+  static constexpr bool kComplex = !std::is_same_v<T, double>;
+  Matrix dominant(int n, int negative = -1) {
+    return record<T>(random_triangle(n, std::min(1.0, 6.0 / (n + 1)), 1.05, kComplex, random_, negative), kLowerOf<T>);
+  }
+  std::vector<T> right_hand_sides(const Matrix& A, int nrhs) {
+    return random_vector<T>(static_cast<std::size_t>(A->n) * nrhs, random_);
+  }
+  // Solves for `nrhs` right-hand sides, with and without a handle.
+  void expect_solution(const Matrix& A, const Options& options, double tolerance, int nrhs = 3) {
+    const auto B = right_hand_sides(A, nrhs);
+    std::vector<T> X(B.size());
+    EXPECT_EQ(call(A.get(), nullptr, nrhs, X.data(), B.data(), options), TAUCS_SUCCESS);
+    expect_solved(*A, nrhs, X, B, tolerance);
+    Handle handle;
+    X.assign(B.size(), 0);
+    EXPECT_EQ(call(A.get(), &handle.F, nrhs, X.data(), B.data(), options), TAUCS_SUCCESS);
+    expect_solved(*A, nrhs, X, B, tolerance);
+  }
+  std::mt19937 random_{17};
+};
+using Types = testing::Types<double, Complex>;
+TYPED_TEST_SUITE(Linsolve, Types);
+
+const Options kLlt = {"taucs.factor.LLT=true"}, kLdlt = {"taucs.factor.LLT=true", "taucs.factor.indefinite=true"},
+              kMf = {"taucs.factor.mf=true"}, kSolveOnly = {"taucs.factor=false"}, kCg = {"taucs.solve.cg=true"};
+
+TYPED_TEST(Linsolve, FactorsAndSolves) {
+  for (const int n : {1, 2, 3, 10, 300}) {
+    SCOPED_TRACE("n " + std::to_string(n));
+    const Matrix A = this->dominant(n), Q = this->dominant(n, n / 2);
+    for (const Options& method : {Options{}, kMf, Options{"taucs.factor.ll=true"}}) {
+      this->expect_solution(A, kLlt + method, 1e-15);
+      this->expect_solution(Q, kLdlt + method, 1e-15);
+    }
+    for (const char* const name : {"identity", "random", "genmmd", "camd", "tree", "metis"}) {
+      this->expect_solution(A, kLlt + Options{std::string("taucs.factor.ordering=") + name}, 1e-15);
+    }
+    this->expect_solution(A, {"taucs.factor=false", "taucs.solve.cg=true", "taucs.solve.convergetol=1e-12"}, 1e-11);
+    this->expect_solution(A, {"taucs.solve.cg=true", "taucs.solve.convergetol=1e-12"}, 1e-11);
+    this->expect_solution(Q, {"taucs.solve.minres=true", "taucs.solve.convergetol=1e-12", "taucs.solve.maxits=2000"},
+                          1e-11);
+    for (const Options& method : {kLlt, kLlt + kMf, kLdlt}) {
+      this->expect_solution(A, method + kCg + Options{"taucs.solve.maxits=2", "taucs.solve.convergetol=1e-13"}, 1e-13);
+    }
+  }
+}
+
+TYPED_TEST(Linsolve, FactorsGeneralMatrices) {
+  using T = TypeParam;
+  SparseMatrix wind = quorin::test::convection_diffusion(9, 30);
+  wind.is_complex = this->kComplex;
+  for (auto& e : wind.entries) e.value *= std::complex<double>(1, 0.3 * (e.row % 3));
+  const Matrix A = record<T>(wind, 0);
+  for (const Options& ordering : {Options{}, Options{"taucs.factor.ordering=identity"}}) {
+    this->expect_solution(A, Options{"taucs.factor.LU=true"} + ordering, 1e-14);
+  }
+  Handle handle;
+  EXPECT_EQ(call(A.get(), &handle.F, 0, nullptr, nullptr, {"taucs.factor.LU=true"}), TAUCS_SUCCESS);
+  EXPECT_EQ(handle->kind, 8);
+  const auto B = this->right_hand_sides(A, 2);
+  std::vector<T> X(B.size());
+  EXPECT_EQ(call(A.get(), &handle.F, 2, X.data(), B.data(), kSolveOnly), TAUCS_SUCCESS);
+  expect_solved(*A, 2, X, B, 1e-14);
+}
+
+TYPED_TEST(Linsolve, KeepsAndReplacesFactors) {
+  using T = TypeParam;
+  const Matrix A = this->dominant(80), Q = this->dominant(80, 30);
+  const auto B = this->right_hand_sides(A, 2);
+  std::vector<T> X(B.size());
+  for (const bool is_indefinite : {false, true}) {
+    SCOPED_TRACE(is_indefinite);
+    const Options kind = is_indefinite ? kLdlt : kLlt;
+    const Matrix& M = is_indefinite ? Q : A;
+    Handle handle;
+    EXPECT_EQ(call(M.get(), &handle.F, 0, nullptr, nullptr, kind + kMf + Options{"taucs.factor.numeric=false"}),
+              TAUCS_SUCCESS);
+    ASSERT_NE(handle.F, nullptr);
+    EXPECT_EQ(handle->n, 80);
+    EXPECT_EQ(handle->flags, M->flags);
+    EXPECT_EQ(handle->kind, is_indefinite ? 6 : 1);
+    for (int i = 0; i < 80; ++i) EXPECT_EQ(handle->invperm[handle->perm[i]], i);
+    EXPECT_NE(call(M.get(), &handle.F, 2, X.data(), B.data(), kSolveOnly), TAUCS_SUCCESS) << "no numbers";
+
+    const Options numeric = kind + kMf + Options{"taucs.factor.symbolic=false"};
+    const void* const object = handle.F;
+    for (int round = 1; round <= 3; ++round) {
+      EXPECT_EQ(call(M.get(), &handle.F, 0, nullptr, nullptr, numeric), TAUCS_SUCCESS);
+      EXPECT_EQ(handle.F, object);
+      for (const int nrhs : {1, 2}) {
+        EXPECT_EQ(call(M.get(), &handle.F, nrhs, X.data(), B.data(), kSolveOnly), TAUCS_SUCCESS);
+        expect_solved(*M, nrhs, X, B, 1e-15);
+      }
+      for (int k = 0; k < M->colptr[80]; ++k) values<T>(*M)[k] *= 1.5;
+      EXPECT_EQ(call(M.get(), &handle.F, 1, X.data(), B.data(), numeric), TAUCS_SUCCESS);
+      expect_solved(*M, 1, X, B, 1e-15);
+    }
+    // Numbers that fail leave the analysis.
+    const T good = std::exchange(values<T>(*M)[0], std::numeric_limits<double>::quiet_NaN());
+    EXPECT_EQ(call(M.get(), &handle.F, 0, nullptr, nullptr, numeric), TAUCS_ERROR);
+    values<T>(*M)[0] = good;
+    EXPECT_EQ(call(M.get(), &handle.F, 1, X.data(), B.data(), numeric), TAUCS_SUCCESS);
+    expect_solved(*M, 1, X, B, 1e-15);
+
+    // Another factorization takes the place of this one, but only if it succeeds.
+    EXPECT_EQ(call(M.get(), &handle.F, 0, nullptr, nullptr, kind + Options{"taucs.factor.ordering=nested"}),
+              TAUCS_ERROR);
+    EXPECT_EQ(handle.F, object);
+    EXPECT_EQ(call(A.get(), &handle.F, 1, X.data(), B.data(), kLlt), TAUCS_SUCCESS);
+    expect_solved(*A, 1, X, B, 1e-15);
+    EXPECT_EQ(handle->kind, 1);
+    EXPECT_EQ(handle.release(), TAUCS_SUCCESS);
+    EXPECT_EQ(handle.release(), TAUCS_SUCCESS);
+  }
+}
+
+TYPED_TEST(Linsolve, RefusesWhatCannotBe) {
+  using T = TypeParam;
+  const Matrix A = this->dominant(20), Q = this->dominant(20, 5), other = this->dominant(19);
+  const auto B = this->right_hand_sides(A, 1);
+  std::vector<T> X(B.size(), 5.0);
+  Handle handle;
+  const auto status = [&](const Matrix& M, const Options& options) {
+    return call(M.get(), &handle.F, 1, X.data(), B.data(), options);
+  };
+  EXPECT_EQ(status(A, {}), TAUCS_ERROR) << "no way to solve";
+  EXPECT_EQ(status(A, {"taucs.factor=false"}), TAUCS_ERROR) << "no way to solve";
+  EXPECT_EQ(status(Q, kLlt), TAUCS_ERROR) << "indefinite";
+  EXPECT_EQ(status(Q, kLlt + kMf), TAUCS_ERROR) << "indefinite";
+  EXPECT_EQ(status(A, {"taucs.factor.LU=true", "taucs.ooc=true", "taucs.factor.ordering=identity"}),
+            TAUCS_ERROR_BADARGS);
+  EXPECT_EQ(status(A, {"taucs.factor.LU=true"}), TAUCS_ERROR) << "colamd refuses symmetric matrices";
+  EXPECT_EQ(status(A, {"taucs.factor.LU=true", "taucs.factor.ordering=identity", "taucs.factor.symbolic=false"}),
+            TAUCS_ERROR);
+  EXPECT_EQ(status(A, kLlt + Options{"taucs.ooc=true"}), TAUCS_ERROR_BADARGS);
+  EXPECT_EQ(status(A, kLlt + kMf + Options{"taucs.factor.symbolic=false"}), TAUCS_ERROR_BADARGS);
+  EXPECT_EQ(status(A, kLdlt + kMf + Options{"taucs.factor.symbolic=false"}), TAUCS_ERROR_BADARGS);
+  EXPECT_EQ(status(A, kLlt + Options{"taucs.factor.ordering=amd"}), TAUCS_ERROR);
+  EXPECT_EQ(status(A, kLlt + Options{"taucs.factor.ordering=colamd"}), TAUCS_ERROR);
+  const T good = std::exchange(values<T>(*A)[0], std::numeric_limits<double>::infinity());
+  for (const Options& options : {kLlt, kLdlt, kLlt + kMf, kLdlt + kMf, Options{"taucs.factor=false"} + kCg}) {
+    EXPECT_EQ(status(A, options), TAUCS_ERROR);
+  }
+  values<T>(*A)[0] = good;
+  EXPECT_EQ(handle.F, nullptr);
+  EXPECT_EQ(call(nullptr, nullptr, 0, nullptr, nullptr, {}), TAUCS_ERROR_BADARGS);
+  EXPECT_EQ(call(nullptr, &handle.F, 1, X.data(), B.data(), {}), TAUCS_ERROR_BADARGS);
+  EXPECT_EQ(call(A.get(), nullptr, -1, X.data(), B.data(), kLlt), TAUCS_ERROR_BADARGS);
+  EXPECT_EQ(call(A.get(), nullptr, 1, nullptr, B.data(), kLlt), TAUCS_ERROR_BADARGS);
+  EXPECT_EQ(call(A.get(), nullptr, 1, X.data(), nullptr, kLlt), TAUCS_ERROR_BADARGS);
+  EXPECT_EQ(X, std::vector<T>(B.size(), 5.0));
+
+  EXPECT_EQ(call(A.get(), &handle.F, 0, nullptr, nullptr, kLlt), TAUCS_SUCCESS);
+  EXPECT_EQ(status(other, kSolveOnly), TAUCS_ERROR_BADARGS);
+  EXPECT_EQ(status(A, kLdlt + kMf + Options{"taucs.factor.symbolic=false"}), TAUCS_ERROR_BADARGS) << "LLT is held";
+}
+
+TYPED_TEST(Linsolve, StopsIterationsWhereOptionsSay) {
+  using T = TypeParam;
+  const Matrix A = record<T>(laplacian(40, 40, 1, 0), kLowerOf<T>);
+  const auto B = this->right_hand_sides(A, 1);
+  std::vector<T> X(B.size());
+  double limit = 50;
+  const Options cg = {"taucs.factor=false", "taucs.solve.cg=true"};
+  const auto said = logged([&] {
+    EXPECT_EQ(call(A.get(), nullptr, 1, X.data(), B.data(), cg + Options{"taucs.solve.maxits=#0"}, {&limit}),
+              TAUCS_ERROR);
+  });
+  EXPECT_NE(said.find("ended with status 1\n"), std::string::npos) << said;
+  EXPECT_GT(norm(X), 0) << "the last iterate";
+}
+
+// The log of a call, with times masked.
+template <class Action>
+std::string masked_log(const Action& action) {
+  return std::regex_replace(logged(action), std::regex("[-0-9.]+e[-+0-9]+"), "T");
+}
+
+TEST(LinsolveMessages, AreThePublishedOnes) {
+  const Matrix A = record<double>(laplacian(7, 1, 1, 1), kSymmetricLower);
+  std::vector<double> B(7, 1), X(7);
+  const auto said = [&](const Options& options) {
+    return masked_log([&] { call(A.get(), nullptr, 1, X.data(), B.data(), options); });
+  };
+  const std::string begin = "taucs_linsolve: preparing to factor\n",
+                    bail = "taucs_linsolve: an error occured, releasing resources and bailing out\n",
+                    order = "taucs_linsolve: ordering time T seconds (T seconds CPU time)\n",
+                    permute =
+                        "taucs_linsolve: starting LLT/LDLT factorization\n"
+                        "taucs_linsolve: pre-factorization permuting of M\n",
+                    solve = "taucs_linsolve: preparing to solve\n",
+                    solved = "taucs_linsolve: solve time T seconds (T seconds CPU time)\n",
+                    identity = "taucs.factor.ordering=identity";
+  EXPECT_EQ(said(kLlt + Options{identity}),
+            begin + "taucs_linsolve: ordering (llt=1, lu=0, ordering=identity)\n" + order + permute +
+                "taucs_linsolve: starting IC LLT factorization\ntaucs_linsolve: starting IC LLT LL factorization\n"
+                "\t\tElimination tree depth is 7\n" +
+                solve + solved);
+  EXPECT_EQ(said(kLlt + Options{identity, "taucs.maxdepth=5", "taucs.nonsense=1"}),
+            "taucs_linsolve: illegal option [[taucs.nonsense=1]]\n" + begin +
+                "taucs_linsolve: ordering (llt=1, lu=0, ordering=identity)\n" + order + permute +
+                "taucs_linsolve: starting IC LLT factorization\ntaucs_linsolve: starting IC LLT LL factorization\n"
+                "\t\tElimination tree depth is 7\n"
+                "taucs_ccs_symbolic_elimination: etree depth 7, maximum allowed is 5\n"
+                "taucs_factor: factorization failed\n" +
+                bail);
+  EXPECT_EQ(said(kLdlt + kMf + Options{identity, "taucs.factor.numeric=false"}),
+            begin +
+                "taucs_linsolve: WARNING, you can't solve without a numeric factorization\n"
+                "taucs_linsolve: ordering (llt=1, lu=0, ordering=identity)\n" +
+                order + permute +
+                "taucs_linsolve: starting IC indefinite factorization\n"
+                "taucs_linsolve: starting IC indefinite MF factorization\n"
+                "\t\tElimination tree depth is 7\n\t\tInertia: #0: 0 #+: 7 #-: 0\n" +
+                solve + solved);
+  EXPECT_EQ(said({"taucs.factor.LU=true", identity}),
+            begin + "taucs_linsolve: ordering (llt=0, lu=1, ordering=identity)\n" + order +
+                "taucs_linsolve: starting LU factorization\ntaucs_linsolve: starting MULTILU factorization\n"
+                "taucs_linsolve: factor time T seconds (T seconds CPU time)\n"
+                "taucs_linsolve: doing an LU solve, n=7, nrhs=1\n");
+  EXPECT_EQ(said({"taucs.factor.LU=true", identity, "taucs.ooc=true"}),
+            begin + "taucs_linsolve: ordering (llt=0, lu=1, ordering=identity)\n" + order +
+                "taucs_linsolve: starting LU factorization\ntaucs_linsolve: starting OOC LU factorization\n"
+                "taucs_linsolve: not yet implemented\n" +
+                bail);
+  EXPECT_EQ(said(kLlt + Options{identity, "taucs.ooc=true"}),
+            begin + "taucs_linsolve: ordering (llt=1, lu=0, ordering=identity)\n" + order +
+                "taucs_linsolve: starting LLT/LDLT factorization\ntaucs_linsolve: starting OOC LLT/LDLT factorization\n"
+                "taucs_linsolve: ERROR, you must specify either a basename or an iohandle for an out-of-core "
+                "factorization\n" +
+                bail);
+  EXPECT_EQ(said(kLlt + kMf + Options{"taucs.factor.symbolic=false"}),
+            begin +
+                "taucs_linsolve: starting LLT/LDLT factorization\n"
+                "taucs_linsolve: ERROR, you need to provide a symbolic factorization for a numeric factorization\n" +
+                bail);
+  EXPECT_EQ(said({"taucs.factor=false"}), solve +
+                                              "taucs_linsolve: WARNING, no preconditioner\n"
+                                              "taucs_linsolve: I don't know how to solve!\n" +
+                                              solved + bail);
+  EXPECT_EQ(said({"taucs.factor.LLT=true", "taucs.factor.ordering=nested"}),
+            begin +
+                "taucs_linsolve: ordering (llt=1, lu=0, ordering=nested)\n"
+                "taucs_ccs_order: invalid ordering requested (nested)\ntaucs_factor: ordering failed\n" +
+                bail);
+}
+
+TEST(LinsolveDepth, IsLimitedByTheOption) {
+  const Matrix A = record<double>(laplacian(200, 1, 1, 1), kSymmetricLower);
+  std::vector<double> B(200, 1), X(200);
+  for (const Options& kind : {kLlt, kLdlt, kLlt + kMf, kLdlt + kMf}) {
+    const auto status = [&](const char* limit) {
+      return call(A.get(), nullptr, 1, X.data(), B.data(),
+                  kind + Options{"taucs.factor.ordering=identity", std::string("taucs.maxdepth=") + limit});
+    };
+    EXPECT_EQ(status("5"), TAUCS_ERROR);
+    EXPECT_EQ(status("199.9"), TAUCS_ERROR);
+    EXPECT_EQ(status("200"), TAUCS_SUCCESS);
+    EXPECT_EQ(status("0"), TAUCS_SUCCESS);
+    EXPECT_EQ(status("0.9"), TAUCS_SUCCESS);
+  }
+}
+
+// The base name of a set of files that vanishes with the test.
+class FileSet {
+ public:
+  FileSet() = default;
+  FileSet(const FileSet&) = delete;
+  FileSet& operator=(const FileSet&) = delete;
+  ~FileSet() {
+    for (const auto& path : files()) std::filesystem::remove(path);
+  }
+  std::string option() const { return std::string("taucs.ooc.basename=") + name_.name(); }
+  std::vector<std::filesystem::path> files() const {
+    std::vector<std::filesystem::path> found;
+    const std::filesystem::path base = name_.name();
+    for (const auto& entry : std::filesystem::directory_iterator(base.parent_path())) {
+      if (entry.path().filename().string().rfind(base.filename().string() + ".", 0) == 0) found.push_back(entry.path());
+    }
+    return found;
+  }
+
+ private:
+  TemporaryFile name_;
+};
+
+TYPED_TEST(Linsolve, FactorsIntoFiles) {
+  using T = TypeParam;
+  const Matrix A = this->dominant(400), Q = this->dominant(400, 150), other = this->dominant(399);
+  const auto B = this->right_hand_sides(A, 3);
+  std::vector<T> X(B.size());
+  for (const bool is_indefinite : {false, true}) {
+    SCOPED_TRACE(is_indefinite);
+    const Matrix& M = is_indefinite ? Q : A;
+    const FileSet set;
+    const Options files = {"taucs.ooc=true", set.option(), "taucs.ooc.memory=400000"},
+                  factor = (is_indefinite ? kLdlt : kLlt) + files, open = kSolveOnly + files;
+    const auto created = "taucs_linsolve: ooc file created?=1 opened?=0\n",
+               reopened = "taucs_linsolve: ooc file created?=0 opened?=1\n";
+    EXPECT_EQ(call(M.get(), nullptr, 1, X.data(), B.data(), open), TAUCS_ERROR) << "there is no set yet";
+    {
+      Handle handle;
+      const std::string said =
+          logged([&] { EXPECT_EQ(call(M.get(), &handle.F, 3, X.data(), B.data(), factor), TAUCS_SUCCESS); });
+      EXPECT_NE(said.find(created), std::string::npos) << said;
+      expect_solved(*M, 3, X, B, 1e-15);
+      EXPECT_EQ(handle->kind, 4);
+      for (int i = 0; i < 400; ++i) EXPECT_EQ(handle->invperm[handle->perm[i]], i);
+      if (is_indefinite) {
+        int count[3];
+        EXPECT_EQ(taucs_inertia_calc(handle->factor, count), TAUCS_SUCCESS);
+        EXPECT_NE(said.find("Inertia: #0: 0 #+: 150 #-: 250\n"), std::string::npos) << said;
+        EXPECT_EQ(count[1], 150);
+      }
+      // The routine of its own, in the order of the factor object.
+      std::vector<T> x(400), b(400);
+      taucs_vec_permute(400, M->flags, B.data(), b.data(), handle->perm);
+      EXPECT_EQ(taucs_ooc_solve_llt(handle->factor, x.data(), b.data()), TAUCS_SUCCESS);
+      taucs_vec_ipermute(400, M->flags, x.data(), X.data(), handle->perm);
+      expect_solved(*M, 1, X, B, 1e-14);
+      EXPECT_EQ(call(M.get(), &handle.F, 1, X.data(), B.data(),
+                     kSolveOnly + Options{"taucs.solve.minres=true", "taucs.solve.maxits=3"}),
+                is_indefinite ? TAUCS_ERROR : TAUCS_SUCCESS);
+
+      // The same files again, by name and by handle.
+      for (int k = 0; k < M->colptr[400]; ++k) values<T>(*M)[k] *= 1.5;
+      EXPECT_EQ(call(M.get(), &handle.F, 1, X.data(), B.data(), factor), TAUCS_SUCCESS);
+      expect_solved(*M, 1, X, B, 1e-15);
+      void* iohandle = handle->factor;
+      EXPECT_EQ(call(M.get(), &handle.F, 1, X.data(), B.data(),
+                     (is_indefinite ? kLdlt : kLlt) + Options{"taucs.ooc=true", "taucs.ooc.iohandle=#0"}, {&iohandle}),
+                TAUCS_SUCCESS);
+      expect_solved(*M, 1, X, B, 1e-15);
+    }
+    // Whoever opens them solves.
+    for (int round = 0; round < 2; ++round) {
+      Handle handle;
+      const std::string said =
+          logged([&] { EXPECT_EQ(call(M.get(), &handle.F, 3, X.data(), B.data(), open), TAUCS_SUCCESS); });
+      EXPECT_NE(said.find(reopened), std::string::npos) << said;
+      expect_solved(*M, 3, X, B, 1e-15);
+      EXPECT_EQ(call(M.get(), &handle.F, 3, X.data(), B.data(), kSolveOnly), TAUCS_SUCCESS);
+      expect_solved(*M, 3, X, B, 1e-15);
+    }
+    EXPECT_EQ(call(other.get(), nullptr, 1, X.data(), B.data(), open), TAUCS_ERROR) << "a set of another order";
+
+    // A factorization that fails leaves no set.
+    EXPECT_EQ(call(M.get(), nullptr, 0, nullptr, nullptr, factor + Options{"taucs.maxdepth=1"}), TAUCS_ERROR);
+    EXPECT_EQ(call(M.get(), nullptr, 1, X.data(), B.data(), open), TAUCS_ERROR);
+    EXPECT_TRUE(set.files().empty());
+  }
+  EXPECT_EQ(call(A.get(), nullptr, 0, nullptr, nullptr,
+                 kLlt + Options{"taucs.ooc=true", "taucs.ooc.basename=no-such-folder/factor"}),
+            TAUCS_ERROR);
+}
+
+// Zero diagonals: [H B^T; B 0], with a right-hand side for which the solution is known to be bounded.
+TEST(LinsolveSaddlePoints, AreFactoredWithTheirInertia) {
+  std::mt19937 random(12);
+  for (const auto& [n, m] : {std::pair(2, 1), std::pair(60, 20), std::pair(400, 150)}) {
+    SCOPED_TRACE("n " + std::to_string(n) + ", m " + std::to_string(m));
+    SparseMatrix saddle = random_triangle(n, 3.0 / n, 1.1, false, random);
+    saddle.rows = saddle.columns = n + m;
+    for (int i = 0; i < m; ++i) {
+      saddle.add(n + i, i, 1);
+      saddle.add(n + i, (7 * i + 3) % n, 0.5);
+      saddle.add(n + i, (5 * i + 1) % n, -0.3);
+    }
+    const Matrix A = record<double>(saddle, kSymmetricLower);
+    const auto B = random_vector<double>(static_cast<std::size_t>(n + m), random);
+    std::vector<double> X(B.size());
+    for (const Options& method : {Options{}, kMf, Options{"taucs.factor.ordering=identity"},
+                                  Options{"taucs.factor.ordering=random"}, Options{"taucs.factor.ordering=genmmd"}}) {
+      const std::string said =
+          logged([&] { EXPECT_EQ(call(A.get(), nullptr, 1, X.data(), B.data(), kLdlt + method), TAUCS_SUCCESS); });
+      const std::string inertia = "#0: 0 #+: " + std::to_string(n) + " #-: " + std::to_string(m) + "\n";
+      EXPECT_NE(said.find(inertia), std::string::npos) << said;
+      EXPECT_LE(backward_error(*A, X.data(), B.data()), 1e-14);
+    }
+  }
+}
+
+TEST(LinsolveAmwb, PreconditionsConjugateGradients) {
+  const Matrix A = record<double>(laplacian(60, 60, 1, 1e-5, 1, 0.001), kSymmetricLower);
+  std::mt19937 random(3);
+  const auto B = random_vector<double>(3600, random);
+  std::vector<double> X(B.size());
+  const Options amwb =
+      kLlt + kMf + kCg +
+      Options{"taucs.approximate.amwb=true", "taucs.approximate.amwb.subgraphs=100", "taucs.solve.convergetol=1e-9"};
+  EXPECT_EQ(call(A.get(), nullptr, 1, X.data(), B.data(), amwb), TAUCS_SUCCESS);
+  EXPECT_LE(relative_residual(*A, X, B), 1e-9);
+  EXPECT_EQ(call(A.get(), nullptr, 1, X.data(), B.data(),
+                 {"taucs.factor=false", "taucs.solve.cg=true", "taucs.solve.convergetol=1e-9"}),
+            TAUCS_ERROR)
+      << "more than 300 iterations without";
+  // Where there is none, A stands in for it.
+  A->values.d[0] = -A->values.d[0];
+  EXPECT_NE(logged([&] {
+              call(A.get(), nullptr, 1, X.data(), B.data(), amwb);
+            }).find("taucs_linsolve: AMWB preconditioner construction failed, using A\n"),
+            std::string::npos);
+}
+
+}  // namespace
+}  // namespace taucs_test
