@@ -1,4 +1,5 @@
-// Why a routine refused or failed, for whoever looks for a fault in a program that calls it.
+// Why a routine refused or failed, and what the driver does, for whoever looks for a fault in a program that calls
+// them.
 #pragma once
 
 #include <cstddef>

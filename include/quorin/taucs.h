@@ -16,7 +16,8 @@
  *
  * Null (a status of -1 where a routine has one) means out of memory, a wrong structure, or a file that cannot be read.
  * Which of them it was, a program that is being looked into can see: if the environment variable QUORIN_TAUCS_LOG names
- * a file, a line for each refusal is added to it. taucs_printf itself drops what it gets.
+ * a file, a line for each refusal is added to it, and for each step of taucs_linsolve. taucs_printf itself drops what
+ * it gets.
  *
  * Permutations are zero-based: perm[i] is the old index that moves to position i, and invperm[perm[i]] = i.
  *
@@ -621,7 +622,7 @@ QUORIN_API int32_t QUORIN_CDECL taucs_minres(const taucs_ccs_matrix* A, quorin_p
      A: a matrix of doubles, its lower triangle stored, with a positive diagonal
      rnd: chooses the vertex near which, of equal weights, edges are taken first
      subgraphs: pieces of about equal size, between which the heaviest edges are added: 1 for the basis alone, n for all
-         of A; n / 100 to n / 20 is good on grids
+         of A; n / 10 is good on grids
      stretch_flag: 0; anything else gives null */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_amwb_preconditioner_create(const taucs_ccs_matrix* A, int32_t rnd,
                                                                            double subgraphs, int32_t stretch_flag);

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
+#include <mutex>
 #include <new>
 #include <utility>
 
@@ -28,7 +29,6 @@ namespace {
 using Kind = FactorObject::Kind;
 
 constexpr const char* kDriverSource = "src\\taucs_linsolve";
-constexpr std::uint32_t kTag = 0x53435554;  // of a live factor object
 constexpr int kMostRefinements = 5;
 constexpr double kRoundoff = std::numeric_limits<double>::epsilon() / 2;
 
@@ -51,7 +51,6 @@ struct FreeObject {
     }
     base::release(object->perm);
     base::release(object->invperm);
-    object->tag = 0;
     base::release(object);
   }
 };
@@ -60,7 +59,7 @@ using OwnedObject = std::unique_ptr<FactorObject, FreeObject>;
 OwnedObject create_object(const CcsMatrix& A) {
   void* const memory = base::allocate(sizeof(FactorObject));
   if (memory == nullptr) return nullptr;
-  return OwnedObject(new (memory) FactorObject{A.n, A.flags, Kind::kNone, nullptr, nullptr, nullptr, kTag});
+  return OwnedObject(new (memory) FactorObject{A.n, A.flags, Kind::kNone, nullptr, nullptr, nullptr, nullptr});
 }
 
 // Seconds that have passed, for the report.
@@ -460,16 +459,51 @@ class Driver {
   OwnedMatrix M_, permuted_A_, permuted_M_;  // M_: null where it is A
 };
 
-bool is_object(const FactorObject* object) { return object == nullptr || object->tag == kTag; }
+// The factor objects that hosts hold: whatever else a host passes for one is told from them without being looked at.
+class HeldObjects {
+ public:
+  constexpr HeldObjects() = default;
+
+  void add(FactorObject* object) {
+    const std::lock_guard lock(mutex_);
+    object->next = first_;
+    first_ = object;
+  }
+  bool contains(const void* address) {
+    const std::lock_guard lock(mutex_);
+    return *link_to(address) != nullptr;
+  }
+  // Frees an object; null is none.
+  void release(FactorObject* object) {
+    if (object == nullptr) return;
+    {
+      const std::lock_guard lock(mutex_);
+      FactorObject** const link = link_to(object);
+      if (*link != nullptr) *link = object->next;
+    }
+    FreeObject()(object);
+  }
+
+ private:
+  FactorObject** link_to(const void* address) {
+    FactorObject** link = &first_;
+    while (*link != nullptr && *link != address) link = &(*link)->next;
+    return link;
+  }
+
+  platform::Mutex mutex_;
+  FactorObject* first_ = nullptr;
+};
+constinit HeldObjects held_objects;
 
 Status solve_or_release(const CcsMatrix* A, void** F, int nrhs, void* X, const void* B, char* const* options,
                         void* const* opt_arg) {
+  if (nrhs < 0 || (F != nullptr && *F != nullptr && !held_objects.contains(*F))) return Status::kErrorBadargs;
   auto* const held = F != nullptr ? static_cast<FactorObject*>(*F) : nullptr;
-  if (!is_object(held) || nrhs < 0) return Status::kErrorBadargs;
   if (A == nullptr) {
     if (F == nullptr || nrhs != 0) return Status::kErrorBadargs;
     *F = nullptr;
-    if (held != nullptr) FreeObject()(held);
+    held_objects.release(held);
     return Status::kSuccess;
   }
   Driver driver(*A, held, nrhs, X, B, parse_options(options, opt_arg));
@@ -479,7 +513,8 @@ Status solve_or_release(const CcsMatrix* A, void** F, int nrhs, void* X, const v
     return status;
   }
   if (OwnedObject made(driver.release()); made != nullptr && F != nullptr) {
-    if (held != nullptr) FreeObject()(held);
+    held_objects.release(held);
+    held_objects.add(made.get());
     *F = made.release();
   }
   return status;

@@ -14,8 +14,8 @@ struct FactorObject {
   Kind kind;
   std::int32_t* perm;  // new arrays, or null
   std::int32_t* invperm;
-  void* factor;  // for the solving routines of the kind
-  std::uint32_t tag;
+  void* factor;        // for the solving routines of the kind
+  FactorObject* next;  // in the list of those that hosts hold
 };
 
 // X <- A^-1 B for nrhs columns of A's order, or the factorization alone (nrhs = 0), as the options say (options.hpp has
