@@ -189,8 +189,8 @@ void cholesky_rows(const Library& library, const std::string& what, const Matrix
   row("L L^T", kCholesky);
   row("multifrontal", with(kCholesky, {"taucs.factor.mf=true"}));
   const std::string name = (std::filesystem::temp_directory_path() / "quorin-demo-factor").string();
-  const Options files = {"taucs.ooc=true", "taucs.ooc.basename=" + name, "taucs.ooc.memory=16e6"};
-  row("in files, with 16 MB of memory", with(kCholesky, files));
+  const Options files = {"taucs.ooc=true", "taucs.ooc.basename=" + name, "taucs.ooc.memory=32e6"};
+  row("in files, with 32 MB of memory", with(kCholesky, files));
   row("files opened again", with({"taucs.factor=false"}, files));
   for (const char* const end : {".index", ".0"}) std::filesystem::remove(name + end);
 }

@@ -222,6 +222,23 @@ TYPED_TEST(Linsolve, RefusesWhatCannotBe) {
   EXPECT_EQ(status(A, kLdlt + kMf + Options{"taucs.factor.symbolic=false"}), TAUCS_ERROR_BADARGS) << "LLT is held";
 }
 
+// Where the flags name both types, complex counts; with both factorizations asked for, the second does.
+TYPED_TEST(Linsolve, StandsFlagsAndOptionsThatSayTwoThings) {
+  using T = TypeParam;
+  const Matrix A = this->dominant(30);
+  const auto B = this->right_hand_sides(A, 2);
+  std::vector<T> X(B.size());
+  if (this->kComplex) A->flags |= TAUCS_DOUBLE | TAUCS_SINGLE;
+  EXPECT_EQ(call(A.get(), nullptr, 2, X.data(), B.data(), kLlt), TAUCS_SUCCESS);
+  expect_solved(*A, 2, X, B, 1e-15);
+  Handle handle;
+  EXPECT_EQ(call(A.get(), &handle.F, 2, X.data(), B.data(),
+                 kLlt + Options{"taucs.factor.LU=true", "taucs.factor.ordering=identity"}),
+            TAUCS_SUCCESS);
+  expect_solved(*A, 2, X, B, 1e-14);
+  EXPECT_EQ(handle->kind, 8);
+}
+
 TYPED_TEST(Linsolve, StopsIterationsWhereOptionsSay) {
   using T = TypeParam;
   const Matrix A = record<T>(laplacian(40, 40, 1, 0), kLowerOf<T>);
@@ -360,7 +377,7 @@ TYPED_TEST(Linsolve, FactorsIntoFiles) {
     SCOPED_TRACE(is_indefinite);
     const Matrix& M = is_indefinite ? Q : A;
     const FileSet set;
-    const Options files = {"taucs.ooc=true", set.option(), "taucs.ooc.memory=200000"},
+    const Options files = {"taucs.ooc=true", set.option(), "taucs.ooc.memory=300000"},
                   factor = (is_indefinite ? kLdlt : kLlt) + files, open = kSolveOnly + files;
     const auto created = "taucs_linsolve: ooc file created?=1 opened?=0\n",
                reopened = "taucs_linsolve: ooc file created?=0 opened?=1\n";
@@ -395,7 +412,9 @@ TYPED_TEST(Linsolve, FactorsIntoFiles) {
       expect_solved(*M, 1, X, B, 1e-15);
       void* iohandle = handle->factor;
       EXPECT_EQ(call(M.get(), &handle.F, 1, X.data(), B.data(),
-                     (is_indefinite ? kLdlt : kLlt) + Options{"taucs.ooc=true", "taucs.ooc.iohandle=#0"}, {&iohandle}),
+                     (is_indefinite ? kLdlt : kLlt) +
+                         Options{"taucs.ooc=true", "taucs.ooc.iohandle=#0", "taucs.ooc.memory=300000"},
+                     {&iohandle}),
                 TAUCS_SUCCESS);
       expect_solved(*M, 1, X, B, 1e-15);
     }

@@ -32,23 +32,28 @@ constexpr const char* kDriverSource = "src\\taucs_linsolve";
 constexpr int kMostRefinements = 5;
 constexpr double kRoundoff = std::numeric_limits<double>::epsilon() / 2;
 
-// Frees the factor of whichever kind, and what belongs to it.
+// Frees the factor of whichever kind.
+void release_factor(FactorObject& object) {
+  switch (std::exchange(object.kind, Kind::kNone)) {
+    case Kind::kLlt:
+    case Kind::kLdlt:
+      supernodal_factor_free(object.factor);
+      break;
+    case Kind::kOutOfCore:
+      out_of_core_close(object.factor);
+      break;
+    case Kind::kLu:
+      multilu_factor_free(object.factor);
+      break;
+    default:
+      break;
+  }
+  object.factor = nullptr;
+}
+
 struct FreeObject {
   void operator()(FactorObject* object) const {
-    switch (object->kind) {
-      case Kind::kLlt:
-      case Kind::kLdlt:
-        supernodal_factor_free(object->factor);
-        break;
-      case Kind::kOutOfCore:
-        out_of_core_close(object->factor);
-        break;
-      case Kind::kLu:
-        multilu_factor_free(object->factor);
-        break;
-      default:
-        break;
-    }
+    release_factor(*object);
     base::release(object->perm);
     base::release(object->invperm);
     base::release(object);
@@ -72,10 +77,10 @@ class Clock {
 };
 
 std::size_t element_size(int flags) {
-  if ((flags & (kSingle | kInt)) != 0) return 4;
+  if ((flags & kDcomplex) != 0) return 16;
   if ((flags & (kDouble | kScomplex)) != 0) return 8;
-  if ((flags & kDcomplex) == 0) platform::fail_assertion("0", kDriverSource, __LINE__);
-  return 16;
+  if ((flags & (kSingle | kInt)) == 0) platform::fail_assertion("0", kDriverSource, __LINE__);
+  return 4;
 }
 
 // One call.
@@ -88,7 +93,9 @@ class Driver {
     if (held_ != nullptr && (held_->n != A_.n || type_of(held_->flags) != type_of(A_.flags))) {
       return Status::kErrorBadargs;
     }
-    if (nrhs_ > 0 && (X_ == nullptr || B_ == nullptr)) return Status::kErrorBadargs;
+    if (A_.n < 0 || A_.colptr == nullptr || (nrhs_ > 0 && (X_ == nullptr || B_ == nullptr))) {
+      return Status::kErrorBadargs;
+    }
     build_preconditioner();
     Status status = options_.factor ? factor() : open_files();
     if (status == Status::kSuccess && nrhs_ > 0) status = solve();
@@ -262,8 +269,8 @@ class Driver {
     if (held_ != nullptr || !options_.ooc || options_.ooc_basename == nullptr) return Status::kSuccess;
     made_ = create_object(A_);
     if (made_ != nullptr) {
-      made_->perm = new_array<int>(static_cast<std::size_t>(std::max(0, A_.n)));
-      made_->invperm = new_array<int>(static_cast<std::size_t>(std::max(0, A_.n)));
+      made_->perm = new_array<int>(static_cast<std::size_t>(A_.n));
+      made_->invperm = new_array<int>(static_cast<std::size_t>(A_.n));
     }
     if (made_ == nullptr || made_->perm == nullptr || made_->invperm == nullptr) {
       message("taucs_factor: memory allocation\n");
@@ -282,6 +289,7 @@ class Driver {
 
   Status factor_lu() {
     message("taucs_linsolve: starting LU factorization\n");
+    release_factor(*made_);  // options may have asked for both
     if (options_.ooc) {
       message("taucs_linsolve: starting OOC LU factorization\n");
       message("taucs_linsolve: not yet implemented\n");
