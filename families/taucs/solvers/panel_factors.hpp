@@ -15,8 +15,8 @@ bool can_be_factored(const CcsMatrix* A, FactorKind kind) {
   return is_sound_triangle<T>(A) && (kind == FactorKind::kLdlt || !kIsComplex<T> || A->has(kHermitian));
 }
 
-// As ccs_order, for L D L^T of A: where diagonal entries are too small for pivots, rows are paired by a matching and the
-// method orders the graph in which each pair is one vertex, so that partners become neighbours in the order.
+// As ccs_order, for L D L^T of A: where diagonal entries are too small for pivots, rows are paired by a matching and
+// the method orders the graph in which each pair is one vertex, so that partners become neighbours in the order.
 template <Element T>
 void order_for_ldlt(const CcsMatrix& A, std::int32_t** perm, std::int32_t** invperm, const char* name);
 
