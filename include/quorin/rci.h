@@ -355,9 +355,9 @@ QUORIN_API void QUORIN_CDECL sDCSRILU0_Idx(const int32_t* n, const double* a, in
      a: [ia(n+1)-1]: entries of A, row by row
      ia: [n+1]: place in a and ja at which each row begins, one-based; ia(n+1) - 1 is the number of entries
      ja: [ia(n+1)-1]: column of each entry, one-based
-     bilut: out, [(2*maxfil+1)*n-maxfil*(maxfil+1)+1]: entries of L and U
+     bilut: out, [(2*min(maxfil,n-1)+1)*n-min(maxfil,n-1)*(min(maxfil,n-1)+1)+1]: entries of L and U
      ibilut: out, [n+1]: place at which each row begins, one-based
-     jbilut: out, [(2*maxfil+1)*n-maxfil*(maxfil+1)+1]: column of each entry, one-based
+     jbilut: out, [(2*min(maxfil,n-1)+1)*n-min(maxfil,n-1)*(min(maxfil,n-1)+1)+1]: column of each entry, one-based
      tol: an entry stays only if its magnitude is greater than tol times the Euclidean norm of the row of A
      maxfil: most entries beside the diagonal in each row of L and of U
      ipar: [128]: integer parameters and state
