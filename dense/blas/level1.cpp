@@ -39,6 +39,7 @@ bool are_contiguous(int incx, int incy) { return incx == 1 && incy == 1; }
 // Calls body(x_i, y_i) for i = 0..n-1 in the published order; a negative stride starts at the far end.
 template <class X, class Y, class Body>
 void for_each_pair(int n, X* x, int incx, Y* y, int incy, const Body& body) {
+  if (n <= 0) return;
   std::ptrdiff_t ix = incx < 0 ? static_cast<std::ptrdiff_t>(1 - n) * incx : 0;
   std::ptrdiff_t iy = incy < 0 ? static_cast<std::ptrdiff_t>(1 - n) * incy : 0;
   for (int i = 0; i < n; ++i, ix += incx, iy += incy) body(x[ix], y[iy]);

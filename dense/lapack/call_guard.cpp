@@ -1,5 +1,6 @@
 #include "dense/lapack/call_guard.hpp"
 
+#include <algorithm>
 #include <bit>
 #include <cstring>
 #include <string_view>
@@ -126,5 +127,38 @@ template bool is_band_finite(char, const float*, std::int64_t, std::int64_t, std
 template bool is_matrix_finite(const std::complex<float>*, std::int64_t, std::int64_t, std::int64_t, float);
 template bool is_triangle_finite(char, const std::complex<float>*, std::int64_t, std::int64_t, float);
 template bool is_band_finite(char, const std::complex<float>*, std::int64_t, std::int64_t, std::int64_t, float);
+
+bool are_exchanges(const std::int32_t* ipiv, std::int32_t n) {
+  return n <= 0 || std::all_of(ipiv, ipiv + n, [n](std::int32_t row) { return row >= 1 && row <= n; });
+}
+
+bool are_blocks(const std::int32_t* ipiv, std::int32_t n) {
+  for (std::int32_t k = 0; k < n; ++k) {
+    const std::int32_t row = ipiv[k];
+    if (row == 0 || row > n || row < -n) return false;
+    if (row < 0 && (++k == n || ipiv[k] != row)) return false;
+  }
+  return true;
+}
+
+bool are_balances(const float* scale, char job, std::int32_t n, std::int32_t ilo, std::int32_t ihi) {
+  const bool permutes = upper(job) == 'P' || upper(job) == 'B';
+  if (!permutes || ilo < 1 || ihi > n) return true;
+  for (std::int32_t i = 1; i <= n; ++i) {
+    const float row = scale[i - 1];
+    if ((i < ilo || i > ihi) && !(row >= 1 && row <= static_cast<float>(n))) return false;
+  }
+  return true;
+}
+
+bool are_splits(const std::int32_t* isplit, const std::int32_t* iblock, std::int32_t n, std::int32_t m) {
+  if (n <= 0 || m <= 0 || m > n) return true;
+  const std::int32_t blocks = iblock[m - 1];
+  if (blocks > n) return false;
+  for (std::int32_t block = 0, row = 0; block < blocks; row = isplit[block++]) {
+    if (isplit[block] <= row || isplit[block] > n) return false;
+  }
+  return true;
+}
 
 }  // namespace quorin::dense

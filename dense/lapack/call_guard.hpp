@@ -178,6 +178,16 @@ bool is_triangle_finite(char uplo, const T* a, std::int64_t n, std::int64_t ld, 
 template <class T>
 bool is_band_finite(char uplo, const T* ab, std::int64_t kd, std::int64_t n, std::int64_t ld, float limit = kLargest);
 
+// Whether numbers of the host's that lead into other arrays stay there; true for orders that the routine refuses
+// itself. Row exchanges of an LU factorization of order n.
+bool are_exchanges(const std::int32_t* ipiv, std::int32_t n);
+// Exchanges of a symmetric factorization of order n: two equal negative numbers stand for a block of order 2.
+bool are_blocks(const std::int32_t* ipiv, std::int32_t n);
+// Exchanges among the scale factors of gebal, which stand outside of ilo..ihi.
+bool are_balances(const float* scale, char job, std::int32_t n, std::int32_t ilo, std::int32_t ihi);
+// Last rows of the blocks of a tridiagonal matrix of order n, as far as the blocks of m eigenvalues go.
+bool are_splits(const std::int32_t* isplit, const std::int32_t* iblock, std::int32_t n, std::int32_t m);
+
 template <class T>
 void fill_nan(T* a, std::int64_t rows, std::int64_t columns, std::int64_t ld = 0) {
   constexpr float kNan = std::numeric_limits<float>::quiet_NaN();

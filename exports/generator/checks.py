@@ -71,6 +71,11 @@ class Checker:
         if routine.finite:
             self.check_finite(routine, routine.finite, known)
 
+        for array, _, names in routine.sound:
+            for name in [array, *names]:
+                if not routine.is_fortran or not routine.argument(name):
+                    fault(f"'sound' needs a Fortran routine with an argument '{name}'")
+
     def check_finite(self, routine: Routine, check: model.FiniteCheck, known: set[str]) -> None:
         if not routine.is_fortran or not check.status:
             self.fault(check.where, "'finite' needs a Fortran routine, and a line 'else info=EXPRESSION ...' below it")

@@ -209,6 +209,7 @@ class Routine:
     minima: dict[str, Value] = field(default_factory=dict)
     own_statuses: list[Value] = field(default_factory=list)
     finite: FiniteCheck | None = None
+    sound: list[tuple[str, str, list[str]]] = field(default_factory=list)  # an array, what it must be, with which arguments
     never_none: tuple[str, str] | None = None  # a count that the published routine does not stand to be 0, and its array
     # A work array behind whose published end the published routine writes, and what it needs beyond its published length.
     spare: tuple[str, str] | None = None
@@ -284,6 +285,9 @@ class Family:
 
     def finite(self, routine: Routine) -> FiniteCheck | None:
         return next((source.finite for source in self.sources(routine) if source.finite), None)
+
+    def sound(self, routine: Routine) -> list[tuple[str, str, list[str]]]:
+        return next((source.sound for source in self.sources(routine) if source.sound), [])
 
     def status_groups(self, routine: Routine) -> list[Group]:
         """The groups whose place the routine has."""

@@ -270,6 +270,9 @@ class Reader:
         elif word == "finite":
             parts, _, limit = rest.partition(" below ")
             routine.finite = model.FiniteCheck(self.read_parts(parts.split()), limit.strip(), where=self.where)
+        elif word == "sound" and len(rest.split()) > 1:
+            array, form, *names = rest.split()
+            routine.sound.append((array, form, names))
         elif word == "never-none" and len(rest.split()) == 2:
             count, array = rest.split()
             routine.never_none = (count, array)

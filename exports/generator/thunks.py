@@ -58,6 +58,7 @@ class FortranForm:
     def __init__(self, family: Family, routine: Routine) -> None:
         self.routine = routine
         self.finite = family.finite(routine)
+        self.sound = family.sound(routine)
         self.minima = family.minima(routine)
         self.quantities = family.quantities
         self.lengths = [a.name for a in routine.arguments if a.name in LENGTHS]
@@ -111,6 +112,16 @@ class FortranForm:
         *others, last = short
         choice = "".join(f"{short[name]} ? {position[name]} : " for name in others) + str(position[last])
         return lines + [f"  if (*info >= 0) call.refuse({choice});", "  return;", "}"]
+
+    def soundness(self) -> list[str]:
+        """The published routine would follow numbers of the host's to places outside of its arrays."""
+        lines = []
+        for array, form, names in self.sound:
+            position = self.routine.arguments.index(self.routine.argument(array)) + 1
+            passed = ", ".join(name if self.routine.argument(name).is_array else f"*{name}" for name in names)
+            asking = "!asks && " if self.lengths else ""
+            lines.append(f"if ({asking}!are_{form}({array}, {passed})) return call.refuse({position});")
+        return lines
 
     def unusable(self) -> list[str]:
         fills = [f"  fill_nan({self.part(part)});" for part in self.finite.filled]
@@ -179,6 +190,7 @@ class FortranForm:
             lines.append(f"const bool asks = {' || '.join(f'*{name} == kAsk' for name in self.lengths)};")
             lines += self.shortage()
             lines.append("const KeptWhenRefused kept(work, info);")
+        lines += self.soundness()
         if routine.never_none:
             lines += self.one_side()
         if self.finite:

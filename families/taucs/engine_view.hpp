@@ -23,6 +23,13 @@ sparse::ColumnArrays<T> arrays_of(const CcsMatrix& A) {
   return {A.colptr, A.rowind, A.elements<T>()};
 }
 
+// Whether the numbers of a list lie from 0 to bound - 1. Without a way out in the middle, several at a time.
+inline bool are_indices(const int* list, int count, int bound) {
+  bool is_stray = false;
+  for (int k = 0; k < count; ++k) is_stray |= static_cast<unsigned>(list[k]) >= static_cast<unsigned>(bound);
+  return !is_stray;
+}
+
 // The rows that the entries of A need: m, or n where the two are exchanged, as two of the readers leave them. kNone if
 // an entry lies outside of both, or the columns do not follow each other.
 inline int rows_of(const CcsMatrix& A) {

@@ -14,10 +14,6 @@ using Indices = base::Workspace<int>;
 
 std::size_t length(int n) { return static_cast<std::size_t>(n); }
 
-bool are_indices(const int* list, int count, int bound) {
-  return std::all_of(list, list + count, [bound](int i) { return i >= 0 && i < bound; });
-}
-
 // Columns first, ..., last - 1 of A as a matrix of `rows` rows, counted from `offset`.
 template <Element T>
 CcsMatrix* copy_columns(const CcsMatrix& A, int first, int last, int rows, int offset) {

@@ -21,12 +21,12 @@ void axpby(std::int32_t n, double a, const T* x, double b, const T* y, T* r) noe
 
 template <Element T>
 void permute(std::int32_t n, const T* v, T* pv, const std::int32_t* p) noexcept {
-  sparse::permute(n, p, v, pv);
+  if (are_indices(p, n, n)) sparse::permute(n, p, v, pv);
 }
 
 template <Element T>
 void permute_back(std::int32_t n, const T* v, T* pv, const std::int32_t* p) noexcept {
-  sparse::permute_back(n, p, v, pv);
+  if (are_indices(p, n, n)) sparse::permute_back(n, p, v, pv);
 }
 
 template double* create_vector(std::int32_t) noexcept;

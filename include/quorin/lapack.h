@@ -75,7 +75,7 @@ QUORIN_API void QUORIN_CDECL cgetrf_Idx(const int32_t* m, const int32_t* n, quor
      nrhs: right-hand sides, the columns of B, at least 0
      a: [lda x n]: L and U, as stored by getrf
      lda: leading dimension of a, at least max(1,n)
-     ipiv: [n]: row exchanges, as stored by getrf
+     ipiv: [n]: row exchanges, as stored by getrf; one that leads outside of the matrix is refused
      b: in, out, [ldb x nrhs]: on entry B; on return the solution X
      ldb: leading dimension of b, at least max(1,n)
      info: out: status */
@@ -97,7 +97,7 @@ QUORIN_API void QUORIN_CDECL cgetrs_Idx(const char* trans, const int32_t* n, con
      n: order of A, at least 0
      a: in, out, [lda x n]: on entry L and U, as stored by getrf; on return the inverse of A
      lda: leading dimension of a, at least max(1,n)
-     ipiv: [n]: row exchanges, as stored by getrf
+     ipiv: [n]: row exchanges, as stored by getrf; one that leads outside of the matrix is refused
      work: out, [lwork]: workspace
      lwork: length of work; -1 asks for the best one
      info: out: status */
@@ -155,7 +155,7 @@ QUORIN_API void QUORIN_CDECL cgecon_Idx(const char* norm, const int32_t* n, cons
      lda: leading dimension of a, at least max(1,n)
      af: [ldaf x n]: L and U, as stored by getrf
      ldaf: leading dimension of af, at least max(1,n)
-     ipiv: [n]: row exchanges, as stored by getrf
+     ipiv: [n]: row exchanges, as stored by getrf; one that leads outside of the matrix is refused
      b: [ldb x nrhs]: right-hand sides B
      ldb: leading dimension of b, at least max(1,n)
      x: in, out, [ldx x nrhs]: on entry the solution X that the factors gave; on return the refined one
@@ -185,7 +185,7 @@ QUORIN_API void QUORIN_CDECL sgerfs_Idx(const char* trans, const int32_t* n, con
      lda: leading dimension of a, at least max(1,n)
      af: [ldaf x n]: L and U, as stored by getrf
      ldaf: leading dimension of af, at least max(1,n)
-     ipiv: [n]: row exchanges, as stored by getrf
+     ipiv: [n]: row exchanges, as stored by getrf; one that leads outside of the matrix is refused
      b: [ldb x nrhs]: right-hand sides B
      ldb: leading dimension of b, at least max(1,n)
      x: in, out, [ldx x nrhs]: on entry the solution X that the factors gave; on return the refined one

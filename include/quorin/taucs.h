@@ -121,7 +121,8 @@ QUORIN_API void QUORIN_CDECL taucs_ccs_permute_rows_inplace(taucs_ccs_matrix* A,
 QUORIN_API void QUORIN_CDECL taucs_ccs_split(const taucs_ccs_matrix* A, taucs_ccs_matrix** L, taucs_ccs_matrix** R,
                                              int32_t p);
 
-/* b <- A x; symmetric and Hermitian matrices act as the full matrix.
+/* b <- A x; symmetric and Hermitian matrices act as the full matrix. Products, unlike the other routines, take the
+   indices of A on trust.
      A: a matrix
      x: n elements
      b: the product, max(m, n) elements: the first n are set, and beyond them those in whose rows A has entries */
@@ -158,7 +159,7 @@ QUORIN_API void* QUORIN_CDECL taucs_vec_create(int32_t n, int32_t flags);
 QUORIN_API void QUORIN_CDECL taucs_vec_axpby(int32_t n, int32_t flags, double a, const void* x, double b, const void* y,
                                              void* r);
 
-/* pv[i] <- v[p[i]].
+/* pv[i] <- v[p[i]]. Nothing is done if a number of p does not lie from 0 to n-1.
      n: columns of a matrix, elements of a vector
      flags: the type of the elements, and for a matrix what is stored
      v: a vector
@@ -166,7 +167,7 @@ QUORIN_API void QUORIN_CDECL taucs_vec_axpby(int32_t n, int32_t flags, double a,
      p: [n]: a permutation */
 QUORIN_API void QUORIN_CDECL taucs_vec_permute(int32_t n, int32_t flags, const void* v, void* pv, const int32_t* p);
 
-/* pv[p[i]] <- v[i].
+/* pv[p[i]] <- v[i]. Nothing is done if a number of p does not lie from 0 to n-1.
      n: columns of a matrix, elements of a vector
      flags: the type of the elements, and for a matrix what is stored
      v: a vector
@@ -217,7 +218,8 @@ QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_dccs_permute_symmetrically(const
 QUORIN_API void QUORIN_CDECL taucs_dccs_split(const taucs_ccs_matrix* A, taucs_ccs_matrix** L, taucs_ccs_matrix** R,
                                               int32_t p);
 
-/* b <- A x; symmetric and Hermitian matrices act as the full matrix.
+/* b <- A x; symmetric and Hermitian matrices act as the full matrix. Products, unlike the other routines, take the
+   indices of A on trust.
      A: a matrix
      x: [A.n]: n elements
      b: out, [max(A.m,A.n)]: the product, max(m, n) elements: the first n are set, and beyond them those in whose rows A
@@ -252,14 +254,14 @@ QUORIN_API double* QUORIN_CDECL taucs_dvec_create(int32_t n);
 QUORIN_API void QUORIN_CDECL taucs_dvec_axpby(int32_t n, double a, const double* x, double b, const double* y,
                                               double* r);
 
-/* pv[i] <- v[p[i]].
+/* pv[i] <- v[p[i]]. Nothing is done if a number of p does not lie from 0 to n-1.
      n: columns of a matrix, elements of a vector
      v: [n]: a vector
      pv: out, [n]: v permuted, another array than v
      p: [n]: a permutation */
 QUORIN_API void QUORIN_CDECL taucs_dvec_permute(int32_t n, const double* v, double* pv, const int32_t* p);
 
-/* pv[p[i]] <- v[i].
+/* pv[p[i]] <- v[i]. Nothing is done if a number of p does not lie from 0 to n-1.
      n: columns of a matrix, elements of a vector
      v: [n]: a vector
      pv: out, [n]: v permuted, another array than v
@@ -296,7 +298,8 @@ QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_zccs_permute_symmetrically(const
 QUORIN_API void QUORIN_CDECL taucs_zccs_split(const taucs_ccs_matrix* A, taucs_ccs_matrix** L, taucs_ccs_matrix** R,
                                               int32_t p);
 
-/* b <- A x; symmetric and Hermitian matrices act as the full matrix.
+/* b <- A x; symmetric and Hermitian matrices act as the full matrix. Products, unlike the other routines, take the
+   indices of A on trust.
      A: a matrix
      x: [A.n]: n elements
      b: out, [max(A.m,A.n)]: the product, max(m, n) elements: the first n are set, and beyond them those in whose rows A
@@ -332,7 +335,7 @@ QUORIN_API quorin_double_complex* QUORIN_CDECL taucs_zvec_create(int32_t n);
 QUORIN_API void QUORIN_CDECL taucs_zvec_axpby(int32_t n, double a, const quorin_double_complex* x, double b,
                                               const quorin_double_complex* y, quorin_double_complex* r);
 
-/* pv[i] <- v[p[i]].
+/* pv[i] <- v[p[i]]. Nothing is done if a number of p does not lie from 0 to n-1.
      n: columns of a matrix, elements of a vector
      v: [n]: a vector
      pv: out, [n]: v permuted, another array than v
@@ -340,7 +343,7 @@ QUORIN_API void QUORIN_CDECL taucs_zvec_axpby(int32_t n, double a, const quorin_
 QUORIN_API void QUORIN_CDECL taucs_zvec_permute(int32_t n, const quorin_double_complex* v, quorin_double_complex* pv,
                                                 const int32_t* p);
 
-/* pv[p[i]] <- v[i].
+/* pv[p[i]] <- v[i]. Nothing is done if a number of p does not lie from 0 to n-1.
      n: columns of a matrix, elements of a vector
      v: [n]: a vector
      pv: out, [n]: v permuted, another array than v

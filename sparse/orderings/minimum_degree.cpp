@@ -411,7 +411,11 @@ void MinimumDegree::write(const Ordering& ordering) noexcept {
   for (int i = 0; i < n_; ++i) {
     if (graph_.degree(i) > most_neighbours_) postponed[count++] = i;
   }
-  std::stable_sort(postponed, postponed + count, [this](int a, int b) { return graph_.degree(a) < graph_.degree(b); });
+  // Not a stable sort, which takes memory of its own.
+  std::sort(postponed, postponed + count, [this](int a, int b) {
+    const int degree_a = graph_.degree(a), degree_b = graph_.degree(b);
+    return degree_a != degree_b ? degree_a < degree_b : a < b;
+  });
   for (int k = 0; k < count; ++k) ordering.place(postponed[k], step++);
 }
 

@@ -281,6 +281,14 @@ class PagedCall {
                : name == "jpvt" || name == "select" ? draw(data_random_, 0, 1)
                                                     : i + 1;
       }
+      const bool is_list = name == "ipiv" || name == "iblock" || name == "isplit";
+      if (is_list && content_ == Content::kMixture && extent.rows > 0 && data_random_() % 3 == 0) {
+        constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+        const std::int32_t strays[] = {0, -1, extent.rows + 1, -extent.rows, 1000, kMost, -kMost - 1};
+        for (int k = draw(data_random_, 1, 3); k > 0; --k) {
+          p[data_random_() % static_cast<unsigned>(extent.rows)] = strays[data_random_() % std::size(strays)];
+        }
+      }
       return;
     }
     auto* const p = static_cast<float*>(data);

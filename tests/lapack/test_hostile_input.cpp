@@ -3,20 +3,18 @@
 // pages that cannot be accessed. Then what comes out of such calls.
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <cctype>
-#include <chrono>
 #include <cmath>
 #include <complex>
 #include <cstdio>
 #include <cstdlib>
 #include <limits>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "tests/lapack/paged_call.hpp"
 #include "tests/support/capture_output.hpp"
+#include "tests/support/watchdog.hpp"
 
 namespace {
 
@@ -27,43 +25,7 @@ using quorin::test::kContents;
 using quorin::test::kRoutines;
 using quorin::test::PagedCall;
 using quorin::test::Routine;
-
-constexpr std::chrono::seconds kPatience{60};  // calls take milliseconds, but the machine may be busy
-
-// Ends the program when a call takes too long: it cannot be left in any other way.
-class Watchdog {
- public:
-  Watchdog() : thread_([this] { watch(); }) {}
-  ~Watchdog() {
-    stopped_ = true;
-    thread_.join();
-  }
-  void begin(const std::string& call) {
-    std::snprintf(call_, sizeof call_, "%s", call.c_str());
-    ++calls_;
-  }
-
- private:
-  void watch() {
-    int seen = -1;
-    auto since = std::chrono::steady_clock::now();
-    while (!stopped_) {
-      std::this_thread::sleep_for(std::chrono::milliseconds{50});
-      const auto now = std::chrono::steady_clock::now();
-      if (seen != calls_) {
-        seen = calls_;
-        since = now;
-      } else if (now - since > kPatience) {
-        std::fprintf(stderr, "Does not return: %s\n", call_);
-        std::_Exit(1);
-      }
-    }
-  }
-  char call_[400] = "";
-  std::atomic<int> calls_ = 0;
-  std::atomic<bool> stopped_ = false;
-  std::thread thread_;
-};
+using quorin::test::Watchdog;
 
 // The reports in `text`, and whether all name this routine.
 int reports(const std::string& text, const std::string& routine) {
@@ -159,6 +121,43 @@ TEST(NotFiniteInput, DoesNotHideAWrongArgument) {
   EXPECT_EQ(reports(text, "SSYEVR"), 1) << text;
   EXPECT_EQ(a, untouched);
   EXPECT_EQ(w, std::vector<float>(kOrder, 7));
+}
+
+// Row exchanges are the host's numbers: one that leads outside is refused, and so is half a block of order 2.
+TEST(Exchanges, ThatLeadOutsideAreRefused) {
+  const std::int32_t n = 3, nrhs = 1;
+  const std::vector<float> a = {2, 0, 0, 0, 2, 0, 0, 0, 2}, right = {2, 4, 6};
+  const auto expect = [&](std::vector<std::int32_t> ipiv, std::int32_t general, std::int32_t symmetric) {
+    std::vector<float> b = right, c = right;
+    std::int32_t info[2] = {-99, -99};
+    const std::string text = quorin::test::captured([&] {
+      sgetrs("N", &n, &nrhs, a.data(), &n, ipiv.data(), b.data(), &n, &info[0]);
+      ssytrs("L", &n, &nrhs, a.data(), &n, ipiv.data(), c.data(), &n, &info[1]);
+    });
+    EXPECT_EQ(info[0], general);
+    EXPECT_EQ(info[1], symmetric);
+    EXPECT_TRUE(general == 0 || b == right);
+    EXPECT_TRUE(symmetric == 0 || c == right);
+    EXPECT_EQ(text.empty(), general == 0 && symmetric == 0);
+  };
+  expect({1, 2, 3}, 0, 0);
+  expect({3, 3, 3}, 0, 0);
+  for (const std::int32_t stray : {0, 4, -4, INT32_MAX, INT32_MIN}) expect({1, stray, 3}, -6, -6);
+  expect({-2, -2, 3}, -6, 0);
+  expect({1, -3, -3}, -6, 0);
+  expect({-1, -2, 3}, -6, -6);
+  expect({1, 2, -3}, -6, -6);
+}
+
+TEST(Exchanges, OfBalancingAreTheHostsToo) {
+  const std::int32_t n = 3, m = 1, ilo = 2, ihi = 2;
+  for (const float row : {0.0F, 4.0F, -1.0F, 3e38F, kNan}) {
+    std::vector<float> v = {1, 2, 3}, scale = {row, 1, 3};
+    std::int32_t info = -99;
+    quorin::test::captured([&] { sgebak("P", "R", &n, &ilo, &ihi, scale.data(), &m, v.data(), &n, &info); });
+    EXPECT_EQ(info, -6);
+    EXPECT_EQ(v, (std::vector<float>{1, 2, 3}));
+  }
 }
 
 // Finite input whose product overflows before the eigenvalues are looked for.

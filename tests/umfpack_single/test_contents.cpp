@@ -171,6 +171,27 @@ TEST(Contents, DeterminantsEndAtInfinityAndHaveMantissasBelowTen) {
     ASSERT_EQ(infinite.symbolic(), 0);
     ASSERT_GE(infinite.numeric(), 0);
     EXPECT_EQ(umfpack_di_get_determinant(&M, &Ex, infinite.Numeric, nullptr), 1);
+
+    // Infinite in one part, in both, and large enough for the modulus to overflow alone.
+    const Doubles parts[] = {{infinity, 0}, {0, infinity}, {-infinity, infinity}, {3e38, 3e38}};
+    for (const Doubles& part : parts) {
+      Matrix A(2, 2, {0, 1, 2}, {0, 1}, {part[0], 1});
+      A.Az = {part[1], 1};
+      Host complex(A);
+      complex.Control[UMFPACK_SCALE] = scaling;
+      ASSERT_EQ(complex.symbolic(), 0);
+      ASSERT_GE(complex.numeric(), 0);
+      float Mz = -1;
+      const int status = umfpack_zi_get_determinant(&M, &Mz, &Ex, complex.Numeric, nullptr);
+      if (std::isinf(part[0]) || std::isinf(part[1])) {
+        EXPECT_EQ(status, 1);
+      } else {  // (1 + i) 3e38 (1 + i) = 6e38 i
+        EXPECT_EQ(status, 3);
+        EXPECT_NEAR(M, 0, 1e-5);
+        EXPECT_NEAR(Mz, 6, 1e-5);
+        EXPECT_EQ(Ex, 38);
+      }
+    }
   }
 }
 
