@@ -37,7 +37,7 @@ Error error_of(sparse::FactorOutcome outcome) {
     case sparse::FactorOutcome::kBudgetTooSmall:
       return Error::kCoreTooSmall;
     case sparse::FactorOutcome::kWrongFormat:
-      return Error::kFileFailed;
+      return Error::kWrongFile;
     case sparse::FactorOutcome::kCancelled:
       return Error::kInternal;
   }

@@ -17,4 +17,9 @@ void initialize(void** pt, const std::int32_t* mtype, std::int32_t* iparm) noexc
 // The diagonals of the factor and of A; a null array is not wanted.
 void get_diagonal(void* const* pt, void* df, void* da, const std::int32_t* mnum, std::int32_t* error) noexcept;
 
+// The file of a handle in a folder.
+void store(void* const* pt, const char* dirname, std::int32_t* error) noexcept;
+void restore(void** pt, const char* dirname, std::int32_t* error) noexcept;
+void remove(const char* dirname, std::int32_t* error) noexcept;
+
 }  // namespace quorin::pardiso

@@ -85,6 +85,8 @@ const char* name_of(Error outcome) {
       return "a file cannot be opened";
     case Error::kFileFailed:
       return "a file cannot be read or written";
+    case Error::kWrongFile:
+      return "the file is none of this library's";
   }
   return "";
 }

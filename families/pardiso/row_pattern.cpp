@@ -133,6 +133,17 @@ bool RowPattern::is_diagonal() const {
   return true;
 }
 
+bool RowPattern::is_sound() const {
+  if (size_ < 1 || starts_.size() != static_cast<std::size_t>(size_) + 1 || host_entries_ < 0) return false;
+  if (!sparse::check_starts(size_, starts_.data()) || columns_.size() != static_cast<std::size_t>(entries())) {
+    return false;
+  }
+  if (!sparse::check_compressed(size_, size_, starts_.data(), columns_.data(), {.ascends = true})) return false;
+  if (is_as_given_) return entries() == host_entries_;
+  return std::all_of(places_.data(), places_.data() + places_.size(),
+                     [this](int place) { return place >= sparse::kNone && place < entries(); });
+}
+
 std::size_t RowPattern::bytes() const { return (starts_.size() + columns_.size() + places_.size()) * sizeof(int); }
 
 }  // namespace quorin::pardiso

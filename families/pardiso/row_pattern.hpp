@@ -38,6 +38,19 @@ class RowPattern {
   bool is_diagonal() const;
   std::size_t bytes() const;
 
+  // For files, and whether what was read from one can be a pattern.
+  template <class Archive>
+  void transfer(Archive& archive) {
+    archive.number(size_);
+    archive.number(host_entries_);
+    archive.number(is_as_given_);
+    archive.number(fingerprint_);
+    archive.array(starts_);
+    archive.array(columns_);
+    archive.array(places_);
+  }
+  bool is_sound() const;
+
   // The entries' values, those of the same place added up: the host's own array where it has them in this very order,
   // else in `storage`. Null if there is no memory.
   template <Scalar T>

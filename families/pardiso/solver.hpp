@@ -76,6 +76,10 @@ class Solver {
 
   [[nodiscard]] virtual Error write_diagonals(int slot, void* df, void* da) const = 0;
 
+  // A file between its beginning and its completion.
+  [[nodiscard]] Error write(sparse::FileWriter& file);
+  [[nodiscard]] static Error read(sparse::FileReader& file, Solver*& solver);
+
  protected:
   Solver(const Kind& kind, const AnalysisOptions& options) : kind_(kind), options_(options) {}
   virtual ~Solver() = default;
@@ -100,6 +104,8 @@ class Solver {
   AnalysisResults analysis_results_;
 
  private:
+  [[nodiscard]] virtual Error write_rest(sparse::FileWriter& file) = 0;
+  [[nodiscard]] virtual Error read_rest(sparse::FileReader& file) = 0;
   [[nodiscard]] Error read_permutation(const std::int32_t* perm);
   [[nodiscard]] Error read_flags(const std::int32_t* perm);
 };

@@ -27,6 +27,8 @@ class TypedSolver final : public Solver {
   Error iterate(const Call& call, const SolutionOptions& options, const IterationOptions& iteration,
                 int& result) override;
   Error write_diagonals(int slot, void* df, void* da) const override;
+  Error write_rest(sparse::FileWriter& file) override;
+  Error read_rest(sparse::FileReader& file) override;
 
  private:
   using Real = RealOf<T>;
@@ -55,6 +57,11 @@ class TypedSolver final : public Solver {
   // The matrix with its values, which may be null.
   sparse::LinearSystem<T> system_of(const T* values) const;
   bool is_singular_diagonal(const T* values) const;
+  template <class Archive>
+  void transfer(Archive& archive);
+  bool is_sound() const;
+  Error read_slot(sparse::FileReader& file);
+  Error factor_schur(Slot& slot) const;
   Error preprocess(const T* values, sparse::Preprocessing<Real>& prepared) const;
   Error analyze_values(const Call& call, const T* values);
   std::uint64_t fingerprint_of(const T* values) const;

@@ -19,7 +19,7 @@
 #define QUORIN_LIBRARY_NAME "libquorin_lapacks.so"
 #endif
 
-#define QUORIN_EXPORT_COUNT 786
+#define QUORIN_EXPORT_COUNT 789
 
 #ifdef __cplusplus
 extern "C" {
@@ -1674,6 +1674,9 @@ typedef struct quorin_library {
   void(QUORIN_CDECL* sPARDISO_GETDIAG_32fc_Idx)(void* const* pt, quorin_complex* df, int32_t df_index,
                                                 quorin_complex* da, int32_t da_index, const int32_t* mnum,
                                                 int32_t* error);
+  void(QUORIN_CDECL* sPARDISO_HANDLE_STORE)(void* const* pt, const char* dirname, int32_t* error);
+  void(QUORIN_CDECL* sPARDISO_HANDLE_RESTORE)(void** pt, const char* dirname, int32_t* error);
+  void(QUORIN_CDECL* sPARDISO_HANDLE_DELETE)(const char* dirname, int32_t* error);
 
   /* quorin/rci.h */
   void(QUORIN_CDECL* DCG_INIT)(const int32_t* n, const double* x, const double* b, int32_t* RCI_request, int32_t* ipar,
@@ -2860,6 +2863,9 @@ static const char* const quorin_export_names[QUORIN_EXPORT_COUNT] = {
     "pardiso_getdiag",
     "sPARDISO_GETDIAG_32f_Idx",
     "sPARDISO_GETDIAG_32fc_Idx",
+    "sPARDISO_HANDLE_STORE",
+    "sPARDISO_HANDLE_RESTORE",
+    "sPARDISO_HANDLE_DELETE",
     "DCG_INIT",
     "sDCG_INIT_Idx",
     "DCG_CHECK",

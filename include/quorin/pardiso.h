@@ -46,8 +46,10 @@ enum quorin_pardiso_error {
   QUORIN_PARDISO_DIAGONAL_SINGULAR = -7, /* A is diagonal with a zero on the diagonal */
   QUORIN_PARDISO_TOO_LARGE = -8, /* a count of entries exceeds 32 bits */
   QUORIN_PARDISO_CORE_TOO_SMALL = -9, /* out of core: not enough memory in MKL_PARDISO_OOC_MAX_CORE_SIZE */
-  QUORIN_PARDISO_CANNOT_OPEN = -10, /* a file cannot be opened */
-  QUORIN_PARDISO_FILE_FAILED = -11 /* a file cannot be read or written */
+  QUORIN_PARDISO_CANNOT_OPEN = -10, /* a file cannot be opened; of delete: there is none, or it cannot be deleted */
+  QUORIN_PARDISO_FILE_FAILED = -11, /* a file cannot be read or written */
+  QUORIN_PARDISO_WRONG_FILE = -13 /* the file is none of this library's, of another version, or damaged; of store: pt
+      holds nothing */
 };
 
 /* Values of mtype: the kind of matrix; of symmetric and Hermitian ones only the upper triangle with its diagonal is
@@ -274,6 +276,27 @@ QUORIN_API void QUORIN_CDECL sPARDISO_GETDIAG_32f_Idx(void* const* pt, float* df
 QUORIN_API void QUORIN_CDECL sPARDISO_GETDIAG_32fc_Idx(void* const* pt, quorin_complex* df, int32_t df_index,
                                                        quorin_complex* da, int32_t da_index, const int32_t* mnum,
                                                        int32_t* error);
+
+/* ---- Files ---- */
+
+/* Writes all that the handle holds to the file handle.pds of a folder, in place of one that is there. The handle stays
+   as it is.
+     pt: [64], may be null: the handle: zeros before the first call, and not changed by the host afterwards
+     dirname: may be null: folder of the file handle.pds; empty for the current one
+     error: out: how the call ended */
+QUORIN_API void QUORIN_CDECL sPARDISO_HANDLE_STORE(void* const* pt, const char* dirname, int32_t* error);
+
+/* Makes a handle from that file, in another process if need be. What pt holds is overwritten, not freed. The matrix,
+   iparm, b and x are the host's to give again.
+     pt: out, [64], may be null: the handle: zeros before the first call, and not changed by the host afterwards
+     dirname: may be null: folder of the file handle.pds; empty for the current one
+     error: out: how the call ended */
+QUORIN_API void QUORIN_CDECL sPARDISO_HANDLE_RESTORE(void** pt, const char* dirname, int32_t* error);
+
+/* Deletes that file.
+     dirname: may be null: folder of the file handle.pds; empty for the current one
+     error: out: how the call ended */
+QUORIN_API void QUORIN_CDECL sPARDISO_HANDLE_DELETE(const char* dirname, int32_t* error);
 
 #ifdef __cplusplus
 }  /* extern "C" */

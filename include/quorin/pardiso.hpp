@@ -62,6 +62,8 @@ inline const char* describe(std::int32_t code) {
       return "a file cannot be opened";
     case QUORIN_PARDISO_FILE_FAILED:
       return "a file cannot be read or written";
+    case QUORIN_PARDISO_WRONG_FILE:
+      return "the file holds no factors of this library";
     default:
       return "an internal error";
   }
