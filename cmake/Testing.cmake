@@ -1,14 +1,3 @@
-# What nearly every test includes, read once for each of the two sets of flags. A compiler cache saves more than that, and
-# the two do not go together.
-if(NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  foreach(flags quorin_flags quorin_test_flags)
-    file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/${flags}_headers.cpp CONTENT "")
-    add_library(${flags}_headers OBJECT ${PROJECT_BINARY_DIR}/${flags}_headers.cpp)
-    target_link_libraries(${flags}_headers PRIVATE ${flags} GTest::gtest)
-    target_precompile_headers(${flags}_headers PRIVATE <gtest/gtest.h> <algorithm> <cmath> <complex> <functional> <random> <vector>)
-  endforeach()
-endif()
-
 # quorin_add_test_program(NAME [ENGINE] SOURCE ...): a program beside the product, which it runs against without an
 # installation. With ENGINE it is compiled with the product's own flags, because it shares inline functions with it.
 function(quorin_add_test_program name)
@@ -31,16 +20,11 @@ endfunction()
 function(quorin_add_test name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "ENGINE;HOST;SERIAL" "TIMEOUT" "SOURCES;LINKS;ARGS")
   set(engine "")
-  set(headers quorin_test_flags_headers)
   if(arg_ENGINE)
     set(engine ENGINE)
-    set(headers quorin_flags_headers)
   endif()
   quorin_add_test_program(${name} ${engine} ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE GTest::gtest_main ${arg_LINKS})
-  if(NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    target_precompile_headers(${name} REUSE_FROM ${headers})
-  endif()
   if(arg_ENGINE)
     target_link_libraries(${name} PRIVATE quorin_engine)
   elseif(arg_HOST)
