@@ -173,8 +173,13 @@ class Multifrontal {
   }
 
  private:
+  // Where a supernode's contribution to its parent begins.
+  struct Update {
+    T* at;
+  };
+
   bool create() noexcept {
-    updates_ = Workspace<T*>(to_size(plan_.supernodes()));
+    updates_ = Workspace<Update>(to_size(plan_.supernodes()));
     kept_ = Workspace<T>(to_size(division_.left_by_subtrees));
     top_stack_.memory = Workspace<T>(to_size(division_.top_stack));
     bool is_created = updates_ && kept_ && top_stack_.memory;
@@ -189,7 +194,7 @@ class Multifrontal {
     const std::size_t begin = kept_size_.fetch_add(stack.size, std::memory_order_relaxed);
     std::copy_n(stack.memory.data(), stack.size, kept_.data() + begin);
     for (int c = range.end - 1; c >= range.first; c = plan_.first_descendant(c) - 1) {
-      updates_[to_size(c)] = kept_.data() + begin + (updates_[to_size(c)] - stack.memory.data());
+      updates_[to_size(c)].at = kept_.data() + begin + (updates_[to_size(c)].at - stack.memory.data());
     }
   }
 
@@ -210,13 +215,13 @@ class Multifrontal {
       for (const int k : plan_.below(s)) position[k] = row++;
       plan_.for_children(s, [&](int c) {
         add_child(c, front, worker, threads);
-        if (&stack != &top_stack_ || !division_.is_in_range(c)) bottom = updates_[to_size(c)];
+        if (&stack != &top_stack_ || !division_.is_in_range(c)) bottom = updates_[to_size(c)].at;
       });
     }
     if (task_.eliminate(s, panel, worker.buffer.data(), threads)) {
       if (s < plan_.eliminated()) subtract_products(front, worker, threads);
       std::memmove(static_cast<void*>(bottom), front.update, size * sizeof(T));
-      updates_[to_size(s)] = bottom;
+      updates_[to_size(s)].at = bottom;
       stack.size = static_cast<std::size_t>(bottom - stack.memory.data()) + size;
       task_.report_progress(s);
     }
@@ -229,7 +234,7 @@ class Multifrontal {
     int* const places = worker.places.data();
     const auto rows = plan_.below(c);
     for (int i = 0; i < m; ++i) places[i] = worker.position[to_size(rows[to_size(i)])];
-    const T* const update = updates_[to_size(c)];
+    const T* const update = updates_[to_size(c)].at;
     // Columns to threads: no two write to the same place.
     constexpr int kLeastColumns = 64;
     const int slices = threads == 1 ? 1 : std::clamp(m / kLeastColumns, 1, 4 * threads);
@@ -319,8 +324,8 @@ class Multifrontal {
   const int tree_threads_;
   const Division division_;
 
-  Workspace<T*> updates_;  // of the supernodes whose parent is not made yet
-  Workspace<T> kept_;      // those of roots of ranges
+  Workspace<Update> updates_;  // of the supernodes whose parent is not made yet
+  Workspace<T> kept_;          // those of roots of ranges
   std::atomic<std::size_t> kept_size_ = 0;
   Stack<T> top_stack_;
   ThreadSlots slots_;

@@ -154,13 +154,15 @@ class Driver {
 
   // P M P^T and, where M is not A, P A P^T.
   Status permute(const FactorObject& object) {
+    const auto permuted = [&](const CcsMatrix& A) {
+      return ccs_permute_symmetrically(&A, object.perm, object.invperm);
+    };
     message("taucs_linsolve: pre-factorization permuting of M\n");
-    permuted_A_.reset(ccs_permute_symmetrically(&M(), object.perm, object.invperm));
     if (M_ != nullptr) {
-      permuted_M_ = std::move(permuted_A_);
+      permuted_M_.reset(permuted(M()));
       message("taucs_linsolve: pre-factorization permuting of A\n");
-      if (permuted_M_ != nullptr) permuted_A_.reset(ccs_permute_symmetrically(&A_, object.perm, object.invperm));
     }
+    if (M_ == nullptr || permuted_M_ != nullptr) permuted_A_.reset(permuted(A_));
     if (permuted_A_ != nullptr) return Status::kSuccess;
     message("taucs_factor: permute rows and columns failed\n");
     return Status::kErrorNomem;

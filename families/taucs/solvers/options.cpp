@@ -116,7 +116,7 @@ bool is_set_by(const Key& key, Options& options, const char* string, void* const
 
 }  // namespace
 
-Options parse_options(const char* const* strings, void* const* arguments) noexcept {
+Options parse_options(const char* const* strings, void* const* arguments) {
   Options options;
   for (; strings != nullptr && *strings != nullptr; ++strings) {
     bool is_accepted = false;

@@ -44,7 +44,7 @@ struct Options {
 // - no key at all.
 // What stands at arguments[k] is a double, an int (0 is false) for a key of true and false, the text itself, or the
 // address of a pointer.
-Options parse_options(const char* const* strings, void* const* arguments) noexcept;
+Options parse_options(const char* const* strings, void* const* arguments);
 
 // A number that the option's value is cut to; 0 for NaN.
 int truncated(double value) noexcept;
