@@ -26,23 +26,24 @@ struct Heap {
   }
   void* count(void* block, std::size_t size) {
     if (!watches || block == nullptr) return block;
-    ++live;
     for (Block& entry : blocks) {
       if (entry.address != nullptr) continue;
       entry = {block, static_cast<std::int64_t>(size)};
       bytes += entry.bytes;
       most_bytes = std::max(most_bytes, bytes);
+      ++live;
       break;
     }
     return block;
   }
+  // What was there before is not counted: a worker may give back then what it was started with.
   void forget(void* block) {
     if (!watches || block == nullptr) return;
-    --live;
     for (Block& entry : blocks) {
       if (entry.address != block) continue;
       bytes -= entry.bytes;
       entry = {};
+      --live;
       break;
     }
   }
