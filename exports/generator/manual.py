@@ -129,8 +129,8 @@ def entry(family: Family, routines: list[Routine], head_page: str) -> str:
         parts.append(argument_table(family, routines) + "\n")
     if result := family.note(first, model.RESULT):
         parts.append(f"Result: {result.text}.\n")
-    if first.result_is_argument:
-        parts.append("The result is stored through the extra first argument `result`.\n")
+    if any(routine.result_is_argument for routine in routines):
+        parts.append("A complex result is stored through the extra first argument `result`.\n")
     return "\n".join(parts + status_tables(family, first, head_page))
 
 

@@ -148,7 +148,7 @@ QUORIN_API void QUORIN_CDECL csscal(const int32_t* n, const float* a, quorin_com
 QUORIN_API void QUORIN_CDECL csscal_Idx(const int32_t* n, const float* a, quorin_complex* x, int32_t x_index,
                                         const int32_t* incx);
 
-/* Returns the 1-based position of the first element with the largest |Re| + |Im|.
+/* Finds the first element with the largest |Re| + |Im|.
      n: number of elements; 0 or less does nothing
      x: [n, stride incx]: vector x
      incx: stride of x; if it is below 1, the result is 0 */
@@ -158,7 +158,7 @@ QUORIN_API int32_t QUORIN_CDECL icamax(const int32_t* n, const quorin_complex* x
 QUORIN_API int32_t QUORIN_CDECL icamax_Idx(const int32_t* n, const quorin_complex* x, int32_t x_index,
                                            const int32_t* incx);
 
-/* Returns the 1-based position of the first element with the smallest |Re| + |Im|.
+/* Finds the first element with the smallest |Re| + |Im|.
      n: number of elements; 0 or less does nothing
      x: [n, stride incx]: vector x
      incx: stride of x; if it is below 1, the result is 0 */

@@ -81,9 +81,9 @@ QUORIN_API void QUORIN_CDECL feastinit_32f(int32_t* fpm);
 /* Eigenvalues and eigenvectors of a real symmetric A.
      uplo: what is stored, of A and of B (F all; U the upper triangle; L the lower triangle)
      n: order of the matrices
-     a: entries of A, row by row
+     a: [nnz]: entries of A, row by row
      ia: [n+1]: place in a and ja at which each row begins, one-based; ia(n+1) - 1 is the number of entries
-     ja: column of each entry of A, one-based
+     ja: [nnz]: column of each entry of A, one-based
      fpm: in, out, [128]: parameters
      epsout: out: change of the sum of the eigenvalues inside in the last loop, divided by max(abs(emin), abs(emax))
      loop: out: loops done after the first pass; 0 if the first was enough
@@ -112,9 +112,9 @@ QUORIN_API void QUORIN_CDECL sfeast_scsrev_Idx(const char* uplo, const int32_t* 
 /* Eigenvalues and eigenvectors of a complex Hermitian A.
      uplo: what is stored, of A and of B (F all; U the upper triangle; L the lower triangle)
      n: order of the matrices
-     a: entries of A, row by row
+     a: [nnz]: entries of A, row by row
      ia: [n+1]: place in a and ja at which each row begins, one-based; ia(n+1) - 1 is the number of entries
-     ja: column of each entry of A, one-based
+     ja: [nnz]: column of each entry of A, one-based
      fpm: in, out, [128]: parameters
      epsout: out: change of the sum of the eigenvalues inside in the last loop, divided by max(abs(emin), abs(emax))
      loop: out: loops done after the first pass; 0 if the first was enough
@@ -145,12 +145,12 @@ QUORIN_API void QUORIN_CDECL cfeast_hcsrev_Idx(const char* uplo, const int32_t* 
 /* Eigenvalues and eigenvectors of a real symmetric A and a positive definite B.
      uplo: what is stored, of A and of B (F all; U the upper triangle; L the lower triangle)
      n: order of the matrices
-     a: entries of A, row by row
+     a: [nnz]: entries of A, row by row
      ia: [n+1]: place in a and ja at which each row begins, one-based; ia(n+1) - 1 is the number of entries
-     ja: column of each entry of A, one-based
-     b: entries of B, row by row
+     ja: [nnz]: column of each entry of A, one-based
+     b: [nnzb]: entries of B, row by row
      ib: [n+1]: place in b and jb at which each row begins, one-based; ib(n+1) - 1 is the number of entries
-     jb: column of each entry of B, one-based
+     jb: [nnzb]: column of each entry of B, one-based
      fpm: in, out, [128]: parameters
      epsout: out: change of the sum of the eigenvalues inside in the last loop, divided by max(abs(emin), abs(emax))
      loop: out: loops done after the first pass; 0 if the first was enough
@@ -182,12 +182,12 @@ QUORIN_API void QUORIN_CDECL sfeast_scsrgv_Idx(const char* uplo, const int32_t* 
    a: a host adds the offset to its address.
      uplo: what is stored, of A and of B (F all; U the upper triangle; L the lower triangle)
      n: order of the matrices
-     a: entries of A, row by row
+     a: [nnz]: entries of A, row by row
      ia: [n+1]: place in a and ja at which each row begins, one-based; ia(n+1) - 1 is the number of entries
-     ja: column of each entry of A, one-based
-     b: entries of B, row by row
+     ja: [nnz]: column of each entry of A, one-based
+     b: [nnzb]: entries of B, row by row
      ib: [n+1]: place in b and jb at which each row begins, one-based; ib(n+1) - 1 is the number of entries
-     jb: column of each entry of B, one-based
+     jb: [nnzb]: column of each entry of B, one-based
      fpm: in, out, [128]: parameters
      epsout: out: change of the sum of the eigenvalues inside in the last loop, divided by max(abs(emin), abs(emax))
      loop: out: loops done after the first pass; 0 if the first was enough

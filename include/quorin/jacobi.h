@@ -56,8 +56,8 @@ QUORIN_API int32_t QUORIN_CDECL sjacobi_init_Idx(void** handle, const int32_t* n
 
 /* One leg.
      handle: in, out: the computation
-     f1: F(x) of request 1, m entries
-     f2: F(x) of request 2, m entries
+     f1: [m]: F(x) of request 1
+     f2: [m]: F(x) of request 2
      RCI_Request: out: what the host is to do */
 QUORIN_API int32_t QUORIN_CDECL sjacobi_solve(void** handle, const float* f1, const float* f2, int32_t* RCI_Request);
 QUORIN_API int32_t QUORIN_CDECL sjacobi_solve_Idx(void** handle, const float* f1, int32_t f1_index, const float* f2,

@@ -29,7 +29,7 @@ QUORIN_API void QUORIN_CDECL vspacki_Idx(const int32_t* n, const float* a, int32
 
 /* y(j) <- a(ia(j)), j = 0...n-1.
      n: number of elements
-     a: elements to be taken
+     a: [max(ia)+1]: elements to be taken
      ia: [n]: indices of elements of a, zero-based, not checked
      y: out, [n]: where they go; other elements stay as they are */
 QUORIN_API void QUORIN_CDECL vspackv(const int32_t* n, const float* a, const int32_t* ia, float* y);
@@ -59,7 +59,7 @@ QUORIN_API void QUORIN_CDECL vsunpacki_Idx(const int32_t* n, const float* a, int
 /* y(iy(j)) <- a(j), j = 0...n-1.
      n: number of elements
      a: [n]: elements to be taken
-     y: in, out: where they go; other elements stay as they are
+     y: in, out, [max(iy)+1]: where they go; other elements stay as they are
      iy: [n]: indices of elements of y, zero-based, not checked */
 QUORIN_API void QUORIN_CDECL vsunpackv(const int32_t* n, const float* a, float* y, const int32_t* iy);
 QUORIN_API void QUORIN_CDECL vsunpackv_Idx(const int32_t* n, const float* a, int32_t a_index, float* y, int32_t y_index,

@@ -166,11 +166,11 @@ enum {
          QUORIN_PARDISO_SOLVE, QUORIN_PARDISO_SOLVE_FORWARD, QUORIN_PARDISO_SOLVE_DIAGONAL,
          QUORIN_PARDISO_SOLVE_BACKWARD, QUORIN_PARDISO_FREE_FACTORS, QUORIN_PARDISO_FREE_ALL)
      n: may be null: number of equations; of block rows with iparm(37) > 0
-     a: may be null: the entries of A, row by row: read by factorization, by analysis with scaling or matching, by
-         solution with refinement or iteration
+     a: may be null: the entries of A, row by row, nza numbers: read by factorization, by analysis with scaling or
+         matching, by solution with refinement or iteration
      ia: [n+1], may be null: where the rows begin in a and ja; the last one tells where they end. Read by analysis;
          later phases only compare
-     ja: may be null: columns of the entries, ascending in each row. Read by analysis; later phases only compare
+     ja: [nnz], may be null: columns of the entries, ascending in each row. Read by analysis; later phases only compare
      perm: in, out, [n], may be null: by iparm(5) a permutation, by iparm(31) or iparm(36) flags; else not touched
      nrhs: may be null: number of right-hand sides; read by solution alone
      iparm: in, out, [64], may be null: parameters and results
@@ -198,11 +198,11 @@ QUORIN_API void QUORIN_CDECL PARDISO(void** pt, const int32_t* maxfct, const int
          QUORIN_PARDISO_SOLVE, QUORIN_PARDISO_SOLVE_FORWARD, QUORIN_PARDISO_SOLVE_DIAGONAL,
          QUORIN_PARDISO_SOLVE_BACKWARD, QUORIN_PARDISO_FREE_FACTORS, QUORIN_PARDISO_FREE_ALL)
      n: may be null: number of equations; of block rows with iparm(37) > 0
-     a: may be null: the entries of A, row by row: read by factorization, by analysis with scaling or matching, by
-         solution with refinement or iteration
+     a: [nza], may be null: the entries of A, row by row, nza numbers: read by factorization, by analysis with scaling
+         or matching, by solution with refinement or iteration
      ia: [n+1], may be null: where the rows begin in a and ja; the last one tells where they end. Read by analysis;
          later phases only compare
-     ja: may be null: columns of the entries, ascending in each row. Read by analysis; later phases only compare
+     ja: [nnz], may be null: columns of the entries, ascending in each row. Read by analysis; later phases only compare
      perm: in, out, [n], may be null: by iparm(5) a permutation, by iparm(31) or iparm(36) flags; else not touched
      nrhs: may be null: number of right-hand sides; read by solution alone
      iparm: in, out, [64], may be null: parameters and results
@@ -258,8 +258,8 @@ QUORIN_API void QUORIN_CDECL sPARDISOINIT(void** pt, const int32_t* mtype, int32
 /* The diagonals of A and of its factor, in the type of a: of L for mtype 2 and 4, of D for -2, -4, 6, of U for the
    others. Wants iparm(56) = 1 in the analysis, and a factorization.
      pt: [64], may be null: the handle: zeros before the first call, and not changed by the host afterwards
-     df: may be null: the diagonal of the factor, in the order of elimination; null if it is not wanted
-     da: may be null: the diagonal of A; null if it is not wanted
+     df: may be null: the diagonal of the factor, neq numbers, in the order of elimination; null if it is not wanted
+     da: may be null: the diagonal of A, neq numbers; null if it is not wanted
      mnum: which of them this call is about, from 1 to maxfct
      error: out: how the call ended */
 QUORIN_API void QUORIN_CDECL pardiso_getdiag(void* const* pt, void* df, void* da, const int32_t* mnum, int32_t* error);
@@ -267,8 +267,9 @@ QUORIN_API void QUORIN_CDECL pardiso_getdiag(void* const* pt, void* df, void* da
 /* The diagonals of A and of its factor, in the type of a: of L for mtype 2 and 4, of D for -2, -4, 6, of U for the
    others. Wants iparm(56) = 1 in the analysis, and a factorization.
      pt: [64], may be null: the handle: zeros before the first call, and not changed by the host afterwards
-     df: out, may be null: the diagonal of the factor, in the order of elimination; null if it is not wanted
-     da: out, may be null: the diagonal of A; null if it is not wanted
+     df: out, [neq], may be null: the diagonal of the factor, neq numbers, in the order of elimination; null if it is
+         not wanted
+     da: out, [neq], may be null: the diagonal of A, neq numbers; null if it is not wanted
      mnum: which of them this call is about, from 1 to maxfct
      error: out: how the call ended */
 QUORIN_API void QUORIN_CDECL sPARDISO_GETDIAG_32f_Idx(void* const* pt, float* df, int32_t df_index, float* da,
@@ -282,19 +283,19 @@ QUORIN_API void QUORIN_CDECL sPARDISO_GETDIAG_32fc_Idx(void* const* pt, quorin_c
 /* Writes all that the handle holds to the file handle.pds of a folder, in place of one that is there. The handle stays
    as it is.
      pt: [64], may be null: the handle: zeros before the first call, and not changed by the host afterwards
-     dirname: may be null: folder of the file handle.pds; empty for the current one
+     dirname: may be null: folder of the file handle.pds, ended by a zero; empty for the current one
      error: out: how the call ended */
 QUORIN_API void QUORIN_CDECL sPARDISO_HANDLE_STORE(void* const* pt, const char* dirname, int32_t* error);
 
 /* Makes a handle from that file, in another process if need be. What pt holds is overwritten, not freed. The matrix,
    iparm, b and x are the host's to give again.
      pt: out, [64], may be null: the handle: zeros before the first call, and not changed by the host afterwards
-     dirname: may be null: folder of the file handle.pds; empty for the current one
+     dirname: may be null: folder of the file handle.pds, ended by a zero; empty for the current one
      error: out: how the call ended */
 QUORIN_API void QUORIN_CDECL sPARDISO_HANDLE_RESTORE(void** pt, const char* dirname, int32_t* error);
 
 /* Deletes that file.
-     dirname: may be null: folder of the file handle.pds; empty for the current one
+     dirname: may be null: folder of the file handle.pds, ended by a zero; empty for the current one
      error: out: how the call ended */
 QUORIN_API void QUORIN_CDECL sPARDISO_HANDLE_DELETE(const char* dirname, int32_t* error);
 

@@ -55,7 +55,7 @@ QUORIN_API int32_t QUORIN_CDECL sMKL_Domain_Get_Max_Threads(int32_t domain);
      flag: non-zero for yes */
 QUORIN_API void QUORIN_CDECL sMKL_Set_Dynamic(int32_t flag);
 
-/* 1 if dynamic adjustment is on, else 0. */
+/* Tells whether dynamic adjustment is on. */
 QUORIN_API int32_t QUORIN_CDECL sMKL_Get_Dynamic(void);
 
 /* How long idle worker threads wait for more work before they end, 200 at first. The value is also handed to
@@ -75,8 +75,8 @@ QUORIN_API void QUORIN_CDECL sMKL_FreeBuffers(void);
      callback: may be null: the host function; kept: its address is used by later calls */
 QUORIN_API void QUORIN_CDECL set_printf_callback_32f(quorin_text_output_callback callback);
 
-/* Prints nothing, never calls the callback, and returns 0.
-     format: a text, not read */
+/* Prints nothing and never calls the callback.
+     format: a text ended by a zero, not read */
 QUORIN_API int32_t QUORIN_CDECL taucs_printf(const char* format, ...);
 
 /* ---- Errors ---- */

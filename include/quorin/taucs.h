@@ -100,8 +100,8 @@ QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_transpose(const taucs_ccs_ma
 /* P A P^T for a symmetric or Hermitian matrix; entry (i, j) goes to (invperm[i], invperm[j]). Null if an entry lies
    outside of the n-by-n matrix, or a number of invperm does not lie from 0 to n-1.
      A: the matrix, its lower triangle stored; so is that of the result
-     perm: [A.n]: a permutation
-     invperm: [A.n]: its inverse */
+     perm: [A.n]: a permutation of n elements
+     invperm: [A.n]: its inverse, n elements */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_permute_symmetrically(const taucs_ccs_matrix* A,
                                                                           const int32_t* perm, const int32_t* invperm);
 
@@ -131,8 +131,8 @@ QUORIN_API void QUORIN_CDECL taucs_ccs_times_vec(const taucs_ccs_matrix* A, cons
 /* B <- A X, as taucs_ccs_times_vec for each of the columns, which are n elements apart; for m <= n.
      A: a matrix
      count: number of vectors
-     X: the vectors
-     B: the products */
+     X: the vectors, n x count elements
+     B: the products, n x count elements */
 QUORIN_API void QUORIN_CDECL taucs_ccs_times_vec_many(const taucs_ccs_matrix* A, int32_t count, const void* X, void* B);
 
 /* For a symmetric or Hermitian lower-stored A = D + N + P (diagonal, off-diagonal entries of non-positive and of
@@ -152,33 +152,33 @@ QUORIN_API void* QUORIN_CDECL taucs_vec_create(int32_t n, int32_t flags);
      n: columns of a matrix, elements of a vector
      flags: the type of the elements, and for a matrix what is stored
      a: factor of x
-     x: a vector
+     x: a vector of n elements
      b: factor of y
-     y: a vector
-     r: the sum; may be x or y */
+     y: a vector of n elements
+     r: the sum, n elements; may be x or y */
 QUORIN_API void QUORIN_CDECL taucs_vec_axpby(int32_t n, int32_t flags, double a, const void* x, double b, const void* y,
                                              void* r);
 
 /* pv[i] <- v[p[i]]. Nothing is done if a number of p does not lie from 0 to n-1.
      n: columns of a matrix, elements of a vector
      flags: the type of the elements, and for a matrix what is stored
-     v: a vector
-     pv: v permuted, another array than v
+     v: a vector of n elements
+     pv: v permuted, n elements, another array than v
      p: [n]: a permutation */
 QUORIN_API void QUORIN_CDECL taucs_vec_permute(int32_t n, int32_t flags, const void* v, void* pv, const int32_t* p);
 
 /* pv[p[i]] <- v[i]. Nothing is done if a number of p does not lie from 0 to n-1.
      n: columns of a matrix, elements of a vector
      flags: the type of the elements, and for a matrix what is stored
-     v: a vector
-     pv: v permuted, another array than v
+     v: a vector of n elements
+     pv: v permuted, n elements, another array than v
      p: [n]: a permutation */
 QUORIN_API void QUORIN_CDECL taucs_vec_ipermute(int32_t n, int32_t flags, const void* v, void* pv, const int32_t* p);
 
 /* The Euclidean norm, without overflow or underflow on the way.
      n: columns of a matrix, elements of a vector
      flags: the type of the elements, and for a matrix what is stored
-     v: a vector */
+     v: a vector of n elements */
 QUORIN_API double QUORIN_CDECL taucs_vec_norm2(int32_t n, int32_t flags, const void* v);
 
 /* ---- Matrices and vectors of one type ---- */
@@ -203,8 +203,8 @@ QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_dccs_transpose(const taucs_ccs_m
 /* P A P^T for a symmetric or Hermitian matrix; entry (i, j) goes to (invperm[i], invperm[j]). Null if an entry lies
    outside of the n-by-n matrix, or a number of invperm does not lie from 0 to n-1.
      A: the matrix, its lower triangle stored; so is that of the result
-     perm: [A.n]: a permutation
-     invperm: [A.n]: its inverse */
+     perm: [A.n]: a permutation of n elements
+     invperm: [A.n]: its inverse, n elements */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_dccs_permute_symmetrically(const taucs_ccs_matrix* A,
                                                                            const int32_t* perm, const int32_t* invperm);
 
@@ -229,8 +229,8 @@ QUORIN_API void QUORIN_CDECL taucs_dccs_times_vec(const taucs_ccs_matrix* A, con
 /* B <- A X, as taucs_ccs_times_vec for each of the columns, which are n elements apart; for m <= n.
      A: a matrix
      count: number of vectors
-     X: [A.n x count]: the vectors
-     B: out, [A.n x count]: the products */
+     X: [A.n x count]: the vectors, n x count elements
+     B: out, [A.n x count]: the products, n x count elements */
 QUORIN_API void QUORIN_CDECL taucs_dccs_times_vec_many(const taucs_ccs_matrix* A, int32_t count, const double* X,
                                                        double* B);
 
@@ -247,24 +247,24 @@ QUORIN_API double* QUORIN_CDECL taucs_dvec_create(int32_t n);
 /* r <- a x + b y; a and b are real for complex vectors, too.
      n: columns of a matrix, elements of a vector
      a: factor of x
-     x: [n]: a vector
+     x: [n]: a vector of n elements
      b: factor of y
-     y: [n]: a vector
-     r: out, [n]: the sum; may be x or y */
+     y: [n]: a vector of n elements
+     r: out, [n]: the sum, n elements; may be x or y */
 QUORIN_API void QUORIN_CDECL taucs_dvec_axpby(int32_t n, double a, const double* x, double b, const double* y,
                                               double* r);
 
 /* pv[i] <- v[p[i]]. Nothing is done if a number of p does not lie from 0 to n-1.
      n: columns of a matrix, elements of a vector
-     v: [n]: a vector
-     pv: out, [n]: v permuted, another array than v
+     v: [n]: a vector of n elements
+     pv: out, [n]: v permuted, n elements, another array than v
      p: [n]: a permutation */
 QUORIN_API void QUORIN_CDECL taucs_dvec_permute(int32_t n, const double* v, double* pv, const int32_t* p);
 
 /* pv[p[i]] <- v[i]. Nothing is done if a number of p does not lie from 0 to n-1.
      n: columns of a matrix, elements of a vector
-     v: [n]: a vector
-     pv: out, [n]: v permuted, another array than v
+     v: [n]: a vector of n elements
+     pv: out, [n]: v permuted, n elements, another array than v
      p: [n]: a permutation */
 QUORIN_API void QUORIN_CDECL taucs_dvec_ipermute(int32_t n, const double* v, double* pv, const int32_t* p);
 
@@ -283,8 +283,8 @@ QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_zccs_transpose(const taucs_ccs_m
 /* P A P^T for a symmetric or Hermitian matrix; entry (i, j) goes to (invperm[i], invperm[j]). Null if an entry lies
    outside of the n-by-n matrix, or a number of invperm does not lie from 0 to n-1.
      A: the matrix, its lower triangle stored; so is that of the result
-     perm: [A.n]: a permutation
-     invperm: [A.n]: its inverse */
+     perm: [A.n]: a permutation of n elements
+     invperm: [A.n]: its inverse, n elements */
 QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_zccs_permute_symmetrically(const taucs_ccs_matrix* A,
                                                                            const int32_t* perm, const int32_t* invperm);
 
@@ -310,8 +310,8 @@ QUORIN_API void QUORIN_CDECL taucs_zccs_times_vec(const taucs_ccs_matrix* A, con
 /* B <- A X, as taucs_ccs_times_vec for each of the columns, which are n elements apart; for m <= n.
      A: a matrix
      count: number of vectors
-     X: [A.n x count]: the vectors
-     B: out, [A.n x count]: the products */
+     X: [A.n x count]: the vectors, n x count elements
+     B: out, [A.n x count]: the products, n x count elements */
 QUORIN_API void QUORIN_CDECL taucs_zccs_times_vec_many(const taucs_ccs_matrix* A, int32_t count,
                                                        const quorin_double_complex* X, quorin_double_complex* B);
 
@@ -328,25 +328,25 @@ QUORIN_API quorin_double_complex* QUORIN_CDECL taucs_zvec_create(int32_t n);
 /* r <- a x + b y; a and b are real for complex vectors, too.
      n: columns of a matrix, elements of a vector
      a: factor of x
-     x: [n]: a vector
+     x: [n]: a vector of n elements
      b: factor of y
-     y: [n]: a vector
-     r: out, [n]: the sum; may be x or y */
+     y: [n]: a vector of n elements
+     r: out, [n]: the sum, n elements; may be x or y */
 QUORIN_API void QUORIN_CDECL taucs_zvec_axpby(int32_t n, double a, const quorin_double_complex* x, double b,
                                               const quorin_double_complex* y, quorin_double_complex* r);
 
 /* pv[i] <- v[p[i]]. Nothing is done if a number of p does not lie from 0 to n-1.
      n: columns of a matrix, elements of a vector
-     v: [n]: a vector
-     pv: out, [n]: v permuted, another array than v
+     v: [n]: a vector of n elements
+     pv: out, [n]: v permuted, n elements, another array than v
      p: [n]: a permutation */
 QUORIN_API void QUORIN_CDECL taucs_zvec_permute(int32_t n, const quorin_double_complex* v, quorin_double_complex* pv,
                                                 const int32_t* p);
 
 /* pv[p[i]] <- v[i]. Nothing is done if a number of p does not lie from 0 to n-1.
      n: columns of a matrix, elements of a vector
-     v: [n]: a vector
-     pv: out, [n]: v permuted, another array than v
+     v: [n]: a vector of n elements
+     pv: out, [n]: v permuted, n elements, another array than v
      p: [n]: a permutation */
 QUORIN_API void QUORIN_CDECL taucs_zvec_ipermute(int32_t n, const quorin_double_complex* v, quorin_double_complex* pv,
                                                  const int32_t* p);
@@ -355,7 +355,7 @@ QUORIN_API void QUORIN_CDECL taucs_zvec_ipermute(int32_t n, const quorin_double_
 
 /* Keeps the name of a log file, which nothing is ever written to; stderr, stdout and none change nothing. To be called
    before any concurrent use.
-     name: the name, of which 511 characters are kept */
+     name: the name, ended by a zero, of which 511 characters are kept */
 QUORIN_API void QUORIN_CDECL taucs_logfile(const char* name);
 
 /* Seconds since midnight, universal time, so that an interval across midnight is negative. */
@@ -381,8 +381,8 @@ QUORIN_API int32_t QUORIN_CDECL taucs_maximize_stacksize(void);
    colamd stops the process if there is none for the two arrays.
      A: a matrix
      perm: out: the permutation
-     invperm: out: its inverse
-     name: the method, exactly (metis, genmmd, camd, tree, colamd, random, identity) */
+     invperm: out: its inverse, n elements
+     name: the method, ended by a zero, exactly (metis, genmmd, camd, tree, colamd, random, identity) */
 QUORIN_API void QUORIN_CDECL taucs_ccs_order(const taucs_ccs_matrix* A, int32_t** perm, int32_t** invperm,
                                              const char* name);
 
@@ -445,14 +445,14 @@ QUORIN_API taucs_ccs_matrix* QUORIN_CDECL taucs_ccs_factor_ldlt_maxdepth(const t
 
 /* x <- (L L^H)^-1 b with what taucs_ccs_factor_llt gave; x may be b.
      L: a lower triangular matrix, the diagonal entry first in each column; row indices are not checked
-     x: the solution
-     b: the right-hand side */
+     x: the solution, n elements
+     b: the right-hand side, n elements */
 QUORIN_API int32_t QUORIN_CDECL taucs_ccs_solve_llt(void* L, void* x, const void* b);
 
 /* x <- (L D L^H)^-1 b with what taucs_ccs_factor_ldlt gave; x may be b.
      L: a lower triangular matrix, the diagonal entry first in each column; row indices are not checked
-     x: the solution
-     b: the right-hand side */
+     x: the solution, n elements
+     b: the right-hand side, n elements */
 QUORIN_API int32_t QUORIN_CDECL taucs_ccs_solve_ldlt(void* L, void* x, const void* b);
 
 /* ---- Factors in panels ---- */
@@ -530,8 +530,8 @@ QUORIN_API int32_t QUORIN_CDECL taucs_ccs_factor_ldlt_numeric(const taucs_ccs_ma
 
 /* x <- A^-1 b with L L^H; x may be b.
      L: a factor with numbers
-     x: the solution
-     b: the right-hand side */
+     x: the solution, n elements
+     b: the right-hand side, n elements */
 QUORIN_API int32_t QUORIN_CDECL taucs_supernodal_solve_llt(void* L, void* x, const void* b);
 
 /* X <- A^-1 B with L D L^T or L D L^H. X may be B if ld_X is ld_B.
@@ -547,8 +547,8 @@ QUORIN_API int32_t QUORIN_CDECL taucs_supernodal_solve_ldlt_many(void* L, int32_
 /* x <- A^-1 b with an out-of-core factor, L L^H or L D L^T, in the order of its own: that of perm in the factor object
    of taucs_linsolve, which makes it. x may be b.
      L: the factor in a factor object of kind 4
-     x: the solution, permuted
-     b: the right-hand side, permuted */
+     x: the solution, n elements, permuted
+     b: the right-hand side, n elements, permuted */
 QUORIN_API int32_t QUORIN_CDECL taucs_ooc_solve_llt(void* L, void* x, const void* b);
 
 /* How many pivots of L D L^T or L D L^H are zero, positive and negative; by Sylvester's law as many eigenvalues of A
@@ -686,7 +686,7 @@ QUORIN_API void* QUORIN_CDECL taucs_vec_read_binary(int32_t n, int32_t flags, co
 /* Writes over the first n elements of a file, which is made if there is none; the rest of a longer one stays.
      n: columns of a matrix, elements of a vector
      flags: the type; TAUCS_SINGLE and TAUCS_SCOMPLEX are types here, too
-     v: a vector
+     v: a vector of n elements
      filename: name of a file, ended by a zero */
 QUORIN_API int32_t QUORIN_CDECL taucs_vec_write_binary(int32_t n, int32_t flags, const void* v, const char* filename);
 

@@ -76,8 +76,8 @@ QUORIN_API int32_t QUORIN_CDECL strnlsp_init_Idx(void** handle, const int32_t* n
 
 /* One leg. At the end x is the best point found and fvec its F.
      handle: in, out: the run
-     fvec: in, out: F, m entries
-     fjac: dF/dx, m x n, column-major: the derivative of fvec as it is, whatever its sign
+     fvec: in, out, [m]: F
+     fjac: [m x n]: dF/dx, column-major: the derivative of fvec as it is, whatever its sign
      RCI_Request: in, out: what the host is to do, or why the run ended */
 QUORIN_API int32_t QUORIN_CDECL strnlsp_solve(void** handle, float* fvec, const float* fjac, int32_t* RCI_Request);
 QUORIN_API int32_t QUORIN_CDECL strnlsp_solve_Idx(void** handle, float* fvec, int32_t fvec_index, const float* fjac,
@@ -123,8 +123,8 @@ QUORIN_API int32_t QUORIN_CDECL strnlspbc_init_Idx(void** handle, const int32_t*
 
 /* One leg. At the end x is the best point found and fvec its F.
      handle: in, out: the run
-     fvec: in, out: F, m entries
-     fjac: dF/dx, m x n, column-major: the derivative of fvec as it is, whatever its sign
+     fvec: in, out, [m]: F
+     fjac: [m x n]: dF/dx, column-major: the derivative of fvec as it is, whatever its sign
      RCI_Request: in, out: what the host is to do, or why the run ended */
 QUORIN_API int32_t QUORIN_CDECL strnlspbc_solve(void** handle, float* fvec, const float* fjac, int32_t* RCI_Request);
 QUORIN_API int32_t QUORIN_CDECL strnlspbc_solve_Idx(void** handle, float* fvec, int32_t fvec_index, const float* fjac,
