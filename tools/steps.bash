@@ -36,7 +36,15 @@ prepare() {
   local needs=$1 target
   shift
   step "Packages of this machine" tools/setup
+  remember_compilations
   for target in "$@"; do step "Dependencies for $target" third_party/build "$target" $needs; done
+}
+
+# What was compiled once is not compiled again, in whatever folder the tree lies: the compilers' results stay in the cache, too.
+remember_compilations() {
+  [[ -z ${CMAKE_CXX_COMPILER_LAUNCHER:-} ]] && command -v ccache >/dev/null || return 0
+  export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache
+  export CCACHE_DIR=$QUORIN_CACHE/ccache CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=1 CCACHE_MAXSIZE=4G
 }
 
 # Wine takes seconds to start, unless its server and its services stay. They get no descriptor of ours, or whoever reads our
