@@ -25,6 +25,12 @@ def table_of(family: Family) -> str:
     return f"exports/tables/{family.name}.table"
 
 
+def example(family: Family) -> str:
+    """The program that the family's page begins with."""
+    (path,) = (ROOT / "examples/c").glob(f"{family.name}_*.c")
+    return path.read_text()
+
+
 def committed_files(families: list[Family]) -> dict[str, str]:
     head = (ROOT / "exports/tables/contents.md").read_text()
     files = {
@@ -36,7 +42,8 @@ def committed_files(families: list[Family]) -> dict[str, str]:
     }
     for family in families:
         files[f"include/quorin/{family.name}.h"] = headers.header(family, table_of(family))
-        files.update((f"docs/manual/{name}", text) for name, text in manual.pages(family, table_of(family)).items())
+        pages = manual.pages(family, table_of(family), example(family))
+        files.update((f"docs/manual/{name}", text) for name, text in pages.items())
     return files
 
 

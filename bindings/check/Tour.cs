@@ -1,5 +1,6 @@
 // The tour of the bindings in C#: each step prints a line, the first wrong one ends with status 1.
 using System;
+using System.Reflection;
 using Quorin.Lapacks;
 
 static class Tour
@@ -87,6 +88,39 @@ static class Tour
         foreach (double value in x) Expect("DCG", value, 1, 1e-8);
     }
 
+    static void DirectSolution()
+    {
+        // The same system, its upper triangle by rows.
+        const int n = 10;
+        int[] starts = new int[n + 1], columns = new int[2 * n - 1];
+        double[] values = new double[2 * n - 1], b = new double[n];
+        for (int i = 0; i < n; ++i)
+        {
+            starts[i + 1] = Math.Min(2 * (i + 1), 2 * n - 1);
+            columns[2 * i] = i;
+            values[2 * i] = 2;
+            if (i + 1 == n) break;
+            columns[2 * i + 1] = i + 1;
+            values[2 * i + 1] = -1;
+        }
+        b[0] = b[n - 1] = 1;
+        using (var solver = new DirectSolver(starts, columns, Pardiso.QUORIN_PARDISO_REAL_POSITIVE_DEFINITE))
+        {
+            solver.Factorize(values);
+            foreach (double value in solver.Solve(b)) Expect("DirectSolver", value, 1, 1e-12);
+            values[0] = -2;
+            try
+            {
+                solver.Factorize(values);
+                Expect("an indefinite matrix is refused", 0, 1, 0);
+            }
+            catch (LapacksException e)
+            {
+                Expect("an indefinite matrix is refused", e.Status, Pardiso.QUORIN_PARDISO_NUMERIC_FAILED, 0);
+            }
+        }
+    }
+
     static void LeastSquaresUnderCollection()
     {
         using (var fit = new LeastSquaresFit(new float[] { 1, 1 }, 8, (x, f) =>
@@ -112,8 +146,16 @@ static class Tour
         Factors();
         ReportThroughTheCallback();
         ConjugateGradients();
+        DirectSolution();
         LeastSquaresUnderCollection();
         Console.WriteLine("the tour is right");
+        // The examples are compiled with it.
+        foreach (Type type in typeof(Tour).Assembly.GetTypes())
+        {
+            const BindingFlags Own = BindingFlags.Static | BindingFlags.NonPublic | BindingFlags.DeclaredOnly;
+            MethodInfo main = type.GetMethod("Main", Own, null, Type.EmptyTypes, null);
+            if (main != null) Expect(type.Name, (int)main.Invoke(null, null), 0, 0);
+        }
         return 0;
     }
 }

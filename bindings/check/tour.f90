@@ -77,6 +77,31 @@ contains
     end do
   end subroutine
 
+  ! The same system by the direct solver: its upper triangle by rows.
+  subroutine direct_solution
+    integer(c_int32_t), parameter :: n = 10
+    integer(c_int32_t) :: starts(n + 1), columns(2 * n - 1), iparm(64), error, i
+    real(c_double), target :: values(2 * n - 1), b(n), x(n)
+    type(c_ptr) :: handle(64)
+    starts = [(2 * i - 1, i = 1, n), 2 * n]
+    columns(1::2) = [(i, i = 1, n)]
+    columns(2::2) = [(i + 1, i = 1, n - 1)]
+    values(1::2) = 2
+    values(2::2) = -1
+    b = 0
+    b(1) = 1
+    b(n) = 1
+    call spardisoinit(handle, quorin_pardiso_real_positive_definite, iparm)
+    call pardiso(handle, 1, 1, quorin_pardiso_real_positive_definite, quorin_pardiso_analyse_factorize_solve, n, &
+      c_loc(values), starts, columns, nrhs=1, iparm=iparm, msglvl=quorin_pardiso_silent, b=c_loc(b), x=c_loc(x), error=error)
+    call expect('PARDISO, error', real(error, c_double), 0d0, 0d0)
+    do i = 1, n
+      call expect('PARDISO', x(i), 1d0, 1d-12)
+    end do
+    call pardiso(handle, phase=quorin_pardiso_free_all, a=c_null_ptr, b=c_null_ptr, x=c_null_ptr, error=error)
+    call expect('PARDISO, freed', real(error, c_double), 0d0, 0d0)
+  end subroutine
+
   ! a exp(-b t) - y at t = 0, 1, ..., y being 3 exp(-t/2).
   subroutine decay(m, n, x, f) bind(c)
     integer(c_int32_t), intent(in) :: m, n
@@ -115,6 +140,7 @@ program tour
   call singular_values
   call sparse_lu
   call conjugate_gradients
+  call direct_solution
   call least_squares
   print '(a)', 'the tour is right'
 end program

@@ -112,6 +112,42 @@ begin
   for I := 0 to N - 1 do Expect('DCG', X[I], 1, 1e-8);
 end;
 
+{ The same system by the direct solver: its upper triangle by rows, from 1. }
+procedure DirectSolution;
+const
+  N = 10;
+var
+  Starts: array[0..N] of Int32;
+  Columns: array[0..2 * N - 1] of Int32;
+  Values: array[0..2 * N - 1] of Double;
+  X, B: array[0..N - 1] of Double;
+  Handle: array[0..63] of Pointer;
+  Iparm: array[0..63] of Int32;
+  Kind, Order, One, Silent, Error, I: Int32;
+begin
+  for I := 0 to N - 1 do
+  begin
+    Starts[I] := 2 * I + 1;
+    Columns[2 * I] := I + 1;
+    Values[2 * I] := 2;
+    Columns[2 * I + 1] := I + 2;
+    Values[2 * I + 1] := -1;
+    B[I] := Ord((I = 0) or (I = N - 1));
+  end;
+  Starts[N] := 2 * N;
+  Order := N;
+  One := 1;
+  Silent := QUORIN_PARDISO_SILENT;
+  Kind := QUORIN_PARDISO_REAL_POSITIVE_DEFINITE;
+  sPARDISOINIT(@Handle, Kind, @Iparm);
+  PARDISO(@Handle, @One, @One, @Kind, QUORIN_PARDISO_ANALYSE_FACTORIZE_SOLVE, @Order, @Values, @Starts, @Columns, nil, @One, @Iparm,
+    @Silent, @B, @X, Error);
+  Expect('PARDISO, error', Error, QUORIN_PARDISO_DONE, 0);
+  for I := 0 to N - 1 do Expect('PARDISO', X[I], 1, 1e-12);
+  PARDISO(@Handle, nil, nil, nil, QUORIN_PARDISO_FREE_ALL, nil, nil, nil, nil, nil, nil, nil, nil, nil, nil, Error);
+  Expect('PARDISO, freed', Error, QUORIN_PARDISO_DONE, 0);
+end;
+
 const
   Points = 8;
 
@@ -156,6 +192,7 @@ begin
   SingularValues;
   SparseLU;
   ConjugateGradients;
+  DirectSolution;
   LeastSquares;
   WriteLn('the tour is right');
 end.

@@ -89,6 +89,23 @@ def conjugate_gradients():
         expect("DCG", value, 1, 1e-8)
 
 
+def direct_solution():
+    n = 10  # the same system, its upper triangle by rows, from 1
+    starts = array.array("i", [2 * i + 1 for i in range(n)] + [2 * n])
+    columns = array.array("i", [j for i in range(1, n + 1) for j in (i, i + 1)][:-1])
+    values, b = array.array("d", ([2, -1] * n)[:-1]), array.array("d", [1] + [0] * (n - 2) + [1])
+    x, iparm, error = lapacks.array("d", n), lapacks.array("i", 64), ctypes.c_int32()
+    handle, kind = (ctypes.c_void_p * 64)(), lapacks.QUORIN_PARDISO_REAL_POSITIVE_DEFINITE
+    lapacks.sPARDISOINIT(handle, kind, iparm)
+    phase, silent = lapacks.QUORIN_PARDISO_ANALYSE_FACTORIZE_SOLVE, lapacks.QUORIN_PARDISO_SILENT
+    lapacks.sPARDISO_64f_Idx(handle, 1, 1, kind, phase, n, values, 0, starts, 0, columns, 0, None, 0, 1, iparm, 0, silent, b, 0, x, 0, error)
+    expect("PARDISO, error", error.value, lapacks.QUORIN_PARDISO_DONE)
+    for value in x:
+        expect("PARDISO", value, 1, 1e-12)
+    lapacks.PARDISO(handle, *[None] * 3, lapacks.QUORIN_PARDISO_FREE_ALL, *[None] * 10, error)
+    expect("PARDISO, freed", error.value, lapacks.QUORIN_PARDISO_DONE)
+
+
 def least_squares_under_collection():
     m, n = 8, 2
 
@@ -125,5 +142,6 @@ dot_product_inside_an_array()
 singular_values()
 sparse_lu()
 conjugate_gradients()
+direct_solution()
 least_squares_under_collection()
 print("the tour is right")

@@ -190,10 +190,11 @@ def section_text(family: Family, section: Section, head_page: str) -> str:
     return "\n".join(entry(family, group, head_page) for group in family.twins(section))
 
 
-def pages(family: Family, table: str) -> dict[str, str]:
-    """File names and texts: one page, or one with what all sections share and one for each section."""
+def pages(family: Family, table: str, example: str = "") -> dict[str, str]:
+    """File names and texts: one page, or one with what all sections share and one for each section. `example` is a C program."""
     mark = f"<!-- Generated from {table}. Do not edit. -->\n"
     parts = [f"# {family.title}\n", mark, *(paragraph + "\n" for paragraph in family.text)]
+    parts += [f"## Example\n\n```c\n{example}```\n"] * bool(example)
     texts = {}
     if is_split(family):
         parts.append("## Sections\n")
