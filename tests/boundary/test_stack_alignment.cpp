@@ -1,6 +1,9 @@
-// Hosts align the stack to 4 bytes only. Every family must work, and compute the same bits, from each of the four
-// alignments that a call can have. (The BLAS's own test does the same for each of its routines.)
+// Hosts of 32-bit Windows have stacks of many kinds. They align them to 4 bytes only. Every family must work, and
+// compute the same bits, from each of the four alignments that a call can have. (The BLAS's own test does the same for
+// each of its routines.)
 #include <gtest/gtest.h>
+#include <intrin.h>
+#include <windows.h>
 
 #include <cstdint>
 #include <vector>
@@ -62,6 +65,25 @@ TEST_P(StackAlignment, DoesNotMatterToTheErrorHandler) {
     EXPECT_EQ(captured([&] { call_with_stack(any(product_->XERBLA), slots, 3, residue); }),
               "\nIntel MKL ERROR: Parameter 5 was incorrect on entry to SGEMM.\n");
   }
+}
+
+// A host may run the library on a stack of its own, whose end is the thread's first exception record: two words, and
+// nothing is behind them.
+TEST_P(StackAlignment, MayEndWithTheFirstExceptionRecord) {
+  constexpr std::size_t kPage = 4096;
+  auto* pages = static_cast<std::uintptr_t*>(VirtualAlloc(nullptr, 2 * kPage, MEM_RESERVE, PAGE_NOACCESS));
+  ASSERT_NE(VirtualAlloc(pages, kPage, MEM_COMMIT, PAGE_READWRITE), nullptr);
+  const unsigned long first = __readfsdword(0);
+  std::uintptr_t* record = pages + kPage / sizeof *pages - 2;
+  record[0] = first;
+  record[1] = reinterpret_cast<std::uintptr_t*>(first)[1];
+  for (const FamilyCall& call : family_calls()) {
+    __writefsdword(0, static_cast<unsigned long>(reinterpret_cast<std::uintptr_t>(record)));
+    const Results found = call.run(*product_, 0);
+    __writefsdword(0, first);
+    EXPECT_FALSE(found.empty()) << call.name;
+  }
+  VirtualFree(pages, 0, MEM_RELEASE);
 }
 
 INSTANTIATE_TEST_SUITE_P(Threads, StackAlignment, testing::Values(1, 2, 4));
