@@ -14,7 +14,7 @@ import sys
 from pathlib import Path
 
 from generator import constants, headers, linking, loader, manual, released, tables, thunks
-from generator.bindings import csharp, fortran, pascal, python, visual_basic
+from generator.bindings import csharp, fortran, go, node, pascal, python, visual_basic
 from generator.model import Family
 from generator.product import PRODUCT
 
@@ -69,9 +69,10 @@ def build_files(families: list[Family]) -> dict[str, str]:
 def binding_files(families: list[Family]) -> dict[str, str]:
     files = {
         "fortran/quorin_lapacks.f90": fortran.source(families),
+        "go/exports_windows_386.go": go.source(families),
         "python/quorin_lapacks/_exports.py": python.source(families),
     }
-    for language, module in (("csharp", csharp), ("pascal", pascal), ("vb", visual_basic)):
+    for language, module in (("csharp", csharp), ("node", node), ("pascal", pascal), ("vb", visual_basic)):
         files.update((f"{language}/{name}", text) for name, text in module.files(families).items())
     return files
 

@@ -7,7 +7,7 @@ from xml.sax.saxutils import escape
 from generator import model
 from generator.bindings import names
 from generator.bindings.names import Parameter
-from generator.model import Argument, Callback, ElementType, Family, Note, Record, Routine
+from generator.model import Callback, ElementType, Family, Record, Routine
 from generator.text import fill
 
 WIDTH = 140
@@ -93,7 +93,7 @@ class Writer:
         lines = [self.line("summary", routine.summary)]
         for argument in routine.arguments:
             note = family.note(routine, argument.name)
-            lines.append(self.line("param", meaning(argument, note), argument.name))
+            lines.append(self.line("param", names.meaning(argument, note), argument.name))
             if is_index_form and argument.has_index:
                 text = "ignored" if argument.kind == model.IGNORED else f"element of {argument.name} with which it begins"
                 lines.append(self.line("param", text, f"{argument.name}_index"))
@@ -150,18 +150,6 @@ class Writer:
             parts += [self.line("summary", text) + f"        {letter} = (byte)'{letter}',\n" for letter, text in letters.items()]
             parts.append("    }\n\n")
         return "".join(parts).rstrip() + "\n}\n"
-
-
-def meaning(argument: Argument, note: Note | None) -> str:
-    direction = {model.IN: "", model.OUT: "out", model.INOUT: "in, out"}[argument.direction]
-    size = f"[{argument.size_text()}]" if argument.is_array and argument.shape else ""
-    passed = ", ".join(part for part in (direction, size, "may be null" if argument.is_nullable else "") if part)
-    text = note.text if note else ""
-    if note and note.options:
-        text += " (" + "; ".join(f"{o.name or o.value} {o.text}" for o in note.options) + ")"
-    if argument.is_kept:
-        text += "; kept: the address must stay valid, pinned, until the object is deleted"
-    return ": ".join(part for part in (passed, text) if part)
 
 
 def files(families: list[Family]) -> dict[str, str]:

@@ -7,7 +7,7 @@ from dataclasses import dataclass
 from itertools import groupby
 
 from generator import model
-from generator.model import Argument, Callback, ElementType, Family, Routine
+from generator.model import Argument, Callback, ElementType, Family, Note, Routine
 
 # How a parameter is passed: by value; the address of one value; the address of an array, or of one value that may be
 # missing; the index behind it.
@@ -60,6 +60,19 @@ def distinct(names: list[str], is_taken: Callable[[str], bool], key: Callable[[s
             name += "_"
         chosen.append(name)
     return chosen
+
+
+def meaning(argument: Argument, note: Note | None) -> str:
+    """What an argument is, in one line."""
+    direction = {model.IN: "", model.OUT: "out", model.INOUT: "in, out"}[argument.direction]
+    size = f"[{argument.size_text()}]" if argument.is_array and argument.shape else ""
+    passed = ", ".join(part for part in (direction, size, "may be null" if argument.is_nullable else "") if part)
+    text = note.text if note else ""
+    if note and note.options:
+        text += " (" + "; ".join(f"{o.name or o.value} {o.text}" for o in note.options) + ")"
+    if argument.is_kept:
+        text += "; kept: the address must stay valid, pinned, until the object is deleted"
+    return ": ".join(part for part in (passed, text) if part)
 
 
 def exports(family: Family) -> Iterator[tuple[Routine, str, bool]]:

@@ -1,0 +1,3 @@
+module quorin/lapacks
+
+go 1.19
