@@ -11,17 +11,21 @@ double dot(std::size_t n, const double* x, const double* y) {
 }
 
 double sum_of_squares(std::size_t n, const float* x) {
-  constexpr std::size_t kSums = 8;
-  double sums[kSums] = {};
+  Lanes<double> sum0{}, sum1{}, sum2{}, sum3{};  // an array would not stay in registers
+  const auto add_squares = [](Lanes<float> four, Lanes<double>& low, Lanes<double>& high) {
+    const auto first = __builtin_convertvector(__builtin_shufflevector(four, four, 0, 1), Lanes<double>);
+    const auto last = __builtin_convertvector(__builtin_shufflevector(four, four, 2, 3), Lanes<double>);
+    low += first * first;
+    high += last * last;
+  };
   std::size_t i = 0;
-  for (; i + kSums <= n; i += kSums) {
-    for (std::size_t k = 0; k < kSums; ++k) sums[k] += static_cast<double>(x[i + k]) * x[i + k];
+  for (; i + 8 <= n; i += 8) {
+    add_squares(load(x + i), sum0, sum1);
+    add_squares(load(x + i + 4), sum2, sum3);
   }
-  for (; i < n; ++i) sums[0] += static_cast<double>(x[i]) * x[i];
-  for (std::size_t half = kSums / 2; half > 0; half /= 2) {
-    for (std::size_t k = 0; k < half; ++k) sums[k] += sums[k + half];
-  }
-  return sums[0];
+  double rest = 0;
+  for (; i < n; ++i) rest += static_cast<double>(x[i]) * x[i];
+  return sum_of_lanes<double>((sum0 + sum2) + (sum1 + sum3)) + rest;
 }
 
 double norm(std::size_t n, const double* x) {

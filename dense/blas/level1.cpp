@@ -66,7 +66,10 @@ void copy(int n, const T* x, int incx, T* y, int incy) {
 template <Scalar T>
 void swap(int n, T* x, int incx, T* y, int incy) {
   if (are_contiguous(incx, incy) && !is_short(n)) {
-    std::swap_ranges(x, x + std::max(n, 0), y);
+    // As reals, which the compiler exchanges by whole registers.
+    constexpr int kParts = kIsComplex<T> ? 2 : 1;
+    auto* const first = reinterpret_cast<RealOf<T>*>(x);
+    std::swap_ranges(first, first + std::ptrdiff_t{kParts} * std::max(n, 0), reinterpret_cast<RealOf<T>*>(y));
     return;
   }
   for_each_pair(n, x, incx, y, incy, [](T& xi, T& yi) { std::swap(xi, yi); });
@@ -92,7 +95,7 @@ RealOf<T> nrm2(int n, const T* x, int incx) {
   constexpr int kParts = kIsComplex<T> ? 2 : 1;
   if (n <= 0) return 0;
   double sum = 0;
-  if (incx == 1) {
+  if (incx == 1 && !is_short(n)) {
     sum = base::sum_of_squares(std::size_t{kParts} * static_cast<std::size_t>(n), reinterpret_cast<const float*>(x));
   } else {
     // The same elements from the other end for a negative stride.
@@ -109,6 +112,11 @@ RealOf<T> nrm2(int n, const T* x, int incx) {
 template <Scalar T>
 RealOf<T> asum(int n, const T* x, int incx) {
   if (n <= 0 || incx <= 0) return 0;
+  if (is_short(n)) {
+    RealOf<T> sum = 0;
+    for (int i = 0; i < n; ++i) sum += magnitude(x[static_cast<std::ptrdiff_t>(i) * incx]);
+    return sum;
+  }
   constexpr int kSums = 16;  // independent, so that additions overlap and the compiler can vectorise them
   RealOf<T> sums[kSums] = {};
   int i = 0;

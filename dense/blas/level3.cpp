@@ -6,6 +6,7 @@
 #include "dense/blas/partition.hpp"
 #include "dense/blocked/buffers.hpp"
 #include "dense/blocked/level3.hpp"
+#include "dense/kernels/kernel_set.hpp"
 #include "dense/kernels/small_product.hpp"
 
 namespace quorin::dense {
@@ -36,10 +37,12 @@ int threads_for_work(double multiplications) {
   return threads_for(work, kMultiplicationsPerThread, base::region_threads(base::Domain::kBlas));
 }
 
-// Calls body(threads) with that many packing buffers ready, or reports that there are none.
+// For an operation that makes `share` of m by n by k multiplications: calls body(threads) with that many packing
+// buffers ready, or reports that there are none.
 template <Scalar T, class Body>
-void with_buffers(const char* operation, double multiplications, const Body& body) {
-  const blocked::BufferReservation buffers(threads_for_work<T>(multiplications));
+void with_buffers(const char* operation, int m, int n, int k, double share, const Body& body) {
+  if (kernels::is_small<T>(m, n, k)) return body(1);  // its buffer is on the stack
+  const blocked::BufferReservation buffers(threads_for_work<T>(share * m * n * k));
   if (buffers.granted() == 0) return ArgumentCheck<T>::report(operation, base::kInsufficientWorkspace);
   body(buffers.granted());
 }
@@ -61,7 +64,7 @@ void symmetric_product(const char* operation, Symmetric<T>* routine, char side, 
                                   .require(12, ldc >= least_leading_dimension(m))
                                   .passed();
   if (!arguments_hold || m == 0 || n == 0 || (alpha == T{} && beta == T{1})) return;
-  with_buffers<T>(operation, static_cast<double>(m) * n * order, [&](int threads) {
+  with_buffers<T>(operation, m, n, order, 1, [&](int threads) {
     routine(upper(side), upper(uplo), m, n, alpha, a, lda, b, ldb, beta, c, ldc, threads);
   });
 }
@@ -83,7 +86,7 @@ void triangular(const char* operation, Triangular<T>* routine, char side, char u
                                   .require(11, ldb >= least_leading_dimension(m))
                                   .passed();
   if (!arguments_hold || m == 0 || n == 0) return;
-  with_buffers<T>(operation, static_cast<double>(m) * n * order / 2, [&](int threads) {
+  with_buffers<T>(operation, left ? n : m, order, order / 2, 1, [&](int threads) {
     routine(upper(side), upper(uplo), upper(transa), upper(diag), m, n, alpha, a, lda, b, ldb, threads);
   });
 }
@@ -107,7 +110,7 @@ void rank_k(const char* operation, RankK<T, Factor>* routine, char uplo, char tr
                                   .require(10, ldc >= least_leading_dimension(n))
                                   .passed();
   if (!arguments_hold || n == 0 || ((alpha == Factor{} || k == 0) && beta == Factor{1})) return;
-  with_buffers<T>(operation, static_cast<double>(n) * n * k / 2,
+  with_buffers<T>(operation, n, n, k, 0.5,
                   [&](int threads) { routine(upper(uplo), upper(trans), n, k, alpha, a, lda, beta, c, ldc, threads); });
 }
 
@@ -121,7 +124,7 @@ void rank_2k(const char* operation, Rank2K<T, BetaFactor>* routine, char uplo, c
                                   .require(12, ldc >= least_leading_dimension(n))
                                   .passed();
   if (!arguments_hold || n == 0 || ((alpha == T{} || k == 0) && beta == BetaFactor{1})) return;
-  with_buffers<T>(operation, static_cast<double>(n) * n * k, [&](int threads) {
+  with_buffers<T>(operation, n, n, k, 1, [&](int threads) {
     routine(upper(uplo), upper(trans), n, k, alpha, a, lda, b, ldb, beta, c, ldc, threads);
   });
 }
@@ -146,7 +149,7 @@ void gemm(char transa, char transb, int m, int n, int k, T alpha, const T* a, in
   if (is_small_product<T>(m, n, k)) {
     return small_product<T>(m, n, k, alpha, {transa, a, lda}, {transb, b, ldb}, beta, c, ldc);
   }
-  with_buffers<T>("GEMM", static_cast<double>(m) * n * k, [&](int threads) {
+  with_buffers<T>("GEMM", m, n, k, 1, [&](int threads) {
     blocked::gemm(upper(transa), upper(transb), m, n, k, alpha, a, lda, b, ldb, beta, c, ldc, threads);
   });
 }

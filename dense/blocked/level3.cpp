@@ -1,8 +1,10 @@
 #include "dense/blocked/level3.hpp"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstddef>
+#include <optional>
 
 #include "base/parallel.hpp"
 #include "dense/blas/partition.hpp"
@@ -38,16 +40,37 @@ View<T> symmetric_view(char uplo, bool is_hermitian, const T* a, int lda) noexce
   return {a, 1, lda, false, uplo == 'U' ? Structure::kUpper : Structure::kLower, is_hermitian && kIsComplex<T>};
 }
 
+// What one thread computes a part of an operation with: kernels, a buffer, and the care for registers. The size of the
+// whole operation chooses, so that bits do not depend on how it is cut.
 template <Scalar T>
-void multiply(const Product<T>& product) noexcept {
-  const LentBuffer buffer;
-  const kernels::KernelSet<T>& set = kernels::kernels<T>();
-  set.multiply(product, set.blocking, buffer.data());
-}
+class Workshop {
+ public:
+  explicit Workshop(bool is_small) noexcept
+      : set_(is_small ? kernels::small_kernels<T>() : kernels::kernels<T>()), buffer_(small_buffer_.data()) {
+    if (!is_small) buffer_ = lent_.emplace().data();
+  }
+  ~Workshop() {
+    if (set_.uses_wide_registers) kernels::leave_wide_registers();
+  }
+  Workshop(const Workshop&) = delete;
+  Workshop& operator=(const Workshop&) = delete;
+
+  void multiply(const Product<T>& product) const noexcept { set_.multiply(product, set_.blocking, buffer_); }
+  void solve_triangle(const TriangleBlock<T>& block) const noexcept { set_.solve_triangle(block, buffer_); }
+  void multiply_triangle(const TriangleBlock<T>& block) const noexcept { set_.multiply_triangle(block, buffer_); }
+
+ private:
+  const kernels::KernelSet<T>& set_;
+  std::byte* buffer_;
+  std::optional<LentBuffer> lent_;
+  alignas(kernels::kBufferAlignment) std::array<std::byte, kernels::kSmallBufferBytes> small_buffer_;
+};
 
 // A whole product, cut into a grid.
 template <Scalar T>
 void multiply(const Product<T>& product, int threads) noexcept {
+  const bool is_small = kernels::is_small<T>(product.rows, product.columns, product.k);
+  if (threads == 1) return Workshop<T>(is_small).multiply(product);
   const Grid grid = make_grid(product.rows, product.columns, threads);
   base::parallel_for(grid.rows * grid.columns, threads, [&](int cell) {
     const Range rows = part_range(product.rows, grid.rows, cell % grid.rows, kRowTile);
@@ -57,7 +80,7 @@ void multiply(const Product<T>& product, int threads) noexcept {
     part.rows = rows.count;
     part.first_column = columns.first;
     part.columns = columns.count;
-    multiply(part);
+    Workshop<T>(is_small).multiply(part);
   });
 }
 
@@ -96,7 +119,9 @@ template <Scalar T, class BetaFactor>
 void update_triangle(char uplo, bool is_hermitian, int n, BetaFactor beta, T* c, int ldc, int threads,
                      const Product<T>* products, int count) noexcept {
   const bool is_upper = uplo == 'U';
+  const bool is_small = kernels::is_small<T>(n, n, products[0].k);
   split_triangle(is_upper, n, threads, [&](Range columns) {
+    const Workshop<T> workshop(is_small);
     const Range rows = rows_of(is_upper, n, columns);
     if (is_hermitian) make_diagonal_real(c, ldc, columns);
     T rest = beta;
@@ -120,7 +145,7 @@ void update_triangle(char uplo, bool is_hermitian, int n, BetaFactor beta, T* c,
       part.first_column = columns.first;
       part.columns = columns.count;
       part.part = is_upper ? Part::kUpper : Part::kLower;
-      multiply(part);
+      workshop.multiply(part);
     }
     if (is_hermitian) make_diagonal_real(c, ldc, columns);
   });
@@ -144,6 +169,7 @@ template <Scalar T>
 struct Triangular {
   bool is_left;
   TriangleBlock<T> whole;  // order, count: all
+  const Workshop<T>& workshop;
 
   // x_p..: sums over q < h of L(p, q) x_q, times `sign`, are added to the x_p of h <= p < order.
   void add_products(int first, int h, int order, T sign) const noexcept {
@@ -157,29 +183,29 @@ struct Triangular {
                          x_step = direction * w.x_step;
     T *const sums = w.x + p * w.x_step, *const terms = w.x + q * w.x_step;
     if (is_left) {
-      multiply(Product<T>{{l, row_step, column_step, w.is_conjugated},
-                          {terms, 1, w.vector_step},
-                          h,
-                          sign,
-                          T{1},
-                          sums,
-                          w.vector_step,
-                          0,
-                          order - h,
-                          0,
-                          w.count});
+      workshop.multiply(Product<T>{{l, row_step, column_step, w.is_conjugated},
+                                   {terms, 1, w.vector_step},
+                                   h,
+                                   sign,
+                                   T{1},
+                                   sums,
+                                   w.vector_step,
+                                   0,
+                                   order - h,
+                                   0,
+                                   w.count});
     } else {
-      multiply(Product<T>{{terms, 1, x_step},
-                          {l, column_step, row_step, w.is_conjugated},
-                          h,
-                          sign,
-                          T{1},
-                          sums,
-                          x_step,
-                          0,
-                          w.count,
-                          0,
-                          order - h});
+      workshop.multiply(Product<T>{{terms, 1, x_step},
+                                   {l, column_step, row_step, w.is_conjugated},
+                                   h,
+                                   sign,
+                                   T{1},
+                                   sums,
+                                   x_step,
+                                   0,
+                                   w.count,
+                                   0,
+                                   order - h});
     }
   }
 
@@ -197,10 +223,7 @@ struct Triangular {
   }
 
   void solve(int first, int order) const noexcept {
-    if (order <= kernels::kTriangleOrder) {
-      const LentBuffer buffer;
-      return kernels::kernels<T>().solve_triangle(diagonal_block(first, order), buffer.data());
-    }
+    if (order <= kernels::kTriangleOrder) return workshop.solve_triangle(diagonal_block(first, order));
     const int h = first_half(order);
     solve(first, h);
     add_products(first, h, order, T{-1});
@@ -208,10 +231,7 @@ struct Triangular {
   }
 
   void apply(int first, int order) const noexcept {
-    if (order <= kernels::kTriangleOrder) {
-      const LentBuffer buffer;
-      return kernels::kernels<T>().multiply_triangle(diagonal_block(first, order), buffer.data());
-    }
+    if (order <= kernels::kTriangleOrder) return workshop.multiply_triangle(diagonal_block(first, order));
     const int h = first_half(order);
     apply(first + h, order - h);
     add_products(first, h, order, T{1});
@@ -220,8 +240,8 @@ struct Triangular {
 };
 
 template <Scalar T>
-Triangular<T> triangular(bool is_left, char uplo, char transa, char diag, int order, const T* a, int lda, T* b,
-                         int ldb) noexcept {
+Triangular<T> triangular(bool is_left, char uplo, char transa, char diag, int order, const T* a, int lda, T* b, int ldb,
+                         const Workshop<T>& workshop) noexcept {
   View<T> l = view_of(transa, a, lda);
   bool is_lower = (uplo == 'L') == (transa == 'N');
   if (!is_left) {  // B op(A) is the transpose of op(A)^T B^T
@@ -237,7 +257,9 @@ Triangular<T> triangular(bool is_left, char uplo, char transa, char diag, int or
     l.column_step = -l.column_step;
     x_step = -x_step;
   }
-  return {is_left, {order, l.data, l.row_step, l.column_step, l.is_conjugated, diag == 'U', 0, b, x_step, vector_step}};
+  return {is_left,
+          {order, l.data, l.row_step, l.column_step, l.is_conjugated, diag == 'U', 0, b, x_step, vector_step},
+          workshop};
 }
 
 template <Scalar T, class Run>
@@ -247,15 +269,17 @@ void run_triangular(char side, char uplo, char transa, char diag, int m, int n, 
   const bool is_left = side == 'L';
   const int vectors = is_left ? n : m, order = is_left ? m : n;
   const int parts = std::clamp((vectors + kRowTile - 1) / kRowTile, 1, threads);
+  const bool is_small = kernels::is_small<T>(vectors, order, order / 2);
   base::parallel_for(parts, threads, [&](int i) {
+    const Workshop<T> workshop(is_small);
     const Range part = part_range(vectors, parts, i, kRowTile);
     T* const block = is_left ? at(b, ldb, 0, part.first) : b + part.first;
     if (alpha != T{1}) {
       const int rows = is_left ? m : part.count, columns = is_left ? part.count : n;
-      multiply(Product<T>{{}, {}, 0, T{}, alpha, block, ldb, 0, rows, 0, columns});
+      workshop.multiply(Product<T>{{}, {}, 0, T{}, alpha, block, ldb, 0, rows, 0, columns});
       if (alpha == T{}) return;
     }
-    Triangular<T> operation = triangular(is_left, uplo, transa, diag, order, a, lda, block, ldb);
+    Triangular<T> operation = triangular(is_left, uplo, transa, diag, order, a, lda, block, ldb, workshop);
     operation.whole.count = part.count;
     run(operation, order);
   });

@@ -15,7 +15,7 @@
 #if defined(__clang__)
 #pragma clang attribute push(__attribute__((target("avx2,fma"))), apply_to = function)
 #else
-#pragma GCC target("avx2,fma")
+#pragma GCC target("avx2,fma,prefer-vector-width=128")
 #endif
 #include "dense/kernels/target/set.hpp"
 
@@ -23,6 +23,10 @@ namespace quorin::dense::kernels {
 
 void make_avx2_sets(const platform::CacheSizes& caches, KernelSets& sets) noexcept {
   target::make_sets<target::Avx2>(caches, sets);
+}
+
+void make_avx2_small_sets(const platform::CacheSizes& caches, KernelSets& sets) noexcept {
+  target::make_sets<target::Avx2Small>(caches, sets);
 }
 
 }  // namespace quorin::dense::kernels

@@ -71,6 +71,7 @@ inline constexpr std::size_t kBufferAlignment = 64;
 template <Scalar T>
 struct KernelSet {
   platform::InstructionSet instruction_set;
+  bool uses_wide_registers;  // wider than SSE's: whoever ran a kernel then calls leave_wide_registers()
   Blocking blocking;
   // Rows and columns are best cut at multiples of these.
   int tile_rows, tile_columns;
@@ -83,9 +84,27 @@ struct KernelSet {
 template <Scalar T>
 const KernelSet<T>& kernels() noexcept;
 
+// The chosen set for small operations: its kernels work in registers of SSE's width, because leaving wider ones takes
+// as long as a small operation does. They make the same bits.
+template <Scalar T>
+const KernelSet<T>& small_kernels() noexcept;
+// The buffer that is enough for them.
+inline constexpr int kSmallBufferBytes = 3584;
+
+// Whether an operation with m by n by k multiplications, k being the terms of its sums, is for the small kernels.
+template <Scalar T>
+constexpr bool is_small(int m, int n, int k) noexcept {
+  constexpr double kMost = 2048.0 * sizeof(float) / sizeof(RealOf<T>) / (kIsComplex<T> ? 4 : 1);
+  constexpr double kPanelBytes = (kIsComplex<T> ? 2 : 1) * 7 * 16;  // for a term
+  return static_cast<double>(m) * n * k <= kMost && k * (kPanelBytes + n * double{sizeof(T)}) <= kSmallBufferBytes;
+}
+
 // The kernels of one set, for tests: the processor must have it.
 template <Scalar T>
 const KernelSet<T>& kernels_of(platform::InstructionSet set) noexcept;
+
+// Gives the registers back to code for SSE. It takes some 100 ns in 32-bit code, and nothing elsewhere.
+void leave_wide_registers() noexcept;
 
 // Chooses by the processor, the system and QUORIN_CPU; called at load. The second form is for tests, while nothing
 // else runs.

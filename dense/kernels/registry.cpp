@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
+#include <cstddef>
+#include <cstdint>
 #include <mutex>
 
 #include "dense/kernels/sets.hpp"
@@ -13,8 +15,12 @@ using MakeSets = void(const platform::CacheSizes& caches, KernelSets& sets) noex
 constexpr std::array<MakeSets*, platform::kInstructionSets.size()> kMakers = {make_sse2_sets, make_avx2_sets,
                                                                               make_avx512_sets};
 
-std::array<KernelSets, kMakers.size()> all_sets;
-constinit std::atomic<const KernelSets*> chosen{nullptr};
+// For each instruction set the kernels for operations of any size, and those for small ones.
+struct Family {
+  KernelSets all, small;
+};
+std::array<Family, kMakers.size()> families;
+constinit std::atomic<const Family*> chosen{nullptr};
 constinit platform::Mutex mutex;
 
 std::size_t index_of(platform::InstructionSet set) { return static_cast<std::size_t>(set); }
@@ -31,13 +37,26 @@ void check(const KernelSet<T>& set) noexcept {
   if (!holds) platform::fail_assertion("blocks of a kernel set fit its buffer", __FILE__, __LINE__);
 }
 
-void make(std::size_t index, const platform::CacheSizes& caches) noexcept {
-  KernelSets& sets = all_sets[index];
-  kMakers[index](caches, sets);
+void check(const KernelSets& sets) noexcept {
   check(sets.s);
   check(sets.d);
   check(sets.c);
   check(sets.z);
+}
+
+void make(std::size_t index, const platform::CacheSizes& caches) noexcept {
+  auto& [all, small] = families[index];
+  kMakers[index](caches, all);
+  small = all;
+  if (all.s.uses_wide_registers) make_avx2_small_sets(caches, small);
+  check(all);
+  check(small);
+}
+
+const Family& chosen_family() noexcept {
+  if (const Family* const family = chosen.load(std::memory_order_acquire)) return *family;
+  choose_kernels();  // in a program that links the engine without the library's entry point
+  return *chosen.load();
 }
 
 template <Scalar T>
@@ -66,27 +85,58 @@ void choose_kernels() noexcept {
   choose_kernels(platform::choose_instruction_set(features));
 }
 
-void choose_kernels(platform::InstructionSet set) noexcept { chosen.store(&all_sets[index_of(set)]); }
+void choose_kernels(platform::InstructionSet set) noexcept { chosen.store(&families[index_of(set)]); }
 
 template <Scalar T>
 const KernelSet<T>& kernels() noexcept {
-  const KernelSets* sets = chosen.load(std::memory_order_acquire);
-  if (sets == nullptr) {  // in a program that links the engine without the library's entry point
-    choose_kernels();
-    sets = chosen.load();
-  }
-  return select<T>(*sets);
+  return select<T>(chosen_family().all);
+}
+
+template <Scalar T>
+const KernelSet<T>& small_kernels() noexcept {
+  return select<T>(chosen_family().small);
 }
 
 template <Scalar T>
 const KernelSet<T>& kernels_of(platform::InstructionSet set) noexcept {
-  return select<T>(all_sets[index_of(set)]);
+  return select<T>(families[index_of(set)].all);
 }
+
+#if defined(__i386__)
+
+// In 32-bit code VZEROUPPER reaches eight registers of sixteen, and there are processors (AMD's Zen 4) that then take
+// the others for used: from there on each SSE instruction waits for the upper half of the register that it writes, and
+// code for SSE runs at a fourth of its speed. Only XRSTOR puts all registers into their initial state.
+[[gnu::target("xsave")]] void leave_wide_registers() noexcept {
+  // A saved state in which the header says that the AVX registers are as at the start, and MXCSR is as it is.
+  struct alignas(64) SavedState {
+    unsigned char legacy[24];
+    std::uint32_t mxcsr;
+    unsigned char unused[484];
+    std::array<std::uint64_t, 8> header;
+    unsigned char upper_halves[256];
+  } state;  // NOLINT(cppcoreguidelines-pro-type-member-init): only what is read
+  static_assert(offsetof(SavedState, header) == 512);
+  constexpr std::uint32_t kUpperHalves = 1U << 2;
+  state.header = {};
+  state.mxcsr = __builtin_ia32_stmxcsr();
+  asm volatile("xrstor %0" : : "m"(state), "a"(kUpperHalves), "d"(0));
+}
+
+#else
+
+void leave_wide_registers() noexcept {}  // the kernels have executed VZEROUPPER
+
+#endif
 
 template const KernelSet<float>& kernels() noexcept;
 template const KernelSet<double>& kernels() noexcept;
 template const KernelSet<std::complex<float>>& kernels() noexcept;
 template const KernelSet<std::complex<double>>& kernels() noexcept;
+template const KernelSet<float>& small_kernels() noexcept;
+template const KernelSet<double>& small_kernels() noexcept;
+template const KernelSet<std::complex<float>>& small_kernels() noexcept;
+template const KernelSet<std::complex<double>>& small_kernels() noexcept;
 template const KernelSet<float>& kernels_of(platform::InstructionSet) noexcept;
 template const KernelSet<double>& kernels_of(platform::InstructionSet) noexcept;
 template const KernelSet<std::complex<float>>& kernels_of(platform::InstructionSet) noexcept;

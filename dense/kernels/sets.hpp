@@ -18,6 +18,8 @@ struct KernelSets {
 // Fills the table of an instruction set that the processor has.
 void make_sse2_sets(const platform::CacheSizes& caches, KernelSets& sets) noexcept;
 void make_avx2_sets(const platform::CacheSizes& caches, KernelSets& sets) noexcept;
+// AVX2 and FMA in registers of 16 bytes, for small operations.
+void make_avx2_small_sets(const platform::CacheSizes& caches, KernelSets& sets) noexcept;
 void make_avx512_sets(const platform::CacheSizes& caches, KernelSets& sets) noexcept;
 
 }  // namespace quorin::dense::kernels

@@ -43,17 +43,23 @@ void axpy(std::ptrdiff_t n, T s, const T* x, T* y) noexcept {
 template <bool kConjugate, Scalar T>
 T dot(std::ptrdiff_t n, const T* x, const T* y) noexcept {
   constexpr int kStep = kElements<T>, kSums = kIsComplex<T> ? 2 : 4;  // so many that additions overlap
-  std::array<ProductSum<T>, kSums> sums;
+  ProductSum<T> sum0, sum1, sum2, sum3;                               // an array would not stay in registers
   std::ptrdiff_t i = 0;
   for (; i + kSums * kStep <= n; i += kSums * kStep) {
-    for (int k = 0; k < kSums; ++k) {
-      sums[static_cast<std::size_t>(k)].add(load(x + i + k * kStep), load(y + i + k * kStep));
+    sum0.add(load(x + i), load(y + i));
+    sum1.add(load(x + i + kStep), load(y + i + kStep));
+    if constexpr (kSums == 4) {
+      sum2.add(load(x + i + 2 * kStep), load(y + i + 2 * kStep));
+      sum3.add(load(x + i + 3 * kStep), load(y + i + 3 * kStep));
     }
   }
-  T rest{};
-  for (; i < n; ++i) rest += product(maybe_conjugate<kConjugate>(x[i]), y[i]);
-  for (std::size_t k = 1; k < kSums; ++k) sums[0].add(sums[k]);
-  return sums[0].template value<kConjugate>() + rest;
+  for (; i + kStep <= n; i += kStep) sum0.add(load(x + i), load(y + i));
+  sum0.add(sum1);
+  sum2.add(sum3);
+  sum0.add(sum2);
+  T total = sum0.template value<kConjugate>();
+  for (; i < n; ++i) total += product(maybe_conjugate<kConjugate>(x[i]), y[i]);
+  return total;
 }
 
 template <Scalar T>

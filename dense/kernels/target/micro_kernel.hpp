@@ -32,19 +32,21 @@ void multiply_tile(int k, const Real* a, std::ptrdiff_t a_step, const Real* b, s
   if constexpr (kColumns > 3) asm("" : "+r"(thirds[1]));
   if constexpr (kColumns > 6) asm("" : "+r"(thirds[2]));
   for (; k > 0; --k) {
-    V only;
-    if constexpr (kVectors == 1) {
-      only = load<Isa>(a);
-      pin(only);
+    V first;  // several columns find the first vector of A in a register
+    if constexpr (kVectors == 1 || kColumns > 1) {
+      first = load<Isa>(a);
+      pin(first);
     }
 #pragma GCC unroll 8
     for (int j = 0; j < kColumns; ++j) {
       const V bj = all<Isa>(thirds[j / 3][j % 3 * b_column]);
-      if constexpr (kVectors == 1) {
-        sums[j][0] += only * bj;
-      } else {
 #pragma GCC unroll 8
-        for (int v = 0; v < kVectors; ++v) sums[j][v] += load<Isa>(a + v * kWidth) * bj;
+      for (int v = 0; v < kVectors; ++v) {
+        if constexpr (kVectors == 1 || kColumns > 1) {
+          sums[j][v] += (v == 0 ? first : load<Isa>(a + v * kWidth)) * bj;
+        } else {
+          sums[j][v] += load<Isa>(a + v * kWidth) * bj;
+        }
       }
     }
     a += a_step;

@@ -163,8 +163,11 @@ void multiply(const Product<T>& p, const Blocking& blocking, std::byte* buffer) 
   const bool direct_b = factor == one && p.b.structure == Structure::kGeneral && !p.b.is_conjugated &&
                         (!kIsComplex<T> || p.b.row_step == 1) && is_small_b;
 
-  const int depth_blocks = (p.k + blocking.depth - 1) / blocking.depth;
-  const int depth = (p.k + depth_blocks - 1) / depth_blocks;  // at most blocking.depth
+  int depth = p.k;  // at most blocking.depth
+  if (depth > blocking.depth) {
+    const int depth_blocks = (p.k + blocking.depth - 1) / blocking.depth;
+    depth = (p.k + depth_blocks - 1) / depth_blocks;
+  }
   Real* const panel_memory = reinterpret_cast<Real*>(buffer);
   Real* const block_memory = panel_memory + std::ptrdiff_t{depth} * kParts * Isa::kTileVectors * kWidth;
 
@@ -196,8 +199,8 @@ void multiply(const Product<T>& p, const Blocking& blocking, std::byte* buffer) 
         }
       }
       for (int i = p.first_row, rows = 0; i < end_row; i += rows) {
-        const int vectors_left = (kParts * (end_row - i) + kWidth - 1) / kWidth;
-        int vectors = panel_vectors<Isa>(vectors_left);
+        // Whole vectors first, then the rest of the rows in one.
+        const int vectors = std::max(1, panel_vectors<Isa>(kParts * (end_row - i) / kWidth));
         rows = std::min(end_row - i, vectors * kWidth / kParts);
         if (p.part == Part::kLower && i + rows <= j) continue;
         if (p.part == Part::kUpper && i >= j + columns) break;

@@ -21,8 +21,8 @@ Blocking blocking_for(const platform::CacheSizes& caches) noexcept {
 
 template <class Isa, Scalar T>
 KernelSet<T> make_set(const platform::CacheSizes& caches) noexcept {
-  return {Isa::kSet,        blocking_for<Isa, T>(caches), Tiles<Isa, T>::kMostRows,  Isa::kTileColumns,
-          multiply<Isa, T>, run_triangle<Isa, T, false>,  run_triangle<Isa, T, true>};
+  return {Isa::kSet,         Isa::kBytes > 16, blocking_for<Isa, T>(caches), Tiles<Isa, T>::kMostRows,
+          Isa::kTileColumns, multiply<Isa, T>, run_triangle<Isa, T, false>,  run_triangle<Isa, T, true>};
 }
 
 template <class Isa>

@@ -56,13 +56,18 @@ struct LaneBlock {
   }
 
   void divide(int p, T pivot, V (&value)[kVectors]) const noexcept {
+    // A reciprocal neither overflows nor loses digits in between; outside, each quotient is made by itself.
+    constexpr Real kLargest = static_cast<Real>(sizeof(Real) == 4 ? 0x1p60 : 0x1p500);
     if constexpr (!kIsComplex<T>) {
-#pragma GCC unroll 4
-      for (int v = 0; v < kVectors; ++v) value[v] /= pivot;
+      const Real size = pivot < 0 ? -pivot : pivot;
+      if (size >= 1 / kLargest && size <= kLargest) {
+        const Real reciprocal = 1 / pivot;
+        for (V& vector : value) vector *= reciprocal;
+      } else {
+        for (V& vector : value) vector /= pivot;
+      }
     } else {
       put(p, value);
-      // A reciprocal neither overflows nor loses digits in between; outside, each quotient is made by itself.
-      constexpr Real kLargest = static_cast<Real>(sizeof(Real) == 4 ? 0x1p60 : 0x1p500);
       const Real size = std::max(std::abs(pivot.real()), std::abs(pivot.imag()));
       if (size >= 1 / kLargest && size <= kLargest) {
         for (V& vector : value) vector = V{};
@@ -154,7 +159,8 @@ template <class Isa, Scalar T, bool kSolves>
 void run_triangle(const TriangleBlock<T>& block, std::byte* buffer) noexcept {
   auto* const x = reinterpret_cast<RealOf<T>*>(buffer);
   const int first = LaneBlock<Isa, T, 4>{block, x}.template run<kSolves>(0, false);
-  LaneBlock<Isa, T, 1>{block, x}.template run<kSolves>(first, true);
+  const int rest = LaneBlock<Isa, T, 2>{block, x}.template run<kSolves>(first, false);
+  LaneBlock<Isa, T, 1>{block, x}.template run<kSolves>(rest, true);
 }
 
 }  // namespace quorin::dense::kernels::target

@@ -17,6 +17,11 @@ struct Avx2 {
   static constexpr auto kSet = platform::InstructionSet::kAvx2;
   static constexpr int kBytes = 32, kTileVectors = 7, kTileColumns = 1, kSums = 7;
 };
+// AVX2's instructions on registers of SSE's width, which cost nothing to leave.
+struct Avx2Small {
+  static constexpr auto kSet = platform::InstructionSet::kAvx2;
+  static constexpr int kBytes = 16, kTileVectors = 7, kTileColumns = 1, kSums = 7;
+};
 struct Avx512 {
   static constexpr auto kSet = platform::InstructionSet::kAvx512;
   static constexpr int kBytes = 64, kTileVectors = 1, kTileColumns = 7, kSums = 7;
