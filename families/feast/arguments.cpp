@@ -39,11 +39,13 @@ int wrong_parameter_number(const std::int32_t* fpm) {
   constexpr int kNodeCounts[] = {3, 4, 5, 6, 8, 10, 12, 16, 20, 24, 32, 40, 48};
   constexpr int kSwitches[] = {kFpmPrint,       kFpmInitialSubspace, kFpmStoppingTest,  kFpmFilterOnly,
                                kFpmCheckArrays, kFpmCheckB,          kFpmSolverSettings};
+  constexpr int kMostDigits = 7;  // of a float
   for (int number = 1; number <= kFpmSolverSettings; ++number) {
     const std::int32_t value = fpm[number - 1];
     if (std::ranges::find(kSwitches, number) != std::end(kSwitches) && value != 0 && value != 1) return number;
     if (number == kFpmNodes && std::ranges::find(kNodeCounts, value) == std::end(kNodeCounts)) return number;
-    if ((number == kFpmLoopLimit || number == kFpmTolerance) && value < 0) return number;
+    if (number == kFpmLoopLimit && value < 0) return number;
+    if (number == kFpmTolerance && (value < 0 || value > kMostDigits)) return number;
   }
   return 0;
 }

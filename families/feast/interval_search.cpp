@@ -165,7 +165,10 @@ Status IntervalSearch<Host>::filter_only() {
   const T* const first = X_.column(0);
   std::transform(first, first + static_cast<std::ptrdiff_t>(pencil_.size()) * room_, arguments_.x,
                  [](T x) { return static_cast<Host>(x); });
-  *arguments_.m = *arguments_.loop = 0;
+  std::fill_n(arguments_.e, room_, 0.0F);
+  std::fill_n(arguments_.res, room_, 0.0F);
+  *arguments_.m = room_;
+  *arguments_.loop = 0;
   *arguments_.epsout = 0;
   return Status::kFilteredSubspace;
 }

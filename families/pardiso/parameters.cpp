@@ -128,7 +128,9 @@ std::optional<FactorizationOptions> read_factorization_options(const Kind& kind,
   if (!storage) return std::nullopt;
   FactorizationOptions options;
   options.storage = *storage;
-  if (kind.has_perturbed_pivots()) options.perturbation = std::pow(10.0, -cell(iparm, kIparmPerturbation));
+  if (kind.has_perturbed_pivots()) {
+    options.perturbation = std::pow(10.0, -std::max(cell(iparm, kIparmPerturbation), 0));
+  }
   options.has_pairs = pivoting == 1 || pivoting == 3;
   return options;
 }
@@ -145,8 +147,8 @@ std::optional<SolutionOptions> read_solution_options(const Kind& kind, const std
   options.refinement_limit =
       limit == std::numeric_limits<int>::min() ? std::numeric_limits<int>::max() : std::abs(limit);
   options.has_precise_residuals = limit < 0;
-  options.is_refined_if_perturbed = limit == 0 && !(kind.is_indefinite() && pivoting >= 2);
-  if (options.is_refined_if_perturbed) options.refinement_limit = kAutomaticSteps;
+  options.is_refined_if_needed = limit == 0 && !(kind.is_indefinite() && pivoting >= 2);
+  if (options.is_refined_if_needed) options.refinement_limit = kAutomaticSteps;
   return options;
 }
 

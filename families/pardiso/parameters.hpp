@@ -76,7 +76,7 @@ struct SolutionOptions {
   bool is_sequential = false;
   int refinement_limit = 0;
   bool has_precise_residuals = false;
-  bool is_refined_if_perturbed = false;
+  bool is_refined_if_needed = false;
 };
 
 // iparm(4).

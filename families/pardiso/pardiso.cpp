@@ -1,6 +1,7 @@
 #include "families/pardiso/pardiso.hpp"
 
 #include <algorithm>
+#include <array>
 #include <limits>
 
 #include "base/thread_settings.hpp"
@@ -61,7 +62,15 @@ class Run {
   void print(Error outcome);
   void set(int position, std::int32_t value) const { arguments_.iparm[position - 1] = value; }
 
+  bool takes_defaults() const { return arguments_.iparm[kIparmSupplied - 1] == 0; }
+  // In the place of a factorization or of substitution.
+  bool iterates() const {
+    return stages_.solves && !stages_.analyses && iteration_.method != Method::kDirect &&
+           stages_.substitution == Substitution::kWhole;
+  }
+
   const Arguments arguments_;
+  std::array<std::int32_t, kParameters> defaults_{};
   Kind kind_;
   Stages stages_;
   int slots_ = 1;
@@ -98,12 +107,18 @@ Error Run::read_arguments() {
   return kDone;
 }
 
+// What none of the stages reads may hold anything.
 Error Run::read_options() {
-  if (arguments_.iparm[kIparmSupplied - 1] == 0) write_defaults(kind_.mtype, arguments_.iparm);
-  const auto analysis = read_analysis_options(kind_, arguments_.iparm);
-  const auto factorization = read_factorization_options(kind_, arguments_.iparm);
-  const auto solution = read_solution_options(kind_, arguments_.iparm);
-  const auto iteration = read_iteration_options(kind_, arguments_.iparm);
+  const std::int32_t* iparm = arguments_.iparm;
+  if (takes_defaults()) {
+    write_defaults(kind_.mtype, defaults_.data());
+    iparm = defaults_.data();
+  }
+  const auto analysis = read_analysis_options(kind_, iparm);
+  const auto factorization =
+      stages_.factorizes ? read_factorization_options(kind_, iparm) : FactorizationOptions{};
+  const auto solution = stages_.solves ? read_solution_options(kind_, iparm) : SolutionOptions{};
+  const auto iteration = stages_.solves ? read_iteration_options(kind_, iparm) : IterationOptions{};
   if (!analysis || !factorization || !solution || !iteration) return kInconsistent;
   analysis_ = *analysis;
   factorization_ = *factorization;
@@ -111,8 +126,8 @@ Error Run::read_options() {
   iteration_ = *iteration;
   call_.rows.base = analysis_.base();
   call_.rows.block = analysis_.block;
-  wants_entries_ = arguments_.iparm[kIparmFactorEntries - 1] < 0;
-  wants_operations_ = arguments_.iparm[kIparmOperations - 1] < 0;
+  wants_entries_ = iparm[kIparmFactorEntries - 1] < 0;
+  wants_operations_ = iparm[kIparmOperations - 1] < 0;
   return kDone;
 }
 
@@ -121,10 +136,9 @@ Error Run::check_matrix() const {
   const bool is_same = solver_->kind().mtype == kind_.mtype && solver_->host_size() == call_.rows.n &&
                        solver_->options().agrees(analysis_) && slots_ >= solver_->last_slot();
   if (!is_same) return kInconsistent;
-  const bool iterates = stages_.solves && iteration_.method != Method::kDirect;
   const bool refines = stages_.solves && !stages_.factorizes && solver_->is_factored(call_.slot) &&
-                       solver_->refines(call_.slot, solution_);
-  const bool reads_matrix = stages_.factorizes || iterates || refines;
+                       solver_->reads_matrix(call_.slot, solution_);
+  const bool reads_matrix = stages_.factorizes || iterates() || refines;
   if (reads_matrix && call_.a == nullptr) return kInconsistent;
   return solver_->pattern().agrees(call_.rows, reads_matrix) ? kDone : kInconsistent;
 }
@@ -135,6 +149,7 @@ Error Run::check_vectors() const {
   if (!stages_.solves) return kDone;
   // The Schur complement's factors are not kept, or x would be both.
   if (analysis_.schur == Schur::kAlone || (has_schur && stages_.factorizes)) return kInconsistent;
+  if (analysis_.partial != Partial::kNone && iteration_.method != Method::kDirect) return kInconsistent;
   if (arguments_.nrhs == nullptr || *arguments_.nrhs < 1 || call_.b == nullptr) return kInconsistent;
   return call_.x == nullptr && !solution_.overwrites_b ? kInconsistent : kDone;
 }
@@ -182,20 +197,19 @@ Error Run::solve() {
 Error Run::run_stages() {
   Error error = kDone;
   if (stages_.analyses) error = analyze();
-  const bool iterates = stages_.solves && !stages_.analyses && iteration_.method != Method::kDirect &&
-                        stages_.substitution == Substitution::kWhole && solver_->is_factored(call_.slot);
-  if (error == kDone && iterates) error = iterate();
-  const bool is_ended = is_solved_ || (iterates && !stages_.factorizes);
+  const bool has_iterated = error == kDone && iterates() && solver_->is_factored(call_.slot);
+  if (has_iterated) error = iterate();
+  const bool is_ended = is_solved_ || (has_iterated && !stages_.factorizes);
   if (error == kDone && stages_.factorizes && !is_solved_) error = factorize();
   if (error == kDone && stages_.solves && !is_ended) error = solve();
   return error;
 }
 
 void Run::write_results() {
+  if (takes_defaults()) std::ranges::copy(defaults_, arguments_.iparm);
   if (solver_ == nullptr) return;
   const AnalysisResults& analysis = solver_->analysis_results();
-  const bool is_fresh = stages_.analyses || arguments_.iparm[kIparmSupplied - 1] == 0;
-  if (is_fresh) {
+  if (stages_.analyses || takes_defaults()) {
     set(kIparmAnalysisPeak, kilobytes(analysis.peak_bytes));
     set(kIparmAnalysisMemory, kilobytes(analysis.kept_bytes));
     set(kIparmFactorMemory, kilobytes(analysis.factor_bytes));
@@ -206,7 +220,7 @@ void Run::write_results() {
       set(kIparmOperations, clamped(static_cast<std::int64_t>(std::min(analysis.operations / kMillion, 4e9)) + 1));
     }
   }
-  if (stages_.factorizes || arguments_.iparm[kIparmSupplied - 1] == 0) {
+  if (stages_.factorizes || takes_defaults()) {
     const FactorizationResults results = solver_->factorization_results(call_.slot);
     set(kIparmPerturbed, results.perturbed);
     set(kIparmPositive, results.positive);
@@ -245,6 +259,7 @@ Error Run::run() {
   if (*arguments_.phase == kFreeFactors) {
     if (words == Words::kZero) return kDone;
     if (arguments_.mnum == nullptr || *arguments_.mnum < 1) return kInconsistent;
+    if (arguments_.maxfct != nullptr && *arguments_.mnum > *arguments_.maxfct) return kInconsistent;
     solver_->free_slot(*arguments_.mnum);
     return kDone;
   }

@@ -64,8 +64,8 @@ class Solver {
   [[nodiscard]] virtual Error factorize(const Call& call, const FactorizationOptions& options) = 0;
   virtual void free_slot(int slot) = 0;
 
-  // Whether a solution reads the matrix.
-  [[nodiscard]] virtual bool refines(int slot, const SolutionOptions& options) const = 0;
+  // Whether a solution with factors reads the host's matrix.
+  [[nodiscard]] virtual bool reads_matrix(int slot, const SolutionOptions& options) const = 0;
   // Solves with factors; `steps` becomes the number of refinement steps.
   [[nodiscard]] virtual Error solve(const Call& call, const SolutionOptions& options, Substitution substitution,
                                     int& steps) = 0;

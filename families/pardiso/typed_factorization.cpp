@@ -70,16 +70,15 @@ FactorizationResults TypedSolver<T>::factorization_results(int slot) const {
 
 template <Scalar T>
 sparse::FactorOptions TypedSolver<T>::factor_options(const FactorizationOptions& options) const {
-  // Rounding errors of single precision are larger than a perturbation may be by the defaults, and would be all that is
-  // left of such a pivot's row.
-  constexpr double kLeast = std::is_same_v<Real, float> ? 3.5e-4 : 0.0, kLeastUnsymmetric = kLeast / 100;
+  // What is below some roundings of the matrix is nothing but rounding errors, and in single precision a perturbation
+  // that is smaller would leave nothing else of such a pivot's row.
+  constexpr double kRoundings = 16;
+  constexpr double kLeast = std::is_same_v<Real, float> ? kRoundings * std::numeric_limits<float>::epsilon() : 0.0;
   sparse::FactorOptions how;
   how.factorization = factorization();
   how.pivoting = pivoting_of(kind_, options.has_pairs);
   how.perturbation = options.perturbation;
-  if (kind_.has_perturbed_pivots()) {
-    how.perturbation = std::max(how.perturbation, kind_.stores_upper ? kLeast : kLeastUnsymmetric);
-  }
+  if (kind_.has_perturbed_pivots()) how.perturbation = std::max(how.perturbation, kLeast);
   how.threads = base::region_threads(base::Domain::kSparseDirect);
   return how;
 }
@@ -103,15 +102,20 @@ Error TypedSolver<T>::factorize(const Call& call, const FactorizationOptions& op
     if (error == Error::kDone || error == Error::kMatchingFailed) error = compute(call, options, *slot, values);
   }
   if (error == Error::kDone) error = keep_files(*slot);
+  if (error == Error::kDone) error = assess(*slot, values);
   if (error == Error::kDone && options_.keeps_diagonal) error = keep_diagonal(*slot, values);
   if (error == Error::kDone && schur() != Schur::kNone) error = keep_schur(*slot, static_cast<T*>(call.x));
-  if (error != Error::kDone) slot->factor.clear();
+  if (error != Error::kDone) {
+    slot->factor.clear();
+    slot->files.reset();
+  }
   return error;
 }
 
 template <Scalar T>
 Error TypedSolver<T>::compute(const Call& call, const FactorizationOptions& options, Slot& slot, const T* values) {
   slot.results = {};
+  slot.values = {};
   if (is_singular_diagonal(values)) return Error::kDiagonalSingular;
   if (const Error error = choose_store(slot, options); error != Error::kDone) return error;
   sparse::FactorOptions how = factor_options(options);
@@ -129,7 +133,8 @@ Error TypedSolver<T>::compute(const Call& call, const FactorizationOptions& opti
     slot.results.negative = report.pivots.negative;
   }
   if (kind_.is_definite && report.failed_column != sparse::kNone) slot.results.bad_equation = report.failed_column + 1;
-  return error_of(outcome);
+  // A matrix of zeros has none to perturb by.
+  return outcome == sparse::FactorOutcome::kDone && report.pivots.zero > 0 ? Error::kNumericFailed : error_of(outcome);
 }
 
 // Pivots were perturbed, and rows were matched and scaled for other values than these. The plan may only be replaced

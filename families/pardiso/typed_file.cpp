@@ -118,6 +118,7 @@ Error TypedSolver<T>::write_rest(sparse::FileWriter& file) {
     archive.number(slot->number);
     pardiso::transfer(archive, slot->results);
     archive.array(slot->diagonal);
+    archive.array(slot->values);
     const sparse::FactorOutcome outcome = sparse::Archive::put(file, slot->factor);
     if (outcome != sparse::FactorOutcome::kDone) return error_of(outcome);
   }
@@ -152,7 +153,9 @@ Error TypedSolver<T>::read_slot(sparse::FileReader& file) {
   if (slot == nullptr) return Error::kNoMemory;
   pardiso::transfer(archive, slot->results);
   archive.array(slot->diagonal);
-  const bool is_sound = has_size(slot->diagonal, size(), !options_.keeps_diagonal);
+  archive.array(slot->values);
+  const bool is_sound =
+      has_size(slot->diagonal, size(), !options_.keeps_diagonal) && has_size(slot->values, pattern_.entries());
   if (file.outcome() == sparse::FactorOutcome::kDone && !is_sound) file.reject();
   if (file.outcome() != sparse::FactorOutcome::kDone) return error_of(file.outcome());
   const sparse::FactorOutcome outcome = sparse::Archive::get(file, plan_, slot->factor);

@@ -1,6 +1,8 @@
 // The third stage: substitution, refinement, iteration.
 #include <algorithm>
+#include <limits>
 #include <optional>
+#include <random>
 #include <span>
 
 #include "base/thread_settings.hpp"
@@ -164,24 +166,57 @@ struct TypedSolver<T>::Solution {
   }
 };
 
+// Exchanges that are confined to a block may let entries grow without a pivot that is perturbed. What that does to
+// solutions shows in one for which the exact answer is known; if it is much, the slot keeps the values, because the host
+// need not have them any more.
 template <Scalar T>
-bool TypedSolver<T>::refines(int slot, const SolutionOptions& options) const {
+Error TypedSolver<T>::assess(Slot& slot, const T* values) {
+  constexpr double kGood = 16 * std::numeric_limits<Real>::epsilon();
+  const bool is_sure = !kind_.has_perturbed_pivots() || slot.results.perturbed > 0;
+  if (is_sure || flagged_ > 0 || slot.files != nullptr) return Error::kDone;
+  const auto n = static_cast<std::size_t>(size());
+  base::Workspace<T> x(n), b(n);
+  Solution solution(*this, slot, {});
+  if (!x || !b || !solution.reserve(1)) return Error::kNoMemory;
+  std::minstd_rand random;
+  std::generate_n(x.data(), n, [&random] { return static_cast<Real>(random() % 1024 + 1) / Real{512} - 1; });
+  const sparse::LinearSystem<T> system = system_of(values);
+  multiply(system, x.data(), b.data());
+  const sparse::FactorOutcome outcome = solution.solve(1, b.data(), x.data());
+  const double error = sparse::backward_error(system, b.data(), x.data());
+  if (outcome != sparse::FactorOutcome::kDone || error < 0) return Error::kNoMemory;
+  if (error <= kGood) return Error::kDone;
+  slot.values = base::Workspace<T>(static_cast<std::size_t>(pattern_.entries()));
+  if (!slot.values) return Error::kNoMemory;
+  std::copy_n(values, slot.values.size(), slot.values.data());
+  return Error::kDone;
+}
+
+template <Scalar T>
+bool TypedSolver<T>::refines(const Slot& slot, const SolutionOptions& options) const {
   if (partial() != Partial::kNone || options.refinement_limit == 0) return false;
-  return !options.is_refined_if_perturbed || find(slot)->results.perturbed > 0;
+  return !options.is_refined_if_needed || slot.results.perturbed > 0 || slot.values;
+}
+
+template <Scalar T>
+bool TypedSolver<T>::reads_matrix(int slot, const SolutionOptions& options) const {
+  const Slot& found = *find(slot);
+  return refines(found, options) && !refines_by_itself(found, options);
 }
 
 template <Scalar T>
 Error TypedSolver<T>::solve(const Call& call, const SolutionOptions& options, Substitution substitution, int& steps) {
   const auto n = static_cast<std::size_t>(size());
-  const bool is_refined = substitution == Substitution::kWhole && refines(call.slot, options);
+  const Slot& slot = *find(call.slot);
+  const bool is_refined = substitution == Substitution::kWhole && refines(slot, options);
   const int at_once = std::min(call.nrhs, kColumnsAtOnce);
-  Solution solution(*this, *find(call.slot), options);
+  Solution solution(*this, slot, options);
   base::Workspace<T> refined, storage;
   const T* values = nullptr;
   if (!solution.reserve(at_once)) return Error::kNoMemory;
   if (is_refined) {
     refined = base::Workspace<T>(base::saturating_product(n, static_cast<std::size_t>(at_once)));
-    values = gather(call, storage);
+    values = refines_by_itself(slot, options) ? slot.values.data() : gather(call, storage);
     if (!refined || values == nullptr) return Error::kNoMemory;
   }
   sparse::LinearSystem<T> system = system_of(values);

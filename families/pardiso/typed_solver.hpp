@@ -22,7 +22,7 @@ class TypedSolver final : public Solver {
   Error factorize(const Call& call, const FactorizationOptions& options) override;
   void free_slot(int slot) override;
 
-  bool refines(int slot, const SolutionOptions& options) const override;
+  bool reads_matrix(int slot, const SolutionOptions& options) const override;
   Error solve(const Call& call, const SolutionOptions& options, Substitution substitution, int& steps) override;
   Error iterate(const Call& call, const SolutionOptions& options, const IterationOptions& iteration,
                 int& result) override;
@@ -43,6 +43,7 @@ class TypedSolver final : public Solver {
     sparse::Factor<T> factor;
     FactorizationResults results;
     base::Workspace<T> diagonal;  // of A, if the host may ask for it
+    base::Workspace<T> values;    // of A, if solutions need refinement though no pivot was perturbed
     sparse::SchurFactor<T> schur;
     bool has_schur = false;  // whether that could be factored
   };
@@ -74,6 +75,11 @@ class TypedSolver final : public Solver {
   bool wants_another_matching(const Slot& slot, const T* values) const;
   Error choose_store(Slot& slot, const FactorizationOptions& options);
   Error keep_files(Slot& slot);
+  Error assess(Slot& slot, const T* values);
+  bool refines(const Slot& slot, const SolutionOptions& options) const;
+  static bool refines_by_itself(const Slot& slot, const SolutionOptions& options) {
+    return options.is_refined_if_needed && slot.results.perturbed == 0;
+  }
   Error keep_diagonal(Slot& slot, const T* values);
   Error keep_schur(Slot& slot, T* S) const;
   Error factor_schur(Slot& slot, const T* S) const;

@@ -41,8 +41,8 @@ enum quorin_feast_status {
   QUORIN_FEAST_NOT_CONVERGED = 2, /* no convergence within fpm(4) loops; the results are those of the last one */
   QUORIN_FEAST_SUBSPACE_TOO_SMALL = 3, /* there are more than m0 eigenvalues in the interval; the results are
       approximations for some of them */
-  QUORIN_FEAST_FILTERED_SUBSPACE = 4, /* fpm(14) = 1: x is the filtered subspace, and nothing else was computed; m =
-      0 */
+  QUORIN_FEAST_FILTERED_SUBSPACE = 4, /* fpm(14) = 1: x is the filtered subspace of m = m0 vectors, and nothing else was
+      computed; e and res are 0 */
   QUORIN_FEAST_NO_MEMORY = -1, /* no memory */
   QUORIN_FEAST_SOLVER_FAILED = -2, /* a shifted matrix could not be factored, as when an entry is not finite */
   QUORIN_FEAST_REDUCED_FAILED = -3, /* the reduced eigenproblem failed: B is not positive definite */
@@ -61,7 +61,7 @@ enum {
   QUORIN_FEAST_FPM_LOOP_LIMIT = 4, /* most loops after the first pass */
   QUORIN_FEAST_FPM_INITIAL_SUBSPACE = 5, /* 1: x holds m0 vectors to begin with. 0: random ones, the same each time */
   QUORIN_FEAST_FPM_STOPPING_TEST = 6, /* 0: the largest res must be below the tolerance. 1: epsout must */
-  QUORIN_FEAST_FPM_TOLERANCE = 7, /* the tolerance is 10^-fpm(7) */
+  QUORIN_FEAST_FPM_TOLERANCE = 7, /* the tolerance is 10^-fpm(7), which is from 0 to 7 */
   QUORIN_FEAST_FPM_FILTER_ONLY = 14, /* 1: one contour integral; x becomes the filtered subspace of m0 vectors, status
       4 */
   QUORIN_FEAST_FPM_CHECK_ARRAYS = 27, /* 1: rows must ascend, and have no entries of the other triangle */

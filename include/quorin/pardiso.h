@@ -39,8 +39,8 @@ enum quorin_pardiso_error {
       missing; nothing was changed */
   QUORIN_PARDISO_NO_MEMORY = -2, /* not enough memory */
   QUORIN_PARDISO_REORDERING_FAILED = -3, /* the ordering failed */
-  QUORIN_PARDISO_NUMERIC_FAILED = -4, /* a pivot is not positive (mtype 2, 4: iparm(30)), a value is not finite, or
-      refinement or iteration does not converge */
+  QUORIN_PARDISO_NUMERIC_FAILED = -4, /* a pivot is not positive (mtype 2, 4: iparm(30)), A is zero, a value is not
+      finite, or refinement or iteration does not converge */
   QUORIN_PARDISO_INTERNAL = -5, /* an internal error */
   QUORIN_PARDISO_MATCHING_FAILED = -6, /* structurally singular (mtype 11, 13 with iparm(13) = 1) */
   QUORIN_PARDISO_DIAGONAL_SINGULAR = -7, /* A is diagonal with a zero on the diagonal */
@@ -100,9 +100,9 @@ enum {
   QUORIN_PARDISO_IPARM_SOLUTION_IN_B = 6, /* 1: the solution overwrites b; x may be used on the way */
   QUORIN_PARDISO_IPARM_REFINEMENTS = 7, /* result: refinement steps of the last solution, the most of its columns */
   QUORIN_PARDISO_IPARM_REFINEMENT_LIMIT = 8, /* most refinement steps; negative: with residuals of twice the precision;
-      0: two, if pivots were perturbed */
+      0: two, if pivots were perturbed, or if entries of the factors grew so much that solutions want it */
   QUORIN_PARDISO_IPARM_PERTURBATION = 10, /* pivots below 10^-iparm(10) ||A|| are replaced by that; in single precision,
-      below 3.5e-4 ||A|| (mtype -2, -4, 6) or 3.5e-6 ||A|| if that is more */
+      below 1.9e-6 ||A|| if that is more */
   QUORIN_PARDISO_IPARM_SCALING = 11, /* 1: A is scaled such that matched entries have magnitude 1 and others at most
       that; of symmetric kinds only together with iparm(13) */
   QUORIN_PARDISO_IPARM_TRANSPOSED = 12, /* 0: A X = B, 1: A^H X = B, 2: A^T X = B */

@@ -6,9 +6,9 @@
 #if defined(_WIN32)
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
-#else
-#include <cstdlib>
 #endif
+
+#include <cstdlib>
 
 #include "tests/pardiso/systems.hpp"
 
@@ -228,6 +228,43 @@ TEST_F(Handles, GoThroughAFile) {
   EXPECT_EQ(remove(), 0);
   EXPECT_EQ(count(), 0);
   EXPECT_EQ(remove(), -10);
+}
+
+// The solution that a second process finds with the file has the same bits. This program is that process, too, when the
+// environment names a folder.
+TEST_F(Handles, OutliveTheProcess) {
+  constexpr const char* kVariable = "QUORIN_TEST_HANDLE_FOLDER";
+  const Matrix A = matrix_of(quorin::test::convection_diffusion(12, 40.0), 11);
+  Host<double> host(A);
+  const auto solution = [](const fs::path& place) { return (place / "x").string(); };
+  if (const char* const from = std::getenv(kVariable); from != nullptr) {
+    std::int32_t error = 7;
+    sPARDISO_HANDLE_RESTORE(host.pt.data(), from, &error);
+    ASSERT_EQ(error, 0);
+    ASSERT_EQ(host.call(33), 0);
+    std::ofstream(solution(from), std::ios::binary)
+        .write(reinterpret_cast<const char*>(host.x.data()),
+               static_cast<std::streamsize>(host.x.size() * sizeof(double)));
+    return;
+  }
+  ASSERT_EQ(host.call(13), 0);
+  ASSERT_EQ(store(host), 0);
+  // Beside the folder, which the other process's fixture empties.
+  const fs::path place = folder.string() + "-kept";
+  fs::create_directories(place);
+  fs::rename(file(), place / "handle.pds");
+  set_environment(kVariable, place.string().c_str());
+  const std::string command =
+      testing::internal::GetArgvs()[0] + " --gtest_brief=1 --gtest_filter=Handles.OutliveTheProcess";
+  EXPECT_EQ(std::system(command.c_str()), 0);
+  set_environment(kVariable, nullptr);
+  std::ifstream in(solution(place), std::ios::binary);
+  std::vector<double> x(host.x.size());
+  in.read(reinterpret_cast<char*>(x.data()), static_cast<std::streamsize>(x.size() * sizeof(double)));
+  EXPECT_TRUE(in.good());
+  EXPECT_EQ(x, host.x);
+  in.close();
+  fs::remove_all(place);
 }
 
 // Several factorizations, a Schur complement, flags, a diagonal, rows in disorder.

@@ -95,16 +95,26 @@ TEST(Misuse, WrongNumbers) {
     for (const int mnum : {0, -1, 2}) with([mnum](auto& host) { host.mnum = mnum; });
     with([](auto& host) { host.maxfct = 0; });
     with([](auto& host) { host.cell(35) = 1; });  // ia[0] is 1
-    for (const int cell : {12, 21, 31, 36, 60}) {
-      if (cell != 21) with([cell](auto& host) { host.cell(static_cast<std::size_t>(cell)) = 99; });
-      if (cell != 21) with([cell](auto& host) { host.cell(static_cast<std::size_t>(cell)) = -1; });
+    for (const std::size_t cell : {31, 36, 60}) {
+      for (const int value : {99, -1}) with([=](auto& host) { host.cell(cell) = value; });
     }
-    with([](auto& host) { host.cell(4) = -1; });
-    with([](auto& host) { host.cell(4) = 62; });  // CG for an unsymmetric matrix
     with([](auto& host) { host.cell(5) = host.cell(31) = 1; });
     with([](auto& host) { host.cell(36) = host.cell(31) = 1; });
     with([](auto& host) { host.cell(5) = 1; });  // perm holds zeros
   }
+  // Read by the stage that they are about: the factorization, the solution.
+  const auto is_refused_by = [](const std::vector<int>& refusing, std::size_t cell, int value) {
+    for (const int phase : {11, 22, 33, 13, 23, 331}) {
+      Host<double> host(indefinite8());
+      ASSERT_EQ(host.call(12), 0);
+      host.cell(cell) = value;
+      const bool is_refused = std::find(refusing.begin(), refusing.end(), phase) != refusing.end();
+      EXPECT_EQ(host.call(phase), is_refused ? -1 : 0) << "iparm(" << cell << ") = " << value << ", phase " << phase;
+    }
+  };
+  for (const int value : {-1, 4}) is_refused_by({22, 13, 23}, 21, value);
+  for (const int value : {-1, 3}) is_refused_by({33, 13, 23, 331}, 12, value);
+  for (const int value : {-1, 63, 62}) is_refused_by({33, 13, 23, 331}, 4, value);  // 62: CG needs a definite matrix
   Host<double> host(unsymmetric8());
   for (const int phase : {1, 2, 3, 10, 14, 21, 32, 34, 44, 111, 330, 334, -2, 1000, std::numeric_limits<int>::min()}) {
     EXPECT_EQ(host.call(phase), -1) << phase;
@@ -337,6 +347,12 @@ TEST(Misuse, SingularMatrices) {
   Host<double> definite(Matrix{2, {1, 2, 3, 4}, {1, 2, 3}, {1, 0, 3}});
   EXPECT_EQ(definite.call(12), -4);
   EXPECT_EQ(definite.cell(30), 2);
+  // One of zeros, with nothing to perturb by.
+  for (const int mtype : {1, -2, 11}) {
+    Host<double> zero(Matrix{mtype, {1, 3, 5}, {1, 2, 1, 2}, {0, 0, 0, 0}});
+    zero.cell(11) = zero.cell(13) = 0;
+    EXPECT_EQ(zero.call(12), -4) << mtype;
+  }
   // A symmetric one with a row of zeros: perturbed.
   Host<double> zero_row(Matrix{-2, {1, 4, 5, 6}, {1, 2, 3, 2, 3}, {1, 0, 1, 0, 2}});
   EXPECT_EQ(zero_row.call(13), 0);

@@ -50,6 +50,11 @@ TEST(Parameters, DefaultsOnRequest) {
   const auto told = host.iparm;
   host.iparm.fill(-5);
   host.cell(1) = 0;
+  const auto asked = host.iparm;
+  host.nrhs = 0;  // a call that is refused changes nothing
+  ASSERT_EQ(host.call(33), -1);
+  EXPECT_EQ(host.iparm, asked);
+  host.nrhs = 1;
   ASSERT_EQ(host.call(33), 0);
   EXPECT_EQ(host.iparm, told);
 }
@@ -162,6 +167,29 @@ TEST(Refinement, RepairsPerturbedPivots) {
   EXPECT_LE(backward_error(A, host, host.b, host.x), automatic + 1e-16);
   EXPECT_GE(host.cell(7), 1);
   EXPECT_LE(host.cell(7), 20);
+}
+
+// iparm(10): pivots below 10^-iparm(10) of the norm are replaced, others are exact.
+template <class T>
+void expect_perturbed(std::int32_t exponent, double pivot, int expected) {
+  SCOPED_TRACE(testing::Message() << "10^-" << exponent << ", pivot " << pivot << (kIsSingle<T> ? ", single" : ""));
+  Host<T> host(Matrix{-2, {1, 3, 4, 5}, {1, 2, 2, 3}, {1, 0, pivot, 2}});
+  host.cell(10) = exponent;
+  ASSERT_EQ(host.call(13), 0);
+  EXPECT_EQ(host.cell(14), expected);
+  if (expected == 0) {
+    EXPECT_NEAR(host.x[1] * pivot, 1.0, 4 * kEpsilon<T>);
+  }
+}
+TEST(Refinement, SmallPivotsByTheirSize) {
+  expect_perturbed<double>(8, 1e-7, 0);
+  expect_perturbed<double>(8, 1e-9, 1);
+  expect_perturbed<double>(13, 1e-9, 0);
+  expect_perturbed<double>(std::numeric_limits<std::int32_t>::max(), 1e-300, 0);
+  expect_perturbed<double>(std::numeric_limits<std::int32_t>::min(), 0.5, 2);
+  expect_perturbed<float>(8, 1e-5, 0);
+  expect_perturbed<float>(4, 1e-5, 1);
+  expect_perturbed<float>(8, 1e-7, 1);
 }
 
 // A row of zeros, whose pivot has to be perturbed.

@@ -120,6 +120,10 @@ TEST(Substitutions, FromSeveralFactorizations) {
     for (std::size_t i = 0; i < x.size(); ++i) EXPECT_NEAR(host.x[i] * slot, x[i], 1e-15) << i;
   }
   // Phase 0 frees one of them.
+  for (const int outside : {0, 4}) {
+    host.mnum = outside;
+    EXPECT_EQ(host.call(0), -1);
+  }
   host.mnum = 2;
   ASSERT_EQ(host.call(0), 0);
   EXPECT_EQ(host.call(33), -1);
