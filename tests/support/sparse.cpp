@@ -65,6 +65,7 @@ double to_double(std::string field) {
 }  // namespace
 
 void SparseMatrix::add(int row, int column, std::complex<double> value) {
+  if (row < 0 || column < 0) throw std::runtime_error("an entry outside of the matrix " + name);
   rows = std::max(rows, row + 1);
   columns = std::max(columns, column + 1);
   entries.push_back({row, column, value});
@@ -174,6 +175,9 @@ SparseMatrix read_harwell_boeing(const std::string& path, std::string* type) {
   std::string line, letters, pointers, indices, values;
   std::getline(file, line);
   std::getline(file, line);
+  int lines[5] = {};  // in all; of starts, rows, values, right-hand sides, for which the head has one line more
+  std::istringstream counts(line);
+  for (int& number : lines) counts >> number;
   SparseMatrix A;
   A.name = path.substr(path.find_last_of('/') + 1);
   std::size_t count = 0;
@@ -181,6 +185,9 @@ SparseMatrix read_harwell_boeing(const std::string& path, std::string* type) {
   std::getline(file, line);
   std::getline(file, line);
   std::istringstream(line) >> pointers >> indices >> values;
+  if (lines[4] > 0) std::getline(file, line);
+  if (letters.size() != 3 || letters[2] != 'A') throw std::runtime_error("not an assembled matrix: " + path);
+  const int stored_rows = A.rows;
   const bool is_pattern = letters[0] == 'P';
   A.is_complex = letters[0] == 'C';
   const auto starts = read_fields(file, pointers, static_cast<std::size_t>(A.columns) + 1);
@@ -196,6 +203,7 @@ SparseMatrix read_harwell_boeing(const std::string& path, std::string* type) {
       value = to_double(parts.at(k));
     A.add(std::stoi(rows.at(k)) - 1, static_cast<int>(j), value);
   }
+  if (A.rows != stored_rows) throw std::runtime_error("an entry outside of the matrix " + path);
   if (type != nullptr) *type = letters;
   return A;
 }
