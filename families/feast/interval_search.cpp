@@ -114,12 +114,15 @@ Status IntervalSearch<Host>::take_census() {
 }
 
 // Room for all that passes the filter, so that what converges slowly, or mixes, is left out. Where that is very much
-// more than what is wanted, there are limits.
+// more than what is wanted, there are limits: of the reduced problem, and of memory.
 template <Scalar Host>
 int IntervalSearch<Host>::working_size() const {
-  constexpr int kSpare = 8, kMany = 64;
+  constexpr int kSpare = 8, kMany = 64, kReduced = 512;
+  constexpr std::size_t kBytes = std::size_t{64} << 20;
   if (arguments_.is_on(kFpmFilterOnly) || census_.exceeds_room || !census_.inside) return room_;
-  const int least = *census_.inside + kSpare, most = std::max(room_, 3 * *census_.inside + kMany);
+  const std::size_t bytes_of_vector = static_cast<std::size_t>(pencil_.size()) * sizeof(T);
+  const int affordable = static_cast<int>(std::min<std::size_t>(kReduced, kBytes / bytes_of_vector));
+  const int least = *census_.inside + kSpare, most = std::max({room_, 3 * *census_.inside + kMany, affordable});
   const int wanted = std::clamp(census_.passing + kSpare, least, most);
   return std::min(pencil_.size(), arguments_.is_on(kFpmInitialSubspace) ? std::max(wanted, room_) : wanted);
 }

@@ -5,7 +5,9 @@
 #include <cstdlib>
 #include <functional>
 #include <numbers>
+#include <optional>
 
+#include "quorin/services.h"
 #include "tests/feast/feast_host.hpp"
 
 namespace feast_test {
@@ -108,6 +110,48 @@ const std::function<Problem()> kStructures[] = {
     [] { return make_problem("lattice, generalized", magnetic_lattice(7, 9, 0.7), turned(mass(63))); },
 };
 INSTANTIATE_TEST_SUITE_P(All, Structures, testing::ValuesIn(kStructures));
+
+// Many eigenvalues next to an end, which pass the filter, too, and little room: the subspace is larger than m0.
+TEST(Crowds, NextToAnEnd) {
+  for (const double last : {0.9, 0.999}) {
+    std::vector<double> values = {-0.9, -0.3, 0.1, 0.6, last};
+    for (int i = 1; i <= 200; ++i) values.push_back(1 + 0.01 * i / 200);
+    for (int i = 0; i < 50; ++i) values.push_back(2 + i);
+    const Problem problem = make_problem("crowd", diagonal(values));
+    for (const int nodes : {3, 8}) {
+      Call call(-1, 1, 6);
+      call.parameter(2) = nodes;
+      solve(problem, call);
+      EXPECT_EQ(call.info, 0) << last << ", " << nodes << " nodes";
+      EXPECT_EQ(call.m, 5);
+      expect_right(problem, call, values);
+    }
+  }
+}
+
+TEST(Threads, GiveTheSameBits) {
+  constexpr std::int32_t kDirectSolvers = 4;
+  const Problem problems[] = {make_problem("vibration", laplacian(14, 15, 1), mass(210)),
+                              make_problem("lattice", magnetic_lattice(14, 15, 0.7))};
+  sMKL_Set_Dynamic(0);
+  for (const Problem& problem : problems) {
+    std::optional<Call> first;
+    for (const int threads : {1, 2, 3}) {
+      sMKL_Domain_Set_Num_Threads(threads, kDirectSolvers);
+      Call call(0.5, 1.5, 150);
+      solve(problem, call);
+      ASSERT_EQ(call.info, 0) << problem.name;
+      ASSERT_GT(call.m, 32) << "more than one block of columns";
+      if (!first) first = call;
+      EXPECT_EQ(call.e, first->e) << problem.name << ", " << threads << " threads";
+      EXPECT_EQ(call.x, first->x) << problem.name << ", " << threads << " threads";
+      EXPECT_EQ(call.res, first->res) << problem.name << ", " << threads << " threads";
+      EXPECT_EQ(call.loop, first->loop) << problem.name << ", " << threads << " threads";
+    }
+  }
+  sMKL_Domain_Set_Num_Threads(0, kDirectSolvers);
+  sMKL_Set_Dynamic(1);
+}
 
 TEST(RandomProblems, NoneMissedAndNoneTooMany) {
   const char* const text = std::getenv("QUORIN_FEAST_PROBLEMS");
