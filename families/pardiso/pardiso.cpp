@@ -115,8 +115,7 @@ Error Run::read_options() {
     iparm = defaults_.data();
   }
   const auto analysis = read_analysis_options(kind_, iparm);
-  const auto factorization =
-      stages_.factorizes ? read_factorization_options(kind_, iparm) : FactorizationOptions{};
+  const auto factorization = stages_.factorizes ? read_factorization_options(kind_, iparm) : FactorizationOptions{};
   const auto solution = stages_.solves ? read_solution_options(kind_, iparm) : SolutionOptions{};
   const auto iteration = stages_.solves ? read_iteration_options(kind_, iparm) : IterationOptions{};
   if (!analysis || !factorization || !solution || !iteration) return kInconsistent;

@@ -167,8 +167,8 @@ struct TypedSolver<T>::Solution {
 };
 
 // Exchanges that are confined to a block may let entries grow without a pivot that is perturbed. What that does to
-// solutions shows in one for which the exact answer is known; if it is much, the slot keeps the values, because the host
-// need not have them any more.
+// solutions shows in one for which the exact answer is known; if it is much, the slot keeps the values, because the
+// host need not have them any more.
 template <Scalar T>
 Error TypedSolver<T>::assess(Slot& slot, const T* values) {
   constexpr double kGood = 16 * std::numeric_limits<Real>::epsilon();

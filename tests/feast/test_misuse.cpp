@@ -187,7 +187,7 @@ TEST(Misuse, Scalars) {
 }
 
 TEST(Misuse, Parameters) {
-  const std::pair<int, int> wrong[] = {{1, 2},  {1, -1}, {2, 7},  {2, 0},  {2, 49}, {4, -1}, {5, 2},
+  const std::pair<int, int> wrong[] = {{1, 2},  {1, -1}, {2, 7}, {2, 0},  {2, 49}, {4, -1}, {5, 2},
                                        {6, -1}, {7, -1}, {7, 8}, {14, 2}, {27, 3}, {28, 5}, {64, -1}};
   for (const auto& [number, value] : wrong) {
     expect_for_each(100 + number, [number = number, value = value](Spoiled& call) {
