@@ -127,7 +127,7 @@ class BufferPool {
     waiting_.fetch_add(1);
     recall_spare();
     if (first_ == nullptr) {
-      if (existing_ == 0) platform::fail_assertion("memory for a packing buffer", __FILE__, __LINE__);
+      if (existing_ == 0) platform::fail_assertion("memory for a packing buffer", __FILE_NAME__, __LINE__);
       returned_.wait(mutex_);
     }
     waiting_.fetch_sub(1);

@@ -34,7 +34,7 @@ void check(const KernelSet<T>& set) noexcept {
   const std::size_t panel = depth * parts * static_cast<std::size_t>(set.tile_rows) * sizeof(T);
   const bool holds = set.blocking.depth > 0 && set.blocking.columns % set.tile_columns == 0 &&
                      panel + depth * columns * sizeof(T) <= kBufferBytes;
-  if (!holds) platform::fail_assertion("blocks of a kernel set fit its buffer", __FILE__, __LINE__);
+  if (!holds) platform::fail_assertion("blocks of a kernel set fit its buffer", __FILE_NAME__, __LINE__);
 }
 
 void check(const KernelSets& sets) noexcept {
