@@ -1,9 +1,12 @@
 // NIST's regressions by our solver, in single precision, and by GSL's multifit_nlinear, in double precision: digits of
 // the certified parameters and steps from both starts. Then the time of an iteration of both on problems of growing
-// size.
+// size, and that of whole fits of a few variables beside MINPACK's lmder.
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cmath>
+#include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <functional>
 #include <random>
@@ -18,6 +21,9 @@
 #include <gsl/gsl_blas.h>
 #include <gsl/gsl_errno.h>
 #include <gsl/gsl_multifit_nlinear.h>
+#endif
+#if defined(QUORIN_BENCH_MINPACK)
+#include <minpack.h>
 #endif
 
 namespace {
@@ -58,6 +64,7 @@ Outcome ours(const Problem& problem, int max_iterations) {
   };
   quorin::least_squares::Options options;
   options.max_iterations = max_iterations;
+  options.step_precision = 0;
   quorin::least_squares::Result result;
   Outcome outcome;
   outcome.milliseconds =
@@ -201,12 +208,14 @@ Problem random_problem(std::size_t m, std::size_t n) {
   return problem;
 }
 
+double median(Reals times) {
+  const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
+  std::nth_element(times.begin(), middle, times.end());
+  return *middle;
+}
+
 void print_times() {
   constexpr int kRounds = 7, kSteps = 5;
-  const auto median = [](Reals times) {
-    std::nth_element(times.begin(), times.begin() + kRounds / 2, times.end());
-    return times[kRounds / 2];
-  };
   std::printf("Time of a step, the host's evaluations included, in ms: medians of %d rounds in turn\n\n", kRounds);
   std::printf("| m | n | ours |%s\n|---:|---:|---:|%s\n", kHasPeer ? " GSL | speed / GSL |" : "",
               kHasPeer ? "---:|---:|" : "");
@@ -227,10 +236,167 @@ void print_times() {
   }
 }
 
+// Fits whose functions cost next to nothing, by the calls of the interface alone.
+struct SmallFit {
+  const char* name;
+  std::size_t m, n;
+  std::array<double, 4> start;
+  void (*residual)(const double* x, double* f);
+  void (*jacobian)(const double* x, double* columns);
+};
+
+constexpr std::size_t kMostEntries = 16;
+
+constexpr SmallFit kSmallFits[] = {
+    {"Rosenbrock",
+     2,
+     2,
+     {-1.2, 1},
+     [](const double* x, double* f) {
+       f[0] = 10 * (x[1] - x[0] * x[0]);
+       f[1] = 1 - x[0];
+     },
+     [](const double* x, double* columns) {
+       columns[0] = -20 * x[0];
+       columns[1] = -1;
+       columns[2] = 10;
+       columns[3] = 0;
+     }},
+    {"Beale",
+     3,
+     2,
+     {1, 1},
+     [](const double* x, double* f) {
+       f[0] = 1.5 - x[0] * (1 - x[1]);
+       f[1] = 2.25 - x[0] * (1 - x[1] * x[1]);
+       f[2] = 2.625 - x[0] * (1 - x[1] * x[1] * x[1]);
+     },
+     [](const double* x, double* columns) {
+       double power = 1;
+       for (int i = 0; i < 3; ++i) {
+         columns[3 + i] = (i + 1) * x[0] * power;
+         power *= x[1];
+         columns[i] = power - 1;
+       }
+     }},
+    {"Powell singular",
+     4,
+     4,
+     {3, -1, 0, 1},
+     [](const double* x, double* f) {
+       f[0] = x[0] + 10 * x[1];
+       f[1] = std::sqrt(5.0) * (x[2] - x[3]);
+       f[2] = (x[1] - 2 * x[2]) * (x[1] - 2 * x[2]);
+       f[3] = std::sqrt(10.0) * (x[0] - x[3]) * (x[0] - x[3]);
+     },
+     [](const double* x, double* columns) {
+       std::fill_n(columns, 16, 0.0);
+       columns[0] = 1;
+       columns[4] = 10;
+       columns[9] = std::sqrt(5.0);
+       columns[13] = -std::sqrt(5.0);
+       columns[6] = 2 * (x[1] - 2 * x[2]);
+       columns[10] = -4 * (x[1] - 2 * x[2]);
+       columns[3] = 2 * std::sqrt(10.0) * (x[0] - x[3]);
+       columns[15] = -columns[3];
+     }},
+};
+
+// Steps of one fit by the exports of the library.
+int fit_by_ours(const SmallFit& fit) {
+  const std::array<float, 6> eps = {0, 1e-5F, 0, 0, 0, 0};
+  const float rs = 0;
+  const auto n = static_cast<std::int32_t>(fit.n), m = static_cast<std::int32_t>(fit.m);
+  const std::int32_t limit = 1000, step_limit = 100;
+  std::array<float, 4> x;
+  std::array<float, kMostEntries> f, columns;
+  std::copy_n(fit.start.begin(), fit.n, x.begin());
+  void* run = nullptr;
+  strnlsp_init(&run, &n, &m, x.data(), eps.data(), &limit, &step_limit, &rs);
+  for (std::int32_t request = 0; request >= 0;) {
+    if (strnlsp_solve(&run, f.data(), columns.data(), &request) != QUORIN_TRUST_REGION_SUCCESS) break;
+    std::array<double, 4> point;
+    std::array<double, kMostEntries> values;
+    std::copy_n(x.begin(), fit.n, point.begin());
+    if (request == QUORIN_TRUST_REGION_RESIDUAL) {
+      fit.residual(point.data(), values.data());
+      std::copy_n(values.begin(), fit.m, f.begin());
+    } else if (request == QUORIN_TRUST_REGION_JACOBIAN) {
+      fit.jacobian(point.data(), values.data());
+      std::copy_n(values.begin(), fit.m * fit.n, columns.begin());
+    }
+  }
+  std::int32_t steps = 0, criterion = 0;
+  float first = 0, best = 0;
+  strnlsp_get(&run, &steps, &criterion, &first, &best);
+  strnlsp_delete(&run);
+  return steps;
+}
+
+#if defined(QUORIN_BENCH_MINPACK)
+constexpr bool kHasMinpack = true;
+
+const SmallFit* current_fit = nullptr;
+
+void answer_minpack(int* /*m*/, int* /*n*/, double* x, double* f, double* columns, int* /*stride*/, int* request) {
+  *request == 1 ? current_fit->residual(x, f) : current_fit->jacobian(x, columns);
+}
+
+// Evaluations of F less one, so steps, until the tolerances of a fit to single precision.
+int fit_by_minpack(const SmallFit& fit) {
+  current_fit = &fit;
+  int m = static_cast<int>(fit.m), n = static_cast<int>(fit.n);
+  double ftol = 1e-7, xtol = 1e-7, gtol = 0, factor = 100;
+  int limit = 1000, mode = 1, print = 0, info = 0, evaluations = 0, jacobians = 0;
+  std::array<double, 4> x = fit.start, diagonal, qtf, work1, work2, work3;
+  std::array<double, kMostEntries> f, columns, work4;
+  std::array<int, 4> order;
+  lmder_(answer_minpack, &m, &n, x.data(), f.data(), columns.data(), &m, &ftol, &xtol, &gtol, &limit, diagonal.data(),
+         &mode, &factor, &print, &info, &evaluations, &jacobians, order.data(), qtf.data(), work1.data(), work2.data(),
+         work3.data(), work4.data());
+  return evaluations - 1;
+}
+#else
+constexpr bool kHasMinpack = false;
+int fit_by_minpack(const SmallFit&) { return 0; }
+#endif
+
+void print_small_fits() {
+  constexpr int kRounds = 15, kFits = 2000;
+  std::printf("\nTime of a whole fit in us, and its steps: medians of %d rounds of %d fits\n\n", kRounds, kFits);
+  std::printf("| problem | m | n | ours | steps |%s\n|---|---:|---:|---:|---:|%s\n",
+              kHasMinpack ? " MINPACK | steps | time / MINPACK | of a step |" : "",
+              kHasMinpack ? "---:|---:|---:|---:|" : "");
+  for (const SmallFit& fit : kSmallFits) {
+    Reals mine, theirs;
+    int steps = 0, peer_steps = 0;
+    const auto microseconds = [](const auto& call) {
+      return milliseconds_of([&] {
+               for (int i = 0; i < kFits; ++i) call();
+             }) *
+             1000 / kFits;
+    };
+    for (int round = 0; round < kRounds; ++round) {
+      mine.push_back(microseconds([&] { steps = fit_by_ours(fit); }));
+      theirs.push_back(microseconds([&] { peer_steps = fit_by_minpack(fit); }));
+    }
+    const double ours = median(mine), peers = median(theirs);
+    std::printf("| %s | %zu | %zu | %.2f | %d |", fit.name, fit.m, fit.n, ours, steps);
+    if (kHasMinpack) {
+      std::printf(" %.2f | %d | %.2f | %.2f |", peers, peer_steps, ours / peers, ours / steps / (peers / peer_steps));
+    }
+    std::printf("\n");
+  }
+}
+
 }  // namespace
 
-int main() {
-  print_regressions();
-  print_times();
+int main(int argc, char** argv) {
+  const bool is_short = argc > 1 && std::string(argv[1]) == "--small";
+  if (!is_short) {
+    print_regressions();
+    print_times();
+  }
+  print_small_fits();
   return 0;
 }

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <limits>
 
-#include "base/sums.hpp"
+#include "families/trust_region/vectors.hpp"
 
 namespace quorin::trust_region {
 namespace {
@@ -14,8 +14,14 @@ constexpr double kLeastShare = 1e-12;
 
 }  // namespace
 
-DampedStep::DampedStep(std::size_t n)
-    : n_(n), factor_(base::saturating_product(n, n)), scale_(n), rhs_(n), step_(n), change_(n), spare_(n) {}
+DampedStep::DampedStep(std::size_t n, Arrays& arrays)
+    : n_(n),
+      factor_(arrays.take(base::saturating_product(n, n))),
+      scale_(arrays.take(n)),
+      rhs_(arrays.take(n)),
+      step_(arrays.take(n)),
+      change_(arrays.take(n)),
+      spare_(arrays.take(n)) {}
 
 void DampedStep::solve(const PivotedQr& qr, const double* scale, double radius, const StepLimits& limits, double* s) {
   qr_ = &qr;
@@ -57,14 +63,14 @@ void DampedStep::damp(double parameter) {
     rhs_[i] = qr_->right_side()[i];
   }
   if (parameter == 0.0) return;
-  double* const row = spare_.data();
+  double* const row = spare_;
   for (std::size_t i = 0; i < count_; ++i) {
     std::fill(row + i, row + count_, 0.0);
     row[i] = std::sqrt(parameter) * scale_[i];
     double right = 0.0;
     for (std::size_t k = i; k < count_; ++k) {
       double* const upper = factor_row(k);
-      const double length = std::hypot(upper[k], row[k]);
+      const double length = hypotenuse(upper[k], row[k]);
       if (length == 0.0) continue;
       const double c = upper[k] / length, s = row[k] / length;
       for (std::size_t j = k; j < count_; ++j) {
@@ -87,8 +93,7 @@ double DampedStep::solve_for_step() {
     for (std::size_t j = k + 1; j < count_; ++j) sum += row[j] * step_[j];
     step_[k] = row[k] == 0.0 ? 0.0 : -sum / row[k];
   }
-  length_ = 0.0;
-  for (std::size_t k = 0; k < count_; ++k) length_ = std::hypot(length_, scale_[k] * step_[k]);
+  length_ = scaled_norm(count_, scale_, step_);
   return length_ - radius_;
 }
 
@@ -96,7 +101,7 @@ double DampedStep::solve_for_step() {
 // (||D s|| - radius) / radius * 1 / ||factor^-T D^2 s / ||D s|| ||^2
 double DampedStep::newton_correction(double excess) {
   if (length_ == 0.0) return 0.0;
-  double* const w = spare_.data();
+  double* const w = spare_;
   double square = 0.0;
   for (std::size_t k = 0; k < count_; ++k) w[k] = scale_[k] * (scale_[k] * step_[k] / length_);
   for (std::size_t k = 0; k < count_; ++k) {
@@ -113,7 +118,7 @@ double DampedStep::newton_correction(double excess) {
 double DampedStep::largest_damping() const {
   double length = 0.0;
   for (std::size_t k = 0; k < count_; ++k) {
-    length = std::hypot(length, base::dot(k + 1, qr_->column(k), qr_->right_side()) / scale_[k]);
+    length = hypotenuse(length, dot(k + 1, qr_->column(k), qr_->right_side()) / scale_[k]);
   }
   return std::max(length / radius_, std::numeric_limits<double>::min());
 }

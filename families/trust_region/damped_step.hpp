@@ -3,7 +3,7 @@
 
 #include <cstddef>
 
-#include "base/workspace.hpp"
+#include "families/trust_region/arrays.hpp"
 #include "families/trust_region/pivoted_qr.hpp"
 
 namespace quorin::trust_region {
@@ -22,8 +22,8 @@ struct StepLimits {
 // sections 3 and 5.
 class DampedStep {
  public:
-  explicit DampedStep(std::size_t n);
-  explicit operator bool() const { return factor_ && scale_ && rhs_ && step_ && change_ && spare_; }
+  DampedStep() = default;
+  DampedStep(std::size_t n, Arrays& arrays);
 
   // `scale` is the diagonal of D and `s` the step, both in the order in which the columns were given to `qr`.
   void solve(const PivotedQr& qr, const double* scale, double radius, const StepLimits& limits, double* s);
@@ -45,16 +45,16 @@ class DampedStep {
   }
 
  private:
-  double* factor_row(std::size_t i) { return factor_.data() + i * n_; }
+  double* factor_row(std::size_t i) { return factor_ + i * n_; }
   void damp(double parameter);
   double solve_for_step();
   double newton_correction(double excess);
   double largest_damping() const;
   double least_damping() const;
 
-  std::size_t n_, count_ = 0;
-  base::Workspace<double> factor_;  // by rows: the triangle of (R; sqrt(lambda) D)
-  base::Workspace<double> scale_, rhs_, step_, change_, spare_;
+  std::size_t n_ = 0, count_ = 0;
+  double* factor_ = nullptr;  // by rows: the triangle of (R; sqrt(lambda) D)
+  double *scale_ = nullptr, *rhs_ = nullptr, *step_ = nullptr, *change_ = nullptr, *spare_ = nullptr;
   const PivotedQr* qr_ = nullptr;
   double radius_ = 0.0, length_ = 0.0;
 };

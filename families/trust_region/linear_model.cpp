@@ -2,26 +2,23 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
-#include "base/sums.hpp"
+#include "families/trust_region/vectors.hpp"
 
 namespace quorin::trust_region {
 
-LinearModel::LinearModel(std::size_t n)
-    : n_(n), triangle_(base::saturating_product(n + 1, n + 1)), block_(base::saturating_product(kBlockRows, n + 1)) {}
+LinearModel::LinearModel(std::size_t n, std::size_t m, Arrays& arrays)
+    : n_(n),
+      m_(m),
+      block_rows_(std::min<std::size_t>(m, 64)),
+      triangle_(arrays.take(base::saturating_product(n + 1, n + 1))),
+      block_(arrays.take(base::saturating_product(block_rows_, n + 1))) {}
 
-void LinearModel::swap(LinearModel& other) noexcept {
-  std::swap(n_, other.n_);
-  triangle_.swap(other.triangle_);
-  block_.swap(other.block_);
-}
-
-bool LinearModel::take(std::size_t m, const float* jacobian, const float* residual) {
-  std::fill(triangle_.begin(), triangle_.end(), 0.0);
-  for (std::size_t row = 0; row < m; row += kBlockRows) {
-    const std::size_t rows = std::min(kBlockRows, m - row);
-    for (std::size_t j = 0; j < n_; ++j) std::copy_n(jacobian + m * j + row, rows, block_column(j));
+bool LinearModel::take(const float* jacobian, const float* residual) {
+  std::fill_n(triangle_, (n_ + 1) * (n_ + 1), 0.0);
+  for (std::size_t row = 0; row < m_; row += block_rows_) {
+    const std::size_t rows = std::min(block_rows_, m_ - row);
+    for (std::size_t j = 0; j < n_; ++j) std::copy_n(jacobian + m_ * j + row, rows, block_column(j));
     std::copy_n(residual + row, rows, block_column(n_));
     append(rows);
   }
@@ -33,7 +30,7 @@ bool LinearModel::take(std::size_t m, const float* jacobian, const float* residu
 void LinearModel::append(std::size_t rows) {
   for (std::size_t k = 0; k <= n_; ++k) {
     double* const v = block_column(k);
-    const double below = base::dot(rows, v, v);
+    const double below = dot(rows, v, v);
     if (below == 0.0) continue;
     double& head = column(k)[k];
     const double length = -std::copysign(std::sqrt(head * head + below), head);
@@ -41,7 +38,7 @@ void LinearModel::append(std::size_t rows) {
     const double factor = 2.0 / (v0 * v0 + below);
     head = length;
     for (std::size_t j = k + 1; j <= n_; ++j) {
-      const double share = factor * (v0 * column(j)[k] + base::dot(rows, v, block_column(j)));
+      const double share = factor * (v0 * column(j)[k] + dot(rows, v, block_column(j)));
       column(j)[k] -= share * v0;
       base::add_multiple(rows, -share, v, block_column(j));
     }
@@ -50,12 +47,12 @@ void LinearModel::append(std::size_t rows) {
 
 // An entry that is not finite makes its column's length so.
 bool LinearModel::is_finite() const {
-  return std::all_of(triangle_.data(), triangle_.data() + triangle_.size(), [](double a) { return std::isfinite(a); });
+  return std::all_of(triangle_, triangle_ + (n_ + 1) * (n_ + 1), [](double a) { return std::isfinite(a); });
 }
 
-double LinearModel::column_norm(std::size_t j) const { return base::norm(j + 1, column(j)); }
+double LinearModel::column_norm(std::size_t j) const { return norm(j + 1, column(j)); }
 
-double LinearModel::gradient(std::size_t j) const { return base::dot(j + 1, column(j), right_side()); }
+double LinearModel::gradient(std::size_t j) const { return dot(j + 1, column(j), right_side()); }
 
 void LinearModel::multiply(const double* s, double* image) const {
   std::fill_n(image, n_, 0.0);
@@ -64,7 +61,7 @@ void LinearModel::multiply(const double* s, double* image) const {
 
 double LinearModel::decrease(const double* s, double* image) const {
   multiply(s, image);
-  return -(base::dot(n_, image, right_side()) + base::dot(n_, image, image) / 2);
+  return -(dot(n_, image, right_side()) + dot(n_, image, image) / 2);
 }
 
 }  // namespace quorin::trust_region

@@ -3,7 +3,7 @@
 
 #include <cstddef>
 
-#include "base/workspace.hpp"
+#include "families/trust_region/arrays.hpp"
 
 namespace quorin::trust_region {
 
@@ -14,17 +14,16 @@ namespace quorin::trust_region {
 // 6.5.3 (appending rows).
 class LinearModel {
  public:
-  explicit LinearModel(std::size_t n);
-  explicit operator bool() const { return triangle_ && block_; }
-  void swap(LinearModel& other) noexcept;
+  LinearModel() = default;
+  LinearModel(std::size_t n, std::size_t m, Arrays& arrays);
 
   std::size_t size() const { return n_; }
 
-  // From J (m x n, column-major) and F (m entries). False if an entry is not finite; the model is then void.
-  [[nodiscard]] bool take(std::size_t m, const float* jacobian, const float* residual);
+  // From J (m x n, column-major) and F. False if an entry is not finite; the model is then void.
+  [[nodiscard]] bool take(const float* jacobian, const float* residual);
 
   // R(:,j), n entries, zero below the j-th; c for j = n.
-  const double* column(std::size_t j) const { return triangle_.data() + j * (n_ + 1); }
+  const double* column(std::size_t j) const { return triangle_ + j * (n_ + 1); }
   const double* right_side() const { return column(n_); }
   // ||J(:,j)||
   double column_norm(std::size_t j) const;
@@ -36,16 +35,14 @@ class LinearModel {
   double decrease(const double* s, double* image) const;
 
  private:
-  static constexpr std::size_t kBlockRows = 64;
-
-  double* column(std::size_t j) { return triangle_.data() + j * (n_ + 1); }
-  double* block_column(std::size_t j) { return block_.data() + j * kBlockRows; }
+  double* column(std::size_t j) { return triangle_ + j * (n_ + 1); }
+  double* block_column(std::size_t j) { return block_ + j * block_rows_; }
   void append(std::size_t rows);
   bool is_finite() const;
 
-  std::size_t n_;
-  base::Workspace<double> triangle_;  // n + 1 columns of n + 1 entries: (R c; 0 rho)
-  base::Workspace<double> block_;     // rows of (J F) under way
+  std::size_t n_ = 0, m_ = 0, block_rows_ = 0;
+  double* triangle_ = nullptr;  // n + 1 columns of n + 1 entries: (R c; 0 rho)
+  double* block_ = nullptr;     // rows of (J F) under way
 };
 
 }  // namespace quorin::trust_region

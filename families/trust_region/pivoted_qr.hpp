@@ -3,7 +3,7 @@
 
 #include <cstddef>
 
-#include "base/workspace.hpp"
+#include "families/trust_region/arrays.hpp"
 #include "families/trust_region/linear_model.hpp"
 
 namespace quorin::trust_region {
@@ -12,8 +12,8 @@ namespace quorin::trust_region {
 // of the columns that are left are computed anew in each step.
 class PivotedQr {
  public:
-  explicit PivotedQr(std::size_t n);
-  explicit operator bool() const { return a_ && rhs_ && order_; }
+  PivotedQr() = default;
+  PivotedQr(std::size_t n, Arrays& arrays);
 
   // A: the columns columns[0...count-1] of R of the model; `rhs`, n entries, becomes Q^T rhs.
   void factor(const LinearModel& model, const std::size_t* columns, std::size_t count, const double* rhs);
@@ -22,9 +22,9 @@ class PivotedQr {
   // Entry (i, j) of R; i <= j.
   double entry(std::size_t i, std::size_t j) const { return a_[j * n_ + i]; }
   // R(:,j), j + 1 entries.
-  const double* column(std::size_t j) const { return a_.data() + j * n_; }
+  const double* column(std::size_t j) const { return a_ + j * n_; }
   // The first size() entries of Q^T rhs.
-  const double* right_side() const { return rhs_.data(); }
+  const double* right_side() const { return rhs_; }
   // Which of the given columns is the k-th of A P.
   std::size_t order(std::size_t k) const { return order_[k]; }
   // Columns that are independent to working precision.
@@ -34,9 +34,9 @@ class PivotedQr {
   void bring_longest(std::size_t k);
   void eliminate(std::size_t k);
 
-  std::size_t n_, count_ = 0;
-  base::Workspace<double> a_, rhs_;
-  base::Workspace<std::size_t> order_;
+  std::size_t n_ = 0, count_ = 0;
+  double *a_ = nullptr, *rhs_ = nullptr;
+  std::size_t* order_ = nullptr;
 };
 
 }  // namespace quorin::trust_region

@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 #include "base/sums.hpp"
+#include "families/trust_region/vectors.hpp"
 
 namespace quorin::trust_region {
 namespace {
@@ -40,30 +42,33 @@ StepLimits step_limits(const Setup& setup) {
 
 }  // namespace
 
-Solver::Solver(const Setup& setup)
-    : setup_(setup),
-      bounds_(setup.lower != nullptr ? base::saturating_product(2, setup.n) : 0),
-      x_(setup.n),
-      trial_x_(setup.n),
-      residual_(setup.m),
-      trial_residual_(setup.m),
-      largest_norms_(setup.n),
-      scale_(setup.n),
-      model_(setup.n),
-      trial_model_(setup.n),
-      step_(setup.n) {
-  if (!*this) return;
+Solver::Solver(const Setup& setup) : setup_(setup) {
+  Arrays needed;
+  lay_out(needed);
+  memory_ = base::Workspace<std::byte>(needed.bytes());
+  if (!memory_) return;
+  Arrays arrays(memory_.data());
+  lay_out(arrays);
   if (setup.lower != nullptr) {
-    box_ = {.lower = bounds_.data(), .upper = bounds_.data() + setup.n};
-    std::copy_n(setup.lower, setup.n, bounds_.data());
-    std::copy_n(setup.upper, setup.n, bounds_.data() + setup.n);
+    box_ = {.lower = bounds_, .upper = bounds_ + setup.n};
+    std::copy_n(setup.lower, setup.n, bounds_);
+    std::copy_n(setup.upper, setup.n, bounds_ + setup.n);
   }
-  std::fill(largest_norms_.begin(), largest_norms_.end(), 0.0);
+  std::fill_n(largest_norms_, setup.n, 0.0);
 }
 
-Solver::operator bool() const {
-  return bounds_ && x_ && trial_x_ && residual_ && trial_residual_ && largest_norms_ && scale_ && model_ &&
-         trial_model_ && step_;
+void Solver::lay_out(Arrays& arrays) {
+  const std::size_t n = setup_.n, m = setup_.m;
+  bounds_ = arrays.take<float>(setup_.lower != nullptr ? base::saturating_product(2, n) : 0);
+  x_ = arrays.take<float>(n);
+  trial_x_ = arrays.take<float>(n);
+  residual_ = arrays.take<float>(m);
+  trial_residual_ = arrays.take<float>(m);
+  largest_norms_ = arrays.take(n);
+  scale_ = arrays.take(n);
+  model_ = LinearModel(n, m, arrays);
+  trial_model_ = LinearModel(n, m, arrays);
+  step_ = BoxStep(n, arrays);
 }
 
 bool Solver::advance(float* residual, const float* jacobian, int* request) {
@@ -71,8 +76,8 @@ bool Solver::advance(float* residual, const float* jacobian, int* request) {
   request_ = resume(residual, jacobian);
   // What the host finds at the end belongs together.
   if (stage_ == kStopped && !has_ended && !failed_) {
-    std::copy_n(x_.data(), setup_.n, setup_.x);
-    std::copy_n(residual_.data(), setup_.m, residual);
+    std::copy_n(x_, setup_.n, setup_.x);
+    std::copy_n(residual_, setup_.m, residual);
   }
   *request = static_cast<int>(request_);
   return !failed_;
@@ -98,21 +103,21 @@ Request Solver::resume(const float* residual, const float* jacobian) {
 
 Request Solver::start() {
   for (std::size_t j = 0; j < setup_.n; ++j) x_[j] = box_.project(j, setup_.x[j]);
-  std::copy_n(x_.data(), setup_.n, setup_.x);
+  std::copy_n(x_, setup_.n, setup_.x);
   return ask(kResidual, kFirstResidual);
 }
 
 Request Solver::take_first_residual(const float* residual) {
   first_norm_ = norm_ = norm_of(setup_.m, residual);
   if (!std::isfinite(norm_)) return fail();
-  std::copy_n(residual, setup_.m, residual_.data());
+  std::copy_n(residual, setup_.m, residual_);
   return ask(kJacobian, kFirstJacobian);
 }
 
 Request Solver::take_first_jacobian(const float* jacobian) {
-  if (!model_.take(setup_.m, jacobian, residual_.data())) return fail();
+  if (!model_.take(jacobian, residual_)) return fail();
   update_scale();
-  double length = scaled_length();
+  double length = scaled_norm(setup_.n, scale_, x_);
   // Where F is hardly sensitive to a variable, the norm of its column alone would give it too much room, in units of
   // its own start.
   for (std::size_t j = 0; j < setup_.n; ++j) {
@@ -121,7 +126,7 @@ Request Solver::take_first_jacobian(const float* jacobian) {
     largest_norms_[j] = std::max(largest_norms_[j], std::min(balanced, kMostBalance * scale_[j]));
   }
   update_scale();
-  length = scaled_length();
+  length = scaled_norm(setup_.n, scale_, x_);
   radius_ = kFirstRadius * (length > 0.0 ? length : 1.0);
   return go_on_from_new_point();
 }
@@ -129,7 +134,7 @@ Request Solver::take_first_jacobian(const float* jacobian) {
 Request Solver::take_trial_residual(const float* residual) {
   trial_norm_ = norm_of(setup_.m, residual);
   if (!std::isfinite(trial_norm_)) return reject_not_finite();
-  std::copy_n(residual, setup_.m, trial_residual_.data());
+  std::copy_n(residual, setup_.m, trial_residual_);
   const double quotient = trial_norm_ / norm_;
   // Far up, the exact amount says nothing.
   const double actual = quotient < 10.0 ? 1.0 - quotient * quotient : -1.0;
@@ -144,10 +149,10 @@ Request Solver::take_trial_residual(const float* residual) {
 }
 
 Request Solver::take_trial_jacobian(const float* jacobian) {
-  if (!trial_model_.take(setup_.m, jacobian, trial_residual_.data())) return reject_not_finite();
-  model_.swap(trial_model_);
-  x_.swap(trial_x_);
-  residual_.swap(trial_residual_);
+  if (!trial_model_.take(jacobian, trial_residual_)) return reject_not_finite();
+  std::swap(model_, trial_model_);
+  std::swap(x_, trial_x_);
+  std::swap(residual_, trial_residual_);
   norm_ = trial_norm_;
   update_scale();
   return go_on_from_new_point();
@@ -171,6 +176,7 @@ Request Solver::reject() {
 }
 
 Request Solver::go_on_from_new_point() {
+  step_.start(model_, box_, x_, scale_);
   if (norm_ < double{setup_.tolerances.residual}) return stop(kResidualSmall);
   if (is_singular()) return stop(kJacobianSingular);
   return go_on();
@@ -196,23 +202,21 @@ Request Solver::propose() {
   if (!(decrease > 0.0)) return stop(kDecreaseSmall);
   const double trial_norm = std::sqrt(std::max(norm_ * norm_ - decrease, 0.0));
   if (decrease / (norm_ + trial_norm) < double{setup_.tolerances.decrease}) return stop(kDecreaseSmall);
-  if (base::norm(setup_.n, s) < double{setup_.tolerances.step}) return stop(kStepSmall);
+  if (norm(setup_.n, s) < double{setup_.tolerances.step}) return stop(kStepSmall);
 
   slope_ = 0.0;
-  for (std::size_t j = 0; j < setup_.n; ++j) slope_ += model_.gradient(j) * s[j] / (norm_ * norm_);
+  for (std::size_t j = 0; j < setup_.n; ++j) slope_ += step_.gradient(j) * s[j] / (norm_ * norm_);
   predicted_decrease_ = decrease / (norm_ * norm_);
   if (iterations_ == 0) radius_ = std::min(radius_, step_length_);
   ++iterations_;
-  std::copy_n(trial_x_.data(), setup_.n, setup_.x);
+  std::copy_n(trial_x_, setup_.n, setup_.x);
   return ask(kResidual, kTrialResidual);
 }
 
 // The step for the present radius, and its length.
 const double* Solver::find_step() {
-  const double* const s =
-      step_.solve(model_, box_, x_.data(), scale_.data(), radius_, step_limits(setup_), trial_x_.data());
-  step_length_ = 0.0;
-  for (std::size_t j = 0; j < setup_.n; ++j) step_length_ = std::hypot(step_length_, scale_[j] * s[j]);
+  const double* const s = step_.solve(radius_, step_limits(setup_), trial_x_);
+  step_length_ = scaled_norm(setup_.n, scale_, s);
   return s;
 }
 
@@ -224,7 +228,7 @@ const double* Solver::find_first_step() {
   double fits = 0.0, exceeds = std::numeric_limits<double>::infinity();
   for (;;) {
     const double* const s = find_step();
-    const double length = base::norm(setup_.n, s);
+    const double length = norm(setup_.n, s);
     if (!(length > most)) {
       fits = radius_;
       if (!(length < kShort * most) || exceeds < kClose * fits || !std::isfinite(exceeds)) return s;
@@ -257,23 +261,17 @@ void Solver::update_scale() {
   }
 }
 
-// ||D x||
-double Solver::scaled_length() const {
-  double length = 0.0;
-  for (std::size_t j = 0; j < setup_.n; ++j) length = std::hypot(length, scale_[j] * double{x_[j]});
-  return length;
-}
-
 bool Solver::is_singular() const {
+  if (setup_.tolerances.column == 0.0F) return false;
   for (std::size_t j = 0; j < setup_.n; ++j) {
     if (model_.column_norm(j) >= double{setup_.tolerances.column}) continue;
-    if (!box_.freezes(j, x_[j], model_.gradient(j))) return true;
+    if (!box_.freezes(j, x_[j], step_.gradient(j))) return true;
   }
   return false;
 }
 
 // The largest ||s|| that the ellipsoid admits.
-double Solver::longest_axis() const { return radius_ / *std::min_element(scale_.data(), scale_.data() + setup_.n); }
+double Solver::longest_axis() const { return radius_ / *std::min_element(scale_, scale_ + setup_.n); }
 
 Request Solver::ask(Request request, Stage stage) {
   stage_ = stage;

@@ -5,6 +5,7 @@
 
 #include "base/handle_table.hpp"
 #include "base/workspace.hpp"
+#include "families/trust_region/arrays.hpp"
 #include "families/trust_region/box_step.hpp"
 #include "families/trust_region/linear_model.hpp"
 #include "generated/trust_region_constants.hpp"
@@ -34,7 +35,7 @@ class Solver : public base::HandleNode {
  public:
   explicit Solver(const Setup& setup);
   // False if there was no memory.
-  explicit operator bool() const;
+  explicit operator bool() const { return static_cast<bool>(memory_); }
 
   // Takes what was asked for and returns the next request; negative ones repeat. False if the host's first F or
   // Jacobian is not finite: there is nothing to go back to, and the run ends with kIterationLimit.
@@ -50,6 +51,7 @@ class Solver : public base::HandleNode {
   enum class Stage { kStart, kFirstResidual, kFirstJacobian, kTrialResidual, kTrialJacobian, kStopped };
   using enum Stage;
 
+  void lay_out(Arrays& arrays);
   Request resume(const float* residual, const float* jacobian);
   Request start();
   Request take_first_residual(const float* residual);
@@ -66,7 +68,6 @@ class Solver : public base::HandleNode {
   bool is_within_noise(double actual) const;
   void update_scale();
   void update_radius(double actual, double predicted);
-  double scaled_length() const;
   bool is_singular() const;
   double longest_axis() const;
 
@@ -76,8 +77,9 @@ class Solver : public base::HandleNode {
 
   Setup setup_;
   Box box_;
-  base::Workspace<float> bounds_, x_, trial_x_, residual_, trial_residual_;
-  base::Workspace<double> largest_norms_, scale_;
+  base::Workspace<std::byte> memory_;
+  float *bounds_ = nullptr, *x_ = nullptr, *trial_x_ = nullptr, *residual_ = nullptr, *trial_residual_ = nullptr;
+  double *largest_norms_ = nullptr, *scale_ = nullptr;
   LinearModel model_, trial_model_;
   BoxStep step_;
 

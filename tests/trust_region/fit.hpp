@@ -50,7 +50,7 @@ struct Fit {
   std::size_t m = 0;
   Function function;
   Floats x, lower, upper;
-  std::array<float, 6> eps = {0, 0, 0, 0, 0, 0.1F};
+  std::array<float, 6> eps = {};
   int limit = 2000, step_limit = 100;
   float rs = 0;
 
