@@ -20,8 +20,14 @@ class CriticalPoints {
   [[nodiscard]] int find(const double* samples, double* zeros) const;
 
  private:
-  // Takes samples to coefficients: row k is T_k at the sample points, times 2 / kSamples (1 / kSamples for k = 0).
-  std::array<std::array<double, kSamples>, kSamples> transform_;
+  using Samples = std::array<double, kSamples>;
+
+  int find_several(const double* samples, double* zeros) const;
+
+  // Take samples to coefficients of their series, row k to that of T_k, and of its derivative: in powers of x, and in
+  // Bernstein polynomials on [-1, 1].
+  std::array<Samples, kSamples> series_;
+  std::array<Samples, kSamples - 1> powers_, bernstein_;
 };
 
 }  // namespace quorin::signal

@@ -162,7 +162,7 @@ class Designer {
   void spread_evenly(int points);
   void spread_like_remembered(int points);
   void evaluate_best(double* response, int samples);
-  bool is_in_band(double t) const;
+  bool is_well_conditioned(double t) const;
   bool is_rounding_harmless() const;
   double error_of(const double* h, double t, const Band& band) const;
   bool keeps_its_error(const double* h) const;
@@ -375,7 +375,7 @@ double Designer::error_of(const double* h, double t, const Band& band) const {
 // and between them. Large weights make much of what evaluation of the polynomial, and rounding of the filter, cost. An
 // error that is lost in rounding need not alternate.
 bool Designer::keeps_its_error(const double* h) const {
-  constexpr double kPart = 1e-2;
+  constexpr double kPart = 1e-3;
   const double floor = kNearRounding * rounding_.computation;
   const bool is_lost = best_.error <= floor;
   const double most = (1 + kPart) * best_.error + (is_lost ? floor : 0.0);
@@ -393,9 +393,14 @@ bool Designer::keeps_its_error(const double* h) const {
   return true;
 }
 
-bool Designer::is_in_band(double t) const {
+// Whether the sums of the barycentric form do not cancel at t: within a band, unless another weighs much more. Weights
+// of nodes are as unlike as those of their bands, and what cancels in the lighter one would show in the heavier one,
+// because the coefficients spread it.
+bool Designer::is_well_conditioned(double t) const {
+  constexpr double kMuch = 16;
   for (int b = 0; b < problem_.band_count(); ++b) {
-    if (problem_.bands[b].lower <= t && t <= problem_.bands[b].upper) return true;
+    const Band& band = problem_.bands[b];
+    if (band.lower <= t && t <= band.upper) return kMuch * band.weight >= rounding_.weight;
   }
   return false;
 }
@@ -413,7 +418,7 @@ void Designer::evaluate_best(double* response, int samples) {
     exchange_.polynomial().evaluate(x, value);
     for (int l = 0; l < kLanes && begin + l < samples; ++l) {
       const double t = 2 * pi * (begin + l) / form.taps();
-      if (!is_in_band(t)) value[l] = precise_.evaluate(x[l]).value;
+      if (!is_well_conditioned(t)) value[l] = precise_.evaluate(x[l]).value;
       response[begin + l] = form.factor(t) * value[l];
     }
   }

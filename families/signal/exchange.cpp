@@ -16,6 +16,22 @@ std::size_t most_candidates(int points, int bands, int pieces) {
   return base::saturating_product(marks, 1 + base::saturating_product(kSamples, static_cast<std::size_t>(pieces)));
 }
 
+// cos(middle + half s) for all samples s in [-1, 1]. Near `middle`, by the sum formula and Taylor series.
+void cosines_near(double middle, double half, const std::array<double, kSamples>& samples, double* result) {
+  constexpr double kNear = 0.1;  // where the series that follow are good to 1e-17
+  if (half > kNear) {
+    for (int j = 0; j < kSamples; ++j) result[j] = std::cos(middle + half * samples[j]);
+    return;
+  }
+  const double cosine = std::cos(middle), sine = std::sin(middle);
+  for (int j = 0; j < kSamples; ++j) {
+    const double d = half * samples[j], square = d * d;
+    const double versine = square / 2 * (1 - square / 12 * (1 - square / 30 * (1 - square / 56 * (1 - square / 90))));
+    const double sine_d = d * (1 - square / 6 * (1 - square / 20 * (1 - square / 42 * (1 - square / 72))));
+    result[j] = cosine - (cosine * versine + sine * sine_d);
+  }
+}
+
 bool negative(const Extremum& e) { return std::signbit(e.error); }
 double size(const Extremum& e) { return std::abs(e.error); }
 
@@ -114,7 +130,7 @@ void Exchange::search_piece(int b, double from, double to) {
   const double middle = (from + to) / 2;
   const double half = (to - from) / 2;
   double x[kSamples], errors[kSamples], zeros[kSamples];
-  for (int j = 0; j < kSamples; ++j) x[j] = std::cos(middle + half * samples_[j]);
+  cosines_near(middle, half, samples_, x);
   polynomial_.evaluate(x, errors);
   for (int j = 0; j < kSamples; ++j) {
     const double shape = problem_.shape(middle + half * samples_[j], band(b));

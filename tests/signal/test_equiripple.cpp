@@ -280,10 +280,15 @@ TEST(Equiripple, ExtremeWeightsConvergeOrSaySo) {
         Design d{"weights 1 to 1e" + std::to_string(power), taps, {0, 0.1, 0.2, 0.5}, {1, 0}, {1, heavy}};
         if (is_swapped) d.desired = {0, 1};
         std::vector<double> h;
-        if (design(d, h) != 0) continue;
+        const bool is_within_reach = taps < 100 && power <= 9;
+        if (design(d, h) != 0) {
+          EXPECT_FALSE(is_within_reach) << d.name << ", " << taps << " taps";
+          continue;
+        }
         ++converged;
-        EXPECT_LT(largest_error(d, h), 1.0) << d.name << ", " << taps << " taps";
-        if (largest_error(d, h) > 1e-11 * heavy) expect_optimal(d, h, 2e-2);
+        if (is_within_reach) expect_optimal(d, h, 5e-4);
+        EXPECT_LT(largest_error(d, h), 1.001) << d.name << ", " << taps << " taps";
+        if (largest_error(d, h) > 1e-11 * heavy) expect_optimal(d, h, 2e-3);
       }
     }
     EXPECT_GE(converged, 10) << taps;
