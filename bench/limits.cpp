@@ -1,15 +1,15 @@
 #include "bench/limits.hpp"
 
-#include <benchmark/benchmark.h>
-#include <immintrin.h>
+#include "dense/kernels/kernel_set.hpp"
+#include "platform/cpu.hpp"
 
 namespace quorin::bench {
 namespace {
 
-// Functions compiled for these run only where it holds.
-bool has_avx2_fma() {
-  __builtin_cpu_init();
-  return __builtin_cpu_supports("avx2") && __builtin_cpu_supports("fma");
+// The set that the product chooses here, too.
+platform::InstructionSet chosen_set() {
+  static const platform::InstructionSet set = platform::choose_instruction_set(platform::cpu_features());
+  return set;
 }
 
 // Vector registers; they may look at any array.
@@ -21,26 +21,32 @@ struct Avx {
   using Floats [[gnu::vector_size(32), gnu::may_alias]] = float;
   using Bits [[gnu::vector_size(32), gnu::may_alias]] = int;
 };
+struct Avx512 {
+  using Floats [[gnu::vector_size(64), gnu::may_alias]] = float;
+};
 
 // 32-bit code has eight vector registers, and eight chains are what two FMA units with four cycles of latency want. A
 // chain is x <- x x + x with no other operand; from -1/2 it creeps towards 0 and never gets subnormal.
 constexpr int kChains = 8;
 
-[[gnu::target("avx2,fma")]] void fma_arithmetic(int rounds) {
-  __m256 x0 = _mm256_set1_ps(-0.5F), x1 = x0, x2 = x0, x3 = x0, x4 = x0, x5 = x0, x6 = x0, x7 = x0;
+template <class Floats>
+[[gnu::always_inline]] inline void fma_chains(int rounds) {
+  Floats x0 = Floats{} - 0.5F, x1 = x0, x2 = x0, x3 = x0, x4 = x0, x5 = x0, x6 = x0, x7 = x0;
   for (int i = 0; i < rounds; ++i) {
-    x0 = _mm256_fmadd_ps(x0, x0, x0);
-    x1 = _mm256_fmadd_ps(x1, x1, x1);
-    x2 = _mm256_fmadd_ps(x2, x2, x2);
-    x3 = _mm256_fmadd_ps(x3, x3, x3);
-    x4 = _mm256_fmadd_ps(x4, x4, x4);
-    x5 = _mm256_fmadd_ps(x5, x5, x5);
-    x6 = _mm256_fmadd_ps(x6, x6, x6);
-    x7 = _mm256_fmadd_ps(x7, x7, x7);
+    x0 += x0 * x0;
+    x1 += x1 * x1;
+    x2 += x2 * x2;
+    x3 += x3 * x3;
+    x4 += x4 * x4;
+    x5 += x5 * x5;
+    x6 += x6 * x6;
+    x7 += x7 * x7;
     // Equal chains are not to be merged.
-    asm volatile("" : "+x"(x0), "+x"(x1), "+x"(x2), "+x"(x3), "+x"(x4), "+x"(x5), "+x"(x6), "+x"(x7));
+    asm volatile("" : "+v"(x0), "+v"(x1), "+v"(x2), "+v"(x3), "+v"(x4), "+v"(x5), "+v"(x6), "+v"(x7));
   }
 }
+[[gnu::target("avx2,fma")]] void avx_chains(int rounds) { fma_chains<Avx::Floats>(rounds); }
+[[gnu::target("avx512f")]] void avx512_chains(int rounds) { fma_chains<Avx512::Floats>(rounds); }
 
 // Six sums, one product at a time: what fits into eight registers when a product needs one of its own.
 constexpr int kSums = 6;
@@ -80,7 +86,7 @@ void sse_triad(float a, const float* x, float* y, std::size_t blocks) { triad_st
 
 }  // namespace
 
-const char* instruction_set() { return has_avx2_fma() ? "AVX2 and FMA" : "SSE"; }
+const char* instruction_set() { return platform::kInstructionSets[static_cast<std::size_t>(chosen_set())].name; }
 
 void sse_arithmetic(int rounds) {
   Sse::Floats s0{}, s1{}, s2{}, s3{}, s4{}, s5{};
@@ -102,13 +108,26 @@ void sse_arithmetic(int rounds) {
 
 double sse_arithmetic_flops(int rounds) { return 2.0 * kSums * 4 * rounds; }
 
-ArithmeticLoop* best_arithmetic() { return has_avx2_fma() ? fma_arithmetic : sse_arithmetic; }
-
-double best_arithmetic_flops(int rounds) {
-  return has_avx2_fma() ? 2.0 * kChains * 8 * rounds : sse_arithmetic_flops(rounds);
+ArithmeticLoop* best_arithmetic() {
+  switch (chosen_set()) {
+    case platform::InstructionSet::kSse2:
+      return sse_arithmetic;
+    case platform::InstructionSet::kAvx2:
+      return avx_chains;
+    case platform::InstructionSet::kAvx512:
+      break;
+  }
+  return avx512_chains;
 }
 
-ReadLoop* best_read() { return has_avx2_fma() ? avx_read : sse_read; }
-TriadLoop* best_triad() { return has_avx2_fma() ? avx_triad : sse_triad; }
+double best_arithmetic_flops(int rounds) {
+  if (chosen_set() == platform::InstructionSet::kSse2) return sse_arithmetic_flops(rounds);
+  return 2.0 * kChains * (chosen_set() == platform::InstructionSet::kAvx2 ? 8 : 16) * rounds;
+}
+
+ReadLoop* best_read() { return chosen_set() == platform::InstructionSet::kSse2 ? sse_read : avx_read; }
+TriadLoop* best_triad() { return chosen_set() == platform::InstructionSet::kSse2 ? sse_triad : avx_triad; }
+
+LeaveWideRegisters::~LeaveWideRegisters() { dense::kernels::leave_wide_registers(); }
 
 }  // namespace quorin::bench

@@ -5,13 +5,14 @@
 
 namespace quorin::bench {
 
-// The widest instructions that the loops below use here.
+// The instruction set of the loops below: the best that runs here or, if QUORIN_CPU names a lower one, that, as in the
+// product.
 const char* instruction_set();
 
 // `rounds` rounds of independent multiply-add chains that stay in registers.
 using ArithmeticLoop = void(int rounds);
 
-// AVX2 with FMA if the CPU has it, else SSE multiplications and additions.
+// Multiply-adds in the set's registers, or SSE multiplications and additions.
 ArithmeticLoop* best_arithmetic();
 double best_arithmetic_flops(int rounds);
 // SSE in any case.
@@ -26,5 +27,11 @@ ReadLoop* best_read();
 // y <- a x + y
 using TriadLoop = void(float a, const float* x, float* y, std::size_t blocks);
 TriadLoop* best_triad();
+
+// Whoever calls these loops owns one of these, so that code for SSE which is measured next finds the registers as it
+// wants them.
+struct LeaveWideRegisters {
+  ~LeaveWideRegisters();
+};
 
 }  // namespace quorin::bench

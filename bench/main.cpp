@@ -90,7 +90,7 @@ std::string processor_signature() {
 void add_context(const Libraries& libraries) {
   benchmark::AddCustomContext("processor", processor_name() + " (" + processor_signature() + ")");
   benchmark::AddCustomContext("target", sizeof(void*) == 4 ? "32-bit Windows" : "64-bit Linux");
-  benchmark::AddCustomContext("limit", instruction_set());
+  benchmark::AddCustomContext("set", instruction_set());
   benchmark::AddCustomContext("peer", libraries.peer_description);
 }
 

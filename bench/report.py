@@ -1,19 +1,26 @@
 #!/usr/bin/env python3
 """Turns the results of lapacks_bench into tables of ratios, in Markdown on standard output.
 
-    bench/report.py RESULTS.json
+    bench/report.py [--figure FILE.svg] RESULTS.json...
+
+Several files are runs with different instruction sets, or of different rows; the first is the one of the introduction.
+--figure draws the speed of sgemm over n.
 
 Every figure is a median over repetitions. A ratio is the ratio of two medians of one group; the range behind it holds
 the middle half of all ratios between a repetition of one side and a repetition of the other.
 """
 
+import argparse
 import json
+import math
 import statistics
 import sys
 from collections import defaultdict
 from dataclasses import dataclass, field
+from pathlib import Path
 
 PRODUCT, INDEX, LIMIT = "quorin", "index", "limit"
+SETS = ["sse2", "avx2", "avx512"]
 TITLES = {
     "openblas": "OpenBLAS", "lapack": "LAPACK", "eigen": "Eigen", "boost": "Boost.Math", "gsl": "GSL", "umfpack": "UMFPACK",
     "loop": "a loop", "amd": "AMD", "ic0": "IC(0)",
@@ -120,21 +127,20 @@ class Key:
     operation: str
     size: int
     threads: int
+    set: str  # the instruction set
 
 
-def read_groups(results):
-    groups = defaultdict(dict)
+def read_groups(results, groups):
     for run in results["benchmarks"]:
         if run["run_type"] != "iteration":
             continue
         section, operation, size, threads, side = run["run_name"].split("/")[:5]
-        entry = groups[Key(section, operation, int(size), int(threads))].setdefault(side, Side())
+        entry = groups[Key(section, operation, int(size), int(threads), results["context"]["set"])].setdefault(side, Side())
         entry.unit = next(unit for unit in ("flop", "byte", "time") if unit in run)
         entry.fill = run.get("fill", 0)
         entry.steps = run.get("steps", 0)
         entry.work = run[entry.unit]
         entry.times.append(run["real_time"] / run["calls"])
-    return groups
 
 
 def quartiles(values):
@@ -207,19 +213,19 @@ def speed_columns(sides, peers):
 
 
 def speed_table(groups):
-    """One operation: a line for each size, columns for each number of threads."""
+    """One operation: a line for each size, columns for each instruction set and number of threads."""
     peers = peers_of(groups)
-    threads = sorted({key.threads for key in groups})
+    runs = sorted({(SETS.index(key.set), key.threads) for key in groups}, key=lambda run: (-run[0], run[1]))
     unit = "GFLOP/s" if next(iter(groups.values()))[PRODUCT].unit == "flop" else "GB/s"
     heads = ["n"]
-    for count in threads:
-        of = f"{count} thread" + ("s" if count > 1 else "")
+    for index, count in runs:
+        of = SETS[index] + f", {count} thread" + ("s" if count > 1 else "")
         heads += [f"{of}: {unit}", "% of limit"] + [f"/ {title(peer)}" for peer in peers]
     lines = defaultdict(dict)
     for key, sides in groups.items():
-        lines[key.size][key.threads] = speed_columns(sides, peers)
+        lines[key.size][SETS.index(key.set), key.threads] = speed_columns(sides, peers)
     empty = [""] * (2 + len(peers))
-    rows = [[str(size)] + sum((lines[size].get(t, empty) for t in threads), []) for size in sorted(lines)]
+    rows = [[str(size)] + sum((lines[size].get(run, empty) for run in runs), []) for size in sorted(lines)]
     return table(heads, rows)
 
 
@@ -278,7 +284,7 @@ def introduction(context):
         f"- Target: {context['target']}",
         f"- Processor: {context['processor']}, {context['num_cpus']} logical",
         f"- Peer (OpenBLAS): {peer}" if peer else "- Peer: none was there. bench/README.md says how to build it.",
-        f"- Limits: measured beside each row with {context['limit']}",
+        f"- Instruction set: {context['set']} where a row names no other; limits are measured beside each row with the row's",
         f"- Other work on the machine: {context.get('load', 'unknown')}",
         "",
         "Ratios are speeds: above 1.00 ours is the faster one. In brackets is the range of the middle half of all ratios",
@@ -286,9 +292,8 @@ def introduction(context):
     ])
 
 
-def report(results):
-    groups = read_groups(results)
-    parts = [introduction(results["context"])]
+def report(groups, context):
+    parts = [introduction(context)]
     for section in dict.fromkeys(key.section for key in groups):
         of_section = select(groups, section=section)
         if section == "limits":
@@ -298,11 +303,53 @@ def report(results):
     return "\n\n".join(parts) + "\n"
 
 
+def figure(groups):
+    """An SVG: GFLOP/s of sgemm on one thread over n, ours for each instruction set, and the peer."""
+    lines = defaultdict(dict)
+    for key, sides in select(groups, operation="sgemm", section="blas", threads=1).items():
+        lines[key.set][key.size] = sides[PRODUCT].rate()
+        if "openblas" in sides:
+            lines["OpenBLAS"].setdefault(key.size, sides["openblas"].rate())
+    sizes = sorted({n for line in lines.values() for n in line})
+    top = 20 * math.ceil(max(rate for line in lines.values() for rate in line.values()) / 20)
+    left, right, upper, lower = 60, 600, 30, 330
+
+    def across(n):
+        return left + (right - left) * math.log(n / sizes[0]) / math.log(sizes[-1] / sizes[0])
+
+    def up(rate):
+        return lower - (lower - upper) * rate / top
+
+    parts = ['<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 720 380" font-family="sans-serif" font-size="13">',
+             '<rect width="720" height="380" fill="white"/>',
+             f'<text x="{left}" y="18">sgemm on one thread, GFLOP/s over n</text>']
+    for rate in range(0, top + 1, 20):
+        parts.append(f'<path d="M{left} {up(rate):.1f}H{right}" stroke="#ddd"/>')
+        parts.append(f'<text x="{left - 8}" y="{up(rate) + 4:.1f}" text-anchor="end">{rate}</text>')
+    for n in (n for n in sizes if n & (n - 1) == 0):
+        parts.append(f'<text x="{across(n):.1f}" y="{lower + 20}" text-anchor="middle">{n}</text>')
+    colours = dict(zip(["avx512", "avx2", "sse2", "OpenBLAS"], ["#0b5394", "#3d85c6", "#76a5af", "#b45f06"]))
+    label_at = upper
+    for name in sorted(lines, key=lambda name: -lines[name][max(lines[name])]):
+        points = " ".join(f"{across(n):.1f},{up(rate):.1f}" for n, rate in sorted(lines[name].items()))
+        label_at = max(up(lines[name][max(lines[name])]) + 4, label_at + 15)
+        parts.append(f'<polyline points="{points}" fill="none" stroke="{colours[name]}" stroke-width="2"/>')
+        parts.append(f'<text x="{right + 8}" y="{label_at:.1f}" fill="{colours[name]}">{name}</text>')
+    return "\n".join(parts + ["</svg>", ""])
+
+
 def main():
-    if len(sys.argv) != 2:
-        sys.exit(__doc__)
-    with open(sys.argv[1], encoding="utf-8") as file:
-        sys.stdout.write(report(json.load(file)))
+    parser = argparse.ArgumentParser(usage=__doc__)
+    parser.add_argument("--figure", type=Path)
+    parser.add_argument("results", nargs="+", type=Path)
+    arguments = parser.parse_args()
+    results = [json.loads(file.read_text(encoding="utf-8")) for file in arguments.results]
+    groups = defaultdict(dict)
+    for run in results:
+        read_groups(run, groups)
+    if arguments.figure:
+        arguments.figure.write_text(figure(groups), encoding="utf-8")
+    sys.stdout.write(report(groups, results[0]["context"]))
 
 
 if __name__ == "__main__":

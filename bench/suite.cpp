@@ -34,7 +34,8 @@ void add_arithmetic_limit(Suite& suite, Row row, ArithmeticLoop* loop, double fl
   row.work = flops;
   row.unit = Unit::kFlop;
   suite.measure(
-      row, kLimitSide, [loop] { return [loop] { loop(kArithmeticRounds); }; }, row.threads);
+      row, kLimitSide, [loop] { return [loop, leave = LeaveWideRegisters{}] { loop(kArithmeticRounds); }; },
+      row.threads);
 }
 
 void add_reading_limit(Suite& suite, Row row, double bytes) {
@@ -44,7 +45,9 @@ void add_reading_limit(Suite& suite, Row row, double bytes) {
   suite.measure(
       row, kLimitSide,
       [blocks] {
-        return [blocks, read = best_read(), x = Array<float>(blocks * kStreamBlock)] { read(x.data(), blocks); };
+        return [blocks, read = best_read(), leave = LeaveWideRegisters{}, x = Array<float>(blocks * kStreamBlock)] {
+          read(x.data(), blocks);
+        };
       },
       row.threads);
 }
@@ -57,7 +60,7 @@ void add_triad_limit(Suite& suite, Row row, double bytes) {
   suite.measure(
       row, kLimitSide,
       [blocks] {
-        return [blocks, triad = best_triad(), x = Array<float>(blocks * kStreamBlock),
+        return [blocks, triad = best_triad(), leave = LeaveWideRegisters{}, x = Array<float>(blocks * kStreamBlock),
                 y = Array<float>(blocks * kStreamBlock)] { triad(0x1p-10F, x.data(), y.data(), blocks); };
       },
       row.threads);

@@ -78,6 +78,8 @@ struct KernelSet {
   void (*multiply)(const Product<T>& product, const Blocking& blocking, std::byte* buffer) noexcept;
   void (*multiply_triangle)(const TriangleBlock<T>& block, std::byte* buffer) noexcept;
   void (*solve_triangle)(const TriangleBlock<T>& block, std::byte* buffer) noexcept;
+  // y <- y + alpha A x with one triangle of a Hermitian (real: symmetric) A; it needs no buffer.
+  void (*add_hermitian_product)(bool is_upper, int n, T alpha, const T* a, int lda, const T* x, T* y) noexcept;
 };
 
 // The chosen kernels.

@@ -5,6 +5,7 @@
 #include <complex>
 
 #include "dense/kernels/column_kernels.hpp"
+#include "dense/kernels/kernel_set.hpp"
 #include "dense/kernels/vector_kernels.hpp"
 
 namespace quorin::dense::kernels {
@@ -116,13 +117,10 @@ void add_transposed_product(bool conjugate, int m, int n, T alpha, const T* a, i
 
 template <Scalar T>
 void add_hermitian_product(bool is_upper, int n, T alpha, const T* a, int lda, const T* x, T* y) noexcept {
-  for (int j = 0; j < n; ++j) {
-    const Beside beside(is_upper, n, j);
-    const T* const aj = column(a, lda, j);
-    const T s = product(alpha, x[j]);
-    const T sum = axpy_and_dot(beside.count, s, aj + beside.first, x + beside.first, y + beside.first);
-    y[j] += s * std::real(aj[j]) + product(alpha, sum);
-  }
+  constexpr int kFew = 48;  // rows that do not pay for leaving wide registers
+  const KernelSet<T>& set = n <= kFew ? small_kernels<T>() : kernels<T>();
+  set.add_hermitian_product(is_upper, n, alpha, a, lda, x, y);
+  if (set.uses_wide_registers) leave_wide_registers();
 }
 
 template <Scalar T>

@@ -67,29 +67,6 @@ T dot(bool conjugate, std::ptrdiff_t n, const T* x, const T* y) noexcept {
   return conjugate ? dot<true>(n, x, y) : dot<false>(n, x, y);
 }
 
-// y <- y + s a, and returns a^H x: what a column of a Hermitian matrix does to both halves of a product.
-template <Scalar T>
-T axpy_and_dot(std::ptrdiff_t n, T s, const T* a, const T* x, T* y) noexcept {
-  constexpr int kStep = kElements<T>;
-  const Factor<T> times(s);
-  ProductSum<T> sum, other;
-  std::ptrdiff_t i = 0;
-  for (; i + 2 * kStep <= n; i += 2 * kStep) {
-    const auto first = load(a + i), second = load(a + i + kStep);
-    sum.add(first, load(x + i));
-    other.add(second, load(x + i + kStep));
-    store(y + i, load(y + i) + times(first));
-    store(y + i + kStep, load(y + i + kStep) + times(second));
-  }
-  T rest{};
-  for (; i < n; ++i) {
-    rest += product(maybe_conjugate<true>(a[i]), x[i]);
-    y[i] += product(s, a[i]);
-  }
-  sum.add(other);
-  return sum.template value<true>() + rest;
-}
-
 // x <- c x + s y and y <- c y - s x, for real c and s.
 template <Scalar T>
 void rot(std::ptrdiff_t n, T* x, T* y, RealOf<T> c, RealOf<T> s) noexcept {

@@ -14,13 +14,13 @@ from pathlib import Path
 
 SETS = {"sse2": "Sse2", "avx2": "Avx2", "avx512": "Avx512"}
 DEFINED = re.compile(r"^[0-9a-f]+ [TtWwVvu] (.+)$", re.MULTILINE)
-# Sections, and what the compiler makes for one translation unit alone.
-LOCAL = re.compile(r"^\.|^_?GCC_except_table|^\.?(text|data|bss|rdata|xdata|pdata)\b")
+# Sections, data about unwinding, and what the compiler makes for one translation unit alone.
+LOCAL = re.compile(r"^\.|^DW\.ref\.|^_?GCC_except_table|^\.?(text|data|bss|rdata|xdata|pdata)\b")
 
 
 def strangers(symbols: str, name: str) -> list[str]:
     """The defined symbols that do not name the set."""
-    allowed = (f"target::{SETS[name]}", f"make_{name}_sets")
+    allowed = (f"target::{SETS[name]}", f"make_{name}_sets", f"make_{name}_small_sets")
     found = [s for s in DEFINED.findall(symbols) if not LOCAL.match(s)]
     return [s for s in found if not any(a in s for a in allowed)]
 

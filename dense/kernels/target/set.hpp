@@ -1,6 +1,7 @@
 // The table of functions of one instruction set.
 #pragma once
 
+#include "dense/kernels/target/hermitian.hpp"
 #include "dense/kernels/target/product.hpp"
 #include "dense/kernels/target/triangle.hpp"
 
@@ -21,8 +22,15 @@ Blocking blocking_for(const platform::CacheSizes& caches) noexcept {
 
 template <class Isa, Scalar T>
 KernelSet<T> make_set(const platform::CacheSizes& caches) noexcept {
-  return {Isa::kSet,         Isa::kBytes > 16, blocking_for<Isa, T>(caches), Tiles<Isa, T>::kMostRows,
-          Isa::kTileColumns, multiply<Isa, T>, run_triangle<Isa, T, false>,  run_triangle<Isa, T, true>};
+  return {Isa::kSet,
+          Isa::kBytes > 16,
+          blocking_for<Isa, T>(caches),
+          Tiles<Isa, T>::kMostRows,
+          Isa::kTileColumns,
+          multiply<Isa, T>,
+          run_triangle<Isa, T, false>,
+          run_triangle<Isa, T, true>,
+          add_hermitian_product<Isa, T>};
 }
 
 template <class Isa>

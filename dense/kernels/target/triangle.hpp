@@ -28,7 +28,7 @@ struct LaneBlock {
   }
 
   void put(int p, const V (&value)[kVectors]) const noexcept {
-#pragma GCC unroll 4
+#pragma GCC unroll 8
     for (int v = 0; v < kVectors; ++v) {
       Real* const to = x + p * kStep + v * kWidth;
       store<Isa>(to, value[v]);
@@ -41,17 +41,17 @@ struct LaneBlock {
   [[gnu::always_inline]] void add_multiple(T t, int p, V (&value)[kVectors]) const noexcept {
     const Real* const from = x + p * kStep;
     const V re = all<Isa>(std::real(t));
-#pragma GCC unroll 4
+#pragma GCC unroll 8
     for (int v = 0; v < kVectors; ++v) value[v] += re * load<Isa>(from + v * kWidth);
     if constexpr (kIsComplex<T>) {
       const V im = all<Isa>(t.imag());
-#pragma GCC unroll 4
+#pragma GCC unroll 8
       for (int v = 0; v < kVectors; ++v) value[v] += im * load<Isa>(from + kReals + v * kWidth);
     }
   }
 
   void get(int p, V (&value)[kVectors]) const noexcept {
-#pragma GCC unroll 4
+#pragma GCC unroll 8
     for (int v = 0; v < kVectors; ++v) value[v] = load<Isa>(x + p * kStep + v * kWidth);
   }
 
@@ -158,9 +158,19 @@ struct LaneBlock {
 template <class Isa, Scalar T, bool kSolves>
 void run_triangle(const TriangleBlock<T>& block, std::byte* buffer) noexcept {
   auto* const x = reinterpret_cast<RealOf<T>*>(buffer);
-  const int first = LaneBlock<Isa, T, 4>{block, x}.template run<kSolves>(0, false);
-  const int rest = LaneBlock<Isa, T, 2>{block, x}.template run<kSolves>(first, false);
-  LaneBlock<Isa, T, 1>{block, x}.template run<kSolves>(rest, true);
+  // A block takes as long with one vector of lanes as with several, whose sums hide each other's latency.
+  constexpr int kMost = Isa::kSums > 6 ? 6 : 4, kLanesOfT = LaneBlock<Isa, T, 1>::kVectorsOfT;
+  const int first = LaneBlock<Isa, T, kMost>{block, x}.template run<kSolves>(0, false);
+  const int rest = block.count - first;
+  if (rest > 4 * kLanesOfT) {
+    LaneBlock<Isa, T, kMost>{block, x}.template run<kSolves>(first, true);
+  } else if (rest > 2 * kLanesOfT) {
+    LaneBlock<Isa, T, 4>{block, x}.template run<kSolves>(first, true);
+  } else if (rest > kLanesOfT) {
+    LaneBlock<Isa, T, 2>{block, x}.template run<kSolves>(first, true);
+  } else {
+    LaneBlock<Isa, T, 1>{block, x}.template run<kSolves>(first, true);
+  }
 }
 
 }  // namespace quorin::dense::kernels::target
