@@ -1,5 +1,6 @@
 // The third stage: substitution, refinement, iteration.
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <optional>
 #include <random>
@@ -185,7 +186,7 @@ Error TypedSolver<T>::assess(Slot& slot, const T* values) {
   const sparse::FactorOutcome outcome = solution.solve(1, b.data(), x.data());
   const double error = sparse::backward_error(system, b.data(), x.data());
   if (outcome != sparse::FactorOutcome::kDone || error < 0) return Error::kNoMemory;
-  if (error <= kGood) return Error::kDone;
+  if (error <= kGood || !std::isfinite(error)) return Error::kDone;
   slot.values = base::Workspace<T>(static_cast<std::size_t>(pattern_.entries()));
   if (!slot.values) return Error::kNoMemory;
   std::copy_n(values, slot.values.size(), slot.values.data());
