@@ -2,6 +2,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 
 #if defined(_WIN32)
 #define WIN32_LEAN_AND_MEAN
@@ -29,9 +30,7 @@ void set_environment(const char* name, const char* value) {
 class Files : public testing::Test {
  protected:
   Files() {
-    const auto* const info = testing::UnitTest::GetInstance()->current_test_info();
-    folder = fs::temp_directory_path() / ("quorin-pardiso-" + std::string(info->name()));
-    fs::remove_all(folder);
+    folder = fs::temp_directory_path() / ("quorin-pardiso-" + std::to_string(std::random_device{}()));
     fs::create_directories(folder);
   }
   ~Files() override {
@@ -249,22 +248,17 @@ TEST_F(Handles, OutliveTheProcess) {
   }
   ASSERT_EQ(host.call(13), 0);
   ASSERT_EQ(store(host), 0);
-  // Beside the folder, which the other process's fixture empties.
-  const fs::path place = folder.string() + "-kept";
-  fs::create_directories(place);
-  fs::rename(file(), place / "handle.pds");
-  set_environment(kVariable, place.string().c_str());
+  set_environment(kVariable, folder.string().c_str());
   const std::string command =
       testing::internal::GetArgvs()[0] + " --gtest_brief=1 --gtest_filter=Handles.OutliveTheProcess";
   EXPECT_EQ(std::system(command.c_str()), 0);
   set_environment(kVariable, nullptr);
-  std::ifstream in(solution(place), std::ios::binary);
+  std::ifstream in(solution(folder), std::ios::binary);
   std::vector<double> x(host.x.size());
   in.read(reinterpret_cast<char*>(x.data()), static_cast<std::streamsize>(x.size() * sizeof(double)));
   EXPECT_TRUE(in.good());
   EXPECT_EQ(x, host.x);
   in.close();
-  fs::remove_all(place);
 }
 
 // Several factorizations, a Schur complement, flags, a diagonal, rows in disorder.
