@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <new>
+#include <numeric>
 
 #include "families/pardiso/typed_solver.hpp"
 
@@ -56,19 +57,21 @@ Error Solver::read(const Call& call) {
   return options_.has_flags() ? read_flags(call.perm) : Error::kDone;
 }
 
+// Of rows as the host counts them, perhaps blocks.
 Error Solver::read_permutation(const std::int32_t* perm) {
-  const auto n = static_cast<std::size_t>(size());
-  given_order_ = base::Workspace<int>(n);
+  const auto n = static_cast<std::size_t>(host_size_), order = static_cast<std::size_t>(size() / host_size_);
+  given_order_ = base::Workspace<int>(n * order);
   base::Workspace<char> is_taken(n);
   if (!given_order_ || !is_taken) return Error::kNoMemory;
   std::fill(is_taken.begin(), is_taken.end(), 0);
   for (std::size_t k = 0; k < n; ++k) {
-    const std::int64_t equation = std::int64_t{perm[k]} - options_.base();
-    if (equation < 0 || equation >= size()) return Error::kInconsistent;
-    char& taken = is_taken[static_cast<std::size_t>(equation)];
+    const std::int64_t row = std::int64_t{perm[k]} - options_.base();
+    if (row < 0 || row >= host_size_) return Error::kInconsistent;
+    char& taken = is_taken[static_cast<std::size_t>(row)];
     if (taken != 0) return Error::kInconsistent;
     taken = 1;
-    given_order_[k] = static_cast<int>(equation);
+    std::iota(&given_order_[k * order], &given_order_[k * order] + order,
+              static_cast<int>(static_cast<std::size_t>(row) * order));
   }
   return Error::kDone;
 }

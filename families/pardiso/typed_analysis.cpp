@@ -67,7 +67,12 @@ Error TypedSolver<T>::analyze(const Call& call) {
   if (const Error error = analyze_values(call, values); error != Error::kDone) return error;
   if (analysis_results_.factor_entries > std::numeric_limits<int>::max()) return Error::kTooLarge;
   if (options_.returns_permutation || options_.partial != Partial::kNone) {
-    std::transform(order_.begin(), order_.end(), call.perm, [this](int k) { return k + options_.base(); });
+    // A block stands where its first equation is.
+    const int order = size() / host_size();
+    std::int32_t* place = call.perm;
+    for (const int k : order_) {
+      if (k % order == 0) *place++ = k / order + options_.base();
+    }
   }
   given_order_ = {};
   return Error::kDone;

@@ -251,8 +251,8 @@ void order_column(int column, int begin, int end, int* ia, float* a) {
 void form_columns(int n, int nelt, int* ia, int* ja, float* a) {
   mark_column_starts(n, nelt, ja);
   for (int c = 1; c <= n; ++c) {
-    const int begin = ja[c - 1], end = std::min(ja[c] - 1, nelt);
-    if (begin >= 1 && begin <= end) order_column(c, begin, end, ia, a);
+    const int begin = ja[c - 1], next = ja[c];
+    if (begin >= 1 && begin <= nelt && begin < next) order_column(c, begin, std::min(next - 1, nelt), ia, a);
   }
 }
 

@@ -1,7 +1,7 @@
 #include "families/umfpack_single/conversions.hpp"
 
+#include "families/umfpack_single/pattern.hpp"
 #include "families/umfpack_single/umfpack_single.hpp"
-#include "sparse/sparse.hpp"
 
 namespace quorin::umfpack_single {
 
@@ -22,18 +22,18 @@ int col_to_triplet(int n_col, const int* Ap, int* Tj) noexcept { return umfpack_
 template <class E>
 int transpose(int n_row, int n_col, const Matrix& A, const int* P, const int* Q, const MatrixOutput& R,
               int do_conjugate) {
-  // UMFPACK says what is wrong with starts that are not sound; nothing is read through them here.
-  const bool has_values =
-      n_row > 0 && n_col > 0 && sparse::check_starts(n_col, A.Ap) && A.Ai != nullptr && A.Ax && R.Ax;
+  const Starts Ap(n_row, n_col, A.Ap, A.Ai);
+  const bool has_values = Ap.are_sound() && A.Ax && R.Ax;
   const std::size_t nz = has_values ? length(A.Ap[n_col]) : 0;
   const Doubles<E> Ax(has_values ? A.Ax : FloatInput{}, nz);
   Doubles<E> Rx(has_values, nz);
-  if (Ax.has_failed() || Rx.has_failed()) return UMFPACK_ERROR_out_of_memory;
+  if (Ap.has_failed() || Ax.has_failed() || Rx.has_failed()) return UMFPACK_ERROR_out_of_memory;
   int status = UMFPACK_OK;
   if constexpr (E::kParts == 1) {
-    status = call<E>(E::kTranspose, n_row, n_col, A.Ap, A.Ai, Ax.input(), P, Q, R.Ap, R.Ai, Rx.output());
+    status = call<E>(E::kTranspose, n_row, n_col, Ap.data(), A.Ai, Ax.input(), P, Q, R.Ap, R.Ai, Rx.output());
   } else {
-    status = call<E>(E::kTranspose, n_row, n_col, A.Ap, A.Ai, Ax.input(), P, Q, R.Ap, R.Ai, Rx.output(), do_conjugate);
+    status =
+        call<E>(E::kTranspose, n_row, n_col, Ap.data(), A.Ai, Ax.input(), P, Q, R.Ap, R.Ai, Rx.output(), do_conjugate);
   }
   if (status == UMFPACK_OK && has_values) Rx.narrow_to(R.Ax, length(R.Ap[n_row]));
   return status;

@@ -56,13 +56,12 @@ int qsymbolic(int n_row, int n_col, const Matrix& A, const int* Qinit, void** Sy
   info.clear();
   if (Symbolic != nullptr) *Symbolic = nullptr;
   Object* const object = create_object(kSymbolicOf<E>);
-  // Nothing is read through starts that are not sound; UMFPACK then says what is wrong with them.
-  const bool is_readable = n_row > 0 && n_col > 0 && A.Ai != nullptr && sparse::check_starts(n_col, A.Ap);
-  const int nz = is_readable ? A.Ap[n_col] : 0;
-  const Doubles<E> Ax(is_readable ? A.Ax : FloatInput{}, length(nz));
+  const Starts Ap(n_row, n_col, A.Ap, A.Ai);
+  const int nz = Ap.are_sound() ? A.Ap[n_col] : 0;
+  const Doubles<E> Ax(Ap.are_sound() ? A.Ax : FloatInput{}, length(nz));
   int status = UMFPACK_ERROR_out_of_memory;
-  if (object != nullptr && !Ax.has_failed()) {
-    status = call<E>(E::kQsymbolic, n_row, n_col, A.Ap, A.Ai, Ax.input(), Qinit,
+  if (object != nullptr && !Ap.has_failed() && !Ax.has_failed()) {
+    status = call<E>(E::kQsymbolic, n_row, n_col, Ap.data(), A.Ai, Ax.input(), Qinit,
                      Symbolic != nullptr ? &object->contents : nullptr, Settings(Control).data(), info.data());
   }
   info.describe(n_row, n_col, A.Ap);

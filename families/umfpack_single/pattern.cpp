@@ -1,6 +1,18 @@
 #include "families/umfpack_single/pattern.hpp"
 
+#include <algorithm>
+
+#include "sparse/sparse.hpp"
+
 namespace quorin::umfpack_single {
+
+Starts::Starts(int n_row, int n_col, const int* Ap, const int* Ai) : Ap_(Ap) {
+  if (n_row <= 0 || n_col <= 0 || Ap == nullptr || Ai == nullptr) return;
+  are_sound_ = static_cast<bool>(sparse::check_starts(n_col, Ap));
+  if (are_sound_) return;
+  refused_ = base::Workspace<int>(static_cast<std::size_t>(n_col) + 1);
+  std::fill(refused_.begin(), refused_.end(), -1);
+}
 
 namespace {
 

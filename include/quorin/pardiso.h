@@ -96,7 +96,8 @@ enum {
       factorization, until the step has fallen below 10^-L of the first one. K = 1 CGS, 2 CG (mtype 2, 4), 0 none. Phase
       23 factorizes if the iteration fails, phase 33 answers -4 */
   QUORIN_PARDISO_IPARM_PERMUTATION = 5, /* 1: perm holds the order of elimination; 2: analysis writes it there. Row and
-      column perm(i) of A are eliminated in step i */
+      column perm(i) of A are eliminated in step i; with iparm(37) > 0 block row and column perm(i), which analysis may
+      take apart: then where it begins with one */
   QUORIN_PARDISO_IPARM_SOLUTION_IN_B = 6, /* 1: the solution overwrites b; x may be used on the way */
   QUORIN_PARDISO_IPARM_REFINEMENTS = 7, /* result: refinement steps of the last solution, the most of its columns */
   QUORIN_PARDISO_IPARM_REFINEMENT_LIMIT = 8, /* most refinement steps; negative: with residuals of twice the precision;

@@ -385,6 +385,16 @@ TEST(Parameters, BlockRows) {
     ASSERT_EQ(entries.call(13), 0);
     ASSERT_EQ(host.call(13), 0);
     for (std::size_t i = 0; i < host.x.size(); ++i) EXPECT_NEAR(host.x[i], entries.x[i], 1e-15) << i;
+    // A permutation is one of the blocks.
+    for (const int use : {2, 1}) {
+      host.perm = use == 2 ? std::vector<std::int32_t>{7, 7, 7} : std::vector<std::int32_t>{1 + base, base, 7};
+      host.cell(5) = use;
+      ASSERT_EQ(host.call(13), 0);
+      for (std::size_t i = 0; i < host.x.size(); ++i) EXPECT_NEAR(host.x[i], entries.x[i], 1e-15) << i;
+      EXPECT_EQ(host.perm[0] + host.perm[1], 2 * base + 1);
+      EXPECT_EQ(host.perm[2], 7);
+    }
+    host.cell(5) = 0;
     for (const std::size_t number : {11, 13, 31, 36, 56, 60}) {
       host.cell(number) = 1;
       EXPECT_EQ(host.call(11), -1) << number;

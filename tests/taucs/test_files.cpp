@@ -243,6 +243,8 @@ TEST(WriteIjv, TextInAnyLocale) {
   EXPECT_EQ(taucs_ccs_write_ijv(empty.get(), file.name()), 0);
   EXPECT_EQ(file.read(), "");
   EXPECT_EQ(taucs_ccs_write_ijv(A.get(), "no-such-folder/file"), -1);
+  A->colptr[1] = 1 << 30;
+  EXPECT_EQ(taucs_ccs_write_ijv(A.get(), file.name()), -1);
 }
 
 TEST(VectorFiles, KeepWhatLiesBehindTheVector) {

@@ -1,7 +1,9 @@
 // Wrong arguments get the documented status, and nothing is read or kept that should not be.
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
+#include "tests/support/guarded_pages.hpp"
 #include "tests/umfpack_single/umfpack_host.hpp"
 
 namespace umfpack_test {
@@ -25,16 +27,20 @@ TEST(Refusals, MatricesThatAreNoMatrices) {
       {"first start", 2, 2, {1, 2, 3}, {0, 1, 0}, -8},
       {"starts that decrease", 3, 3, {0, 2, 1, 2}, {0, 1}, -8},
       {"starts that rise beyond and fall back", 3, 3, {0, 1000000000, 1, 2}, {0, 1}, -8},
+      {"starts that rise beyond the end and fall back", 3, 3, {0, 1, 100000, 2}, {0, 1}, -8},
       {"negative number of entries", 2, 2, {0, 1, -7}, {0}, -8},
       {"unsorted column", 2, 2, {0, 2, 3}, {1, 0, 1}, -8},
       {"duplicate entry", 2, 2, {0, 2, 3}, {0, 0, 1}, -8},
       {"index too large", 2, 2, {0, 1, 2}, {0, 2}, -8},
       {"negative index", 2, 2, {0, 1, 2}, {-1, 1}, -8},
   };
+  quorin::test::GuardedPages pages(100);
   for (const Case& c : cases) {
     SCOPED_TRACE(c.what);
     const Floats Ax(c.Ai.size(), 1);
-    const int *Ap = c.Ap.data(), *Ai = c.Ai.empty() ? c.Ap.data() : c.Ai.data();
+    auto* const Ai = static_cast<int*>(pages.place(c.Ai.size() * sizeof(int), quorin::test::Edge::kBack));
+    std::copy(c.Ai.begin(), c.Ai.end(), Ai);
+    const int* const Ap = c.Ap.data();
     for (const bool is_complex : {false, true}) {
       Floats Info(90, 5);
       void* Symbolic = marker();

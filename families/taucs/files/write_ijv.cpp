@@ -3,6 +3,7 @@
 #include <charconv>
 
 #include "families/taucs/dispatch.hpp"
+#include "families/taucs/engine_view.hpp"
 #include "families/taucs/files/files.hpp"
 
 namespace quorin::taucs {
@@ -77,7 +78,7 @@ int write_ijv(const CcsMatrix& A, const char* filename) noexcept {
 }  // namespace
 
 std::int32_t ccs_write_ijv(const CcsMatrix* A, const char* filename) noexcept {
-  if (A == nullptr) return -1;
+  if (A == nullptr || rows_of(*A) == sparse::kNone) return -1;
   return is_complex_or_stop(A->flags, kFilesSource) ? write_ijv<Complex>(*A, filename)
                                                     : write_ijv<double>(*A, filename);
 }
