@@ -7,6 +7,7 @@
 #include "tests/support/exact_product.hpp"
 #include "tests/support/guarded_pages.hpp"
 #include "tests/support/host_module.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 namespace quorin::test {
 namespace {
@@ -130,27 +131,24 @@ std::filesystem::path folder_with_allocator() { return program_directory() / "te
 // Here nobody but the product has a reference, so that releasing it unmaps the functions just found.
 TEST(AllocatorChoice, DoesNotKeepFunctionsThatVanishWithTheReference) {
   forget_loads();
-  const std::filesystem::path copy = folder_with_allocator() / QUORIN_PRODUCT_FILE;
-  std::filesystem::copy_file(program_directory() / QUORIN_PRODUCT_FILE, copy,
-                             std::filesystem::copy_options::overwrite_existing);
+  const TemporaryFolder folder;
+  std::filesystem::copy_file(program_directory() / QUORIN_PRODUCT_FILE, folder.path() / QUORIN_PRODUCT_FILE);
+  std::filesystem::copy_file(folder_with_allocator() / allocator_file(), folder.path() / allocator_file());
   quorin_library library;
-  ASSERT_EQ(quorin_load(copy.string().c_str(), &library), 0);
+  ASSERT_EQ(quorin_load(folder.file(QUORIN_PRODUCT_FILE).c_str(), &library), 0);
   EXPECT_TRUE(allocator_was_loaded()) << "it stands beside the library";
   EXPECT_FALSE(is_loaded(allocator_file()));
   ExactProduct problem;
   EXPECT_TRUE(problem.is_solved_by(library.sgemm));
   quorin_unload(&library);
   for (int i = 0; i < 1000 && is_loaded(QUORIN_PRODUCT_FILE); ++i) Sleep(5);
-  std::filesystem::remove(copy);
 }
 
 // A file of that name may lie where a document was opened.
 TEST(AllocatorChoice, IsNotMadeInTheCurrentDirectory) {
   forget_loads();
-  const std::filesystem::path before = std::filesystem::current_path();
-  std::filesystem::current_path(folder_with_allocator());
-  Product product;
-  std::filesystem::current_path(before);
+  const CurrentFolder here(folder_with_allocator());
+  const Product product;
   ASSERT_TRUE(product);
   EXPECT_FALSE(allocator_was_loaded());
 }

@@ -9,6 +9,7 @@
 
 #include "tests/rci/ilu_oracle.hpp"
 #include "tests/rci/rci_host.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 namespace rci_test {
 namespace {
@@ -259,7 +260,8 @@ bool has_lines(const char* file, int count, const std::string& prefix) {
 TEST(Messages, Files) {
   const char *log = "MKL_RCI_FGMRES_Log.txt", *factors = "MKL_PREC_log.txt";
   const char *cg_errors = "dcg_errors.txt", *cg_warnings = "dcg_check_warnings.txt";
-  for (const char* file : {log, factors, cg_errors, cg_warnings}) std::remove(file);
+  const quorin::test::TemporaryFolder folder;
+  const quorin::test::CurrentFolder here(folder.path());
   const Csr A = nonsymmetric5(), without_diagonal = sparse({{0, 1}, {1, 0}});
   FgmresHost host(A, Vector(5, 1.0), Vector(5, 1.0), 5);
   host.ipar[1] = 0;

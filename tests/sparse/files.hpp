@@ -3,39 +3,16 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <random>
 #include <string>
 
 #include "platform/block_file.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 namespace quorin::sparse::test {
 
-class Folder {
- public:
-  Folder() {
-    const unsigned number = std::random_device{}();
-    path_ = std::filesystem::temp_directory_path() / ("sparse-" + std::to_string(number));
-    std::filesystem::create_directory(path_);
-  }
-  Folder(const Folder&) = delete;
-  Folder& operator=(const Folder&) = delete;
-  ~Folder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-  }
-
-  std::string file(const std::string& name) const { return (path_ / name).string(); }
-  int files() const {
-    return static_cast<int>(
-        std::distance(std::filesystem::directory_iterator(path_), std::filesystem::directory_iterator()));
-  }
-
- private:
-  std::filesystem::path path_;
-};
+using Folder = quorin::test::TemporaryFolder;
 
 inline std::string contents(const std::string& file) {
   std::ifstream stream(file, std::ios::binary);

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cstdio>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
@@ -13,19 +12,20 @@
 #include <sys/stat.h>
 #if defined(_WIN32)
 #include <io.h>
-#include <process.h>
 #else
 #include <unistd.h>
 #endif
+
+#include "tests/support/temporary_file.hpp"
 
 namespace quorin::test {
 
 // Redirects standard output to a temporary file while it lives, or until stop().
 class CapturedOutput {
  public:
-  CapturedOutput() : path_(std::filesystem::temp_directory_path() / ("quorin-output-" + std::to_string(getpid()))) {
+  CapturedOutput() {
     std::fflush(stdout);
-    const int file = open(path_.string().c_str(), O_CREAT | O_TRUNC | O_WRONLY, S_IRUSR | S_IWUSR);
+    const int file = open(file_.name(), O_CREAT | O_TRUNC | O_WRONLY, S_IRUSR | S_IWUSR);
     standard_output_ = dup(kStandardOutput);
     if (file < 0 || standard_output_ < 0 || dup2(file, kStandardOutput) < 0) {
       throw std::runtime_error("cannot redirect standard output");
@@ -44,18 +44,13 @@ class CapturedOutput {
     dup2(standard_output_, kStandardOutput);
     close(standard_output_);
     standard_output_ = -1;
-    std::string text;
-    {
-      std::ifstream file(path_);
-      text.assign(std::istreambuf_iterator<char>(file), {});
-    }
-    std::filesystem::remove(path_);
-    return text;
+    std::ifstream text(file_.name());
+    return {std::istreambuf_iterator<char>(text), {}};
   }
 
  private:
   static constexpr int kStandardOutput = 1;
-  std::filesystem::path path_;
+  TemporaryFile file_;
   int standard_output_ = -1;
 };
 
