@@ -1,5 +1,3 @@
-#include "platform/block_file.hpp"
-
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -9,17 +7,12 @@
 #include <cstdio>
 #include <utility>
 
+#include "platform/native_file.hpp"
+
 namespace quorin::platform {
-
-bool (*refuse_file_operation)(FileOperation operation) = nullptr;
-
 namespace {
 
 static_assert(sizeof(off_t) == sizeof(std::uint64_t));
-
-bool is_refused(FileOperation operation) {
-  return refuse_file_operation != nullptr && refuse_file_operation(operation);
-}
 
 int descriptor(std::intptr_t handle) { return static_cast<int>(handle); }
 
@@ -37,25 +30,14 @@ int open_locked(const char* name, int mode, int lock) {
 
 }  // namespace
 
-BlockFile& BlockFile::operator=(BlockFile&& other) noexcept {
-  std::swap(handle_, other.handle_);
-  return *this;
+std::intptr_t create_native_file(const char* name) {
+  const int file = open_locked(name, O_RDWR | O_CREAT, LOCK_EX);
+  if (file < 0 || ftruncate(file, 0) == 0) return file;
+  close(file);
+  return -1;
 }
 
-bool BlockFile::create(const char* name) {
-  close();
-  if (is_refused(FileOperation::kCreate)) return false;
-  handle_ = open_locked(name, O_RDWR | O_CREAT, LOCK_EX);
-  if (handle_ != kClosed && ftruncate(descriptor(handle_), 0) != 0) close();
-  return handle_ != kClosed;
-}
-
-bool BlockFile::open(const char* name) {
-  close();
-  if (is_refused(FileOperation::kOpen)) return false;
-  handle_ = open_locked(name, O_RDONLY, LOCK_SH);
-  return handle_ != kClosed;
-}
+std::intptr_t open_native_file(const char* name) { return open_locked(name, O_RDONLY, LOCK_SH); }
 
 void BlockFile::close() {
   if (handle_ != kClosed) ::close(descriptor(std::exchange(handle_, kClosed)));

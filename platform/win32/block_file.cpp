@@ -1,23 +1,16 @@
-#include "platform/block_file.hpp"
-
 #include <algorithm>
 #include <utility>
 
 #define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 
+#include "platform/native_file.hpp"
+
 namespace quorin::platform {
-
-bool (*refuse_file_operation)(FileOperation operation) = nullptr;
-
 namespace {
 
 // The most that one call of the system transfers.
 constexpr std::size_t kPiece = std::size_t{1} << 26;
-
-bool is_refused(FileOperation operation) {
-  return refuse_file_operation != nullptr && refuse_file_operation(operation);
-}
 
 HANDLE as_handle(std::intptr_t handle) { return reinterpret_cast<HANDLE>(handle); }
 
@@ -40,23 +33,12 @@ OVERLAPPED at(std::uint64_t offset) {
 
 }  // namespace
 
-BlockFile& BlockFile::operator=(BlockFile&& other) noexcept {
-  std::swap(handle_, other.handle_);
-  return *this;
+std::intptr_t create_native_file(const char* name) {
+  return open_on_disk(name, GENERIC_READ | GENERIC_WRITE, 0, CREATE_ALWAYS);
 }
 
-bool BlockFile::create(const char* name) {
-  close();
-  if (is_refused(FileOperation::kCreate)) return false;
-  handle_ = open_on_disk(name, GENERIC_READ | GENERIC_WRITE, 0, CREATE_ALWAYS);
-  return handle_ != kClosed;
-}
-
-bool BlockFile::open(const char* name) {
-  close();
-  if (is_refused(FileOperation::kOpen)) return false;
-  handle_ = open_on_disk(name, GENERIC_READ, FILE_SHARE_READ, OPEN_EXISTING);
-  return handle_ != kClosed;
+std::intptr_t open_native_file(const char* name) {
+  return open_on_disk(name, GENERIC_READ, FILE_SHARE_READ, OPEN_EXISTING);
 }
 
 void BlockFile::close() {
