@@ -15,6 +15,7 @@ namespace {
 
 constexpr double kSqrt3 = std::numbers::sqrt3;
 constexpr DoubleDouble kThird{0.3333333333333333, 1.850371707708594e-17};
+constexpr DoubleDouble kTwoThirds{2.0 * kThird.hi, 2.0 * kThird.lo};
 constexpr DoubleDouble kSqrt3OverPi{0.5513288954217921, -3.723932988258721e-17};
 
 enum class Function { kAi, kBi };
@@ -55,7 +56,7 @@ struct Argument {
   explicit Argument(Complex upper) : z(upper) {
     const ComplexDoubleDouble wide_root = sqrt(widen(z));
     root = narrow(wide_root);
-    zeta = (widen(z) * wide_root * 2.0) / DoubleDouble{3.0, 0.0};
+    zeta = widen(z) * wide_root * kTwoThirds;
     // Re zeta = 0 for arg z = pi/3, where it does not matter, and for arg z = pi, where zeta = -i |zeta| = w e^{i pi}.
     left = zeta.re.hi < 0.0 || zeta.im.hi < 0.0;
     wide_w = left ? -zeta : zeta;

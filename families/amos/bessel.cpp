@@ -9,6 +9,7 @@
 #include "families/amos/real_axis.hpp"
 #include "families/amos/second_look.hpp"
 #include "families/amos/sequences.hpp"
+#include "families/amos/uniform.hpp"
 
 namespace quorin::amos {
 namespace {
@@ -60,9 +61,10 @@ class Evaluation {
   }
 
   void run(int from, int to) {
-    if (c_.i.used) descend_i(request_.nu, from, to, c_.w, [this](int j, Scaled f) { return take_i(j, f); });
-    if (c_.k.used && status_ == Status::kOk) {
-      ascend_k(request_.nu, from, to, c_.w, [this](int j, Scaled f) { return take_k(j, f); });
+    if (c_.i.used && c_.k.used && to - from == 1 && request_.nu + from >= kLargeOrder) {
+      both_at(from);
+    } else {
+      each(from, to);
     }
     if (status_ == Status::kOk) {
       *result_.nz += underflows_;
@@ -75,6 +77,20 @@ class Evaluation {
   bool is_ok() const { return status_ == Status::kOk; }
 
  private:
+  void each(int from, int to) {
+    if (c_.i.used) descend_i(request_.nu, from, to, c_.w, [this](int j, Scaled f) { return take_i(j, f); });
+    if (c_.k.used && status_ == Status::kOk) {
+      ascend_k(request_.nu, from, to, c_.w, [this](int j, Scaled f) { return take_k(j, f); });
+    }
+  }
+
+  // I and K of one large order share most of their expansion.
+  void both_at(int j) {
+    const bool below = c_.w.imag() < 0.0;
+    const Uniform expansion(two_sum(request_.nu, j), amos::mirrored(c_.w, below));
+    if (take_i(j, amos::mirrored(expansion.i(), below))) take_k(j, amos::mirrored(expansion.k(), below));
+  }
+
   Scaled i_part(int j, Scaled f) const { return normalized(f * i_ * times_i_power(1.0, c_.i.turns * (j & 3))); }
   Scaled k_part(int j, Scaled f) const { return normalized(f * k_ * times_i_power(1.0, c_.k.turns * (j & 3))); }
 
@@ -179,6 +195,17 @@ void value_at_zero(const Request& request, Complex* cy) {
   if (request.nu == 0.0) cy[0] = 1.0;
 }
 
+// J and I of order n/2 at z < 0 are i^n times those at -z, which are real: a rounded phase would give them a second
+// part.
+bool is_reflection(Complex z, double nu) {
+  return z.imag() == 0.0 && z.real() < 0.0 && 2.0 * nu == round_to_integer(2.0 * nu);
+}
+void reflect(const Request& request, const Result& result) {
+  if (*result.ierr != static_cast<int>(Status::kOk) && *result.ierr != static_cast<int>(Status::kPrecisionLoss)) return;
+  const int turns = static_cast<int>(std::fmod(2.0 * request.nu, 4.0));
+  for (int j = 0; j < request.n; ++j) result.cy[j] = 0.0 + times_i_power(result.cy[j].real(), turns + 2 * (j & 1));
+}
+
 // The exponents e^(a w) of a term with and without scaling.
 ComplexDoubleDouble exponent(const Request& request, Complex unscaled, Complex scaled) {
   return widen(request.scaled() ? scaled : unscaled);
@@ -250,8 +277,12 @@ void besi(Complex z_in, double fnu, int kode, int n, Complex* cy, int* nz, int* 
   const Result result{cy, nz, ierr};
   if (!accept(z_in, request, false, false, result)) return;
   if (z_in == 0.0) return value_at_zero(request, cy);
+  if (is_reflection(z_in, fnu)) {
+    besi(-z_in.real(), fnu, kode, n, cy, nz, ierr);
+    return reflect(request, result);
+  }
   const auto [z, mirrored, real] = upper_half(z_in);
-  if (real && n == 1 && store_real(real_i(fnu, z.real()), kode == 1 ? std::exp(z.real()) : 1.0, cy)) return;
+  if (real && n == 1 && store_real(real_i(fnu, z.real()), kode == 1 ? exponential(z.real()) : 1.0, cy)) return;
   Combination c = modified_i(z, request);
   c.real = real;
   Evaluation(c, request, mirrored, result).run(0, n);
@@ -262,6 +293,10 @@ void besj(Complex z_in, double fnu, int kode, int n, Complex* cy, int* nz, int* 
   const Result result{cy, nz, ierr};
   if (!accept(z_in, request, false, false, result)) return;
   if (z_in == 0.0) return value_at_zero(request, cy);
+  if (is_reflection(z_in, fnu)) {
+    besj(-z_in.real(), fnu, kode, n, cy, nz, ierr);
+    return reflect(request, result);
+  }
   const auto [z, mirrored, real] = upper_half(z_in);
   if (real && n == 1 && store_real(real_j(fnu, z.real()), 1.0, cy)) return;
   Combination c = bessel_j(z, request);
@@ -285,7 +320,7 @@ void besk(Complex z_in, double fnu, int kode, int n, Complex* cy, int* nz, int* 
   const Result result{cy, nz, ierr};
   if (!accept(z_in, request, false, true, result)) return;
   const auto [z, mirrored, real] = upper_half(z_in);
-  if (real && n == 1 && store_real(real_k(fnu, z.real()), kode == 1 ? std::exp(-z.real()) : 1.0, cy)) return;
+  if (real && n == 1 && store_real(real_k(fnu, z.real()), kode == 1 ? exponential(-z.real()) : 1.0, cy)) return;
   Combination c;
   if (z.real() < 0.0) {
     c = continued_k(z, request);

@@ -24,6 +24,9 @@ inline double round_to_integer(double x) {
   return (x + kShifter) - kShifter;
 }
 
+// The real and the imaginary part side by side.
+using Lanes = double __attribute__((vector_size(16)));
+
 struct ComplexDoubleDouble {
   DoubleDouble re;
   DoubleDouble im;
@@ -42,6 +45,14 @@ inline DoubleDouble fused(DoubleDouble a, DoubleDouble b, DoubleDouble c) {
   return quick_two_sum(s.hi, s.lo + (((a.hi * b.lo + a.lo * b.hi) + p.lo) + c.lo));
 }
 
+// a / b but for the last two bits, in half the time of the quotient with all of them.
+inline DoubleDouble quotient(DoubleDouble a, DoubleDouble b) {
+  const double q = a.hi / b.hi;
+  const DoubleDouble p = two_product(q, b.hi);
+  const double rest = ((a.hi - p.hi) - p.lo) + (a.lo - q * b.lo);
+  return quick_two_sum(q, rest / b.hi);
+}
+
 inline ComplexDoubleDouble widen(std::complex<double> a) { return {{a.real(), 0.0}, {a.imag(), 0.0}}; }
 inline std::complex<double> narrow(const ComplexDoubleDouble& a) { return {a.re.hi, a.im.hi}; }
 
@@ -56,7 +67,6 @@ inline ComplexDoubleDouble operator+(const ComplexDoubleDouble& a, DoubleDouble 
 // a b + c. Both parts go through the same operations, so they share registers.
 inline ComplexDoubleDouble fused(const ComplexDoubleDouble& a, const ComplexDoubleDouble& b,
                                  const ComplexDoubleDouble& c) {
-  using Lanes = double __attribute__((vector_size(16)));
   struct Wide {
     Lanes hi, lo;
   };

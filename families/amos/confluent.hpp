@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "families/amos/apart.hpp"
 #include "families/amos/scaled.hpp"
 
 namespace quorin::amos {
@@ -19,44 +20,70 @@ inline int confluent_terms(double digits, double modulus, double real) {
   return static_cast<int>(0.2 * digits) + static_cast<int>(digits * digits / 4.0 / (modulus + real));
 }
 
-// 1 / n and (n + 1/2)^2 - mu^2
-inline DoubleDouble inverse_of(DoubleDouble, double n) {
-  const double q = 1.0 / n;
-  const DoubleDouble p = two_product(q, n);
-  return quick_two_sum(q, ((1.0 - p.hi) - p.lo) * q);
-}
+// a_n = (n + 1/2)^2 - mu^2, in the precision of mu^2
+inline double confluent_a(double mu2, double n) { return (n + 0.5) * (n + 0.5) - mu2; }
 inline DoubleDouble confluent_a(DoubleDouble mu2, double n) {
   const DoubleDouble s = quick_two_sum((n + 0.5) * (n + 0.5), -mu2.hi);
   return quick_two_sum(s.hi, s.lo - mu2.lo);
 }
-inline double inverse_of(double, double n) { return 1.0 / n; }
-inline double confluent_a(double mu2, double n) { return (n + 0.5) * (n + 0.5) - mu2; }
+
+// t_0, t_1 and t_1 + t_2 + ... but for a common factor; the first one is multiplied by a_0, which may be 0.
+template <class Number>
+struct ConfluentTerms {
+  Number first;
+  Number second;
+  Number others;
+};
+
+template <class Number>
+ConfluentTerms<Number> confluent_sum(double mu2, Number w, int terms) {
+  const Number two_w = w * 2.0;
+  Number above{}, at = 1.0, sum = 1.0;
+  for (double n = terms; n > 1.0; n -= 1.0) {
+    const Number below = (fused(two_w + 2.0 * n, at, above * -(n + 1.0))) * (n / confluent_a(mu2, n - 1.0));
+    sum += below;
+    above = at;
+    at = below;
+  }
+  return {fused(two_w + 2.0, at, above * -2.0), at, sum};
+}
+
+inline ConfluentTerms<ComplexDoubleDouble> confluent_sum(DoubleDouble mu2, const ComplexDoubleDouble& w, int terms) {
+  constexpr int kOrdered = 4;
+  const ComplexDoubleDouble two_w = w * 2.0;
+  const auto coefficient = [&two_w](double n) {
+    return apart(ComplexDoubleDouble{two_w.re + DoubleDouble{2.0 * n}, two_w.im});
+  };
+  Apart<Lanes> above{}, at{Lanes{1.0, 0.0}, Lanes{}}, sum = at;
+  for (int n = terms; n > 1; --n) {
+    const Apart<Lanes> t = combined(coefficient(n), at, -(n + 1.0), above);
+    const DoubleDouble ratio = quotient({static_cast<double>(n)}, confluent_a(mu2, n - 1.0));
+    const auto p = exact_product(both(ratio.hi), t.hi);
+    above = at;
+    at = {p.hi, p.lo + (ratio.hi * t.lo + ratio.lo * t.hi)};
+    if (n % kOrdered == 0) {
+      at = in_order(at);
+      above = in_order(above);
+    }
+    const auto s = exact_sum(sum.hi, at.hi);
+    sum = {s.hi, sum.lo + (s.lo + at.lo)};
+  }
+  return {joined(combined(coefficient(1.0), at, -2.0, above)), joined(at), joined(sum)};
+}
 
 // With U_n = U(mu + 1/2 + n, 2 mu + 1, 2 w), K_mu(w) = sqrt(pi) (2 w)^mu e^-w U_0. U_n is the minimal solution of
 //   U_{n-1} = 2 (n + w) U_n - a_n U_{n+1},  a_n = (n + 1/2)^2 - mu^2  (DLMF 13.3.7),
-// and sum c_n U_n = (2 w)^(-mu - 1/2) with c_n = a_0 ... a_{n-1} / n!. Both are begun `terms` later, with u_n = n! U_n,
-// which changes little, and the rest of the sum divided by c_n / n!.
+// and sum c_n U_n = (2 w)^(-mu - 1/2) with c_n = a_0 ... a_{n-1} / n!. For the terms t_n = c_n U_n that is
+//   t_{n-1} = n / a_{n-1} (2 (n + w) t_n - (n + 1) t_{n+1}),
+// which is begun `terms` later.
 // |mu| <= 1/2, w not on the negative real axis.
 // N. M. Temme, J. Comput. Phys. 19 (1975) 324-337.
 template <class Number, class Real>
 ConfluentValues<Number> confluent(Real mu, Number w, int terms) {
-  const Real mu2 = mu * mu;
-  const Number two_w = w * 2.0;
-  const Number one = Number{} + Real{1.0};
-  Number above{}, at = one, sum = one;
-  Real a_n = confluent_a(mu2, terms);
-  Real a_over = a_n * inverse_of(mu, terms + 1.0);  // a_n / (n + 1)
-  for (int n = terms; n > 0; --n) {
-    // u_{n-1} = (2 (n + w) u_n - a_n / (n + 1) u_{n+1}) / n
-    const Real inverse = inverse_of(mu, n);
-    const Number below = fused(two_w + Real{2.0 * n}, at, above * -a_over) * inverse;
-    a_n = confluent_a(mu2, n - 1.0);
-    a_over = a_n * inverse;
-    sum = fused(a_over * inverse, sum, below);
-    above = at;
-    at = below;
-  }
-  return {at / sum, (at * (w + (mu + Real{0.5})) - above * a_n) / (w * sum)};
+  const Real mu2 = mu * mu, a = confluent_a(mu2, 0.0);
+  const auto [first, second, others] = confluent_sum(mu2, w, terms);
+  const Number sum = first + others * a;
+  return {first / sum, (first * (w + (mu + Real{0.5})) - second * a) / (w * sum)};
 }
 
 }  // namespace quorin::amos

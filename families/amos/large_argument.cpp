@@ -1,21 +1,35 @@
 #include "families/amos/large_argument.hpp"
 
+#include <array>
+#include <cstddef>
 #include <numbers>
 
 #include "families/amos/limits.hpp"
 
 namespace quorin::amos {
 
+namespace {
+
+constexpr int kMostTerms = 100;
+
+// 1 / k
+constexpr auto kInverse = [] {
+  std::array<double, kMostTerms> inverse{};
+  for (std::size_t k = 1; k < kMostTerms; ++k) inverse[k] = 1.0 / static_cast<double>(k);
+  return inverse;
+}();
+
+}  // namespace
+
 LargeArgumentSums large_argument_sums(double nu, Complex w) {
-  constexpr int kMostTerms = 100;
   const double four_nu2 = 4.0 * nu * nu;
   const Complex over_8w = divide(0.125, w);
   Complex term = 1.0;
   Complex even = 1.0;
   Complex odd = 0.0;
-  for (int k = 1; k < kMostTerms; ++k) {
-    const double odd_number = 2.0 * k - 1.0;
-    term *= (four_nu2 - odd_number * odd_number) / k * over_8w;
+  for (std::size_t k = 1; k < kMostTerms; ++k) {
+    const double odd_number = 2.0 * static_cast<double>(k) - 1.0;
+    term *= (four_nu2 - odd_number * odd_number) * kInverse[k] * over_8w;
     (k % 2 == 0 ? even : odd) += term;
     if (largest_part(term) < 0.05 * kTol) return {even - odd, even + odd};
   }

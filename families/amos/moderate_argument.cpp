@@ -37,10 +37,10 @@ Pair k_by_recurrence(DoubleDouble nu, Complex w) {
   const double mu = (nu.hi - steps) + nu.lo;
   const Pair first = k_small_order(mu, w);
   if (steps == 0.0) return first;
-  Recurrence k(w, first.at, first.above);
-  for (int j = 1; j < static_cast<int>(steps); ++j) k.step(two_sum(mu, j));
+  Recurrence k(w, first.at, first.above, two_sum(1.0, mu));
+  for (int j = 1; j < static_cast<int>(steps); ++j) k.step_up();
   const Scaled at = k.value();
-  k.step(nu);
+  k.step_up();
   return {at, k.value()};
 }
 

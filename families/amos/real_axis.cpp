@@ -102,18 +102,31 @@ Cylinders cylinders_by_confluence(double mu, double x) {
   const DoubleDouble p = two_product(quarters, kHalfPi.hi);
   const double angle = ((x - p.hi) - p.lo) - quarters * kHalfPi.lo - (mu + 0.5) * kHalfPi.hi;
   const double size = std::sqrt(2.0 / (kPiValue * x));
-  const Complex phase = times_i_power(Complex{size * std::cos(angle), size * std::sin(angle)},
-                                      static_cast<int>(std::fmod(quarters, 4.0)));
-  const Complex h = phase * at;
-  const Complex h_above = times_i_power(phase, 3) * above;
+  const Complex front =
+      times_i_power(size * phase({angle}), static_cast<int>(quarters - 4.0 * round_to_integer(0.25 * quarters)));
+  const Complex h = front * at;
+  const Complex h_above = times_i_power(front, 3) * above;
   return {{h.real(), h_above.real()}, {h.imag(), h_above.imag()}};
 }
 
 // Y of orders mu and mu + 1 for x <= 2.
 RealPair y_by_series(double mu, double x) {
-  const double l = -std::log(0.5 * x), power = std::exp(mu * l), sine = std::sin(0.5 * kPiValue * mu);
+  const double l = -std::log(0.5 * x), power = exponential(mu * l), sine = std::sin(0.5 * kPiValue * mu);
   const auto sums = temme_series(mu, l, power, 1.0 / power, -0.25 * x * x, mu == 0.0 ? 0.0 : 2.0 * sine * sine / mu);
   return {-2.0 / kPiValue * sums.at, -4.0 / (kPiValue * x) * sums.above};
+}
+
+// c_0 + c_1 t + ... with an even number of terms.
+template <int kTerms>
+double polynomial(const double* c, double t) {
+  static_assert(kTerms % 2 == 0);
+  const double t2 = t * t;
+  double even = 0.0, odd = 0.0;
+  for (int k = kTerms - 2; k >= 0; k -= 2) {
+    even = even * t2 + c[k];
+    odd = odd * t2 + c[k + 1];
+  }
+  return even + t * odd;
 }
 
 // J_0, J_1, Y_0 or Y_1 (function 0 to 3) for 2 <= x <= kPiecesEnd: (x - zero) p(x - zero) around each zero.
@@ -124,14 +137,17 @@ double by_pieces(int function, double x) {
   const double* piece =
       tables::kCylinderPieces.data() + static_cast<std::ptrdiff_t>(function) * tables::kPieces * kSize;
   while (x > piece[0]) piece += kSize;
-  const double t = (x - piece[1]) - piece[2], t2 = t * t;
-  const double* c = piece + 3;
-  double even = 0.0, odd = 0.0;
-  for (int k = tables::kPieceTerms - 2; k >= 0; k -= 2) {
-    even = even * t2 + c[k];
-    odd = odd * t2 + c[k + 1];
-  }
-  return t * (even + t * odd);
+  const double t = (x - piece[1]) - piece[2];
+  return t * polynomial<tables::kPieceTerms>(piece + 3, t);
+}
+
+// e^-x I_0(x) or e^-x I_1(x) for x <= tables::kModifiedEnd.
+double modified_by_pieces(int order, double x) {
+  constexpr int kSize = 2 + tables::kModifiedTerms;
+  const double* piece = tables::kModified.data() + static_cast<std::ptrdiff_t>(order) * tables::kModifiedPieces * kSize;
+  while (x > piece[0]) piece += kSize;
+  const double value = polynomial<tables::kModifiedTerms>(piece + 2, x - piece[1]);
+  return order == 0 ? value : x * value;
 }
 
 // Miller's recurrence for J, from an order that is large against n and x down to 0; `take` gets order and value.
@@ -231,7 +247,7 @@ std::optional<double> real_k(double nu, double x) {
   const double mu = nu - steps;
   RealPair k{};
   if (x <= kSmallArgument) {
-    const double l = -std::log(0.5 * x), power = std::exp(mu * l), growth = std::exp(x);
+    const double l = -std::log(0.5 * x), power = exponential(mu * l), growth = exponential(x);
     const auto sums = temme_series(mu, l, power, 1.0 / power, 0.25 * x * x);
     k = {growth * sums.at, growth * sums.above * (2.0 / x)};
   } else {
@@ -244,9 +260,10 @@ std::optional<double> real_k(double nu, double x) {
 
 std::optional<double> real_i(double nu, double x) {
   if (nu > kMostOrder) return std::nullopt;
+  if (x <= tables::kModifiedEnd && (nu == 0.0 || nu == 1.0)) return modified_by_pieces(static_cast<int>(nu), x);
   if (x * x <= 4.0 * (nu + 1.0) && nu < 100.0) {
     const std::optional<double> value = power_series(nu, x, 1.0);
-    return value ? in_range(*value * std::exp(-x)) : value;
+    return value ? in_range(*value * exponential(-x)) : value;
   }
   if (x > kLargeArgument && (nu + 1.0) * (nu + 1.0) <= 2.0 * x) return i_large_argument(nu, x);
   if (x > kMostOrder || x <= kSmallArgument) return std::nullopt;

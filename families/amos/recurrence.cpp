@@ -2,27 +2,33 @@
 
 namespace quorin::amos {
 
-Recurrence::Recurrence(Complex w, Scaled previous, Scaled current) {
+Recurrence::Recurrence(Complex w, Scaled previous, Scaled current, DoubleDouble order)
+    : steps_(round_to_integer(order.hi)) {
   const Scaled u = scaled(w);
   const bool tiny = u.e < -100;
   const Complex divisor = tiny ? u.m : w;
-  two_over_w_ = divide(2.0, divisor);
-  correction_ = divide(narrow(widen(2.0) - widen(divisor) * widen(two_over_w_)), divisor);
+  const Complex factor = divide(2.0, divisor);
+  const Complex correction = divide(narrow(widen(2.0) - widen(divisor) * widen(factor)), divisor);
+  constexpr double kSplit = 0x1p31 + 1.0;
+  const Lanes f = lanes(factor), t = kSplit * f;
+  high_ = t - (t - f);
+  low_ = (f - high_) + lanes(correction);
+  offset_ = ((order.hi - steps_) + order.lo) * f;
   shift_ = tiny ? -u.e : 0;
   current = normalized(current);
   previous = normalized(previous);
   // A zero has no exponent of its own.
   exponent_ = current.m == 0.0 ? previous.e : current.e;
-  current_ = current.m;
-  previous_ = shift(previous.m, previous.e - exponent_ - shift_);
+  current_ = lanes(current.m);
+  previous_ = lanes(shift(previous.m, previous.e - exponent_ - shift_));
 }
 
 void Recurrence::rescale() {
-  const double size = largest_part(current_);
+  const double size = largest_part(complex(current_));
   if (size == 0.0 || !std::isfinite(size)) return;
   const int k = exponent_of(size);
-  current_ = shift(current_, -k);
-  previous_ = shift(previous_, -k);
+  current_ = lanes(shift(complex(current_), -k));
+  previous_ = lanes(shift(complex(previous_), -k));
   exponent_ += k;
 }
 

@@ -8,38 +8,46 @@ namespace quorin::amos {
 
 class Recurrence {
  public:
-  // Begins with y at two consecutive orders, `current` being the one towards which the steps go.
-  Recurrence(Complex w, Scaled previous, Scaled current);
+  // Begins with y at two consecutive orders, `current` at `order`, towards which the steps go: up or down.
+  Recurrence(Complex w, Scaled previous, Scaled current, DoubleDouble order);
 
-  // From `order`, the order of value(), to the next one. The coefficient 2 order / w is rounded but once: the same
-  // error in every step, of the order or of 2 / w, would add up.
-  void step(DoubleDouble order) {
-    const auto part = [order](double hi, double lo) {
-      const DoubleDouble p = two_product(order.hi, hi);
-      return p.hi + (p.lo + (order.hi * lo + order.lo * hi));
-    };
-    const Complex coefficient{part(two_over_w_.real(), correction_.real()),
-                              part(two_over_w_.imag(), correction_.imag())};
-    const Complex next = coefficient * current_ + previous_;
-    previous_ = shift_ == 0 ? current_ : shift(current_, -shift_);
-    current_ = next;
-    exponent_ += shift_;
-    const double size = largest_part(next);
-    if (size > kLarge || size < 1.0 / kLarge) rescale();
+  void step_up() {
+    step();
+    steps_ += 1.0;
+  }
+  void step_down() {
+    step();
+    steps_ -= 1.0;
   }
 
-  Scaled value() const { return normalized({current_, exponent_}); }
+  Scaled value() const { return normalized({complex(current_), exponent_}); }
 
  private:
   static constexpr double kLarge = 0x1p300;
 
+  static Complex complex(Lanes a) { return {a[0], a[1]}; }
+  static Lanes lanes(Complex a) { return Lanes{a.real(), a.imag()}; }
+
+  // From the order of value() to the next one. The coefficient 2 order / w, order = steps + mu, is rounded but once,
+  // the product with the high part being exact: the same error in every step, of the order or of 2 / w, would add up.
+  void step() {
+    const Lanes c = steps_ * high_ + (steps_ * low_ + offset_);
+    const Lanes next = c[0] * current_ + c[1] * Lanes{-current_[1], current_[0]} + previous_;
+    previous_ = shift_ == 0 ? current_ : lanes(shift(complex(current_), -shift_));
+    current_ = next;
+    exponent_ += shift_;
+    const double size = largest_part(complex(next));
+    if (size > kLarge || size < 1.0 / kLarge) rescale();
+  }
+
   void rescale();
 
-  Complex two_over_w_;      // 2 / w without its power of two when w is very small,
-  Complex correction_;      // what rounding took from it,
-  std::int64_t shift_ = 0;  // and that power of two
-  Complex previous_;        // y / 2^exponent_; when shift_ > 0, y / 2^(exponent_ + shift_)
-  Complex current_;
+  Lanes high_, low_;        // 2 / w, without its power of two when w is very small: 22 bits, and the others
+  Lanes offset_;            // mu 2 / w
+  double steps_;            // of the order
+  std::int64_t shift_ = 0;  // that power of two
+  Lanes previous_;          // y / 2^exponent_; when shift_ > 0, y / 2^(exponent_ + shift_)
+  Lanes current_;
   std::int64_t exponent_ = 0;
 };
 

@@ -98,9 +98,21 @@ inline constexpr std::int64_t kLargestExponent = 1023;
 
 inline constexpr Complex kFailed{std::numeric_limits<double>::quiet_NaN(), 0.0};
 
-// exp(a) with the phase reduced to full precision.
+// exp(a) with the phase reduced to full precision. (The runtime's functions take 20 to 50 ns each on the 32-bit
+// target.)
 Scaled exponential(const ComplexDoubleDouble& a);
 inline Scaled exponential(Complex a) { return exponential(widen(a)); }
+double exponential(double a);
+
+// The same for a real number, as m 2^e.
+struct RealScaled {
+  double m;
+  double e;
+};
+RealScaled exponential(DoubleDouble a);
+
+// exp(i a)
+Complex phase(DoubleDouble a);
 
 // exp(i pi x / 2), exact at the multiples of a quarter turn.
 Complex quarter_turns(DoubleDouble x);

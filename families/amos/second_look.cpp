@@ -88,10 +88,10 @@ Wide SecondLook::i_ratio(int steps) const {
     ++last;
     before = std::exchange(p, (nu + last) * two_over_w * p + before);
   }
-  CoefficientsInOrder<Wide> coefficients(order_.mu, widen(2.0) / w_);
-  Wide above{}, y = widen(1.0);
-  for (int k = last; k > 0; --k) above = std::exchange(y, fused(coefficients.at(steps + k), y, above));
-  return above / y;
+  // y_{nu-1} = (2 nu / w) y_nu + y_{nu+1}: upwards in -nu.
+  Climber<Wide> i(-order_.mu, -(widen(2.0) / w_), 1.0, Wide{}, widen(1.0), -(steps + last) - 1);
+  i.move_to(-steps - 1);
+  return i.at() / i.above();
 }
 
 // e^-w I at orders mu and mu + 1.

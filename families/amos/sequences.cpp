@@ -25,7 +25,7 @@ Pair pair(DoubleDouble nu, bool wants_above, const Function& f) {
 
 Start start_i(DoubleDouble nu, Complex w, bool wants_above) {
   const double size = modulus(w);
-  const auto by_uniform = [w](DoubleDouble order) { return uniform(Kind::kI, order, w); };
+  const auto by_uniform = [w](DoubleDouble order) { return Uniform(order, w).i(); };
   if (nu.hi >= kLargeOrder) return {pair(nu, wants_above, by_uniform)};
   if (is_large_argument(nu.hi, size)) {
     return {pair(nu, wants_above, [w](DoubleDouble order) { return i_large_argument(order, w); })};
@@ -37,7 +37,7 @@ Start start_i(DoubleDouble nu, Complex w, bool wants_above) {
 
 Pair start_k(DoubleDouble nu, Complex w, bool wants_above) {
   if (nu.hi >= kLargeOrder) {
-    return pair(nu, wants_above, [w](DoubleDouble order) { return uniform(Kind::kK, order, w); });
+    return pair(nu, wants_above, [w](DoubleDouble order) { return Uniform(order, w).k(); });
   }
   if (is_large_argument(nu.hi, modulus(w))) {
     return pair(nu, wants_above, [w](DoubleDouble order) { return k_large_argument(order.hi, w); });

@@ -36,9 +36,9 @@ void descend_i(double nu, int from, int to, Complex w, const Visit& visit) {
     visit(from, mirrored(start.values.at, below));
     return;
   }
-  Recurrence i(quadrant, start.values.above, start.values.at);
-  for (int k = start.steps; k > 0; --k) i.step(top + DoubleDouble{static_cast<double>(k)});
-  for (int j = to - 1; visit(j, mirrored(i.value(), below)) && j > from; --j) i.step(two_sum(nu, j));
+  Recurrence i(quadrant, start.values.above, start.values.at, top + DoubleDouble{static_cast<double>(start.steps)});
+  for (int k = start.steps; k > 0; --k) i.step_down();
+  for (int j = to - 1; visit(j, mirrored(i.value(), below)) && j > from; --j) i.step_down();
 }
 
 // Visits e^w K_{nu+j}(w), j = from, ..., to - 1, in the same way.
@@ -48,8 +48,8 @@ void ascend_k(double nu, int from, int to, Complex w, const Visit& visit) {
   const Complex quadrant = mirrored(w, below);
   const Pair start = start_k(two_sum(nu, from), quadrant, to - from > 1);
   if (!visit(from, mirrored(start.at, below)) || to - from == 1) return;
-  Recurrence k(quadrant, start.at, start.above);
-  for (int j = from + 1; visit(j, mirrored(k.value(), below)) && j < to - 1; ++j) k.step(two_sum(nu, j));
+  Recurrence k(quadrant, start.at, start.above, two_sum(nu, from + 1));
+  for (int j = from + 1; visit(j, mirrored(k.value(), below)) && j < to - 1; ++j) k.step_up();
 }
 
 // Whether J_nu(x) and Y_nu(x) have zeros around x > 2: the first zero of Y lies 0.93 nu^(1/3) beyond the order, that of

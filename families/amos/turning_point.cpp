@@ -87,7 +87,8 @@ Scaled turning_point(Kind kind, DoubleDouble order, Complex w, const ComplexDoub
   const Complex half = 0.5 * bracket;
   const Complex log_half{std::log(modulus(half)), std::atan2(half.imag(), half.real())};
   const auto power = [log_half](double exponent) {
-    return std::polar(std::exp(exponent * log_half.real()), exponent * log_half.imag());
+    const Scaled e = exponential(exponent * log_half);
+    return shift(e.m, e.e);
   };
   Complex zeta = v * power(2.0 / 3.0);
   if (zeta.imag() < 0.0) zeta = zeta.real();  // rounding next to the axis; zeta lies in the closed upper half plane

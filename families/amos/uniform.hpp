@@ -6,10 +6,27 @@
 
 namespace quorin::amos {
 
-enum class Kind { kI, kK };
+// For nu >= kLargeOrder and w != 0 in the first quadrant.
+class Uniform {
+ public:
+  Uniform(DoubleDouble order, Complex w);
 
-// e^-w I_nu(w) or e^w K_nu(w) for nu >= kLargeOrder and w != 0 in the first quadrant.
-Scaled uniform(Kind kind, DoubleDouble order, Complex w);
+  // e^-w I_nu(w) and e^w K_nu(w)
+  Scaled i() const;
+  Scaled k() const;
+
+ private:
+  DoubleDouble order_;
+  Complex w_;
+  ComplexDoubleDouble xi_;
+  bool turning_;
+  ComplexDoubleDouble exponent_;  // nu eta
+  Complex root_;                  // sqrt(t / (2 pi nu))
+  Complex plus_;                  // sum U_k(t) / nu^k
+  Complex minus_;                 // sum (-1)^k U_k(t) / nu^k
+};
+
+enum class Kind { kI, kK };
 
 // The same near the turning point. xi = log((1 + s)/x) - s with x = -i w / nu, s = sqrt(1 - x^2); nu |xi| <= 20.
 Scaled turning_point(Kind kind, DoubleDouble order, Complex w, const ComplexDoubleDouble& xi);

@@ -18,6 +18,8 @@ LARGEST_ZETA = 0.52  # ... and for |zeta| below this
 GAMMA_TERMS = 34
 PIECES_END = 25  # of the polynomials for orders 0 and 1
 PIECE_TERMS = 28
+MODIFIED_ENDS = (2, 4, 8, 14, 24)  # of the polynomials for I of orders 0 and 1
+MODIFIED_TERMS = 22
 LOG_STEPS = 64  # of the table of powers of 2
 ANGLE_STEPS = 64  # in a right angle, of the table of sines
 
@@ -105,6 +107,36 @@ def reciprocal_gamma():
     return mpmath.taylor(lambda x: mpmath.rgamma(1 + x), 0, GAMMA_TERMS - 1)
 
 
+def interpolation(f, low, high, centre, terms):
+    """Coefficients in powers of x - centre of the polynomial through f at Chebyshev's points of [low, high]."""
+    half = (high - low) / 2
+    nodes = [half * mpmath.cos(mpmath.pi * (2 * i + 1) / (2 * terms)) + low + half for i in range(terms)]
+    # Newton's divided differences, then powers.
+    differences = [f(x) for x in nodes]
+    for i in range(1, terms):
+        for k in range(terms - 1, i - 1, -1):
+            differences[k] = (differences[k] - differences[k - 1]) / (nodes[k] - nodes[k - i])
+    p = [mpmath.mpf(0)]
+    for k in range(terms - 1, -1, -1):
+        root = nodes[k] - centre
+        p = [a - root * b for a, b in zip([mpmath.mpf(0)] + p, p + [mpmath.mpf(0)])]
+        p[0] += differences[k]
+    return p[:terms]
+
+
+def modified_pieces():
+    """e^-x I_0(x) and e^-x I_1(x) / x: of each piece its upper end, its middle, and coefficients in x - middle."""
+    rows = []
+    for order in (0, 1):
+        f = lambda x: mpmath.exp(-x) * mpmath.hyp0f1(order + 1, x * x / 4) / 2**order
+        row = []
+        for low, high in zip((0,) + MODIFIED_ENDS, MODIFIED_ENDS):
+            middle = mpmath.mpf(low + high) / 2
+            row.append([mpmath.mpf(high), middle] + interpolation(f, mpmath.mpf(low), mpmath.mpf(high), middle, MODIFIED_TERMS))
+        rows.append(row)
+    return rows
+
+
 def cylinder_pieces():
     """J_0, J_1, Y_0, Y_1 on [2, PIECES_END], one polynomial around each zero: f(x) = t p(t), t = x - zero.
 
@@ -123,20 +155,8 @@ def cylinder_pieces():
             if low > PIECES_END:
                 break
             high = (zero + following) / 2
-            half = (high - low) / 2
-            nodes = [half * mpmath.cos(mpmath.pi * (2 * i + 1) / (2 * PIECE_TERMS)) + low + half
-                     for i in range(PIECE_TERMS)]
-            # Newton's divided differences of f(x)/(x - zero), then powers of t.
-            differences = [f(x) / (x - zero) for x in nodes]
-            for i in range(1, PIECE_TERMS):
-                for k in range(PIECE_TERMS - 1, i - 1, -1):
-                    differences[k] = (differences[k] - differences[k - 1]) / (nodes[k] - nodes[k - i])
-            p = [mpmath.mpf(0)]
-            for k in range(PIECE_TERMS - 1, -1, -1):
-                root = nodes[k] - zero
-                p = [a - root * b for a, b in zip([mpmath.mpf(0)] + p, p + [mpmath.mpf(0)])]
-                p[0] += differences[k]
-            row.append([high, zero, zero - mpmath.mpf(float(zero))] + p[:PIECE_TERMS])
+            p = interpolation(lambda x: f(x) / (x - zero), low, high, zero, PIECE_TERMS)
+            row.append([high, zero, zero - mpmath.mpf(float(zero))] + p)
             low = high
         rows.append(row)
     return rows
@@ -192,6 +212,12 @@ def main():
     print(f"inline constexpr int kPieces = {len(pieces[0])};")
     write("kCylinderPieces", "Upper end of the piece, the zero as high and low part, coefficients of f(x) / (x - zero).",
           [x for row in pieces for piece in row for x in piece])
+    print(f"\n// {MODIFIED_TERMS} coefficients for each piece of I_0 and I_1 between 0 and {MODIFIED_ENDS[-1]}.")
+    print(f"inline constexpr int kModifiedTerms = {MODIFIED_TERMS};")
+    print(f"inline constexpr int kModifiedPieces = {len(MODIFIED_ENDS)};")
+    print(f"inline constexpr double kModifiedEnd = {MODIFIED_ENDS[-1]};")
+    write("kModified", "Upper end of the piece, its middle, coefficients of e^-x I_0(x); of e^-x I_1(x) / x.",
+          [x for row in modified_pieces() for piece in row for x in piece])
     print("\n}  // namespace quorin::amos::tables")
 
 
