@@ -39,8 +39,8 @@ template <class Number>
 ConfluentTerms<Number> confluent_sum(double mu2, Number w, int terms) {
   const Number two_w = w * 2.0;
   Number above{}, at = 1.0, sum = 1.0;
-  for (double n = terms; n > 1.0; n -= 1.0) {
-    const Number below = (fused(two_w + 2.0 * n, at, above * -(n + 1.0))) * (n / confluent_a(mu2, n - 1.0));
+  for (int n = terms; n > 1; --n) {
+    const Number below = fused(two_w + 2.0 * n, at, above * -(n + 1.0)) * (n / confluent_a(mu2, n - 1.0));
     sum += below;
     above = at;
     at = below;
