@@ -193,20 +193,22 @@ Results order_and_permute(const quorin_library& library, int seed) {
   }
   whole->colptr[line.n] = entries;
   Results all;
-  for (const char* const name : {"amd", "metis", "genmmd"}) {
+  bool has_failed = false;
+  for (const char* const name : {"camd", "metis", "genmmd"}) {
     std::int32_t *perm = nullptr, *inverse = nullptr;
     library.taucs_ccs_order(whole, &perm, &inverse, name);
     taucs_ccs_matrix* const permuted =
         perm == nullptr ? nullptr : library.taucs_ccs_permute_symmetrically(whole, perm, inverse);
     std::vector<double> y(90);
     if (permuted != nullptr) library.taucs_ccs_times_vec(permuted, line.b.data(), y.data());
-    all = permuted == nullptr ? Results{} : join(all, y, std::span(perm, 90));
+    has_failed |= permuted == nullptr;
+    if (!has_failed) all = join(all, y, std::span(perm, 90));
     library.taucs_ccs_free(permuted);
     std::free(perm);
     std::free(inverse);
   }
   library.taucs_ccs_free(whole);
-  return all;
+  return has_failed ? Results{} : all;
 }
 
 Results solve_by_lu(const quorin_library& library, int seed) {
