@@ -150,6 +150,7 @@ TEST(Xerbla, ChoosesTheMessageByTheCode) {
       {INT_MIN, "\nIntel MKL INTERNAL ERROR: Condition 2147483648 detected in function SGEMM.\n"},
   };
   for (const Case& c : kCases) EXPECT_EQ(xerbla_text("SGEMM", c.info, 5), c.message);
+  EXPECT_EQ(xerbla_text("SGEMM  ", 1, 7), kCases[2].message) << "Fortran pads names";
   for (const int vendor_code : {1102, 1225}) {
     const std::string text = xerbla_text("SGEMM", vendor_code, 5);
     EXPECT_NE(text.find("SGEMM"), std::string::npos);
