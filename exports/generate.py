@@ -27,8 +27,10 @@ def table_of(family: Family) -> str:
 
 def example(family: Family) -> str:
     """The program that the family's page begins with."""
-    (path,) = (ROOT / "examples/c").glob(f"{family.name}_*.c")
-    return path.read_text()
+    paths = list((ROOT / "examples/c").glob(f"{family.name}_*.c"))
+    if len(paths) != 1:
+        sys.exit(f"examples/c has {len(paths)} programs {family.name}_*.c; the page of {family.name} begins with one")
+    return paths[0].read_text()
 
 
 def committed_files(families: list[Family]) -> dict[str, str]:
