@@ -23,13 +23,13 @@ constexpr float kNaN = std::numeric_limits<float>::quiet_NaN();
 
 using Floats = std::vector<float>;
 using Reals = std::vector<double>;
-/// f <- F(x), in double precision.
+// f <- F(x), in double precision.
 using Function = std::function<void(const Reals& x, Reals& f)>;
 
 inline Floats to_floats(const Reals& x) { return Floats(x.begin(), x.end()); }
 
-/// dF/dx by central differences in double precision, exact to more digits than a float has; m x n, column-major.
-/// `start` tells what size the variables have.
+// dF/dx by central differences in double precision, exact to more digits than a float has; m x n, column-major.
+// `start` tells what size the variables have.
 inline Reals jacobian_of(const Function& function, const Floats& start, Reals x, std::size_t m) {
   Reals columns(m * x.size()), above(m), below(m);
   for (std::size_t j = 0; j < x.size(); ++j) {
@@ -73,7 +73,7 @@ struct Fit {
                         : strnlsp_init(&handle, &n, &rows, x.data(), eps.data(), &limit, &step_limit, &rs);
   }
 
-  /// One call of the solver, and the answer; false at the end.
+  // One call of the solver, and the answer; false at the end.
   bool step() {
     auto* const solve = is_bounded() ? strnlspbc_solve : strnlsp_solve;
     status = solve(&handle, f.data(), columns.data(), &request);
@@ -100,7 +100,7 @@ struct Fit {
     EXPECT_EQ(handle, nullptr);
   }
 
-  /// The whole run. At its end x, fvec and r2 belong together.
+  // The whole run. At its end x, fvec and r2 belong together.
   void go() {
     ASSERT_EQ(begin(), kSuccess);
     while (step()) {
@@ -123,7 +123,7 @@ struct Fit {
   }
 };
 
-/// Blocks of four variables.
+// Blocks of four variables.
 inline void extended_powell(const Reals& x, Reals& f) {
   for (std::size_t k = 0; k + 4 <= x.size(); k += 4) {
     f[k] = x[k] + 10 * x[k + 1];
