@@ -87,7 +87,9 @@ FactorOutcome PanelFiles::create(const Plan& plan, PanelKind kind, std::size_t s
   }
   panels_ = plan.supernodes();
   sizes_ = base::Workspace<std::uint64_t>(static_cast<std::size_t>(panels_));
-  if (!sizes_) return FactorOutcome::kOutOfMemory;
+  checks_ = base::Workspace<std::uint32_t>(static_cast<std::size_t>(panels_));
+  if (!sizes_ || !checks_) return FactorOutcome::kOutOfMemory;
+  std::fill(checks_.begin(), checks_.end(), 0);
   for (int s = 0; s < panels_; ++s) {
     sizes_[static_cast<std::size_t>(s)] = static_cast<std::uint64_t>(plan.panel_size(kind, s)) * scalar_size;
   }
@@ -104,15 +106,17 @@ bool PanelFiles::fits(const Plan& plan, PanelKind kind, std::size_t scalar_size)
 }
 
 FactorOutcome PanelFiles::begin_index() noexcept {
+  // What is not written yet has no check.
+  if (const FactorOutcome outcome = finish(true); outcome != FactorOutcome::kDone) return outcome;
   writer_.put(part_bytes_);
   writer_.put(static_cast<std::int32_t>(panels_));
   writer_.put(std::span<const std::uint64_t>(sizes_.data(), sizes_.size()));
+  writer_.put(std::span<const std::uint32_t>(checks_.data(), checks_.size()));
   return writer_.outcome();
 }
 
 FactorOutcome PanelFiles::complete() noexcept {
-  FactorOutcome outcome = finish(true);
-  if (outcome == FactorOutcome::kDone) outcome = create_parts(offset(panels_));
+  FactorOutcome outcome = create_parts(offset(panels_));
   for (int part = 0; part < part_count_ && outcome == FactorOutcome::kDone; ++part) {
     if (!parts_[static_cast<std::size_t>(part)].flush()) outcome = FactorOutcome::kFileFailed;
   }
@@ -130,7 +134,8 @@ FactorOutcome PanelFiles::open(const char* base_name, std::uint64_t budget) noex
   if (!index) return FactorOutcome::kOutOfMemory;
   FactorOutcome outcome = reader_.begin(index.data(), FileKind::kPanels);
   if (outcome == FactorOutcome::kDone) outcome = read_table(reader_, part_bytes_, sizes_);
-  if (outcome != FactorOutcome::kDone) return outcome;
+  if (outcome == FactorOutcome::kDone) reader_.get(checks_, sizes_.size());
+  if (reader_.outcome() != FactorOutcome::kDone) return reader_.outcome();
   panels_ = static_cast<int>(sizes_.size());
   outcome = lay_out();
   if (outcome == FactorOutcome::kDone) outcome = open_parts();
@@ -197,6 +202,7 @@ void PanelFiles::drop_panels() noexcept {
   for (Run& each : std::span<Run>(runs_)) base::release(each.block);
   runs_ = {};
   sizes_ = {};
+  checks_ = {};
   offsets_ = {};
   run_of_ = {};
   for (int part = 0; part < part_count_; ++part) parts_[static_cast<std::size_t>(part)].close();
@@ -246,11 +252,24 @@ FactorOutcome PanelFiles::transfer(Run& run, Piece&& piece) noexcept {
   return FactorOutcome::kDone;
 }
 
+// Calls compare(check of what is in memory, check that is known) for the panels of the run. Panels and not runs have
+// checks: another budget makes other runs.
+template <class Compare>
+void PanelFiles::for_panels(Run& run, const Compare& compare) noexcept {
+  for (int panel = run.first; panel < run.end; ++panel) {
+    const auto p = static_cast<std::size_t>(panel);
+    compare(crc32(run.data + (offset(panel) - offset(run.first)), static_cast<std::size_t>(sizes_[p])), checks_[p]);
+  }
+}
+
 FactorOutcome PanelFiles::read(Run& run) noexcept {
   traffic_.read += bytes(run);
-  return transfer(run, [](platform::BlockFile& part, std::uint64_t place, std::byte* memory, std::size_t length) {
-    return part.read(place, memory, length);
-  });
+  const FactorOutcome outcome = transfer(run, [](platform::BlockFile& part, std::uint64_t place, std::byte* memory,
+                                                 std::size_t length) { return part.read(place, memory, length); });
+  if (outcome != FactorOutcome::kDone) return outcome;
+  bool is_whole = true;
+  for_panels(run, [&](std::uint32_t check, std::uint32_t known) { is_whole = is_whole && check == known; });
+  return is_whole ? FactorOutcome::kDone : FactorOutcome::kWrongFormat;
 }
 
 FactorOutcome PanelFiles::write(Run& run) noexcept {
@@ -261,6 +280,7 @@ FactorOutcome PanelFiles::write(Run& run) noexcept {
     return part.write(place, memory, length);
   });
   if (outcome == FactorOutcome::kDone) {
+    for_panels(run, [](std::uint32_t check, std::uint32_t& known) { known = check; });
     run.is_changed = false;
     run.is_in_file = true;
   }

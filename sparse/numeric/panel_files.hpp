@@ -1,8 +1,9 @@
 // Panels in a set of files, for a factor that is larger than memory or outlives the process.
 //
 // A set with the base name "factor" is the files "factor.0", "factor.1", ..., each less than 2 GiB, which hold the
-// panels one behind the other, and "factor.index", which tells where they are and holds whatever else belongs to the
-// factor. The index is completed last: without a whole one there is no set.
+// panels one behind the other, and "factor.index", which tells where they are and holds their checksums and whatever
+// else belongs to the factor. The index is completed last: without a whole one there is no set. A panel that is not as
+// it was written is refused when it is read.
 #pragma once
 
 #include <array>
@@ -83,6 +84,8 @@ class PanelFiles final : public PanelStore {
   FactorOutcome create_parts(std::uint64_t end) noexcept;
   template <class Piece>
   FactorOutcome transfer(Run& run, Piece&& piece) noexcept;
+  template <class Compare>
+  void for_panels(Run& run, const Compare& compare) noexcept;
   FactorOutcome read(Run& run) noexcept;
   FactorOutcome write(Run& run) noexcept;
 
@@ -108,6 +111,7 @@ class PanelFiles final : public PanelStore {
 
   int panels_ = 0;
   base::Workspace<std::uint64_t> sizes_, offsets_;  // offsets_[panels_] is the end
+  base::Workspace<std::uint32_t> checks_;           // of the panels in the files
   base::Workspace<int> run_of_;
   base::Workspace<Run> runs_;
   int oldest_ = kNone, newest_ = kNone;  // runs in memory

@@ -194,6 +194,17 @@ TEST_F(PanelFilesTest, ThatAreNotWholeAreRefused) {
     EXPECT_EQ(read_set(name), FactorOutcome::kCannotOpen) << file;
     write_contents(name + file, whole);
   }
+  // Damage that leaves the length as it is: at multiples of 64 bytes there are always numbers.
+  const std::string whole = contents(name + ".0");
+  for (const std::size_t place : {0, 7 * 64, 100 * 64}) {
+    std::string damaged = whole;
+    damaged[place] = static_cast<char>(damaged[place] ^ 1);
+    write_contents(name + ".0", damaged);
+    for (const std::uint64_t budget : {largest() + 64, kPlenty}) {
+      EXPECT_EQ(read_set(name, budget), FactorOutcome::kWrongFormat) << place;
+    }
+  }
+  write_contents(name + ".0", whole);
   EXPECT_EQ(read_set(name), FactorOutcome::kDone);
   EXPECT_EQ(folder_.files(), count);
 }
