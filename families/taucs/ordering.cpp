@@ -39,22 +39,73 @@ Outcome order_identity(const Pattern& A, const Ordering& ordering) noexcept {
 
 enum class Needs { kNothing, kLowerTriangle, kBothTriangles };
 
+// Texts are the published package's, whose prefixes are not all of the method's name.
 struct Method {
   const char* name;
-  const char* reporter;  // in messages
-  const char* title;
-  Needs needs;
   Outcome (*order)(const Pattern& A, const Ordering& ordering) noexcept;
+  const char* is_not_symmetric = nullptr;  // or, for kBothTriangles, is
+  const char* is_not_lower = nullptr;
+  const char* begins = nullptr;
+  const char* calls = nullptr;  // with the rows, columns and entries, or edges: a diagonal entry is none
+  const char* ends = nullptr;   // with the code that AMD has for the outcome
+  const char* fails = nullptr;
+  const char* lacks_memory = nullptr;
+  Needs needs;
+  bool counts_edges = false;
 };
 constexpr Method kMethods[] = {
-    {"camd", "amd", "AMD", Needs::kLowerTriangle, sparse::order_amd},
-    {"metis", "metis", "METIS", Needs::kLowerTriangle, order_graph<sparse::order_metis>},
-    {"genmmd", "genmmd", "GENMMD", Needs::kLowerTriangle, order_graph<sparse::order_minimum_degree>},
-    {"tree", "treeorder", "tree", Needs::kLowerTriangle, order_graph<sparse::order_tree>},
-    {"colamd", "colamd", "COLAMD", Needs::kBothTriangles, sparse::order_colamd},
-    {"random", "randomperm", "random", Needs::kNothing, order_random},
-    {"identity", "order", "identity", Needs::kNothing, order_identity},
+    {.name = "camd",
+     .order = sparse::order_amd,
+     .is_not_symmetric = "taucs_ccs_amd: AMD ordering only works on symmetric matrices.\n",
+     .is_not_lower = "taucs_ccs_amd: the lower part of the matrix must be represented.\n",
+     .begins = "taucs_ccs_amd: starting (camd)\n",
+     .calls = "taucs_ccs_amd: calling amd_order matrix is %dx%d, nnz=%d\n",
+     .ends = "taucs_ccs_amd: amd_order returned, return code = %d.\n",
+     .fails = "taucs_ccs_amd: amd_order returned, return code = %d.\n",
+     .needs = Needs::kLowerTriangle},
+    {.name = "metis",
+     .order = order_graph<sparse::order_metis>,
+     .is_not_symmetric = "taucs_ccs_treeorder: METIS ordering only works on symmetric matrices.\n",
+     .is_not_lower = "taucs_ccs_metis: the lower part of the matrix must be represented.\n",
+     .needs = Needs::kLowerTriangle},
+    {.name = "genmmd",
+     .order = order_graph<sparse::order_minimum_degree>,
+     .is_not_symmetric = "taucs_ccs_genmmd: GENMMD ordering only works on symmetric matrices.\n",
+     .is_not_lower = "taucs_ccs_genmmd: the lower part of the matrix must be represented.\n",
+     .needs = Needs::kLowerTriangle},
+    {.name = "tree",
+     .order = order_graph<sparse::order_tree>,
+     .is_not_symmetric = "taucs_ccs_treeorder: tree ordering only works on symmetric matrices.\n",
+     .is_not_lower = "taucs_ccs_treeorder: the lower part of the matrix must be represented.\n",
+     .calls = "taucs_ccs_treeorder: starting, matrix is %dx%d, # edges=%d\n",
+     .ends = "taucs_ccs_treeorder: done\n",
+     .needs = Needs::kLowerTriangle,
+     .counts_edges = true},
+    {.name = "colamd",
+     .order = sparse::order_colamd,
+     .is_not_symmetric = "taucs_ccs_colamd: not applicable for symmetric or hermitian matrices\n",
+     .begins = "taucs_ccs_colamd: starting\n",
+     .calls = "oocsp_ccs_colamd: calling colamd matrix is %dx%d, nnz=%d\n",
+     .ends = "oocsp_ccs_colamd: colamd returned\n",
+     .fails = "oocsp_ccs_colamd: colamd failed\n",
+     .needs = Needs::kBothTriangles},
+    {.name = "random",
+     .order = order_random,
+     .lacks_memory = "taucs_ccs_randomperm: out of memory for permutation\n",
+     .needs = Needs::kNothing},
+    {.name = "identity",
+     .order = order_identity,
+     .lacks_memory = "taucs_ccs_order: out of memory for identity permutation\n",
+     .needs = Needs::kNothing},
 };
+
+template <class... Values>
+void say(const char* format, Values... values) {
+  if (format != nullptr) message(format, values...);
+}
+
+// AMD's own.
+int code_of(Outcome outcome) { return outcome == Outcome::kDone ? 0 : outcome == Outcome::kOutOfMemory ? -1 : -2; }
 
 // Null for what is none, with the reason.
 const Method* find_method(const char* name) {
@@ -67,18 +118,16 @@ const Method* find_method(const char* name) {
   return refuse("taucs_ccs_order: invalid ordering requested (%s)\n", name);
 }
 
-// What the method is not for, as a format of its reporter and title; null if it is for this matrix.
+// What the method is not for; null if it is for this matrix.
 const char* find_objection(const Method& method, const CcsMatrix& A) {
   const bool is_symmetric = A.is_symmetric_or_hermitian();
-  if (method.needs == Needs::kBothTriangles && is_symmetric) {
-    return "taucs_ccs_%s: not applicable for symmetric or hermitian matrices\n";
-  }
+  if (method.needs == Needs::kBothTriangles && is_symmetric) return method.is_not_symmetric;
   if (method.needs != Needs::kLowerTriangle) return nullptr;
-  if (!is_symmetric) return "taucs_ccs_%s: %s ordering only works on symmetric matrices.\n";
-  if (!A.has(kLower)) return "taucs_ccs_%s: the lower part of the matrix must be represented.\n";
+  if (!is_symmetric) return method.is_not_symmetric;
+  if (!A.has(kLower)) return method.is_not_lower;
   // A record with fewer rows than columns lacks the entries of the last columns: readers leave it so where a file
   // does not name the last diagonal entry.
-  return A.m <= A.n ? nullptr : "taucs_ccs_%s: a symmetric matrix has as many rows as columns\n";
+  return A.m <= A.n ? nullptr : "taucs_ccs_order: a symmetric matrix has as many rows as columns\n";
 }
 
 }  // namespace
@@ -89,24 +138,29 @@ void ccs_order(const CcsMatrix* A, std::int32_t** perm, std::int32_t** invperm, 
   const Method* const method = find_method(name);
   if (method == nullptr) return;
   if (const char* const objection = find_objection(*method, *A); objection != nullptr) {
-    message(objection, method->reporter, method->title);
+    message("%s", objection);
     return;
   }
   OwnedIndices permutation(new_array<int>(static_cast<std::size_t>(A->n)));
   OwnedIndices inverse(new_array<int>(static_cast<std::size_t>(A->n)));
   if (permutation == nullptr || inverse == nullptr) {
     if (method->needs == Needs::kBothTriangles) platform::fail_assertion("p && ip", kOrderingSource, __LINE__);
-    message("taucs_ccs_%s: out of memory for %s permutation\n", method->reporter, method->title);
+    say(method->lacks_memory);
     return;
   }
   // m and n may be exchanged: n is the order of a triangle, and no row of another matrix lies beyond both.
   const Pattern pattern{std::max(A->m, A->n), A->n, A->colptr, A->rowind};
+  const int entries = A->colptr[A->n] - (method->counts_edges ? A->n : 0);
+  say(method->begins);
+  say(method->calls, A->m, A->n, entries);
   const Outcome outcome = method->order(pattern, {permutation.get(), inverse.get()});
   if (outcome != Outcome::kDone) {
     const char* const cause = outcome == Outcome::kOutOfMemory ? "out of memory" : "the matrix is damaged";
-    message("taucs_ccs_%s: %s ordering failed: %s\n", method->reporter, method->title, cause);
+    say(method->fails, code_of(outcome));
+    message("taucs_ccs_order: %s ordering failed: %s\n", method->name, cause);
     return;
   }
+  say(method->ends, code_of(outcome));
   *perm = permutation.release();
   *invperm = inverse.release();
 }

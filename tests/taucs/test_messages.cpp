@@ -1,4 +1,6 @@
 // The log that the environment asks for: a line for each refusal, and nothing without it.
+#include <cstdlib>
+
 #include "tests/support/capture_output.hpp"
 #include "tests/taucs/log.hpp"
 #include "tests/taucs/taucs_host.hpp"
@@ -20,6 +22,7 @@ TEST(Messages, TellWhyARoutineRefused) {
       log;
   const auto refused = [&] {
     order(general, "camd");
+    order(general, "metis");
     order(general, "amd");
     order(general, "nested");
     general->flags |= TAUCS_SYMMETRIC;
@@ -37,6 +40,7 @@ TEST(Messages, TellWhyARoutineRefused) {
   std::erase(text, '\r');
   EXPECT_EQ(text,
             "taucs_ccs_amd: AMD ordering only works on symmetric matrices.\n"
+            "taucs_ccs_treeorder: METIS ordering only works on symmetric matrices.\n"
             "taucs_ccs_amd: AMD routines not linked.\n"
             "taucs_ccs_order: invalid ordering requested (nested)\n"
             "taucs_ccs_metis: the lower part of the matrix must be represented.\n"
@@ -50,6 +54,31 @@ TEST(Messages, TellWhyARoutineRefused) {
     EXPECT_EQ(quorin::test::captured(refused), "");
   }
   EXPECT_EQ(log.read(), written);
+}
+
+TEST(Messages, TellWhatAnOrderingCalls) {
+  const Matrix diagonal(taucs_ccs_create(2, 2, 2, TAUCS_DOUBLE));
+  for (const int j : {0, 1, 2}) diagonal->colptr[j] = j;
+  for (const int j : {0, 1}) diagonal->rowind[j] = j;
+  const TemporaryFile log;
+  set_log(log.name());
+  for (const char* const name : {"colamd", "camd", "tree"}) {
+    int *perm = nullptr, *inverse = nullptr;
+    taucs_ccs_order(diagonal.get(), &perm, &inverse, name);
+    EXPECT_NE(perm, nullptr) << name;
+    std::free(perm);
+    std::free(inverse);
+    diagonal->flags |= TAUCS_SYMMETRIC | TAUCS_LOWER;
+  }
+  std::string text = log.read();
+  std::erase(text, '\r');
+  set_log("");
+  EXPECT_EQ(text,
+            "taucs_ccs_colamd: starting\noocsp_ccs_colamd: calling colamd matrix is 2x2, nnz=2\n"
+            "oocsp_ccs_colamd: colamd returned\n"
+            "taucs_ccs_amd: starting (camd)\ntaucs_ccs_amd: calling amd_order matrix is 2x2, nnz=2\n"
+            "taucs_ccs_amd: amd_order returned, return code = 0.\n"
+            "taucs_ccs_treeorder: starting, matrix is 2x2, # edges=0\ntaucs_ccs_treeorder: done\n");
 }
 
 }  // namespace
