@@ -29,8 +29,8 @@ std::int64_t panel_bytes(const Plan& plan, const FactorOptions& options) noexcep
 // What the method takes beside the factor.
 template <Scalar T>
 std::int64_t work_bytes(const Plan& plan, const FactorOptions& options, int threads) noexcept {
-  return options.method == Method::kMultifrontal ? multifrontal_bytes<T>(plan, threads, options.store)
-                                                 : left_looking_bytes<T>(plan, options.factorization, threads);
+  return options.method == Method::kMultifrontal ? MultifrontalMethod<T>::bytes(plan, threads, options.store)
+                                                 : LeftLookingMethod<T>::bytes(plan, options.factorization, threads);
 }
 
 }  // namespace
@@ -89,9 +89,9 @@ FactorOutcome Factor<T>::compute(const Plan& plan, const Assembly& assembly, con
 
   FactorTask<T> task(plan, assembly, A, rule, panels_, order_, threads, options.progress);
   if (options.method == Method::kMultifrontal) {
-    factor_multifrontal(task);
+    MultifrontalMethod<T>::factor(task);
   } else {
-    factor_left_looking(task);
+    LeftLookingMethod<T>::factor(task);
   }
   report_.pivots = task.counts();
   report_.failed_column = task.failed_column();

@@ -71,11 +71,11 @@ class FactorTask {
 // E. G. Ng, B. W. Peyton, Block sparse Cholesky algorithms on advanced uniprocessor computers, SIAM J. Sci. Comput. 14
 // (1993) 1034-1056.
 template <Scalar T>
-void factor_left_looking(FactorTask<T>& task) noexcept;
-
-// Bytes that it takes beside the panels.
-template <Scalar T>
-std::int64_t left_looking_bytes(const Plan& plan, Factorization factorization, int threads) noexcept;
+struct LeftLookingMethod {
+  static void factor(FactorTask<T>& task) noexcept;
+  // Bytes that it takes beside the panels.
+  static std::int64_t bytes(const Plan& plan, Factorization factorization, int threads) noexcept;
+};
 
 // The multifrontal method: each supernode adds the update matrices of its children to its own panel and update matrix,
 // which stand on a stack until the parent is made. Kernel buffers are reserved, and what goes wrong stands in the task,
@@ -83,10 +83,10 @@ std::int64_t left_looking_bytes(const Plan& plan, Factorization factorization, i
 //
 // J. W. H. Liu, The multifrontal method for sparse matrix solution: theory and practice, SIAM Review 34 (1992) 82-109.
 template <Scalar T>
-void factor_multifrontal(FactorTask<T>& task) noexcept;
-
-// Bytes that it takes beside the panels.
-template <Scalar T>
-std::int64_t multifrontal_bytes(const Plan& plan, int threads, const PanelStore* store) noexcept;
+struct MultifrontalMethod {
+  static void factor(FactorTask<T>& task) noexcept;
+  // Bytes that it takes beside the panels.
+  static std::int64_t bytes(const Plan& plan, int threads, const PanelStore* store) noexcept;
+};
 
 }  // namespace quorin::sparse

@@ -325,22 +325,18 @@ class LeftLooking {
 }  // namespace
 
 template <Scalar T>
-void factor_left_looking(FactorTask<T>& task) noexcept {
+void LeftLookingMethod<T>::factor(FactorTask<T>& task) noexcept {
   LeftLooking<T>(task).run();
 }
 
 template <Scalar T>
-std::int64_t left_looking_bytes(const Plan& plan, Factorization factorization, int threads) noexcept {
+std::int64_t LeftLookingMethod<T>::bytes(const Plan& plan, Factorization factorization, int threads) noexcept {
   return LeftLooking<T>::bytes(plan, factorization, threads);
 }
 
-template void factor_left_looking<float>(FactorTask<float>&) noexcept;
-template void factor_left_looking<double>(FactorTask<double>&) noexcept;
-template void factor_left_looking<std::complex<float>>(FactorTask<std::complex<float>>&) noexcept;
-template void factor_left_looking<std::complex<double>>(FactorTask<std::complex<double>>&) noexcept;
-template std::int64_t left_looking_bytes<float>(const Plan&, Factorization, int) noexcept;
-template std::int64_t left_looking_bytes<double>(const Plan&, Factorization, int) noexcept;
-template std::int64_t left_looking_bytes<std::complex<float>>(const Plan&, Factorization, int) noexcept;
-template std::int64_t left_looking_bytes<std::complex<double>>(const Plan&, Factorization, int) noexcept;
+template struct LeftLookingMethod<float>;
+template struct LeftLookingMethod<double>;
+template struct LeftLookingMethod<std::complex<float>>;
+template struct LeftLookingMethod<std::complex<double>>;
 
 }  // namespace quorin::sparse

@@ -335,22 +335,18 @@ class Multifrontal {
 }  // namespace
 
 template <Scalar T>
-void factor_multifrontal(FactorTask<T>& task) noexcept {
+void MultifrontalMethod<T>::factor(FactorTask<T>& task) noexcept {
   Multifrontal<T>(task).run();
 }
 
 template <Scalar T>
-std::int64_t multifrontal_bytes(const Plan& plan, int threads, const PanelStore* store) noexcept {
+std::int64_t MultifrontalMethod<T>::bytes(const Plan& plan, int threads, const PanelStore* store) noexcept {
   return Multifrontal<T>::bytes(plan, threads, store);
 }
 
-template void factor_multifrontal<float>(FactorTask<float>&) noexcept;
-template void factor_multifrontal<double>(FactorTask<double>&) noexcept;
-template void factor_multifrontal<std::complex<float>>(FactorTask<std::complex<float>>&) noexcept;
-template void factor_multifrontal<std::complex<double>>(FactorTask<std::complex<double>>&) noexcept;
-template std::int64_t multifrontal_bytes<float>(const Plan&, int, const PanelStore*) noexcept;
-template std::int64_t multifrontal_bytes<double>(const Plan&, int, const PanelStore*) noexcept;
-template std::int64_t multifrontal_bytes<std::complex<float>>(const Plan&, int, const PanelStore*) noexcept;
-template std::int64_t multifrontal_bytes<std::complex<double>>(const Plan&, int, const PanelStore*) noexcept;
+template struct MultifrontalMethod<float>;
+template struct MultifrontalMethod<double>;
+template struct MultifrontalMethod<std::complex<float>>;
+template struct MultifrontalMethod<std::complex<double>>;
 
 }  // namespace quorin::sparse

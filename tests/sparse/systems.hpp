@@ -12,6 +12,13 @@
 
 namespace quorin::sparse::test {
 
+// What is factored how.
+struct Kind {
+  Factorization factorization;
+  Pivoting pivoting;
+  Symmetry symmetry;
+};
+
 template <Scalar T>
 struct System {
   struct Entry {

@@ -22,11 +22,6 @@ constexpr Operation kOperations[] = {Operation::kPlain, Operation::kTransposed, 
 #endif
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
-struct Kind {
-  Factorization factorization;
-  Pivoting pivoting;
-  Symmetry symmetry;
-};
 constexpr Kind kKinds[] = {
     {Factorization::kLLT, Pivoting::kInOrder, Symmetry::kHermitian},
     {Factorization::kLDLH, Pivoting::kInOrder, Symmetry::kHermitian},

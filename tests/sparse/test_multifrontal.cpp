@@ -15,11 +15,6 @@
 namespace quorin::sparse::test {
 namespace {
 
-struct Kind {
-  Factorization factorization;
-  Pivoting pivoting;
-  Symmetry symmetry;
-};
 constexpr Kind kKinds[] = {
     {Factorization::kLLT, Pivoting::kInOrder, Symmetry::kHermitian},
     {Factorization::kLDLH, Pivoting::kInOrder, Symmetry::kHermitian},

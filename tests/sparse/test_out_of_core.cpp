@@ -13,11 +13,6 @@ namespace {
 
 constexpr std::uint64_t kPlenty = std::uint64_t{1} << 30;
 
-struct Kind {
-  Factorization factorization;
-  Pivoting pivoting;
-  Symmetry symmetry;
-};
 constexpr Kind kKinds[] = {
     {Factorization::kLLT, Pivoting::kInOrder, Symmetry::kHermitian},
     {Factorization::kLDLH, Pivoting::kBunchKaufman, Symmetry::kHermitian},

@@ -10,7 +10,6 @@
 namespace quorin::taucs {
 namespace {
 
-using sparse::Factorization;
 using sparse::FactorOutcome;
 
 struct OutOfCoreFactor : base::HandleNode {
@@ -19,26 +18,15 @@ struct OutOfCoreFactor : base::HandleNode {
   }
   explicit operator bool() const { return static_cast<bool>(base_name); }
 
-  template <Element T>
-  sparse::Factor<T>& numbers() {
-    if constexpr (std::same_as<T, double>) {
-      return real;
-    } else {
-      return complex;
-    }
-  }
-  bool has_numbers() const { return real || complex; }
   void give_up() {
-    real.clear();
-    complex.clear();
+    numbers.clear();
     files.close();
   }
 
   base::Workspace<char> base_name;
   sparse::PanelFiles files;
   sparse::Plan plan;
-  sparse::Factor<double> real;  // at most one of the two holds numbers
-  sparse::Factor<Complex> complex;
+  FactorNumbers numbers;
 };
 
 constinit base::HandleTable<OutOfCoreFactor> factors;
@@ -63,7 +51,7 @@ template <Element T>
 Status compute_into_files(const CcsMatrix& A, FactorKind kind, const int* permutation, int maxdepth,
                           OutOfCoreFactor& factor) {
   if (!can_be_factored<T>(&A, kind) || !analyze<T>(A, kind, permutation, maxdepth, factor.plan)) return Status::kError;
-  auto& numbers = factor.numbers<T>();
+  sparse::Factor<T>& numbers = factor.numbers.of<T>();
   const Status status = compute(A, kind, FactorMethod::kLeftLooking, factor.plan, &factor.files, numbers);
   if (status != Status::kSuccess) return status;
   const FactorOutcome outcome = sparse::Archive::complete(factor.files, numbers);
@@ -74,17 +62,13 @@ Status compute_into_files(const CcsMatrix& A, FactorKind kind, const int* permut
 
 OutOfCoreFactor* find_with_numbers(const void* L) {
   OutOfCoreFactor* const factor = factors.find(L);
-  return factor != nullptr && factor->has_numbers() ? factor : nullptr;
+  return factor != nullptr && factor->numbers ? factor : nullptr;
 }
 
-Factorization factorization_of(const OutOfCoreFactor& factor) {
-  return factor.real ? factor.real.factorization() : factor.complex.factorization();
-}
-
-Status solve(OutOfCoreFactor& factor, int nrhs, void* X) {
+Status solve(const OutOfCoreFactor& factor, int nrhs, void* X) {
   if (factor.plan.size() == 0 || nrhs == 0) return Status::kSuccess;
-  return factor.real ? solve_in_order(factor.real, nrhs, static_cast<double*>(X))
-                     : solve_in_order(factor.complex, nrhs, static_cast<Complex*>(X));
+  return factor.numbers.visit(
+      [&]<class T>(const sparse::Factor<T>& numbers) { return solve_in_order(numbers, nrhs, static_cast<T*>(X)); });
 }
 
 }  // namespace
@@ -109,7 +93,7 @@ void* out_of_core_open(const CcsMatrix* A, const char* base_name, double memory)
   return create(base_name, [&](OutOfCoreFactor& factor) {
     FactorOutcome outcome = FactorOutcome::kWrongFormat;
     dispatch(A->flags, [&]<class T>() {
-      outcome = sparse::Archive::open(base_name, bytes_of(memory), factor.files, factor.plan, factor.numbers<T>());
+      outcome = sparse::Archive::open(base_name, bytes_of(memory), factor.files, factor.plan, factor.numbers.of<T>());
     });
     return outcome == FactorOutcome::kDone && factor.plan.size() == A->n;
   });
@@ -141,19 +125,14 @@ bool out_of_core_order(void* L, std::int32_t* perm, std::int32_t* invperm) noexc
 
 FactorKind out_of_core_kind(void* L) noexcept {
   const OutOfCoreFactor* const factor = find_with_numbers(L);
-  return factor == nullptr || factorization_of(*factor) == Factorization::kLLT ? FactorKind::kLlt : FactorKind::kLdlt;
+  if (factor == nullptr) return FactorKind::kLlt;
+  const auto kind = factor->numbers.visit([](const auto& numbers) { return numbers.factorization(); });
+  return kind == sparse::Factorization::kLLT ? FactorKind::kLlt : FactorKind::kLdlt;
 }
 
 bool out_of_core_inertia(void* L, std::int32_t* inertia) noexcept {
-  const OutOfCoreFactor* const factor = find_with_numbers(L);
-  if (factor == nullptr) return false;
-  const Factorization kind = factorization_of(*factor);
-  if (kind != Factorization::kLDLH && (kind != Factorization::kLDLT || factor->complex)) return false;
-  const sparse::PivotCounts& pivots = factor->real ? factor->real.report().pivots : factor->complex.report().pivots;
-  inertia[0] = pivots.zero;
-  inertia[1] = pivots.positive;
-  inertia[2] = pivots.negative;
-  return true;
+  const OutOfCoreFactor* const factor = factors.find(L);
+  return factor != nullptr && factor->numbers.get_inertia(inertia);
 }
 
 Status out_of_core_solve(void* L, int nrhs, void* X) noexcept {
@@ -165,7 +144,7 @@ std::int32_t ooc_solve_llt(void* L, void* x, const void* b) noexcept {
   OutOfCoreFactor* const factor = find_with_numbers(L);
   if (factor == nullptr || x == nullptr || b == nullptr) return static_cast<std::int32_t>(Status::kErrorBadargs);
   const std::size_t bytes =
-      static_cast<std::size_t>(factor->plan.size()) * (factor->real ? sizeof(double) : sizeof(Complex));
+      static_cast<std::size_t>(factor->plan.size()) * (factor->numbers.real ? sizeof(double) : sizeof(Complex));
   if (x != b) std::memmove(x, b, bytes);
   return static_cast<std::int32_t>(solve(*factor, 1, x));
 }

@@ -11,6 +11,7 @@
 namespace quorin::taucs {
 namespace {
 
+using sparse::Factorization;
 using sparse::FactorOutcome;
 
 // What replaces smaller pivots, relative to the norm of A: the error is then about as large as that from the growth of
@@ -232,6 +233,17 @@ template <Element T>
 Status solve_in_order(const sparse::Factor<T>& factor, int nrhs, T* X) {
   return status_of(
       sparse::solve(factor, sparse::Operation::kPlain, sparse::Stage::kAll, nrhs, X, factor.plan().size(), threads()));
+}
+
+bool FactorNumbers::get_inertia(std::int32_t* inertia) const {
+  if (!*this) return false;
+  const Factorization kind = visit([](const auto& factor) { return factor.factorization(); });
+  if (kind != Factorization::kLDLH && (kind != Factorization::kLDLT || complex)) return false;
+  const sparse::PivotCounts pivots = visit([](const auto& factor) { return factor.report().pivots; });
+  inertia[0] = pivots.zero;
+  inertia[1] = pivots.positive;
+  inertia[2] = pivots.negative;
+  return true;
 }
 
 template void order_for_ldlt<double>(const CcsMatrix&, std::int32_t**, std::int32_t**, const char*);

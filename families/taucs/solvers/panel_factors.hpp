@@ -37,4 +37,32 @@ Status compute(const CcsMatrix& A, FactorKind kind, FactorMethod method, const s
 template <Element T>
 Status solve_in_order(const sparse::Factor<T>& factor, int nrhs, T* X);
 
+// The numbers of one factor, of either type: at most one of the two holds any.
+struct FactorNumbers {
+  sparse::Factor<double> real;
+  sparse::Factor<Complex> complex;
+
+  explicit operator bool() const { return real || complex; }
+  template <Element T>
+  sparse::Factor<T>& of() {
+    if constexpr (std::same_as<T, double>) {
+      return real;
+    } else {
+      return complex;
+    }
+  }
+  // Calls body(factor) for the one that does.
+  template <class Body>
+  auto visit(const Body& body) const {
+    return real ? body(real) : body(complex);
+  }
+  // Whether pivots have signs: those of L D L^T and L D L^H do, but of complex symmetric matrices. Then inertia[0], [1]
+  // and [2] are the zero, positive and negative ones.
+  bool get_inertia(std::int32_t* inertia) const;
+  void clear() {
+    real.clear();
+    complex.clear();
+  }
+};
+
 }  // namespace quorin::taucs

@@ -13,25 +13,9 @@ struct SupernodalFactor : base::HandleNode {
   explicit SupernodalFactor(FactorKind its_kind) noexcept : kind(its_kind) {}
   explicit operator bool() const { return true; }
 
-  template <Element T>
-  sparse::Factor<T>& numbers() {
-    if constexpr (std::same_as<T, double>) {
-      return real;
-    } else {
-      return complex;
-    }
-  }
-  bool has_numbers() const { return real || complex; }
-  void clear_numbers() {
-    real.clear();
-    complex.clear();
-  }
-  const sparse::FactorReport& report() const { return real ? real.report() : complex.report(); }
-
   FactorKind kind;
   sparse::Plan plan;
-  sparse::Factor<double> real;  // at most one of the two holds numbers
-  sparse::Factor<Complex> complex;
+  FactorNumbers numbers;
 };
 
 constinit base::HandleTable<SupernodalFactor> factors;
@@ -39,26 +23,26 @@ constinit base::HandleTable<SupernodalFactor> factors;
 // The numbers of A; those that were there are gone.
 template <Element T>
 Status compute_into(const CcsMatrix& A, FactorMethod method, SupernodalFactor& factor) {
-  factor.clear_numbers();
-  return compute(A, factor.kind, method, factor.plan, nullptr, factor.numbers<T>());
+  factor.numbers.clear();
+  return compute(A, factor.kind, method, factor.plan, nullptr, factor.numbers.of<T>());
 }
 
 SupernodalFactor* find_with_numbers(const void* L) {
   SupernodalFactor* const factor = factors.find(L);
-  return factor != nullptr && factor->has_numbers() ? factor : nullptr;
+  return factor != nullptr && factor->numbers ? factor : nullptr;
 }
 
 // X <- A^-1 B; X may be B.
 template <Element T>
-Status solve(SupernodalFactor& factor, int nrhs, T* X, int ldX, const T* B, int ldB) {
-  const sparse::Plan& plan = factor.plan;
+Status solve(const sparse::Factor<T>& factor, int nrhs, T* X, int ldX, const T* B, int ldB) {
+  const sparse::Plan& plan = factor.plan();
   const int n = plan.size();
   base::Workspace<T> work(base::saturating_product(length(n), length(nrhs)));
   if (!work) return Status::kErrorNomem;
   T* const x = work.data();
   const auto column = [](int c, int ld) { return static_cast<std::ptrdiff_t>(c) * ld; };
   for (int c = 0; c < nrhs; ++c) sparse::permute(n, plan.permutation(), B + column(c, ldB), x + column(c, n));
-  const Status status = solve_in_order(factor.numbers<T>(), nrhs, x);
+  const Status status = solve_in_order(factor, nrhs, x);
   if (status != Status::kSuccess) return status;
   for (int c = 0; c < nrhs; ++c) sparse::permute_back(n, plan.permutation(), x + column(c, n), X + column(c, ldX));
   return Status::kSuccess;
@@ -69,8 +53,9 @@ Status solve_any(SupernodalFactor& factor, int nrhs, void* X, int ldX, const voi
   if (nrhs < 0 || ldX < n || ldB < n) return Status::kErrorBadargs;
   if (nrhs == 0 || n == 0) return Status::kSuccess;
   if (X == nullptr || B == nullptr) return Status::kErrorBadargs;
-  if (factor.real) return solve(factor, nrhs, static_cast<double*>(X), ldX, static_cast<const double*>(B), ldB);
-  return solve(factor, nrhs, static_cast<Complex*>(X), ldX, static_cast<const Complex*>(B), ldB);
+  return factor.numbers.visit([&]<class T>(const sparse::Factor<T>& numbers) {
+    return solve(numbers, nrhs, static_cast<T*>(X), ldX, static_cast<const T*>(B), ldB);
+  });
 }
 
 std::int32_t as_integer(Status status) { return static_cast<std::int32_t>(status); }
@@ -173,21 +158,14 @@ std::int32_t supernodal_solve_ldlt_many(void* L, std::int32_t n, void* X, std::i
 std::int32_t inertia_calc(void* L, std::int32_t* inertia) noexcept {
   if (inertia == nullptr) return as_integer(Status::kErrorBadargs);
   if (out_of_core_inertia(L, inertia)) return as_integer(Status::kSuccess);
-  const SupernodalFactor* const factor = find_with_numbers(L);
-  if (factor == nullptr || factor->kind != FactorKind::kLdlt ||
-      (factor->complex && factor->complex.factorization() != sparse::Factorization::kLDLH)) {
-    return as_integer(Status::kErrorBadargs);
-  }
-  const sparse::PivotCounts& pivots = factor->report().pivots;
-  inertia[0] = pivots.zero;
-  inertia[1] = pivots.positive;
-  inertia[2] = pivots.negative;
-  return as_integer(Status::kSuccess);
+  const SupernodalFactor* const factor = factors.find(L);
+  const bool has_inertia = factor != nullptr && factor->numbers.get_inertia(inertia);
+  return as_integer(has_inertia ? Status::kSuccess : Status::kErrorBadargs);
 }
 
 void supernodal_factor_free_numeric(void* L) noexcept {
   SupernodalFactor* const factor = factors.find(L);
-  if (factor != nullptr) factor->clear_numbers();
+  if (factor != nullptr) factor->numbers.clear();
 }
 
 void supernodal_factor_free(void* L) noexcept { static_cast<void>(factors.erase(L)); }
