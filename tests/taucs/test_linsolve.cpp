@@ -220,6 +220,10 @@ TYPED_TEST(Linsolve, RefusesWhatCannotBe) {
   EXPECT_EQ(call(A.get(), &handle.F, 0, nullptr, nullptr, kLlt), TAUCS_SUCCESS);
   EXPECT_EQ(status(other, kSolveOnly), TAUCS_ERROR_BADARGS);
   EXPECT_EQ(status(A, kLdlt + kMf + Options{"taucs.factor.symbolic=false"}), TAUCS_ERROR_BADARGS) << "LLT is held";
+  EXPECT_EQ(call(other.get(), &handle.F, 0, nullptr, nullptr, kLlt + kMf + Options{"taucs.factor.symbolic=false"}),
+            TAUCS_ERROR_BADARGS);
+  EXPECT_EQ(call(other.get(), &handle.F, 0, nullptr, nullptr, kLlt), TAUCS_SUCCESS) << "a factor of its own";
+  EXPECT_EQ(handle->n, 19);
 }
 
 // Where the flags name both types, complex counts; with both factorizations asked for, the second does.
@@ -414,7 +418,7 @@ TYPED_TEST(Linsolve, FactorsIntoFiles) {
       EXPECT_EQ(call(M.get(), &handle.F, 1, X.data(), B.data(),
                      (is_indefinite ? kLdlt : kLlt) +
                          Options{"taucs.ooc=true", "taucs.ooc.iohandle=#0", "taucs.ooc.memory=300000"},
-                     {&iohandle}),
+                     {is_indefinite ? iohandle : &iohandle}),
                 TAUCS_SUCCESS);
       expect_solved(*M, 1, X, B, 1e-15);
     }

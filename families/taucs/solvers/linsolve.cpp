@@ -90,9 +90,7 @@ class Driver {
       : A_(A), held_(held), nrhs_(nrhs), X_(X), B_(B), options_(options) {}
 
   Status run() {
-    if (held_ != nullptr && (held_->n != A_.n || type_of(held_->flags) != type_of(A_.flags))) {
-      return Status::kErrorBadargs;
-    }
+    if (!options_.factor && held_ != nullptr && !is_held_for_A()) return Status::kErrorBadargs;
     if (A_.n < 0 || A_.colptr == nullptr || (nrhs_ > 0 && (X_ == nullptr || B_ == nullptr))) {
       return Status::kErrorBadargs;
     }
@@ -111,6 +109,8 @@ class Driver {
     if (M_ == nullptr) message("taucs_linsolve: AMWB preconditioner construction failed, using A\n");
   }
   const CcsMatrix& M() const { return M_ != nullptr ? *M_ : A_; }
+
+  bool is_held_for_A() const { return held_->n == A_.n && type_of(held_->flags) == type_of(A_.flags); }
 
   // The numeric phase alone goes on with the object that the host holds.
   bool is_numeric_alone() const {
@@ -214,7 +214,7 @@ class Driver {
   Status factor_held() {
     message("taucs_linsolve: starting LLT/LDLT factorization\n");
     const Kind kind = options_.indefinite ? Kind::kLdlt : Kind::kLlt;
-    if (held_ == nullptr || held_->kind != kind) {
+    if (held_ == nullptr || held_->kind != kind || !is_held_for_A()) {
       message("taucs_linsolve: ERROR, you need to provide a symbolic factorization for a numeric factorization\n");
       return Status::kErrorBadargs;
     }

@@ -28,8 +28,8 @@ struct FactorObject {
 //
 // A null with nrhs = 0 releases *F and makes it null.
 //
-// kErrorBadargs: options that contradict each other; a null, or sizes, that cannot be; *F is of another order or type
-// than A, or no factor object. kErrorNomem. kError: what failed is in the log.
+// kErrorBadargs: options that contradict each other; a null, or sizes, that cannot be; *F is no factor object, or one
+// of another order or type than A that is to be used. kErrorNomem. kError: what failed is in the log.
 std::int32_t linsolve(const CcsMatrix* A, void** F, std::int32_t nrhs, void* X, const void* B, char* const* options,
                       void* const* opt_arg) noexcept;
 

@@ -73,7 +73,10 @@ Value at(const void* target) {
 void set_to_target(bool& value, void* target) { value = at<std::int32_t>(target) != 0; }
 void set_to_target(double& value, void* target) { value = at<double>(target); }
 void set_to_target(const char*& value, void* target) { value = static_cast<const char*>(target); }
-void set_to_target(void*& value, void* target) { value = at<void*>(target); }
+// The pointer that stands there; or a handle in the place of its address, which would not be odd.
+void set_to_target(void*& value, void* target) {
+  value = reinterpret_cast<std::uintptr_t>(target) % 2 != 0 ? target : at<void*>(target);
+}
 
 // What k, the text, counts to in `arguments`; null if there is no such thing.
 void* target_of(const char* k, void* const* arguments, const char* string) {

@@ -43,7 +43,7 @@ struct Options {
 // - "#k" with no readable k, or beyond the end of `arguments`;
 // - no key at all.
 // What stands at arguments[k] is a double, an int (0 is false) for a key of true and false, the text itself, or the
-// address of a pointer.
+// address of a pointer, for which a handle may stand itself.
 Options parse_options(const char* const* strings, void* const* arguments);
 
 // A number that the option's value is cut to; 0 for NaN.
