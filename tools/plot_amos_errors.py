@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """The accuracy page from the errors that test_amos_reference measured.
 
-    QUORIN_FULL_TESTS=true test_amos_reference SMALL_TABLE FULL_TABLE ZEROS errors.txt
+    QUORIN_FULL_TESTS=true test_amos_reference SMALL_TABLE FULL_TABLE ZEROS RANDOM COMPLEX_ZEROS SEQUENCES errors.txt
     python3 tools/plot_amos_errors.py errors.txt docs
 
 writes docs/accuracy-amos.svg (worst error in each cell of the complex plane) and the table of docs/accuracy-amos.md.

@@ -1,11 +1,14 @@
 #!/usr/bin/env python3
 """Reference values at random points of all regions, in sequences of up to 1,000 orders, with mpmath at 60 digits.
 
-    nice python3 tests/amos/make_random_reference.py tests/amos/random.txt.gz 4000 [--every] [--seed=N]
+    nice python3 tests/amos/make_random_reference.py tests/amos/random.txt.gz 4000 [--zeros] [--every] [--seed=N]
+
+sequences.txt.gz is `250 --every --seed=2000000`, complex_zeros.txt.gz are ten files `200 --zeros --every --seed=N` with
+N = 5000000, 5002500, ..., 5022500, one after the other.
 
 Of ten points nine lie anywhere with |z| up to 1e6, a few of them where two parts are both about to underflow, and one
 next to a complex zero of Y, K, H1, H2, Bi or Bi', at a relative distance between 1e-15 and 1e-3 (or the zero rounded to
-a double). Each line: function m kode nu n re(z) im(z)
+a double); with --zeros all are such points. Each line: function m kode nu n re(z) im(z)
 as in make_reference.py, then "@j re im e" for members of the sequence: all of them with --every, else at most ten, the
 smallest ones among their neighbours before others, for those are next to a zero.
 
@@ -223,7 +226,7 @@ def random_line(task):
     r = random.Random(seed)
     signal.alarm(60)
     try:
-        kind = next_to_complex_zero if seed % 7 == 0 else next_to_underflow if seed % 50 == 1 else anywhere
+        kind = next_to_complex_zero if "--zeros" in sys.argv or seed % 7 == 0 else next_to_underflow if seed % 50 == 1 else anywhere
         point = kind(r)
         if point is None:
             return None

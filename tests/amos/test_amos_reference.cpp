@@ -4,9 +4,9 @@
 // Bound, of every value: |error| <= 10 u 10^S |value|, u = 2.22e-16, S = max(1, |log10 |z||, log10 nu), for the first
 // order nu of the call, and never more than 1e-13 for |z| < 1; 99.5 % of the values within 2e-14.
 //
-// Arguments: the small table, the full one, which is compared instead when QUORIN_FULL_TESTS is "true", the one of
-// points next to real zeros, the one of random points and points next to complex zeros, and optionally a file for one
-// line per value (function, z, order, relative error): tools/plot_amos_errors.py draws it.
+// Arguments: the small table, the full one, which is compared instead when QUORIN_FULL_TESTS is "true", those of points
+// next to real zeros, of random points, of points next to complex zeros and of whole sequences, and optionally a file
+// for one line per value (function, z, order, relative error): tools/plot_amos_errors.py draws it.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -32,6 +32,8 @@ constexpr double kMargin = 1.0e-9;  // of logarithms that are compared with kEli
 std::string table_path;
 std::string zeros_path;
 std::string random_path;
+std::string complex_zeros_path;
+std::string sequences_path;
 std::string error_path;
 
 struct Member {
@@ -201,6 +203,19 @@ TEST_F(Reference, AnywhereAndNextToComplexZeros) {
   EXPECT_EQ(statistics_.size(), 7U);
 }
 
+// 2,000 points at relative distances of 1e-3 to 1e-15 from complex zeros, or at the zero rounded to a double.
+TEST_F(Reference, NextToComplexZeros) {
+  EXPECT_EQ(compare_table(complex_zeros_path), 2000);
+  EXPECT_EQ(statistics_.size(), 4U);
+  EXPECT_EQ(overflows_ + underflows_, 0);
+}
+
+// Every member of sequences of up to 1,000 orders.
+TEST_F(Reference, EveryMemberOfSequences) {
+  EXPECT_EQ(compare_table(sequences_path), 250);
+  EXPECT_EQ(statistics_.size(), 7U);
+}
+
 }  // namespace
 }  // namespace quorin_test
 
@@ -211,6 +226,8 @@ int main(int argc, char** argv) {
   if (argc > 2) quorin_test::table_path = argv[wants_full ? 2 : 1];
   if (argc > 3) quorin_test::zeros_path = argv[3];
   if (argc > 4) quorin_test::random_path = argv[4];
-  if (argc > 5) quorin_test::error_path = argv[5];
+  if (argc > 5) quorin_test::complex_zeros_path = argv[5];
+  if (argc > 6) quorin_test::sequences_path = argv[6];
+  if (argc > 7) quorin_test::error_path = argv[7];
   return RUN_ALL_TESTS();
 }
