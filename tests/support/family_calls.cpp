@@ -226,11 +226,59 @@ Results solve_by_lu(const quorin_library& library, int seed) {
   return status == 0 ? join(x) : Results{};
 }
 
+// 2 + seed on the diagonal, -1 beside it; one-based rows of the upper triangle.
+struct Chain {
+  explicit Chain(std::int32_t order, int seed) : n(order) {
+    for (std::int32_t i = 1; i <= n; ++i) {
+      starts.push_back(static_cast<std::int32_t>(columns.size()) + 1);
+      columns.push_back(i);
+      values.push_back(static_cast<float>(2 + seed));
+      if (i == n) break;
+      columns.push_back(i + 1);
+      values.push_back(-1);
+    }
+    starts.push_back(static_cast<std::int32_t>(columns.size()) + 1);
+  }
+  std::int32_t n;
+  std::vector<std::int32_t> starts, columns;
+  std::vector<float> values;
+};
+
+Results solve_directly(const quorin_library& library, int seed) {
+  constexpr std::int32_t kOrder = 70;
+  const Chain A(kOrder, seed);
+  void* pt[QUORIN_PARDISO_HANDLE_WORDS] = {};
+  std::int32_t iparm[QUORIN_PARDISO_PARAMETERS];
+  const std::int32_t kind = QUORIN_PARDISO_REAL_SYMMETRIC, one = 1, silent = 0;
+  library.sPARDISOINIT(pt, &kind, iparm);
+  iparm[27] = 1;
+  std::vector<float> b(kOrder, 1), x(kOrder);
+  std::int32_t error = 0, ignored = 0;
+  for (std::int32_t phase : {QUORIN_PARDISO_ANALYSE_FACTORIZE_SOLVE, QUORIN_PARDISO_FREE_ALL}) {
+    library.PARDISO(pt, &one, &one, &kind, &phase, &A.n, A.values.data(), A.starts.data(), A.columns.data(), nullptr,
+                    &one, iparm, &silent, b.data(), x.data(), phase > 0 ? &error : &ignored);
+  }
+  return error == 0 ? Results(x.begin(), x.end()) : Results{};
+}
+
+Results find_eigenvalues(const quorin_library& library, int seed) {
+  const Chain A(30, seed);
+  std::int32_t fpm[128], loop = 0, room = 10, found = 0, info = -1;
+  library.feastinit_32f(fpm);
+  const float from = static_cast<float>(seed), to = from + 0.5F;
+  float error = 0;
+  std::vector<float> e(10), x(300), residuals(10);
+  library.sfeast_scsrev("U", &A.n, A.values.data(), A.starts.data(), A.columns.data(), fpm, &error, &loop, &from, &to,
+                        &room, e.data(), x.data(), &found, residuals.data(), &info);
+  return info == 0 ? Results(e.begin(), e.begin() + found) : Results{};
+}
+
 constexpr FamilyCall kCalls[] = {
     {"blas, vectors", vectors},   {"blas, matrices", matrices},  {"lapack", decompose},
     {"amos", evaluate_bessel},    {"least squares", fit},        {"pack", pack},
     {"rci", conjugate_gradients}, {"signal", design_and_filter}, {"slap", solve_by_gmres},
-    {"taucs", order_and_permute}, {"umfpack", solve_by_lu},
+    {"taucs", order_and_permute}, {"umfpack", solve_by_lu},      {"pardiso", solve_directly},
+    {"feast", find_eigenvalues},
 };
 
 }  // namespace
