@@ -7,7 +7,7 @@
 namespace quorin::taucs {
 
 // Appends the formatted text to the file that the environment variable QUORIN_TAUCS_LOG names; without one, or if it
-// cannot be opened, nothing is written. The texts are those of the published package where it has one.
+// cannot be opened, nothing is written. The texts are the documented ones where there are such.
 [[gnu::format(printf, 1, 2)]] void message(const char* format, ...) noexcept;
 
 // The same, for a routine that returns null.

@@ -39,7 +39,7 @@ Outcome order_identity(const Pattern& A, const Ordering& ordering) noexcept {
 
 enum class Needs { kNothing, kLowerTriangle, kBothTriangles };
 
-// Texts are the published package's, whose prefixes are not all of the method's name.
+// The texts are the documented ones, whose prefixes are not all of the method's name.
 struct Method {
   const char* name;
   Outcome (*order)(const Pattern& A, const Ordering& ordering) noexcept;

@@ -224,6 +224,7 @@ TYPED_TEST(Linsolve, RefusesWhatCannotBe) {
             TAUCS_ERROR_BADARGS);
   EXPECT_EQ(call(other.get(), &handle.F, 0, nullptr, nullptr, kLlt), TAUCS_SUCCESS) << "a factor of its own";
   EXPECT_EQ(handle->n, 19);
+  EXPECT_EQ(status(A, kSolveOnly), TAUCS_ERROR_BADARGS) << "a smaller factor";
 }
 
 // Where the flags name both types, complex counts; with both factorizations asked for, the second does.
