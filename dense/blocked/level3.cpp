@@ -45,9 +45,8 @@ View<T> symmetric_view(char uplo, bool is_hermitian, const T* a, int lda) noexce
 template <Scalar T>
 class Workshop {
  public:
-  explicit Workshop(bool is_small) noexcept
-      : set_(is_small ? kernels::small_kernels<T>() : kernels::kernels<T>()), buffer_(small_buffer_.data()) {
-    if (!is_small) buffer_ = lent_.emplace().data();
+  explicit Workshop(bool is_small) noexcept : set_(is_small ? kernels::small_kernels<T>() : kernels::kernels<T>()) {
+    buffer_ = is_small ? small_buffer_.data() : lent_.emplace().data();
   }
   ~Workshop() {
     if (set_.uses_wide_registers) kernels::leave_wide_registers();
@@ -61,7 +60,7 @@ class Workshop {
 
  private:
   const kernels::KernelSet<T>& set_;
-  std::byte* buffer_;
+  std::byte* buffer_ = nullptr;
   std::optional<LentBuffer> lent_;
   alignas(kernels::kBufferAlignment) std::array<std::byte, kernels::kSmallBufferBytes> small_buffer_;
 };

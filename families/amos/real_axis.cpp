@@ -19,9 +19,7 @@ namespace {
 constexpr double kPiValue = std::numbers::pi;
 constexpr double kLogPrecision = 38.0;  // e^-38 = 3e-17
 
-// Argument below which integer orders have a way of their own, and orders up to which the recurrence is worth its
-// steps.
-constexpr double kNeumann = 12.0;
+// Orders up to which the recurrence is worth its steps.
 constexpr double kMostOrder = 400.0;
 
 // Below this argument x^nu loses digits when its exponent is a double.
