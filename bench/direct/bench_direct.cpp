@@ -6,10 +6,8 @@
 #include <umfpack_double.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstring>
-#include <functional>
 #include <random>
 #include <stdexcept>
 #include <string>
@@ -17,6 +15,7 @@
 
 #include "base/parallel.hpp"
 #include "bench/direct/cholmod_peer.hpp"
+#include "bench/direct/timing.hpp"
 #include "dense/dense.hpp"
 #include "sparse/sparse.hpp"
 #include "tests/support/sparse.hpp"
@@ -27,17 +26,6 @@ namespace {
 using namespace sparse;
 
 constexpr int kRightHandSides = 32;
-
-double seconds_of(const std::function<void()>& call, int repetitions) {
-  std::vector<double> times;
-  for (int i = 0; i < repetitions; ++i) {
-    const auto start = std::chrono::steady_clock::now();
-    call();
-    times.push_back(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
-  }
-  std::nth_element(times.begin(), times.begin() + repetitions / 2, times.end());
-  return times[static_cast<std::size_t>(repetitions / 2)];
-}
 
 template <class Result>
 void require(Result result) {
@@ -50,7 +38,7 @@ double gemm_rate(int threads) {
   std::vector<T> a(n * n, T{1}), b(n * n, T{1}), c(n * n);
   const dense::KernelBuffer buffers(threads);
   const double time = seconds_of(
-      [&] { dense::blocked::gemm('N', 'N', n, n, n, T{1}, a.data(), n, b.data(), n, T{0}, c.data(), n, threads); }, 5);
+      5, [&] { dense::blocked::gemm('N', 'N', n, n, n, T{1}, a.data(), n, b.data(), n, T{0}, c.data(), n, threads); });
   return 2e-9 * n * n * n / time;
 }
 
@@ -70,28 +58,24 @@ struct Run {
     options.perturbation = problem.factorization == Factorization::kLLT ? 0 : 1e-10;
     const Pattern pattern{problem.matrix.rows, problem.matrix.columns, arrays.starts.data(), arrays.indices.data()};
     const bool is_lu = problem.factorization == Factorization::kLU;
-    analysis = seconds_of(
-        [&] {
-          require(plan.build(graph, ordering));
-          require(assembly.build(plan, pattern,
-                                 {.panels = panel_kind(problem.factorization),
-                                  .symmetry = is_lu ? Symmetry::kGeneral : Symmetry::kSymmetric}));
-        },
-        3);
+    analysis = seconds_of(3, [&] {
+      require(plan.build(graph, ordering));
+      require(assembly.build(plan, pattern,
+                             {.panels = panel_kind(problem.factorization),
+                              .symmetry = is_lu ? Symmetry::kGeneral : Symmetry::kSymmetric}));
+    });
   }
   double factor_time(int threads, int repetitions) {
     options.threads = threads;
-    return seconds_of([&] { require(factor.compute(plan, assembly, {values.data()}, options)); }, repetitions);
+    return seconds_of(repetitions, [&] { require(factor.compute(plan, assembly, {values.data()}, options)); });
   }
   double solve_time(int nrhs, int threads, int repetitions) {
     const int n = plan.size();
     std::vector<T> x(static_cast<std::size_t>(n) * static_cast<std::size_t>(nrhs));
-    return seconds_of(
-        [&] {
-          std::fill(x.begin(), x.end(), T{1});
-          require(solve(factor, Operation::kPlain, Stage::kAll, nrhs, x.data(), n, threads));
-        },
-        repetitions);
+    return seconds_of(repetitions, [&] {
+      std::fill(x.begin(), x.end(), T{1});
+      require(solve(factor, Operation::kPlain, Stage::kAll, nrhs, x.data(), n, threads));
+    });
   }
 
   std::vector<T> values;
@@ -116,18 +100,14 @@ Umfpack umfpack(const test::CompressedArrays& a, int n, const int* permutation, 
   void *symbolic = nullptr, *numeric = nullptr;
   umfpack_di_qsymbolic(n, n, a.starts.data(), a.indices.data(), a.re.data(), permutation, &symbolic, control, nullptr);
   Umfpack times;
-  times.factor = seconds_of(
-      [&] {
-        umfpack_di_free_numeric(&numeric);
-        umfpack_di_numeric(a.starts.data(), a.indices.data(), a.re.data(), symbolic, &numeric, control, nullptr);
-      },
-      repetitions);
-  times.solve = seconds_of(
-      [&] {
-        umfpack_di_solve(UMFPACK_A, a.starts.data(), a.indices.data(), a.re.data(), x.data(), b.data(), numeric,
-                         control, nullptr);
-      },
-      repetitions);
+  times.factor = seconds_of(repetitions, [&] {
+    umfpack_di_free_numeric(&numeric);
+    umfpack_di_numeric(a.starts.data(), a.indices.data(), a.re.data(), symbolic, &numeric, control, nullptr);
+  });
+  times.solve = seconds_of(repetitions, [&] {
+    umfpack_di_solve(UMFPACK_A, a.starts.data(), a.indices.data(), a.re.data(), x.data(), b.data(), numeric, control,
+                     nullptr);
+  });
   umfpack_di_free_numeric(&numeric);
   umfpack_di_free_symbolic(&symbolic);
   return times;
@@ -161,10 +141,10 @@ void measure(const Problem& problem, double gemm) {
     std::printf(" | %.2f | %.2f | |\n", peer.factor / one, peer.solve / solve_one);
   } else if (problem.factorization == Factorization::kLLT && CholmodPeer::is_there()) {
     CholmodPeer peer(arrays, n, permutation.data());
-    const double peer_analysis = seconds_of([&] { peer.analyze(); }, 3);
-    const double peer_factor = seconds_of([&] { peer.factorize(); }, repetitions);
-    const double peer_solve = seconds_of([&] { peer.solve(1); }, 7);
-    const double peer_solve_many = seconds_of([&] { peer.solve(kRightHandSides); }, 5);
+    const double peer_analysis = seconds_of(3, [&] { peer.analyze(); });
+    const double peer_factor = seconds_of(repetitions, [&] { peer.factorize(); });
+    const double peer_solve = seconds_of(7, [&] { peer.solve(1); });
+    const double peer_solve_many = seconds_of(5, [&] { peer.solve(kRightHandSides); });
     std::printf(" %.2f | %.2f | %.2f | %.2f |\n", peer_analysis / run.analysis, peer_factor / one,
                 peer_solve / solve_one, peer_solve_many / solve_many);
   } else {

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <chrono>
 #include <cmath>
 #include <cstdio>
 #include <numbers>
@@ -18,6 +17,7 @@
 #include "base/thread_settings.hpp"
 #include "bench/direct/arpack_peer.hpp"
 #include "bench/direct/cholmod_peer.hpp"
+#include "bench/direct/timing.hpp"
 #include "dense/dense.hpp"
 #include "families/feast/feast.hpp"
 #include "families/pardiso/pardiso.hpp"
@@ -28,19 +28,6 @@ namespace quorin::bench {
 namespace {
 
 constexpr int kRightHandSides = 32;
-
-// The median of some runs.
-template <class Call>
-double seconds_of(int repetitions, const Call& call) {
-  std::vector<double> times;
-  for (int i = 0; i < repetitions; ++i) {
-    const auto start = std::chrono::steady_clock::now();
-    call();
-    times.push_back(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
-  }
-  std::nth_element(times.begin(), times.begin() + repetitions / 2, times.end());
-  return times[static_cast<std::size_t>(repetitions / 2)];
-}
 
 void require(bool is_good, const char* what) {
   if (!is_good) throw std::runtime_error(what);
