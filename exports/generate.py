@@ -33,6 +33,15 @@ def example(family: Family) -> str:
     return paths[0].read_text()
 
 
+def language_pages() -> dict[str, str]:
+    """A page for each language, by file name. A line {PATH} stands for the program there."""
+    texts = {}
+    for path in sorted((ROOT / "bindings/pages").glob("*.md")):
+        origin = path.relative_to(ROOT).as_posix()
+        texts[f"language-{path.name}"] = manual.language(path.read_text(), origin, lambda name: (ROOT / name).read_text())
+    return texts
+
+
 def committed_files(families: list[Family]) -> dict[str, str]:
     head = (ROOT / "exports/tables/contents.md").read_text()
     files = {
@@ -42,6 +51,7 @@ def committed_files(families: list[Family]) -> dict[str, str]:
         "docs/manual/README.md": manual.contents(families, head),
         "docs/manual/a-to-z.md": manual.a_to_z(families),
     }
+    files.update((f"docs/manual/{name}", text) for name, text in language_pages().items())
     for family in families:
         files[f"include/quorin/{family.name}.h"] = headers.header(family, table_of(family))
         pages = manual.pages(family, table_of(family), example(family))

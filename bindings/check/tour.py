@@ -1,14 +1,12 @@
-"""The tour of the bindings in Python: tour.py LIBRARY. Each step prints a line, the first wrong one ends with status 1."""
+"""The tour of the bindings in Python: tour.py LIBRARY, with the package on the path. Each step prints a line, the first wrong one ends with status 1."""
 
 import array
 import ctypes
 import gc
 import math
 import sys
-from pathlib import Path
 
-sys.path.insert(0, str(Path(sys.argv[2])))
-import quorin_lapacks  # noqa: E402
+import quorin_lapacks
 
 lapacks = quorin_lapacks.load(sys.argv[1])
 

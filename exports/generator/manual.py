@@ -3,6 +3,7 @@
 from __future__ import annotations
 
 import re
+from collections.abc import Callable
 
 from generator import model
 from generator.declarations import callback, parameters, record, result_type, wrapped
@@ -210,6 +211,21 @@ def pages(family: Family, table: str, example: str = "") -> dict[str, str]:
         for section in family.sections:
             parts += [f"## {section.title}\n", section_text(family, section, "")]
     return {f"{family.name}.md": "\n".join(parts)} | texts
+
+
+# What GitHub calls the languages whose names are not the endings of their files.
+LANGUAGES = {"cs": "csharp", "pas": "pascal", "f90": "fortran", "py": "python", "bas": "vb"}
+
+
+def language(text: str, origin: str, read: Callable[[str], str]) -> str:
+    """A page about hosts in one language; a line {FILE} stands for that program."""
+
+    def program(match: re.Match[str]) -> str:
+        ending = match[1].rpartition(".")[2]
+        return f"```{LANGUAGES.get(ending, ending)}\n{read(match[1])}```"
+
+    head, _, rest = text.partition("\n")
+    return f"{head}\n\n<!-- Generated from {origin}. Do not edit. -->\n" + re.sub(r"^\{(.+)\}$", program, rest, flags=re.MULTILINE)
 
 
 def a_to_z(families: list[Family]) -> str:

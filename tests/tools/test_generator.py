@@ -10,6 +10,7 @@ ROOT = Path(__file__).resolve().parent.parent.parent
 sys.path.insert(0, str(ROOT / "exports"))
 
 from generator import constants, declarations, headers, linking, manual, tables, thunks  # noqa: E402
+from generator.bindings import visual_basic  # noqa: E402
 
 HEAD = 'title "T"\nfacade "f.hpp"\nprefix T_\nsection "S"\n'
 
@@ -214,6 +215,29 @@ class Contents(unittest.TestCase):
         exports = set((ROOT / "exports/names.txt").read_text().split())
         self.assertGreater(len(names), 20)
         self.assertEqual([name for name in names if name not in exports], [])
+
+
+class VisualBasic(unittest.TestCase):
+    """No compiler for it is at hand: what can be told of a program without one."""
+
+    def arguments(self, text: str) -> int:
+        while "(" in text:
+            text = re.sub(r"\([^()]*\)", "", text)
+        return text.count(",") + bool(text.strip())
+
+    def test_the_example_calls_what_the_module_declares(self):
+        module = visual_basic.module(tables.read(ROOT / "exports/tables", ROOT)).replace(" _\n", " ")
+        declarations_of = re.findall(r"^Public Declare (?:Sub|Function) (\w+) .*?\((.*)\)(?: As \w+)?$", module, re.MULTILINE)
+        declared_arguments = {name: self.arguments(items) for name, items in declarations_of}
+        constants_of = set(re.findall(r"^Public Const (\w+)", module, re.MULTILINE))
+        program = re.sub(r"'.*", "", (ROOT / "examples/equations/Equations.bas").read_text())
+        calls = re.findall(r"(?:^ *|= )(s\w+|umfpack\w+)(?: (.*)|\((.*)\))$", program, re.MULTILINE)
+        self.assertGreater(len(calls), 5)
+        for name, statement, function in calls:
+            with self.subTest(name=name):
+                self.assertEqual(self.arguments(statement or function), declared_arguments.get(name))
+        self.assertIn("UMFPACK_CONTROL", set(re.findall(r"\bUMFPACK\w+", program)) & constants_of)
+        self.assertEqual(set(re.findall(r"\bUMFPACK\w+", program)) - constants_of, set())
 
 
 if __name__ == "__main__":

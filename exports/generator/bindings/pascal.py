@@ -98,8 +98,8 @@ class Compiler:
 
 COMPILERS = (Compiler("fpc", "constref"), Compiler("delphi", "const [ref]"))
 
-# Either compiler: callbacks take no such value.
-CALLBACKS = COMPILERS[0]
+# What either compiler understands, for functions of the host, which are passed no constants.
+CALLBACKS = Compiler("either", "var")
 
 
 def declaration(parameter: Parameter, name: str, compiler: Compiler) -> str:
