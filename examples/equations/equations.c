@@ -1,4 +1,5 @@
-/* Three equations by LU factors, a sum of squares inside an array, and a report that a function of the host receives. */
+/* Three equations by LU factors, a sum of squares inside an array, and a report that a function of the host receives.
+ */
 #include <math.h>
 #include <stdio.h>
 

@@ -11,7 +11,8 @@
 #include "quorin/rci.hpp"
 
 int main() try {
-  // -u'' = 1 at n inner points, times the square of their distance. Of the matrix the upper triangle, by rows, counted from 0.
+  // -u'' = 1 at n inner points, times the square of their distance. Of the matrix the upper triangle, by rows, counted
+  // from 0.
   const int n = 99;
   std::vector<std::int32_t> starts{0}, columns;
   std::vector<double> values, u(n), v(n);
