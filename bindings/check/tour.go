@@ -13,7 +13,14 @@ import (
 	"quorin/lapacks"
 )
 
+var steps = 0
+
+// QUORIN_FALSIFIED is the number of a step whose wanted value is falsified, for a proof that each can fail.
 func expect(step string, value, wanted, tolerance float64) {
+	steps++
+	if strconv.Itoa(steps) == os.Getenv("QUORIN_FALSIFIED") {
+		wanted += 1 + 2*tolerance
+	}
 	if !(math.Abs(value-wanted) <= tolerance) {
 		fmt.Println(step, value, "instead of", wanted)
 		os.Exit(1)
@@ -181,5 +188,5 @@ func main() {
 	directSolution()
 	leastSquaresUnderCollection()
 	vectors()
-	fmt.Println("the tour is right")
+	fmt.Println("the tour is right:", steps, "steps")
 }

@@ -3,7 +3,11 @@
 
 const lapacks = require("quorin-lapacks").load();
 
+let steps = 0;
+
+// QUORIN_FALSIFIED is the number of a step whose wanted value is falsified, for a proof that each can fail.
 function expect(step, value, wanted, tolerance = 0) {
+  if (String(++steps) === process.env.QUORIN_FALSIFIED) wanted += 1 + 2 * tolerance;
   if (!(Math.abs(value - wanted) <= tolerance)) {
     console.log(`${step}: ${value} instead of ${wanted}`);
     process.exit(1);
@@ -138,4 +142,4 @@ sparseLU();
 conjugateGradients();
 directSolution();
 leastSquaresUnderCollection();
-console.log("the tour is right");
+console.log(`the tour is right: ${steps} steps`);
