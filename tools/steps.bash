@@ -30,12 +30,13 @@ quiet_step() {
   say "   done in $((SECONDS - started)) s"
 }
 
-# prepare NEEDS TARGET...: installs what is missing and builds the dependencies of the given targets: those of the
-# product, or of "product tests".
+# packages [full]: installs what is missing on this machine.
+packages() { step "Packages of this machine" tools/setup "$@"; }
+
+# prepare NEEDS TARGET...: builds the dependencies of the given targets: those of the product, or of "product tests".
 prepare() {
   local needs=$1 target
   shift
-  step "Packages of this machine" tools/setup
   remember_compilations
   for target in "$@"; do step "Dependencies for $target" third_party/build "$target" $needs; done
 }

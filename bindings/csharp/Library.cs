@@ -7,7 +7,7 @@ namespace Quorin.Lapacks
     /// <summary>The library that all classes of this namespace call. It is one of 32 bits.</summary>
     public static class Library
     {
-        public const string Name = "Quorin.Lapacks.6.2.dll";
+        public const string Name = "@QUORIN_PRODUCT@.dll";
 
         /// <summary>Binds every export at once, so that a library that lacks one is found out at the start.</summary>
         /// <exception cref="BadImageFormatException">This process is one of 64 bits: build the program for x86.</exception>
