@@ -40,7 +40,11 @@ int main(int count, char** arguments) {
   }
   if (report.rows() == 0) {
     std::printf("No family is called '%s'. There are:", arguments[1]);
-    for (const Rows& rows : kRows) std::printf("%s", rows.families.data());
+    std::string_view last;
+    for (const Rows& rows : kRows) {
+      if (rows.families != last) std::printf("%.*s", static_cast<int>(rows.families.size()) - 1, rows.families.data());
+      last = rows.families;
+    }
     std::printf("\n");
   }
   std::printf("\n%d rows, %d failed\n", report.rows(), report.failures());
