@@ -78,7 +78,7 @@ Values values_at(const Argument& a, int id, bool wants_i) {
     return id == 0 ? Values{t.k_one, t.i_one, 0.0} : Values{t.k_two, t.i_two, 0.0};
   }
   const double nu = (1.0 + id) / 3.0;
-  const LargeArgumentSums sums = large_argument_sums(nu, a.w);
+  const LargeArgumentSums<Complex> sums = large_argument_sums(nu, a.w);
   const Complex k = sums.k * square_root(divide(kPi.hi / 2, a.w));
   const Complex i = sums.i * square_root(divide(0.5 / kPi.hi, a.w));
   // e^{+-i pi (nu + 1/2)}, the sign that of Im w
@@ -186,33 +186,45 @@ Scaled on_negative_axis(const Argument& a, const Request& r) {
   return r.is_ai() && r.kode == 2 ? value * exponential(a.zeta) : value;
 }
 
-// Ai(x) = sqrt(x/3) K_{1/3}(zeta) / pi and Ai'(x) = -x K_{2/3}(zeta) / (pi sqrt 3).
-Scaled ai_on_positive_axis(const Argument& a, const Request& r) {
-  const double zeta = a.w.real();
-  const double front = (r.id == 0 ? std::sqrt(a.z.real() / 3.0) : -a.z.real() / kSqrt3) / kPi.hi;
-  const double value = front * std::sqrt(kPi.hi / (2.0 * zeta)) * scaled_k(zeta, zeta, zeta, r.id);
-  if (r.kode == 2) return {value, 0};
-  return exponential(-a.wide_w) * value;
+// Whether Ai or Ai' is below exp(-kElim), from Re zeta.
+bool underflows(double zeta, double modulus) { return zeta > 0.5 * kElim && zeta + 0.25 * std::log(modulus) > kElim; }
+
+// Ai(x) = sqrt(x/3) K_{1/3}(zeta) / pi and Ai'(x) = -x K_{2/3}(zeta) / (pi sqrt 3), zeta = (2/3) x^(3/2) > 2, where
+// K = sqrt(pi / (2 zeta)) e^-zeta (...).
+Scaled ai_on_positive_axis(const DoubleDouble& root, const DoubleDouble& zeta, const Request& r) {
+  constexpr double kHalfOverSqrtPi = 0.5 * std::numbers::inv_sqrtpi;
+  const double fourth_root = std::sqrt(root.hi);
+  const double front = r.id == 0 ? kHalfOverSqrtPi / fourth_root : -kHalfOverSqrtPi * fourth_root;
+  const double k = zeta.hi > kLargeArgument ? large_argument_sums((1.0 + r.id) / 3.0, zeta.hi).k
+                                            : scaled_k(zeta.hi, zeta.hi, zeta.hi, r.id);
+  if (r.kode == 2) return {front * k, 0};
+  const RealScaled e = exponential(-zeta);
+  return {front * k * e.m, static_cast<std::int64_t>(e.e)};
 }
 
 Scaled outside(const Argument& a, const Request& r) {
   if (a.z.imag() == 0.0 && a.z.real() < 0.0) return on_negative_axis(a, r);
-  if (a.z.imag() == 0.0 && r.is_ai() && a.w.real() > kSmallArgument) return ai_on_positive_axis(a, r);
   const Product product = r.is_ai() ? ai_outside(a, r) : bi_outside(a, r);
   Scaled result = sum(a, r, product.terms) * product.front;
   if (a.z.imag() == 0.0) result.m = result.m.real();
   return result;
 }
 
-// The value at |z| > 1 in the upper half plane.
-Status evaluate_outside(Complex z, const Request& r, Complex& value, int& underflows) {
-  const Argument a(z);
-  if (r.is_ai() && r.kode == 1 && -a.zeta.re.hi - 0.25 * std::log(modulus(z)) < -kElim) {
+// The value at |z| > 1 in the upper half plane; `count` counts an underflow.
+Status evaluate_outside(Complex z, const Request& r, Complex& value, int& count) {
+  const auto underflow = [&] {
     value = 0.0;
-    underflows = 1;
+    count = 1;
     return Status::kOk;
+  };
+  if (r.is_ai() && z.imag() == 0.0 && z.real() > 0.0) {
+    const DoubleDouble root = sqrt(DoubleDouble{z.real()}), zeta = root * z.real() * kTwoThirds;
+    if (r.kode == 1 && underflows(zeta.hi, z.real())) return underflow();
+    if (zeta.hi > kSmallArgument) return finish(ai_on_positive_axis(root, zeta, r), value, count);
   }
-  return finish(outside(a, r), value, underflows);
+  const Argument a(z);
+  if (r.is_ai() && r.kode == 1 && underflows(a.zeta.re.hi, modulus(z))) return underflow();
+  return finish(outside(a, r), value, count);
 }
 
 void evaluate(Complex z, const Request& r, Complex* result, int* nz, int* ierr) {

@@ -13,19 +13,40 @@ struct Apart {
   Plain lo;
 };
 
-// a + b and a b exactly.
+// A number as the sum of two, of at most 26 bits each, whose products are exact.
+template <class Plain>
+struct Halves {
+  Plain high;
+  Plain low;
+
+  Halves(Plain a_high, Plain a_low) : high(a_high), low(a_low) {}
+  explicit Halves(Plain a) {
+    constexpr double kSplit = 134217729.0;  // 2^27 + 1
+    const Plain t = kSplit * a;
+    high = t - (t - a);
+    low = a - high;
+  }
+};
+
+// a + b exactly, for any two numbers and for |larger| >= |smaller|, and a b.
 template <class Plain>
 Apart<Plain> exact_sum(Plain a, Plain b) {
   const Plain s = a + b, t = s - a;
   return {s, (a - (s - t)) + (b - t)};
 }
 template <class Plain>
+Apart<Plain> exact_sum_of_ordered(Plain larger, Plain smaller) {
+  const Plain s = larger + smaller;
+  return {s, smaller - (s - larger)};
+}
+template <class Plain>
+Plain product_error(Plain product, const Halves<Plain>& a, const Halves<Plain>& b) {
+  return ((a.high * b.high - product) + a.high * b.low + a.low * b.high) + a.low * b.low;
+}
+template <class Plain>
 Apart<Plain> exact_product(Plain a, Plain b) {
-  constexpr double kSplit = 134217729.0;  // 2^27 + 1
-  const Plain p = a * b, ta = kSplit * a, tb = kSplit * b;
-  const Plain ah = ta - (ta - a), bh = tb - (tb - b);
-  const Plain al = a - ah, bl = b - bh;
-  return {p, ((ah * bh - p) + ah * bl + al * bh) + al * bl};
+  const Plain p = a * b;
+  return {p, product_error(p, Halves(a), Halves(b))};
 }
 
 // lo made as small as it can be, which recurrences do now and then, with both of their numbers: of one alone, the other
@@ -43,19 +64,34 @@ inline ComplexDoubleDouble joined(const Apart<Lanes>& a) {
 }
 
 inline Lanes both(double a) { return Lanes{a, a}; }
-inline Lanes times_i(Lanes a) { return Lanes{-a[1], a[0]}; }
 
-// c y + factor z for a real number or a complex one c, and a double as factor.
-inline Apart<double> combined(const Apart<double>& c, const Apart<double>& y, double factor, const Apart<double>& z) {
-  const auto p = exact_product(c.hi, y.hi), q = exact_product(factor, z.hi), s = exact_sum(p.hi, q.hi);
-  return {s.hi, (c.hi * y.lo + factor * z.lo) + (((p.lo + q.lo) + s.lo) + c.lo * y.hi)};
+// factor z for a whole number below 2^26.
+inline Apart<Lanes> times_whole(double factor, const Apart<Lanes>& z) {
+  const Halves<Lanes> halves(z.hi);
+  const Lanes p = factor * z.hi;
+  return {p, ((factor * halves.high - p) + factor * halves.low) + factor * z.lo};
 }
-inline Apart<Lanes> combined(const Apart<Lanes>& c, const Apart<Lanes>& y, double factor, const Apart<Lanes>& z) {
-  const Lanes re = both(c.hi[0]), im = both(c.hi[1]), turned = times_i(y.hi);
-  const auto p = exact_product(re, y.hi), q = exact_product(im, turned), r = exact_product(both(factor), z.hi);
-  const auto inner = exact_sum(q.hi, r.hi), s = exact_sum(p.hi, inner.hi);
-  const Lanes errors = ((p.lo + q.lo) + (r.lo + inner.lo)) + (s.lo + (c.lo[0] * y.hi + c.lo[1] * turned));
-  return {s.hi, (re * y.lo + im * times_i(y.lo) + factor * z.lo) + errors};
+
+// c y + z for a real c
+template <class Plain>
+Apart<Plain> fused(const Apart<double>& c, const Apart<Plain>& y, const Apart<Plain>& z) {
+  const Halves<double> d(c.hi);
+  const Halves<Plain> h(y.hi);
+  const Plain p = c.hi * y.hi;
+  const Plain error = ((d.high * h.high - p) + d.high * h.low + d.low * h.high) + d.low * h.low;
+  const auto s = exact_sum(p, z.hi);
+  return {s.hi, (c.hi * y.lo + z.lo) + ((error + s.lo) + c.lo * y.hi)};
+}
+// c y + z for a complex c
+inline Apart<Lanes> fused(const Apart<Lanes>& c, const Apart<Lanes>& y, const Apart<Lanes>& z) {
+  const Lanes re = both(c.hi[0]), im{-c.hi[1], c.hi[1]}, turned = swapped(y.hi);
+  const Halves<Lanes> h(y.hi), turned_h{swapped(h.high), swapped(h.low)};
+  const Lanes p = re * y.hi, q = im * turned;
+  const Lanes product_errors = product_error(p, Halves(re), h) + product_error(q, Halves(im), turned_h);
+  const auto inner = exact_sum(q, z.hi), s = exact_sum(p, inner.hi);
+  const Lanes low = both(c.lo[0]) * y.hi + Lanes{-c.lo[1], c.lo[1]} * turned;
+  const Lanes errors = (product_errors + inner.lo) + (s.lo + low);
+  return {s.hi, (re * y.lo + im * swapped(y.lo) + z.lo) + errors};
 }
 
 }  // namespace quorin::amos

@@ -26,6 +26,7 @@ inline double round_to_integer(double x) {
 
 // The real and the imaginary part side by side.
 using Lanes = double __attribute__((vector_size(16)));
+inline Lanes swapped(Lanes a) { return __builtin_shufflevector(a, a, 1, 0); }
 
 struct ComplexDoubleDouble {
   DoubleDouble re;
@@ -98,6 +99,11 @@ inline ComplexDoubleDouble operator/(const ComplexDoubleDouble& a, DoubleDouble 
 inline ComplexDoubleDouble operator/(const ComplexDoubleDouble& a, const ComplexDoubleDouble& b) {
   const ComplexDoubleDouble conjugate{b.re, -b.im};
   return (a * conjugate) / (b.re * b.re + b.im * b.im);
+}
+inline ComplexDoubleDouble quotient(const ComplexDoubleDouble& a, const ComplexDoubleDouble& b) {
+  const ComplexDoubleDouble product = a * ComplexDoubleDouble{b.re, -b.im};
+  const DoubleDouble norm = b.re * b.re + b.im * b.im;
+  return {quotient(product.re, norm), quotient(product.im, norm)};
 }
 
 inline ComplexDoubleDouble fused(DoubleDouble a, const ComplexDoubleDouble& b, const ComplexDoubleDouble& c) {

@@ -27,6 +27,9 @@ inline DoubleDouble confluent_a(DoubleDouble mu2, double n) {
   return quick_two_sum(s.hi, s.lo - mu2.lo);
 }
 
+inline double quotient(double a, double b) { return a / b; }
+inline Complex quotient(Complex a, Complex b) { return a / b; }
+
 // t_0, t_1 and t_1 + t_2 + ... but for a common factor; the first one is multiplied by a_0, which may be 0.
 template <class Number>
 struct ConfluentTerms {
@@ -56,7 +59,7 @@ inline ConfluentTerms<ComplexDoubleDouble> confluent_sum(DoubleDouble mu2, const
   };
   Apart<Lanes> above{}, at{Lanes{1.0, 0.0}, Lanes{}}, sum = at;
   for (int n = terms; n > 1; --n) {
-    const Apart<Lanes> t = combined(coefficient(n), at, -(n + 1.0), above);
+    const Apart<Lanes> t = fused(coefficient(n), at, times_whole(-(n + 1.0), above));
     const DoubleDouble ratio = quotient({static_cast<double>(n)}, confluent_a(mu2, n - 1.0));
     const auto p = exact_product(both(ratio.hi), t.hi);
     above = at;
@@ -68,7 +71,7 @@ inline ConfluentTerms<ComplexDoubleDouble> confluent_sum(DoubleDouble mu2, const
     const auto s = exact_sum(sum.hi, at.hi);
     sum = {s.hi, sum.lo + (s.lo + at.lo)};
   }
-  return {joined(combined(coefficient(1.0), at, -2.0, above)), joined(at), joined(sum)};
+  return {joined(fused(coefficient(1.0), at, times_whole(-2.0, above))), joined(at), joined(sum)};
 }
 
 // With U_n = U(mu + 1/2 + n, 2 mu + 1, 2 w), K_mu(w) = sqrt(pi) (2 w)^mu e^-w U_0. U_n is the minimal solution of
@@ -83,7 +86,7 @@ ConfluentValues<Number> confluent(Real mu, Number w, int terms) {
   const Real mu2 = mu * mu, a = confluent_a(mu2, 0.0);
   const auto [first, second, others] = confluent_sum(mu2, w, terms);
   const Number sum = first + others * a;
-  return {first / sum, (first * (w + (mu + Real{0.5})) - second * a) / (w * sum)};
+  return {quotient(first, sum), quotient(first * (w + (mu + Real{0.5})) - second * a, w * sum)};
 }
 
 }  // namespace quorin::amos

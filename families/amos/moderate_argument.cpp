@@ -25,7 +25,10 @@ Pair k_by_confluence(double mu, Complex w) {
 
 Pair k_small_order(double mu, Complex w) {
   const double size = modulus(w);
-  if (size > kLargeArgument) return {k_large_argument(mu, w), k_large_argument(mu + 1.0, w)};
+  if (size > kLargeArgument) {
+    const Complex factor = square_root(divide(std::numbers::pi / 2, w));
+    return {scaled(factor * large_argument_sums(mu, w).k), scaled(factor * large_argument_sums(mu + 1.0, w).k)};
+  }
   if (size > kSmallArgument) return k_by_confluence(mu, w);
   const Pair k = k_power_series(mu, w);
   const Scaled factor = exponential(w);
@@ -38,7 +41,7 @@ Pair k_by_recurrence(DoubleDouble nu, Complex w) {
   const Pair first = k_small_order(mu, w);
   if (steps == 0.0) return first;
   Recurrence k(w, first.at, first.above, two_sum(1.0, mu));
-  for (int j = 1; j < static_cast<int>(steps); ++j) k.step_up();
+  k.step_up(static_cast<int>(steps) - 1);
   const Scaled at = k.value();
   k.step_up();
   return {at, k.value()};

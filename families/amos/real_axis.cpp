@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "families/amos/confluent.hpp"
+#include "families/amos/large_argument.hpp"
 #include "families/amos/limits.hpp"
 #include "families/amos/power_series.hpp"
 #include "families/amos/second_look.hpp"
@@ -73,18 +74,6 @@ std::optional<double> power_series(double nu, double x, double sign) {
   const double power = nu == 0.0 ? 1.0 : nu == 1.0 ? 0.5 * x : std::pow(0.5 * x, nu);
   if (!in_range(power)) return std::nullopt;
   return in_range(power * reciprocal_gamma({nu}) * sum);
-}
-
-// sum (-1)^k a_k(nu) / x^k / sqrt(2 pi x), DLMF 10.40.1: e^-x I_nu(x) but for a part in e^-2x.
-double i_large_argument(double nu, double x) {
-  const double four_nu2 = 4.0 * nu * nu, over_8x = 0.125 / x;
-  double term = 1.0, sum = 1.0;
-  for (int k = 1; std::fabs(term) > 0.1 * kTol; ++k) {
-    const double odd = 2.0 * k - 1.0;
-    term *= (odd * odd - four_nu2) * over_8x / k;
-    sum += term;
-  }
-  return sum / std::sqrt(2.0 * kPiValue * x);
 }
 
 // J and Y at orders mu and mu + 1.
@@ -263,7 +252,8 @@ std::optional<double> real_i(double nu, double x) {
     const std::optional<double> value = power_series(nu, x, 1.0);
     return value ? in_range(*value * exponential(-x)) : value;
   }
-  if (x > kLargeArgument && (nu + 1.0) * (nu + 1.0) <= 2.0 * x) return i_large_argument(nu, x);
+  if (x > kLargeArgument && (nu + 1.0) * (nu + 1.0) <= 2.0 * x)
+    return large_argument_sums(nu, x).i / std::sqrt(2.0 * kPiValue * x);
   if (x > kMostOrder || x <= kSmallArgument) return std::nullopt;
   const int steps = static_cast<int>(round_to_integer(nu));
   const double mu = nu - steps;

@@ -23,12 +23,12 @@ Recurrence::Recurrence(Complex w, Scaled previous, Scaled current, DoubleDouble 
   previous_ = lanes(shift(previous.m, previous.e - exponent_ - shift_));
 }
 
-void Recurrence::rescale() {
-  const double size = largest_part(complex(current_));
+void Recurrence::rescale(Lanes& previous, Lanes& current) {
+  const double size = largest_part(complex(current));
   if (size == 0.0 || !std::isfinite(size)) return;
   const int k = exponent_of(size);
-  current_ = lanes(shift(complex(current_), -k));
-  previous_ = lanes(shift(complex(previous_), -k));
+  current = lanes(shift(complex(current), -k));
+  previous = lanes(shift(complex(previous), -k));
   exponent_ += k;
 }
 

@@ -32,9 +32,6 @@ Wide shift_wide(const Wide& a, std::int64_t k) {
   return {part(a.re), part(a.im)};
 }
 
-// e^{i pi x / 2}
-Wide quarter_turns_wide(DoubleDouble x) { return exp({{}, kHalfPi * x}).m; }
-
 }  // namespace
 
 double small_part(double nu, double modulus) { return std::clamp(1.5 / std::fmax(nu, modulus), 0.03, 0.2); }
@@ -42,10 +39,14 @@ double small_part(double nu, double modulus) { return std::clamp(1.5 / std::fmax
 double small_part_on_axis(double nu, double x) { return std::clamp(0.5 / std::fmax(nu, x), 0.02, 0.06); }
 
 SecondLook::SecondLook(const Combination& c, Order order)
-    : c_(c), order_(order), below_(c.w.imag() < 0.0 && !c.real), w_(c.wide_w) {
+    : c_(c),
+      order_(order),
+      below_(c.w.imag() < 0.0 && !c.real),
+      w_(below_ || c.real ? conj(c.wide_w) : c.wide_w),
+      two_over_w_(widen(2.0) / w_),
+      turn_(exp({{}, kHalfPi * order.mu}).m) {
   if (!below_ && !c.real) return;
   // The conjugate function at the conjugate argument. A real function is as good at one as at the other.
-  w_ = conj(w_);
   for (Term* term : {&c_.i, &c_.k}) {
     term->power = -term->power;
     term->turns = -term->turns;
@@ -55,7 +56,8 @@ SecondLook::SecondLook(const Combination& c, Order order)
 
 // What a term has in front of I or K at order mu + steps, without the exponential.
 Wide SecondLook::coefficient(const Term& term, int steps) const {
-  const Wide turn = quarter_turns_wide(order_.mu * static_cast<double>(term.turns));
+  const Wide power = (term.turns & 1) != 0 ? turn_ : turn_ * turn_;
+  const Wide turn = term.turns == 0 ? widen(1.0) : term.turns < 0 ? conj(power) : power;
   return times_i_power(turn * term.size, term.power + (term.turns & 3) * (steps & 3));
 }
 
@@ -64,7 +66,7 @@ SecondLook::WidePair SecondLook::small_k(const Wide& w) const {
   const double size = modulus(w);
   if (size < kSmallSeries || (size < kAxisSeries && w.re.hi < 1.0)) return small_k_by_series(w);
   const auto [at, above] = confluent(order_.mu, w, confluent_terms(kDigits, size, w.re.hi));
-  const Wide factor = Wide{kSqrtHalfPi, {}} / sqrt(w);
+  const Wide factor = quotient(Wide{kSqrtHalfPi, {}}, sqrt(w));
   return {factor * at, factor * above};
 }
 
@@ -72,7 +74,7 @@ SecondLook::WidePair SecondLook::small_k_by_series(const Wide& w) const {
   const Wide l = log(widen(2.0) / w);
   const ScaledWide p = exp(l * order_.mu), e = exp(w);
   const Wide power = shift_wide(p.m, p.e), growth = shift_wide(e.m, e.e);
-  const auto sums = temme_series(order_.mu, l, power, widen(1.0) / power, w * w * 0.25);
+  const auto sums = temme_series(order_.mu, l, power, quotient(widen(1.0), power), w * w * 0.25);
   return {sums.at * growth, sums.above * growth * (widen(2.0) / w)};
 }
 
@@ -89,9 +91,9 @@ Wide SecondLook::i_ratio(int steps) const {
     before = std::exchange(p, (nu + last) * two_over_w * p + before);
   }
   // y_{nu-1} = (2 nu / w) y_nu + y_{nu+1}: upwards in -nu.
-  Climber<Wide> i(-order_.mu, -(widen(2.0) / w_), 1.0, Wide{}, widen(1.0), -(steps + last) - 1);
+  Climber<Wide> i(-order_.mu, -two_over_w_, 1.0, Wide{}, widen(1.0), -(steps + last) - 1);
   i.move_to(-steps - 1);
-  return i.at() / i.above();
+  return quotient(i.at(), i.above());
 }
 
 // e^-w I at orders mu and mu + 1.
@@ -100,37 +102,37 @@ SecondLook::WidePair SecondLook::small_i(const WidePair& k) const {
   if (size > 2.0 * kManyDigitsApart && size - w_.re.hi > kManyDigitsApart) {
     // i pi I_nu(w) = K_nu(w e^{-i pi}) - e^{i pi nu} K_nu(w)   (DLMF 10.34.2)
     const WidePair other = small_k(-w_);
-    const ScaledWide e = exp(w_ * -2.0);
-    const Wide part = shift_wide(e.m, e.e) * quarter_turns_wide(order_.mu * 2.0);
+    const Wide part = shift_wide(decay_, decay_exponent_) * (turn_ * turn_);
     const DoubleDouble over_pi = kTwoOverPi * 0.5;
     return {times_i_power((other.at - part * k.at) * over_pi, 3),
             times_i_power((other.above + part * k.above) * over_pi, 3)};
   }
   const Wide ratio = i_ratio(0);
-  const Wide at = widen(1.0) / (w_ * fused(ratio, k.at, k.above));
+  const Wide at = quotient(widen(1.0), w_ * fused(ratio, k.at, k.above));
   return {at, at * ratio};
 }
 
-void SecondLook::start_k() {
-  const WidePair k = small_k(w_);
-  k_.emplace(order_.mu, widen(2.0) / w_, 1.0, k.at, k.above);
-  if (!c_.i.used) return;
-  const ScaledWide e = exp(c_.k.exponent - c_.i.exponent);
-  decay_ = e.m;
-  decay_exponent_ = e.e;
+// e^w K at orders mu and mu + 1, and e^-2w, by which K falls behind I.
+SecondLook::WidePair SecondLook::start() {
+  if (c_.i.used) {
+    const ScaledWide e = exp(w_ * -2.0);
+    decay_ = e.m;
+    decay_exponent_ = e.e;
+  }
+  return small_k(w_);
 }
 
 void SecondLook::start_sum() {
-  start_k();
+  const WidePair k = start();
   const Term& first = c_.i.used ? c_.i : c_.k;
   WidePair sum{};
   if (c_.k.used) {
     const Wide c = coefficient(c_.k, 0);
     const Wide turned = times_i_power(c, c_.k.turns);
-    sum = {c * k_->at(), turned * k_->above()};
+    sum = {c * k.at, turned * k.above};
   }
   if (c_.i.used) {
-    const WidePair i = small_i({k_->at(), k_->above()});
+    const WidePair i = small_i(k);
     const Wide c = coefficient(c_.i, 0);
     const Wide turned = times_i_power(c, c_.i.turns);
     const Wide decay = shift_wide(decay_, decay_exponent_);
@@ -138,7 +140,7 @@ void SecondLook::start_sum() {
   }
   // K_{nu+1} = (2 nu / w) K_nu + K_{nu-1}, and e^{i pi nu} I does the same.
   const int turns = c_.k.used ? c_.k.turns : c_.i.turns + 2;
-  const Wide factor = times_i_power(widen(2.0) / w_, turns & 3);
+  const Wide factor = times_i_power(two_over_w_, turns & 3);
   const double sign = (turns & 1) != 0 ? -1.0 : 1.0;
   if (!c_.real) {
     sum_.emplace(order_.mu, factor, sign, sum.at, sum.above);
@@ -146,7 +148,9 @@ void SecondLook::start_sum() {
   }
   const ScaledWide e = exp(first.exponent);
   const Wide phase = shift_wide(e.m, e.e);
-  real_sum_.emplace(order_.mu, factor.re, sign, (sum.at * phase).re, (sum.above * phase).re);
+  // Airy functions have a pair of orders and no others: the factor, which would not be real, is not needed.
+  const DoubleDouble real_factor = factor.re.hi == 0.0 ? kOne : factor.re;
+  real_sum_.emplace(order_.mu, real_factor, sign, (sum.at * phase).re, (sum.above * phase).re);
 }
 
 Scaled SecondLook::sum_at(int steps) {
@@ -161,11 +165,14 @@ Scaled SecondLook::sum_at(int steps) {
 }
 
 Scaled SecondLook::terms_at(int steps) {
-  if (!k_) start_k();
+  if (!k_) {
+    const WidePair k = start();
+    k_.emplace(order_.mu, two_over_w_, 1.0, k.at, k.above);
+  }
   k_->move_to(steps);
   const Wide ratio = i_ratio(steps);
   // I has the opposite exponent of K.
-  const Wide i = widen(1.0) / (w_ * fused(ratio, k_->at(), k_->above()));
+  const Wide i = quotient(widen(1.0), w_ * fused(ratio, k_->at(), k_->above()));
   const std::int64_t e = k_->exponent();
   const Wide k = shift_wide(k_->at() * decay_ * coefficient(c_.k, steps), decay_exponent_ + 2 * e);
   return Scaled{narrow(fused(coefficient(c_.i, steps), i, k)), -e} * exponential(c_.i.exponent);

@@ -37,7 +37,7 @@ void descend_i(double nu, int from, int to, Complex w, const Visit& visit) {
     return;
   }
   Recurrence i(quadrant, start.values.above, start.values.at, top + DoubleDouble{static_cast<double>(start.steps)});
-  for (int k = start.steps; k > 0; --k) i.step_down();
+  i.step_down(start.steps);
   for (int j = to - 1; visit(j, mirrored(i.value(), below)) && j > from; --j) i.step_down();
 }
 

@@ -31,7 +31,7 @@ TEST(Termination, AtTheBordersOfTheRegions) {
     for (const double nu : {0.0, 6.6, 84.9}) {
       EXPECT_TRUE(is_finite(i_neighbours({nu}, kLargeArgument * ray).at)) << nu;
       const double first = std::fmax(kLargeArgument, 0.5 * nu * nu) * kJustBeyond;
-      const LargeArgumentSums sums = large_argument_sums(nu, first * ray);
+      const LargeArgumentSums<Complex> sums = large_argument_sums(nu, first * ray);
       EXPECT_TRUE(is_finite(sums.i) && is_finite(sums.k)) << nu;
     }
     for (const double mu : {-0.5, -1.0 / 3, -1.0e-300, 0.0, 1.0e-12, 0.5}) {
