@@ -30,6 +30,9 @@ std::vector<BesselPeer> bessel_peers() {
                    [](double order, double x) {
                      return whole(order) ? gsl_sf_bessel_Yn(static_cast<int>(order), x) : gsl_sf_bessel_Ynu(order, x);
                    },
+                   [](double order, double x) {
+                     return whole(order) ? gsl_sf_bessel_In(static_cast<int>(order), x) : gsl_sf_bessel_Inu(order, x);
+                   },
                    [](double x) { return gsl_sf_airy_Ai(x, GSL_PREC_DOUBLE); }});
 #endif
 #if defined(QUORIN_HAS_BOOST)
@@ -43,6 +46,10 @@ std::vector<BesselPeer> bessel_peers() {
                    [](double order, double x) {
                      return whole(order) ? boost::math::cyl_neumann(static_cast<int>(order), x, Quiet())
                                          : boost::math::cyl_neumann(order, x, Quiet());
+                   },
+                   [](double order, double x) {
+                     return whole(order) ? boost::math::cyl_bessel_i(static_cast<int>(order), x, Quiet())
+                                         : boost::math::cyl_bessel_i(order, x, Quiet());
                    },
                    [](double x) { return boost::math::airy_ai(x, Quiet()); }});
 #endif

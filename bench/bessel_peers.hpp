@@ -9,6 +9,7 @@ struct BesselPeer {
   const char* side;
   double (*j)(double order, double x);
   double (*y)(double order, double x);
+  double (*i)(double order, double x);
   double (*ai)(double x);
 };
 
