@@ -1,6 +1,7 @@
 // The k-th request for memory that the library makes of the C runtime fails, alone or with all after it, for k = 1, 2,
 // ... until a call no longer notices, in every family, on one thread and on three. The requests are seen where the
-// library imports them: so are those that the runtime's own code inside the library makes, when it prints.
+// library imports them: on Windows so are those that the runtime's own code inside the library makes, when it prints,
+// and its operator new. Elsewhere operator new is an import itself.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -8,14 +9,14 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
-#include <cstring>
+#include <new>
 #include <string>
-
 #include <vector>
 
 #include "tests/support/capture_output.hpp"
 #include "tests/support/family_calls.hpp"
 #include "tests/support/host_module.hpp"
+#include "tests/support/imports.hpp"
 
 namespace quorin::test {
 namespace {
@@ -36,32 +37,9 @@ void* failing_malloc(std::size_t bytes) { return fails() ? nullptr : std::malloc
 void* failing_calloc(std::size_t count, std::size_t bytes) { return fails() ? nullptr : std::calloc(count, bytes); }
 void* failing_realloc(void* block, std::size_t bytes) { return fails() ? nullptr : std::realloc(block, bytes); }
 
-// Puts `replacement` where the module imports `name` from the C runtime (Microsoft, PE Format, section 6.4). Returns
-// how often that was.
-template <class Function>
-int replace_import(HMODULE module, const char* name, Function replacement) {
-  auto* const image = reinterpret_cast<unsigned char*>(module);
-  const auto* const dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(image);
-  const auto* const headers = reinterpret_cast<const IMAGE_NT_HEADERS*>(image + dos->e_lfanew);
-  const IMAGE_DATA_DIRECTORY& directory = headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
-  int replaced = 0;
-  for (auto* library = reinterpret_cast<const IMAGE_IMPORT_DESCRIPTOR*>(image + directory.VirtualAddress);
-       library->Name != 0; ++library) {
-    auto* names = reinterpret_cast<const IMAGE_THUNK_DATA*>(image + library->OriginalFirstThunk);
-    auto* slots = reinterpret_cast<IMAGE_THUNK_DATA*>(image + library->FirstThunk);
-    for (; names->u1.AddressOfData != 0; ++names, ++slots) {
-      if (IMAGE_SNAP_BY_ORDINAL(names->u1.Ordinal)) continue;
-      const auto* const imported = reinterpret_cast<const IMAGE_IMPORT_BY_NAME*>(image + names->u1.AddressOfData);
-      if (std::strcmp(reinterpret_cast<const char*>(imported->Name), name) != 0) continue;
-      DWORD before = 0;
-      VirtualProtect(slots, sizeof *slots, PAGE_READWRITE, &before);
-      slots->u1.Function = reinterpret_cast<DWORD_PTR>(replacement);
-      VirtualProtect(slots, sizeof *slots, before, &before);
-      ++replaced;
-    }
-  }
-  return replaced;
-}
+#if !defined(_WIN32)
+void* throwing_new(std::size_t bytes) { return fails() ? throw std::bad_alloc() : ::operator new(bytes); }
+#endif
 
 // Reports with numbers of every size, and matrices that are printed in full.
 Results print_reports(const quorin_library& library, int) {
@@ -102,10 +80,12 @@ class RuntimeFaults : public testing::TestWithParam<int> {};
 TEST_P(RuntimeFaults, GiveTheRightResultOrAStatus) {
   Product product;
   ASSERT_TRUE(product);
-  const auto module = static_cast<HMODULE>(product->module);
-  ASSERT_EQ(replace_import(module, "malloc", failing_malloc), 1);
-  ASSERT_EQ(replace_import(module, "calloc", failing_calloc), 1);
-  ASSERT_EQ(replace_import(module, "realloc", failing_realloc), 1);
+  ASSERT_GE(replace_import(product->module, "malloc", failing_malloc), 1);
+  ASSERT_GE(replace_import(product->module, "calloc", failing_calloc), 1);
+  ASSERT_GE(replace_import(product->module, "realloc", failing_realloc), 1);
+#if !defined(_WIN32)
+  for (const char* const name : {"_Znwm", "_Znam"}) replace_import(product->module, name, throwing_new);
+#endif
   product->sMKL_Set_Dynamic(0);
   product->sMKL_Set_Num_Threads(GetParam());
   std::vector<FamilyCall> calls(family_calls().begin(), family_calls().end());
