@@ -22,6 +22,9 @@ namespace {
 constexpr std::size_t kAlignment = 4096;
 static_assert(kAlignment % kernels::kBufferAlignment == 0);
 
+// What is kept for later calls when several with many threads have been at work at once: 64 MB.
+constexpr int kMostKept = 64;
+
 void*& block_of(FreeBuffer* buffer) noexcept { return reinterpret_cast<void**>(buffer)[-1]; }
 
 FreeBuffer* create_buffer() noexcept {
@@ -53,6 +56,7 @@ class BufferPool {
     const std::lock_guard lock(mutex_);
     recall_spare();
     if (buffer != nullptr) push(buffer);
+    release_beyond(promised_ + kMostKept);
     returned_.notify_one();
   }
 
@@ -70,6 +74,7 @@ class BufferPool {
   void unreserve(int count) noexcept {
     const std::lock_guard lock(mutex_);
     promised_ -= count;
+    release_beyond(promised_ + kMostKept);
   }
 
   // A promise is consumed by taking and renewed by returning the buffer.
@@ -90,13 +95,17 @@ class BufferPool {
   void trim() noexcept {
     const std::lock_guard lock(mutex_);
     recall_spare();
-    while (first_ != nullptr && free_count_ > promised_) {
+    release_beyond(promised_);
+  }
+
+ private:
+  void release_beyond(int count) noexcept {
+    while (first_ != nullptr && free_count_ > count) {
       base::release(block_of(pop()));
       --existing_;
     }
   }
 
- private:
   void push(FreeBuffer* buffer) noexcept {
     buffer->following = first_;
     first_ = buffer;

@@ -1,5 +1,5 @@
-// The library's allocator from inside: all four functions of a libimalloc are used, and what fails stays a null
-// pointer.
+// The library's allocator from inside: all four functions of a libimalloc are used, what fails stays a null pointer,
+// and no more is kept for later calls than is told.
 #include "base/allocator.hpp"
 
 #include <gtest/gtest.h>
@@ -7,17 +7,42 @@
 #include <algorithm>
 
 #include "base/workspace.hpp"
+#include "dense/blocked/buffers.hpp"
 #include "tests/boundary/counting_allocator.hpp"
 #include "tests/support/host_module.hpp"
 
 namespace quorin::test {
 namespace {
 
-TEST(Allocator, GoesThroughTheFourFunctions) {
-  const TestLibrary module("complete", "libimalloc");
-  ASSERT_TRUE(module);
-  auto& state = *module.symbol<CountingAllocatorState>("imalloc_state");
-  base::choose_allocator();
+class Allocator : public testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(module_);
+    base::choose_allocator();
+  }
+
+  CountingAllocatorState& state() const { return *module_.symbol<CountingAllocatorState>("imalloc_state"); }
+
+ private:
+  const TestLibrary module_{"complete", "libimalloc"};
+};
+
+// However many threads have packed matrices at once, idle ones keep 64 buffers of a megabyte.
+TEST_F(Allocator, GetsBackBuffersThatNobodyNeeds) {
+  using dense::blocked::BufferReservation;
+  const auto& state = this->state();
+  {
+    const BufferReservation first(50), second(50);
+    ASSERT_EQ(first.granted() + second.granted(), 100);
+    EXPECT_EQ(state.live, 100);
+  }
+  EXPECT_EQ(state.live, 64);
+  dense::blocked::trim_buffers();
+  EXPECT_EQ(state.live, 0);
+}
+
+TEST_F(Allocator, GoesThroughTheFourFunctions) {
+  auto& state = this->state();
 
   auto* bytes = static_cast<unsigned char*>(base::allocate_zeroed(7, 3));
   ASSERT_NE(bytes, nullptr);
