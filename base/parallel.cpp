@@ -7,6 +7,7 @@
 #include "base/thread_settings.hpp"
 #include "platform/floating_point.hpp"
 #include "platform/platform.hpp"
+#include "platform/workers.hpp"
 
 namespace quorin::base {
 namespace {
@@ -41,10 +42,6 @@ class RegionMark {
   RegionMark& operator=(const RegionMark&) = delete;
 };
 
-// A worker that waits keeps the library mapped, so that none waits for ever, whatever the block time: after so many
-// milliseconds without work, starting it again costs nothing that could be noticed.
-constexpr int kLongestIdleWait = 2000;
-
 class Pool {
  public:
   void run(Region& region, int helpers) {
@@ -60,6 +57,14 @@ class Pool {
     const std::lock_guard lock(mutex_);
     work_arrived_.notify_all();
   }
+
+  // Workers neither stay nor come between the two.
+  void end() {
+    const std::lock_guard lock(mutex_);
+    has_ended_ = true;
+    work_arrived_.notify_all();
+  }
+  void begin() { has_ended_ = false; }
 
  private:
   static void worker_main(void* pool) noexcept { static_cast<Pool*>(pool)->work(); }
@@ -129,8 +134,8 @@ class Pool {
     if (region == nullptr && block_time() > 0) region = spin_for_region();
     while (region == nullptr) {
       // A wake-up may be for a region that others have finished; the wait then starts afresh, which only errs on the
-      // side of patience. It may also be because the block time has changed.
-      const int patience = std::min(block_time(), kLongestIdleWait);
+      // side of patience. It may also be because the block time has changed, or because all is over.
+      const int patience = has_ended_ ? 0 : block_time();
       const bool notified = patience > 0 && work_arrived_.wait_for(mutex_, patience);
       region = joinable();
       if (!notified) break;
@@ -152,6 +157,7 @@ class Pool {
   Region* regions_ = nullptr;
   int workers_ = 0;
   int idle_ = 0;
+  bool has_ended_ = false;
   std::atomic<int> open_regions_{0};
 };
 
@@ -159,8 +165,16 @@ constinit Pool pool;
 
 }  // namespace
 
-void start_parallel() { region_slot.create(); }
-void stop_parallel() { region_slot.destroy(); }
+void start_parallel() {
+  region_slot.create();
+  pool.begin();
+}
+
+void stop_parallel() {
+  pool.end();
+  platform::await_workers();
+  region_slot.destroy();
+}
 
 void apply_block_time() { pool.wake_idle(); }
 

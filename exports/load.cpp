@@ -24,9 +24,9 @@ void on_load() noexcept {
 }
 
 void on_unload() noexcept {
+  base::stop_parallel();
   if (base::allocator_is_mapped()) dense::release_buffers();
   dense::stop();
-  base::stop_parallel();
   stop_floating_point();
   __gnu_cxx::__freeres();
 }

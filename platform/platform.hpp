@@ -51,8 +51,8 @@ void spin_pause();
 
 // --- Threads ---------------------------------------------------------------------------------------------------------
 
-// Starts a detached thread that runs `body(argument)`. The thread keeps the library mapped until it has left it, so
-// that a host may unload the library at any time. False if the system has no thread to give.
+// Runs `body(argument)` in a thread of its own, which ends after it. Before the library is unloaded, await_workers()
+// (workers.hpp) has to see all of them out. False if the system has no thread to give.
 [[nodiscard]] bool start_worker(void (*body)(void*), void* argument);
 
 // Physical cores that this process may run on, at least 1.

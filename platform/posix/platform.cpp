@@ -20,6 +20,8 @@
 #include <ctime>
 #include <new>
 
+#include "platform/workers.hpp"
+
 namespace quorin::platform {
 namespace {
 
@@ -35,7 +37,7 @@ struct WorkerStart {
   void* argument;
 };
 
-// The shared object is linked with -z nodelete, so the code stays mapped without a reference of the thread's own.
+// The shared object is linked with -z nodelete, so the code stays mapped as long as a worker needs it.
 void* worker_main(void* parameter) noexcept {
   const WorkerStart start = *static_cast<WorkerStart*>(parameter);
   std::free(parameter);
@@ -94,6 +96,8 @@ bool start_worker(void (*body)(void*), void* argument) {
   pthread_detach(thread);
   return true;
 }
+
+void await_workers() {}
 
 int physical_core_count() {
   cpu_set_t allowed;

@@ -27,10 +27,10 @@ CONDITION_VARIABLE* as_condition(std::byte* storage) {
 }
 
 // The module that this code is part of: the DLL, or the program that it is linked into.
-bool own_module(HMODULE* module, bool add_reference) {
-  const DWORD flags = GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS |
-                      (add_reference ? 0 : DWORD{GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT});
-  return GetModuleHandleExA(flags, reinterpret_cast<LPCSTR>(&own_module), module) != 0;
+HMODULE own_module() {
+  constexpr DWORD kFlags = GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT;
+  HMODULE module = nullptr;
+  return GetModuleHandleExA(kFlags, reinterpret_cast<LPCSTR>(&own_module), &module) ? module : nullptr;
 }
 
 // The library `name` in the folder of a module, of the program if that is null. What it needs itself is not searched
@@ -52,20 +52,6 @@ HMODULE open_beside(HMODULE module, const char* name) {
   return found;
 }
 
-struct WorkerStart {
-  void (*body)(void*);
-  void* argument;
-  HMODULE module;
-};
-
-DWORD WINAPI worker_main(void* parameter) noexcept {
-  const WorkerStart start = *static_cast<WorkerStart*>(parameter);
-  HeapFree(GetProcessHeap(), 0, parameter);
-  start.body(start.argument);
-  // Gives back the reference and ends the thread in one step outside our code, which may be unmapped by it.
-  FreeLibraryAndExitThread(start.module, 0);
-}
-
 }  // namespace
 
 void Mutex::lock() { AcquireSRWLockExclusive(as_lock(storage_)); }
@@ -82,24 +68,6 @@ void ConditionVariable::notify_one() { WakeConditionVariable(as_condition(storag
 void ConditionVariable::notify_all() { WakeAllConditionVariable(as_condition(storage_)); }
 
 void spin_pause() { YieldProcessor(); }
-
-bool start_worker(void (*body)(void*), void* argument) {
-  auto* start = static_cast<WorkerStart*>(HeapAlloc(GetProcessHeap(), 0, sizeof(WorkerStart)));
-  if (start == nullptr) return false;
-  *start = {body, argument, nullptr};
-  if (own_module(&start->module, true)) {
-    constexpr SIZE_T kStackReserve = 1 << 20;
-    HANDLE thread =
-        CreateThread(nullptr, kStackReserve, worker_main, start, STACK_SIZE_PARAM_IS_A_RESERVATION, nullptr);
-    if (thread != nullptr) {
-      CloseHandle(thread);
-      return true;
-    }
-    FreeLibrary(start->module);
-  }
-  HeapFree(GetProcessHeap(), 0, start);
-  return false;
-}
 
 int physical_core_count() {
   DWORD_PTR process_mask = 0, system_mask = 0;
@@ -147,8 +115,7 @@ Module open_companion(const char* name) {
   // A missing library must not raise a message box in the host.
   DWORD mode = 0;
   SetThreadErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX, &mode);
-  HMODULE own = nullptr;
-  if (own_module(&own, false)) module = open_beside(own, name);
+  if (HMODULE const own = own_module()) module = open_beside(own, name);
   if (module == nullptr) module = open_beside(nullptr, name);
   SetThreadErrorMode(mode, nullptr);
   return module;

@@ -27,16 +27,9 @@ void multiply(const Product& product) {
   EXPECT_TRUE(problem.is_solved_by(product->sgemm));
 }
 
-// A threaded product, after which nothing but `product` keeps the library mapped.
-void multiply_without_waiting(const Product& product) {
-  product->sokmp_set_blocktime(0);
-  multiply(product);
-}
-
 void expect_unload(Product& product) {
   product.close();
 #if defined(_WIN32)
-  for (int i = 0; i < 1000 && is_loaded(QUORIN_PRODUCT_FILE); ++i) Sleep(5);
   EXPECT_FALSE(is_loaded(QUORIN_PRODUCT_FILE));
 #endif
 }
@@ -55,7 +48,7 @@ TEST(AllocatorChoice, TakesACompleteLibraryAndReleasesIt) {
     EXPECT_GE(state.release, 3);
     EXPECT_EQ(state.live, 0);
 
-    multiply_without_waiting(product);
+    multiply(product);
     EXPECT_GT(state.live, 0);
     expect_unload(product);
 #if defined(_WIN32)
@@ -71,7 +64,7 @@ void expect_refused(const TestLibrary& allocator) {
   const auto& state = *allocator.symbol<CountingAllocatorState>("imalloc_state");
   Product product;
   ASSERT_TRUE(product);
-  multiply_without_waiting(product);
+  multiply(product);
   product->sMKL_FreeBuffers();
   EXPECT_EQ(state.allocate + state.allocate_zeroed + state.reallocate + state.release, 0);
   expect_unload(product);
@@ -106,7 +99,7 @@ TEST(AllocatorChoice, SurvivesAnAllocatorThatTheHostUnloadsFirst) {
   with_fresh_product([] {
     TestLibrary allocator("complete", "libimalloc");
     Product product;
-    multiply_without_waiting(product);  // buffers of the allocator stay behind
+    multiply(product);  // buffers of the allocator stay behind
     allocator.close();
     ASSERT_FALSE(is_loaded(allocator_file()));
     FaultReport::begin("the product's unloading");  // the loader would swallow the fault
@@ -121,7 +114,6 @@ bool allocator_was_loaded() {
 }
 
 void forget_loads() {
-  for (int i = 0; i < 1000 && is_loaded(QUORIN_PRODUCT_FILE); ++i) Sleep(5);
   ASSERT_FALSE(is_loaded(QUORIN_PRODUCT_FILE));
   SetEnvironmentVariableA("QUORIN_TEST_ALLOCATOR", nullptr);
 }
@@ -141,7 +133,7 @@ TEST(AllocatorChoice, DoesNotKeepFunctionsThatVanishWithTheReference) {
   ExactProduct problem;
   EXPECT_TRUE(problem.is_solved_by(library.sgemm));
   quorin_unload(&library);
-  for (int i = 0; i < 1000 && is_loaded(QUORIN_PRODUCT_FILE); ++i) Sleep(5);
+  EXPECT_FALSE(is_loaded(QUORIN_PRODUCT_FILE));
 }
 
 // A file of that name may lie where a document was opened.

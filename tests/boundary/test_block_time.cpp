@@ -71,20 +71,5 @@ TEST(BlockTime, DecidesHowLongIdleWorkersStay) {
   });
 }
 
-#if defined(_WIN32)
-TEST(BlockTime, WithoutEndDoesNotKeepTheLibraryForEver) {
-  ExactProduct problem(200);
-  {
-    const Product product;
-    product->sokmp_set_blocktime(INT_MAX);
-    product->sMKL_Set_Dynamic(0);
-    product->sMKL_Set_Num_Threads(4);
-    EXPECT_TRUE(problem.is_solved_by(product->sgemm));
-  }
-  for (int i = 0; i < 2000 && is_loaded(QUORIN_PRODUCT_FILE); ++i) std::this_thread::sleep_for(milliseconds(5));
-  EXPECT_FALSE(is_loaded(QUORIN_PRODUCT_FILE));
-}
-#endif
-
 }  // namespace
 }  // namespace quorin::test
