@@ -27,22 +27,18 @@ template <class T, class BetaFactor>
 using Rank2K = void(char uplo, char trans, int n, int k, T alpha, const T* a, int lda, const T* b, int ldb,
                     BetaFactor beta, T* c, int ldc, int threads) noexcept;
 
-// A thread should have this many multiplications of reals, some tens of microseconds, to be worth waking.
-constexpr double kMultiplicationsPerThread = 1 << 20;
-
 template <Scalar T>
-int threads_for_work(double multiplications) {
-  const double work = multiplications * (kIsComplex<T> ? 4 : 1);
-  if (work < 2 * kMultiplicationsPerThread || base::in_parallel_region()) return 1;
-  return threads_for(work, kMultiplicationsPerThread, base::region_threads(base::Domain::kBlas));
+int available_threads(double multiplications) {
+  if (threads_for_products<T>(multiplications, 2) < 2 || base::in_parallel_region()) return 1;
+  return threads_for_products<T>(multiplications, base::region_threads(base::Domain::kBlas));
 }
 
-// For an operation that makes `share` of m by n by k multiplications: calls body(threads) with that many packing
-// buffers ready, or reports that there are none.
+// For an operation of m by n by k multiplications, of which `counted` pay for threads: calls body(threads) with that
+// many packing buffers ready, or reports that there are none.
 template <Scalar T, class Body>
-void with_buffers(const char* operation, int m, int n, int k, double share, const Body& body) {
+void with_buffers(const char* operation, int m, int n, int k, double counted, const Body& body) {
   if (kernels::is_small<T>(m, n, k)) return body(1);  // its buffer is on the stack
-  const blocked::BufferReservation buffers(threads_for_work<T>(share * m * n * k));
+  const blocked::BufferReservation buffers(available_threads<T>(counted));
   if (buffers.granted() == 0) return ArgumentCheck<T>::report(operation, base::kInsufficientWorkspace);
   body(buffers.granted());
 }
@@ -64,7 +60,7 @@ void symmetric_product(const char* operation, Symmetric<T>* routine, char side, 
                                   .require(12, ldc >= least_leading_dimension(m))
                                   .passed();
   if (!arguments_hold || m == 0 || n == 0 || (alpha == T{} && beta == T{1})) return;
-  with_buffers<T>(operation, m, n, order, 1, [&](int threads) {
+  with_buffers<T>(operation, m, n, order, product_work(m, n, order), [&](int threads) {
     routine(upper(side), upper(uplo), m, n, alpha, a, lda, b, ldb, beta, c, ldc, threads);
   });
 }
@@ -86,7 +82,8 @@ void triangular(const char* operation, Triangular<T>* routine, char side, char u
                                   .require(11, ldb >= least_leading_dimension(m))
                                   .passed();
   if (!arguments_hold || m == 0 || n == 0) return;
-  with_buffers<T>(operation, left ? n : m, order, order / 2, 1, [&](int threads) {
+  const int vectors = left ? n : m;
+  with_buffers<T>(operation, vectors, order, order / 2, product_work(vectors, order, order / 2), [&](int threads) {
     routine(upper(side), upper(uplo), upper(transa), upper(diag), m, n, alpha, a, lda, b, ldb, threads);
   });
 }
@@ -110,7 +107,7 @@ void rank_k(const char* operation, RankK<T, Factor>* routine, char uplo, char tr
                                   .require(10, ldc >= least_leading_dimension(n))
                                   .passed();
   if (!arguments_hold || n == 0 || ((alpha == Factor{} || k == 0) && beta == Factor{1})) return;
-  with_buffers<T>(operation, n, n, k, 0.5,
+  with_buffers<T>(operation, n, n, k, triangle_work(n, k),
                   [&](int threads) { routine(upper(uplo), upper(trans), n, k, alpha, a, lda, beta, c, ldc, threads); });
 }
 
@@ -124,7 +121,7 @@ void rank_2k(const char* operation, Rank2K<T, BetaFactor>* routine, char uplo, c
                                   .require(12, ldc >= least_leading_dimension(n))
                                   .passed();
   if (!arguments_hold || n == 0 || ((alpha == T{} || k == 0) && beta == BetaFactor{1})) return;
-  with_buffers<T>(operation, n, n, k, 1, [&](int threads) {
+  with_buffers<T>(operation, n, n, k, 2 * triangle_work(n, k), [&](int threads) {
     routine(upper(uplo), upper(trans), n, k, alpha, a, lda, b, ldb, beta, c, ldc, threads);
   });
 }
@@ -149,7 +146,7 @@ void gemm(char transa, char transb, int m, int n, int k, T alpha, const T* a, in
   if (is_small_product<T>(m, n, k)) {
     return small_product<T>(m, n, k, alpha, {transa, a, lda}, {transb, b, ldb}, beta, c, ldc);
   }
-  with_buffers<T>("GEMM", m, n, k, 1, [&](int threads) {
+  with_buffers<T>("GEMM", m, n, k, product_work(m, n, k), [&](int threads) {
     blocked::gemm(upper(transa), upper(transb), m, n, k, alpha, a, lda, b, ldb, beta, c, ldc, threads);
   });
 }

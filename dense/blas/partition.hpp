@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "base/scalar.hpp"
+
 namespace quorin::dense {
 
 struct Range {
@@ -26,6 +28,22 @@ constexpr Range part_range(int total, int parts, int i, int multiple) {
 constexpr int threads_for(double work, double work_per_thread, int most) {
   return static_cast<int>(std::clamp(work / work_per_thread, 1.0, static_cast<double>(std::max(1, most))));
 }
+
+// A thread should have this many multiplications of reals, some twenty microseconds, to be worth waking.
+inline constexpr double kMultiplicationsPerThread = 1 << 21;
+
+// The number of threads, at most `most`, that an operation of level 3 pays for.
+template <Scalar T>
+constexpr int threads_for_products(double multiplications, int most) {
+  return threads_for(multiplications * (kIsComplex<T> ? 4 : 1), kMultiplicationsPerThread, most);
+}
+
+// The multiplications of an m by n product of k terms.
+constexpr double product_work(int m, int n, int k) { return static_cast<double>(m) * n * k; }
+
+// The multiplications that count when one triangle of a product is made, n by n with k terms: half of those there are,
+// because the parts of a triangle pack more than others for what they multiply.
+constexpr double triangle_work(int n, int k) { return 0.25 * n * n * k; }
 
 // A grid of row parts and column parts of an m-by-n matrix with at most `threads` cells, as square as it can be.
 struct Grid {

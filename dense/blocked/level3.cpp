@@ -67,8 +67,9 @@ class Workshop {
 
 // A whole product, cut into a grid.
 template <Scalar T>
-void multiply(const Product<T>& product, int threads) noexcept {
+void multiply(const Product<T>& product, int most_threads) noexcept {
   const bool is_small = kernels::is_small<T>(product.rows, product.columns, product.k);
+  const int threads = threads_for_products<T>(product_work(product.rows, product.columns, product.k), most_threads);
   if (threads == 1) return Workshop<T>(is_small).multiply(product);
   const Grid grid = make_grid(product.rows, product.columns, threads);
   base::parallel_for(grid.rows * grid.columns, threads, [&](int cell) {
@@ -115,9 +116,10 @@ void make_diagonal_real(T* c, int ldc, Range columns) noexcept {
 
 // One triangle of C <- beta C + sums of products, for `count` products, all with terms of C's size.
 template <Scalar T, class BetaFactor>
-void update_triangle(char uplo, bool is_hermitian, int n, BetaFactor beta, T* c, int ldc, int threads,
+void update_triangle(char uplo, bool is_hermitian, int n, BetaFactor beta, T* c, int ldc, int most_threads,
                      const Product<T>* products, int count) noexcept {
   const bool is_upper = uplo == 'U';
+  const int threads = threads_for_products<T>(count * triangle_work(n, products[0].k), most_threads);
   const bool is_small = kernels::is_small<T>(n, n, products[0].k);
   split_triangle(is_upper, n, threads, [&](Range columns) {
     const Workshop<T> workshop(is_small);
@@ -263,10 +265,11 @@ Triangular<T> triangular(bool is_left, char uplo, char transa, char diag, int or
 
 template <Scalar T, class Run>
 void run_triangular(char side, char uplo, char transa, char diag, int m, int n, T alpha, const T* a, int lda, T* b,
-                    int ldb, int threads, const Run& run) noexcept {
+                    int ldb, int most_threads, const Run& run) noexcept {
   if (m == 0 || n == 0) return;
   const bool is_left = side == 'L';
   const int vectors = is_left ? n : m, order = is_left ? m : n;
+  const int threads = threads_for_products<T>(product_work(vectors, order, order / 2), most_threads);
   const int parts = std::clamp((vectors + kRowTile - 1) / kRowTile, 1, threads);
   const bool is_small = kernels::is_small<T>(vectors, order, order / 2);
   base::parallel_for(parts, threads, [&](int i) {

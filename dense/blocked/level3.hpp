@@ -2,7 +2,8 @@
 // the sparse engine compute with.
 //
 // Matrices are column-major; options are capital letters, as published; sizes may be 0. Every function cuts its work
-// into parts for at most `threads` threads, and needs as many packing buffers reserved (KernelBuffer, dense/dense.hpp).
+// into parts for at most `threads` threads, fewer if it is small, and needs as many packing buffers reserved
+// (KernelBuffer, dense/dense.hpp).
 // It takes no other memory and cannot fail. Results have the same bits for any number of threads.
 //
 // Source: J. J. Dongarra, J. Du Croz, I. S. Duff, S. Hammarling, A set of level 3 Basic Linear Algebra Subprograms,
