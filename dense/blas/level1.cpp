@@ -32,7 +32,7 @@ int first_extreme(int n, const T* x, int incx, Better better) {
 }
 
 // For a few elements the loop is done before a kernel has begun.
-bool is_short(int n) { return 0 < n && n <= 8; }
+bool is_short(int n) { return 0 < n && n < 4; }
 
 bool are_contiguous(int incx, int incy) { return incx == 1 && incy == 1; }
 
@@ -56,22 +56,13 @@ void axpy(int n, T a, const T* x, int incx, T* y, int incy) {
 
 template <Scalar T>
 void copy(int n, const T* x, int incx, T* y, int incy) {
-  if (are_contiguous(incx, incy) && !is_short(n)) {
-    std::copy(x, x + std::max(n, 0), y);
-    return;
-  }
+  if (are_contiguous(incx, incy)) return kernels::copy(n, x, y);
   for_each_pair(n, x, incx, y, incy, [](const T& xi, T& yi) { yi = xi; });
 }
 
 template <Scalar T>
 void swap(int n, T* x, int incx, T* y, int incy) {
-  if (are_contiguous(incx, incy) && !is_short(n)) {
-    // As reals, which the compiler exchanges by whole registers.
-    constexpr int kParts = kIsComplex<T> ? 2 : 1;
-    auto* const first = reinterpret_cast<RealOf<T>*>(x);
-    std::swap_ranges(first, first + std::ptrdiff_t{kParts} * std::max(n, 0), reinterpret_cast<RealOf<T>*>(y));
-    return;
-  }
+  if (are_contiguous(incx, incy)) return kernels::swap(n, x, y);
   for_each_pair(n, x, incx, y, incy, [](T& xi, T& yi) { std::swap(xi, yi); });
 }
 
@@ -112,24 +103,11 @@ RealOf<T> nrm2(int n, const T* x, int incx) {
 template <Scalar T>
 RealOf<T> asum(int n, const T* x, int incx) {
   if (n <= 0 || incx <= 0) return 0;
-  if (is_short(n)) {
-    RealOf<T> sum = 0;
-    for (int i = 0; i < n; ++i) sum += magnitude(x[static_cast<std::ptrdiff_t>(i) * incx]);
-    return sum;
-  }
-  constexpr int kSums = 16;  // independent, so that additions overlap and the compiler can vectorise them
-  RealOf<T> sums[kSums] = {};
-  int i = 0;
-  if (incx == 1) {
-    for (; i + kSums <= n; i += kSums) {
-      for (int j = 0; j < kSums; ++j) sums[j] += magnitude(x[i + j]);
-    }
-  }
-  for (; i < n; ++i) sums[i % kSums] += magnitude(x[static_cast<std::ptrdiff_t>(i) * incx]);
-  for (int half = kSums / 2; half > 0; half /= 2) {
-    for (int j = 0; j < half; ++j) sums[j] += sums[j + half];
-  }
-  return sums[0];
+  constexpr std::ptrdiff_t kParts = kIsComplex<T> ? 2 : 1;
+  if (incx == 1) return kernels::sum_of_magnitudes(kParts * n, reinterpret_cast<const float*>(x));
+  double sum = 0;
+  for (int i = 0; i < n; ++i) sum += double{magnitude(x[static_cast<std::ptrdiff_t>(i) * incx])};
+  return static_cast<RealOf<T>>(sum);
 }
 
 template <Scalar T, class Factor>

@@ -16,8 +16,8 @@ namespace {
 using Complex = std::complex<float>;
 using DoubleComplex = std::complex<double>;
 
-// A thread should have this many matrix elements, about 1 MiB of floats, to be worth waking.
-constexpr double kElementsPerThread = 1 << 18;
+// A thread should have this many matrix elements, 1.5 MiB of floats, to be worth waking.
+constexpr double kElementsPerThread = 3 << 17;
 
 // Strided vectors go through copies of so many elements at a time, on the stack.
 constexpr int kChunk = 512;
@@ -307,6 +307,7 @@ void her(char uplo, int n, RealOf<T> alpha, const T* x, int incx, T* a, int lda)
     T* const columns = a + static_cast<std::ptrdiff_t>(first) * lda;
     kernels::add_hermitian_square(is_upper, count, alpha, xi.data(), columns + first, lda);
     const Range rows = beside(is_upper, n, first, count);
+    if (rows.count == 0) return;
     in_chunks(incx == 1, rows.count, [&](int i, int height) {
       const Gathered<T> along(xs.from(rows.first + i), height);
       kernels::add_outer_product(true, height, count, T(alpha), along.data(), xi.data(), 1, columns + rows.first + i,
@@ -333,6 +334,7 @@ void her2(char uplo, int n, T alpha, const T* x, int incx, const T* y, int incy,
     T* const columns = a + static_cast<std::ptrdiff_t>(first) * lda;
     kernels::add_hermitian_pair(is_upper, count, alpha, xi.data(), yi.data(), columns + first, lda);
     const Range rows = beside(is_upper, n, first, count);
+    if (rows.count == 0) return;
     in_chunks(is_contiguous, rows.count, [&](int i, int height) {
       const Gathered<T> x_along(xs.from(rows.first + i), height), y_along(ys.from(rows.first + i), height);
       T* const block = columns + rows.first + i;

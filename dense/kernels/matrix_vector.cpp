@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <complex>
+#include <type_traits>
 
 #include "dense/kernels/column_kernels.hpp"
 #include "dense/kernels/kernel_set.hpp"
@@ -32,6 +33,20 @@ struct Beside {
   Beside(bool is_upper, int n, int j) noexcept : first(is_upper ? 0 : j + 1), count(is_upper ? j : n - j - 1) {}
   int first, count;
 };
+
+// x / y. For complex floats through doubles, in which nothing overflows or underflows on the way: a few instructions,
+// where the operator of std::complex is a call. It is left for what is not finite, and for y = 0.
+template <Scalar T>
+T quotient(T x, T y) noexcept {
+  if constexpr (std::is_same_v<T, Complex>) {
+    const double re = y.real(), im = y.imag(), scale = 1 / (re * re + im * im);
+    const Complex result(static_cast<float>((x.real() * re + x.imag() * im) * scale),
+                         static_cast<float>((x.imag() * re - x.real() * im) * scale));
+    const float zero_or_nan = result.real() * 0 + result.imag() * 0;
+    if (zero_or_nan == 0) return result;
+  }
+  return x / y;
+}
 
 // Calls visit(j) for the columns of a triangle, from the first on or from the last.
 template <class Visit>
@@ -148,8 +163,8 @@ void add_hermitian_pair(bool is_upper, int n, T alpha, const T* x, const T* y, T
     const Stored stored(is_upper, n, j);
     T* const aj = column(a, lda, j);
     if (x[j] != T{} || y[j] != T{}) {
-      axpy(stored.count, product(alpha, maybe_conjugate<true>(y[j])), x + stored.first, aj + stored.first);
-      axpy(stored.count, maybe_conjugate<true>(product(alpha, x[j])), y + stored.first, aj + stored.first);
+      axpy_pair(stored.count, product(alpha, maybe_conjugate<true>(y[j])), x + stored.first,
+                maybe_conjugate<true>(product(alpha, x[j])), y + stored.first, aj + stored.first);
     }
     aj[j] = std::real(aj[j]);
   }
@@ -182,7 +197,7 @@ void solve_triangle(Triangle shape, int n, const T* a, int lda, T* x) noexcept {
     } else if (x[j] == T{}) {
       return;
     }
-    if (!shape.has_unit_diagonal) x[j] /= maybe_conjugate(shape.is_conjugated, aj[j]);
+    if (!shape.has_unit_diagonal) x[j] = quotient(x[j], maybe_conjugate(shape.is_conjugated, aj[j]));
     if (!shape.is_transposed) axpy(beside.count, -x[j], aj + beside.first, x + beside.first);
   });
 }

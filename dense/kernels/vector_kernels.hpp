@@ -1,10 +1,12 @@
 // Loops over vectors of unit stride in registers of 16 bytes.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <complex>
 #include <cstddef>
+#include <utility>
 
 #include "base/lanes.hpp"
 
@@ -36,12 +38,47 @@ void axpy(std::ptrdiff_t n, T s, const T* x, T* y) noexcept {
     store(y + i, first);
     store(y + i + kStep, second);
   }
+  if (i + kStep <= n) {
+    store(y + i, load(y + i) + times(load(x + i)));
+    i += kStep;
+  }
   for (; i < n; ++i) y[i] += product(s, x[i]);
 }
 
-// x^T y or x^H y
+// y <- y + s x + t z
+template <Scalar T>
+void axpy_pair(std::ptrdiff_t n, T s, const T* x, T t, const T* z, T* y) noexcept {
+  constexpr int kStep = kElements<T>;
+  const Factor<T> times_s(s), times_t(t);
+  std::ptrdiff_t i = 0;
+  for (; i + kStep <= n; i += kStep) store(y + i, load(y + i) + times_s(load(x + i)) + times_t(load(z + i)));
+  for (; i < n; ++i) y[i] = y[i] + product(s, x[i]) + product(t, z[i]);
+}
+
+template <Scalar T>
+void copy(std::ptrdiff_t n, const T* x, T* y) noexcept {
+  constexpr std::ptrdiff_t kStep = kElements<T>, kShort = 32 * kStep;  // beyond, the library's copy is as fast
+  if (n > kShort) return static_cast<void>(std::copy_n(x, n, y));
+  std::ptrdiff_t i = 0;
+  for (; i + kStep <= n; i += kStep) store(y + i, load(x + i));
+  for (; i < n; ++i) y[i] = x[i];
+}
+
+template <Scalar T>
+void swap(std::ptrdiff_t n, T* x, T* y) noexcept {
+  constexpr int kStep = kElements<T>;
+  std::ptrdiff_t i = 0;
+  for (; i + kStep <= n; i += kStep) {
+    const auto xi = load(x + i), yi = load(y + i);
+    store(x + i, yi);
+    store(y + i, xi);
+  }
+  for (; i < n; ++i) std::swap(x[i], y[i]);
+}
+
+// x^T y or x^H y. Inlined, for 32-bit code returns a float by way of memory and the x87.
 template <bool kConjugate, Scalar T>
-T dot(std::ptrdiff_t n, const T* x, const T* y) noexcept {
+[[gnu::always_inline]] inline T dot(std::ptrdiff_t n, const T* x, const T* y) noexcept {
   constexpr int kStep = kElements<T>, kSums = kIsComplex<T> ? 2 : 4;  // so many that additions overlap
   ProductSum<T> sum0, sum1, sum2, sum3;                               // an array would not stay in registers
   std::ptrdiff_t i = 0;
@@ -63,8 +100,9 @@ T dot(std::ptrdiff_t n, const T* x, const T* y) noexcept {
 }
 
 template <Scalar T>
-T dot(bool conjugate, std::ptrdiff_t n, const T* x, const T* y) noexcept {
-  return conjugate ? dot<true>(n, x, y) : dot<false>(n, x, y);
+[[gnu::always_inline]] inline T dot(bool conjugate, std::ptrdiff_t n, const T* x, const T* y) noexcept {
+  if (kIsComplex<T> && conjugate) return dot<true>(n, x, y);
+  return dot<false>(n, x, y);
 }
 
 // x <- c x + s y and y <- c y - s x, for real c and s.
@@ -87,6 +125,27 @@ void rot(std::ptrdiff_t n, T* x, T* y, RealOf<T> c, RealOf<T> s) noexcept {
 
 inline float magnitude(float x) noexcept { return std::abs(x); }
 inline float magnitude(std::complex<float> x) noexcept { return std::abs(x.real()) + std::abs(x.imag()); }
+
+// The sum of |x_i|, in sums that do not wait for each other.
+inline float sum_of_magnitudes(std::ptrdiff_t n, const float* x) noexcept {
+  constexpr int kStep = kElements<float>;
+  const auto at = [x](std::ptrdiff_t i) {
+    const auto value = load(x + i);
+    return value > -value ? value : -value;
+  };
+  Lanes<float> sum0{}, sum1{}, sum2{}, sum3{};
+  std::ptrdiff_t i = 0;
+  for (; i + 4 * kStep <= n; i += 4 * kStep) {
+    sum0 += at(i);
+    sum1 += at(i + kStep);
+    sum2 += at(i + 2 * kStep);
+    sum3 += at(i + 3 * kStep);
+  }
+  for (; i + kStep <= n; i += kStep) sum0 += at(i);
+  float total = sum_of_lanes<float>((sum0 + sum1) + (sum2 + sum3));
+  for (; i < n; ++i) total += std::abs(x[i]);
+  return total;
+}
 
 // The magnitudes of the elements in four lanes; those of complex numbers stand there twice.
 template <Scalar T>
