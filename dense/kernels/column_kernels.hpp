@@ -3,26 +3,12 @@
 #pragma once
 
 #include <array>
-#include <type_traits>
 
+#include "base/column_groups.hpp"
 #include "base/lanes.hpp"
 #include "dense/matrix.hpp"
 
 namespace quorin::dense {
-
-// The columns that are worked on at once, so that sums and factors stay in the eight registers of 32-bit processors.
-template <Scalar T>
-inline constexpr int kColumnsAtOnce = kIsComplex<T> ? 2 : 4;
-
-// Calls body(count, k) for groups of columns k, ..., k + count - 1, `count` being a constant.
-template <Scalar T, class Body>
-void for_column_groups(int columns, const Body& body) {
-  int k = 0;
-  for (; k + kColumnsAtOnce<T> <= columns; k += kColumnsAtOnce<T>) {
-    body(std::integral_constant<int, kColumnsAtOnce<T>>{}, k);
-  }
-  for (; k < columns; ++k) body(std::integral_constant<int, 1>{}, k);
-}
 
 // x^H c_k for the first kColumns columns of c.
 template <int kColumns, Scalar T>

@@ -22,6 +22,8 @@ class FactorTask {
         rule(pivot_rule),
         panels(factor_panels),
         order(pivot_order),
+        is_conjugated(rule.factorization == Factorization::kLLT || rule.factorization == Factorization::kLDLH),
+        has_diagonal(rule.factorization == Factorization::kLDLT || rule.factorization == Factorization::kLDLH),
         threads(most_threads),
         progress_(progress),
         failed_supernode_(plan.supernodes()) {}
@@ -53,6 +55,8 @@ class FactorTask {
   const PivotRule<T> rule;
   const Panels<T>& panels;
   const PivotOrder order;
+  // Of symmetric panels: whether the upper factor is L^H, not L^T, and whether a D stands between the two.
+  const bool is_conjugated, has_diagonal;
   const int threads;
 
  private:

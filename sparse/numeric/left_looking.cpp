@@ -18,10 +18,6 @@ namespace {
 
 std::size_t to_size(std::int64_t n) noexcept { return static_cast<std::size_t>(n); }
 
-// Updates of so few terms, or with so few multiplications, are made by loops.
-constexpr int kFewTerms = 8;
-constexpr double kFewProducts = 2000;
-
 // Scalars that an update is made in before it is scattered. An update that does not fit is made in slices of columns.
 template <Scalar T>
 std::size_t buffer_size(const Plan& plan, PanelKind kind, int threads) noexcept {
@@ -73,14 +69,7 @@ struct Span {
 template <Scalar T>
 class LeftLooking {
  public:
-  explicit LeftLooking(FactorTask<T>& task) noexcept
-      : task_(task),
-        plan_(task.plan),
-        kind_(task.panels.kind()),
-        is_conjugated_(task.rule.factorization == Factorization::kLLT ||
-                       task.rule.factorization == Factorization::kLDLH),
-        has_diagonal_(task.rule.factorization == Factorization::kLDLT ||
-                      task.rule.factorization == Factorization::kLDLH) {}
+  explicit LeftLooking(FactorTask<T>& task) noexcept : task_(task), plan_(task.plan), kind_(task.panels.kind()) {}
 
   static std::int64_t bytes(const Plan& plan, Factorization factorization, int threads) noexcept {
     return static_cast<std::int64_t>(4 * to_size(plan.supernodes()) * sizeof(int) +
@@ -218,7 +207,7 @@ class LeftLooking {
     const T* const l = source + k;
     T* const buffer = worker.buffer.data();
     const std::size_t size = worker.buffer.size();
-    if (has_diagonal_) return update_symmetric(d, source, l, height, k, span, target, worker);
+    if (task_.has_diagonal) return update_symmetric(d, source, l, height, k, span, target, worker);
     if (kind_ == PanelKind::kSymmetric) {
       return subtract(l, l, height, height, k, span, span.first, target, 0, buffer, size, places);
     }
@@ -265,7 +254,7 @@ class LeftLooking {
           const int count = std::min(kFewTerms, k - first);
           const T* const terms = x + begin + static_cast<std::ptrdiff_t>(first) * ldx;
           for (int j = 0; j < count; ++j) {
-            row[j] = conjugate_if(is_conjugated_, y[c + static_cast<std::ptrdiff_t>(first + j) * ldy]);
+            row[j] = conjugate_if(task_.is_conjugated, y[c + static_cast<std::ptrdiff_t>(first + j) * ldy]);
           }
           if (is_contiguous) {
             subtract_multiples(m - begin, count, row, terms, ldx, column(c) + places[begin]);
@@ -297,7 +286,7 @@ class LeftLooking {
   // C <- beta C - X Y', X the rows [from, m), Y the rows [p, q). Of symmetric panels the lower trapezoid.
   void multiply(const T* x, const T* y, int ldx, int ldy, int k, int p, int q, int m, int from, T beta, T* c,
                 int ldc) const noexcept {
-    const char prime = is_conjugated_ ? 'C' : 'T';
+    const char prime = task_.is_conjugated ? 'C' : 'T';
     const int square = kind_ == PanelKind::kSymmetric ? q - p : 0;
     if (square > 0) {
       dense::blocked::gemmt('L', 'N', prime, square, k, T{-1}, x + p, ldx, y + p, ldy, beta, c, ldc);
@@ -311,7 +300,6 @@ class LeftLooking {
   FactorTask<T>& task_;
   const Plan& plan_;
   const PanelKind kind_;
-  const bool is_conjugated_, has_diagonal_;
 
   // For each supernode the list of those that update it next, by links; and how many rows of a supernode's have been
   // dealt with.

@@ -19,10 +19,6 @@ namespace {
 
 std::size_t to_size(std::int64_t n) noexcept { return static_cast<std::size_t>(n); }
 
-// Updates of so few terms, or with so few multiplications, are made by loops.
-constexpr int kFewTerms = 8;
-constexpr double kFewProducts = 2000;
-
 // The subtrees that are cut off for threads, and the elements of the stacks of update matrices.
 class Division {
  public:
@@ -141,10 +137,6 @@ class Multifrontal {
       : task_(task),
         plan_(task.plan),
         kind_(task.panels.kind()),
-        is_conjugated_(task.rule.factorization == Factorization::kLLT ||
-                       task.rule.factorization == Factorization::kLDLH),
-        has_diagonal_(task.rule.factorization == Factorization::kLDLT ||
-                      task.rule.factorization == Factorization::kLDLH),
         tree_threads_(tree_threads(task.threads, task.panels.store())),
         division_(plan_, tree_threads_) {}
 
@@ -275,7 +267,7 @@ class Multifrontal {
     if (kind_ == PanelKind::kUnsymmetric) {
       return multiply(front, l, l + m, height, 0, m, threads);
     }
-    if (!has_diagonal_) return multiply(front, l, l, height, 0, m, threads);
+    if (!task_.has_diagonal) return multiply(front, l, l, height, 0, m, threads);
     // W = L D, for some rows at a time.
     T* const w = worker.buffer.data();
     const int most = static_cast<int>(std::clamp<std::size_t>(worker.buffer.size() / to_size(k), 1, to_size(m) + 1));
@@ -298,14 +290,14 @@ class Multifrontal {
         for (int first = 0; first < k; first += kFewTerms) {
           const int count = std::min(kFewTerms, k - first);
           for (int j = 0; j < count; ++j) {
-            row[j] = conjugate_if(is_conjugated_, y[c + static_cast<std::ptrdiff_t>(first + j) * ldy]);
+            row[j] = conjugate_if(task_.is_conjugated, y[c + static_cast<std::ptrdiff_t>(first + j) * ldy]);
           }
           subtract_multiples(m - begin, count, row, l + begin + first * front.height, front.height, column(c) + begin);
         }
       }
       return;
     }
-    const char prime = is_conjugated_ ? 'C' : 'T';
+    const char prime = task_.is_conjugated ? 'C' : 'T';
     const int square = is_symmetric ? q - p : 0, begin = is_symmetric ? q : 0;
     if (square > 0) {
       dense::blocked::gemmt('L', 'N', prime, square, k, T{-1}, l + p, height, y + p, ldy, T{1}, column(p) + p, m,
@@ -320,7 +312,6 @@ class Multifrontal {
   FactorTask<T>& task_;
   const Plan& plan_;
   const PanelKind kind_;
-  const bool is_conjugated_, has_diagonal_;
   const int tree_threads_;
   const Division division_;
 
