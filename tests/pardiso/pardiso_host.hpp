@@ -49,6 +49,17 @@ inline bool stores_upper(int mtype) { return mtype == 2 || std::abs(mtype) == 4 
 inline bool is_hermitian(int mtype) { return std::abs(mtype) == 4; }
 inline bool is_complex(int mtype) { return mtype == 3 || std::abs(mtype) == 4 || mtype == 6 || mtype == 13; }
 
+// Calls action.template operator()<T>() for the number types of that kind, of both precisions or of double alone.
+template <class Action>
+void in_double(int mtype, const Action& action) {
+  is_complex(mtype) ? action.template operator()<Complex>() : action.template operator()<double>();
+}
+template <class Action>
+void in_both_precisions(int mtype, const Action& action) {
+  in_double(mtype, action);
+  is_complex(mtype) ? action.template operator()<std::complex<float>>() : action.template operator()<float>();
+}
+
 // Compressed rows, one-based, as hosts of that mtype give them.
 struct Matrix {
   int mtype = 11;
@@ -123,6 +134,17 @@ class Host {
     return error;
   }
   int release() { return call(-1); }
+
+  // Calls visit(i, j, k) for each entry, which is a[k], rows and columns from 0.
+  template <class Visit>
+  void for_each_entry(const Visit& visit) const {
+    for (int i = 0; i + 1 < static_cast<int>(ia.size()); ++i) {
+      const int first = ia[static_cast<std::size_t>(i)] - ia[0], last = ia[static_cast<std::size_t>(i) + 1] - ia[0];
+      for (auto k = static_cast<std::size_t>(first); k < static_cast<std::size_t>(last); ++k) {
+        visit(i, ja[k] - ia[0], k);
+      }
+    }
+  }
 
   // The entry with that number in the interface, from 1.
   std::int32_t& cell(std::size_t number) { return iparm[number - 1]; }

@@ -216,13 +216,7 @@ TEST_F(Handles, GoThroughAFile) {
   for (const System& system : systems()) {
     const auto keep = [this](auto& host) { return store(host); };
     const auto bring = [this](auto& host) { return restore(host); };
-    if (is_complex(system.matrix.mtype)) {
-      RoundTrip<std::complex<double>>::run(system, keep, bring);
-      RoundTrip<std::complex<float>>::run(system, keep, bring);
-    } else {
-      RoundTrip<double>::run(system, keep, bring);
-      RoundTrip<float>::run(system, keep, bring);
-    }
+    in_both_precisions(system.matrix.mtype, [&]<class T> { RoundTrip<T>::run(system, keep, bring); });
   }
   EXPECT_EQ(remove(), 0);
   EXPECT_EQ(count(), 0);

@@ -38,13 +38,7 @@ void expect_solved(const Matrix& A, const char* name, int matching = -1) {
 
 void expect_solved_in_all_types(SparseMatrix S, const char* name, std::initializer_list<int> types, int matching = -1) {
   for (const int mtype : types) {
-    if (is_complex(mtype)) {
-      expect_solved<std::complex<double>>(matrix_of(S, mtype), name, matching);
-      expect_solved<std::complex<float>>(matrix_of(S, mtype), name, matching);
-    } else {
-      expect_solved<double>(matrix_of(S, mtype), name, matching);
-      expect_solved<float>(matrix_of(S, mtype), name, matching);
-    }
+    in_both_precisions(mtype, [&]<class T> { expect_solved<T>(matrix_of(S, mtype), name, matching); });
   }
 }
 
@@ -195,11 +189,7 @@ TEST(Matrices, FromApplications) {
     SCOPED_TRACE(S.name);
     const int general = S.is_complex ? 13 : 11;
     const auto solve = [&](int mtype, int matching) {
-      if (S.is_complex) {
-        expect_solved<std::complex<double>>(matrix_of(S, mtype), S.name.c_str(), matching);
-      } else {
-        expect_solved<double>(matrix_of(S, mtype), S.name.c_str(), matching);
-      }
+      in_double(mtype, [&]<class T> { expect_solved<T>(matrix_of(S, mtype), S.name.c_str(), matching); });
     };
     Host<Complex> probe(matrix_of(S, 13));
     const int outcome = probe.call(11);

@@ -8,37 +8,20 @@ namespace {
 
 // A call whose every argument may be replaced.
 struct Arguments {
-  explicit Arguments(Host<double>& host)
-      : pt(host.pt.data()),
-        maxfct(&host.maxfct),
-        mnum(&host.mnum),
-        mtype(&host.mtype),
-        n(&host.n),
-        a(host.a.data()),
-        ia(host.ia.data()),
-        ja(host.ja.data()),
-        perm(host.perm.data()),
-        nrhs(&host.nrhs),
-        iparm(host.iparm.data()),
-        msglvl(&host.msglvl),
-        b(host.b.data()),
-        x(host.x.data()) {}
-
-  int call(std::int32_t phase) {
+  int call(std::int32_t phase) const {
     std::int32_t error = 77;
     PARDISO(pt, maxfct, mnum, mtype, &phase, n, a, ia, ja, perm, nrhs, iparm, msglvl, b, x, &error);
     return error;
   }
 
-  void** pt;
-  const std::int32_t *maxfct, *mnum, *mtype, *n;
-  const double* a;
-  const std::int32_t *ia, *ja;
-  std::int32_t* perm;
-  const std::int32_t* nrhs;
-  std::int32_t* iparm;
-  const std::int32_t* msglvl;
-  double *b, *x;
+  explicit Arguments(Host<double>& h) : host(h) {}
+  Host<double>& host;
+  void** pt = host.pt.data();
+  const std::int32_t *maxfct = &host.maxfct, *mnum = &host.mnum, *mtype = &host.mtype, *n = &host.n;
+  const double* a = host.a.data();
+  const std::int32_t *ia = host.ia.data(), *ja = host.ja.data(), *nrhs = &host.nrhs, *msglvl = &host.msglvl;
+  std::int32_t *perm = host.perm.data(), *iparm = host.iparm.data();
+  double *b = host.b.data(), *x = host.x.data();
 };
 
 constexpr int kPhases[] = {11, 12, 13, 22, 23, 33, 331, 332, 333, 0, -1};

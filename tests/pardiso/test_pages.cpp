@@ -81,13 +81,7 @@ TEST(Pages, EachPhaseTouchesOnlyWhatIsItsOwn) {
   for (const System& system : systems()) {
     for (const Edge edge : {Edge::kFront, Edge::kBack}) {
       for (const int base : {0, 1}) {
-        if (is_complex(system.matrix.mtype)) {
-          expect_solved_on_pages<std::complex<double>>(system, base, edge);
-          expect_solved_on_pages<std::complex<float>>(system, base, edge);
-        } else {
-          expect_solved_on_pages<double>(system, base, edge);
-          expect_solved_on_pages<float>(system, base, edge);
-        }
+        in_both_precisions(system.matrix.mtype, [&]<class T> { expect_solved_on_pages<T>(system, base, edge); });
       }
     }
   }

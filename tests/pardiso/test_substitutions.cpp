@@ -40,11 +40,7 @@ TEST(Substitutions, MakeASolution) {
   for (const System& system : systems()) {
     for (const int operation : {0, 1, 2}) {
       for (const int pivoting : {0, 1}) {
-        if (is_complex(system.matrix.mtype)) {
-          compose<std::complex<double>>(system, operation, pivoting);
-        } else {
-          compose<double>(system, operation, pivoting);
-        }
+        in_double(system.matrix.mtype, [&]<class T> { compose<T>(system, operation, pivoting); });
       }
     }
   }
@@ -161,13 +157,10 @@ TEST(Substitutions, AfterARefactorizationWithOtherLargeEntries) {
   Host<double> host(A);
   ASSERT_EQ(host.call(13), 0);
   EXPECT_EQ(host.cell(14), 0);
-  for (int i = 0; i < n; ++i) {
-    for (auto k = static_cast<std::size_t>(host.ia[static_cast<std::size_t>(i)] - 1);
-         k < static_cast<std::size_t>(host.ia[static_cast<std::size_t>(i) + 1] - 1); ++k) {
-      if (host.ja[k] == i + 1) host.a[k] = 1e-30;
-      if (host.ja[k] == (i + 1) % n + 1) host.a[k] = 10.0;
-    }
-  }
+  host.for_each_entry([&](int i, int j, std::size_t k) {
+    if (j == i) host.a[k] = 1e-30;
+    if (j == (i + 1) % n) host.a[k] = 10.0;
+  });
   ASSERT_EQ(host.call(23), 0);
   EXPECT_EQ(host.cell(14), 0);
   EXPECT_LT(backward_error(A, host, host.b, host.x), 1e-14);

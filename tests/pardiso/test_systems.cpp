@@ -48,13 +48,7 @@ void solve_all(const System& system, int base) {
 TEST(Systems, HaveTheirSolutions) {
   for (const System& system : systems()) {
     for (const int base : {0, 1}) {
-      if (is_complex(system.matrix.mtype)) {
-        solve_all<std::complex<double>>(system, base);
-        solve_all<std::complex<float>>(system, base);
-      } else {
-        solve_all<double>(system, base);
-        solve_all<float>(system, base);
-      }
+      in_both_precisions(system.matrix.mtype, [&]<class T> { solve_all<T>(system, base); });
     }
   }
 }

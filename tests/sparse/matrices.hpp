@@ -1,7 +1,10 @@
 // Graphs and matrices for the tests: grids, random ones, and those that come with the dependencies.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
+#include <complex>
 #include <fstream>
 #include <random>
 #include <stdexcept>
@@ -13,6 +16,8 @@
 #include "tests/support/sparse.hpp"
 
 namespace quorin::sparse::test {
+
+using Scalars = testing::Types<float, double, std::complex<float>, std::complex<double>>;
 
 struct Matrix {
   std::string name;

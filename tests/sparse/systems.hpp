@@ -17,7 +17,30 @@ struct Kind {
   Factorization factorization;
   Pivoting pivoting;
   Symmetry symmetry;
+
+  FactorOptions options(Method method = Method::kLeftLooking, int threads = 1) const {
+    return {.factorization = factorization, .method = method, .pivoting = pivoting, .threads = threads};
+  }
+  bool is_definite() const { return factorization == Factorization::kLLT; }
 };
+constexpr Kind kKinds[] = {
+    {Factorization::kLLT, Pivoting::kInOrder, Symmetry::kHermitian},
+    {Factorization::kLDLH, Pivoting::kInOrder, Symmetry::kHermitian},
+    {Factorization::kLDLH, Pivoting::kDiagonal, Symmetry::kHermitian},
+    {Factorization::kLDLH, Pivoting::kBunchKaufman, Symmetry::kHermitian},
+    {Factorization::kLDLT, Pivoting::kInOrder, Symmetry::kSymmetric},
+    {Factorization::kLDLT, Pivoting::kDiagonal, Symmetry::kSymmetric},
+    {Factorization::kLDLT, Pivoting::kBunchKaufman, Symmetry::kSymmetric},
+    {Factorization::kLU, Pivoting::kInOrder, Symmetry::kGeneral},
+    {Factorization::kLU, Pivoting::kPartial, Symmetry::kGeneral},
+    {Factorization::kLU, Pivoting::kComplete, Symmetry::kGeneral},
+    {Factorization::kLU, Pivoting::kPartial, Symmetry::kSymmetric},
+    {Factorization::kLU, Pivoting::kComplete, Symmetry::kHermitian},
+};
+inline std::string text(const Kind& kind) { return "kind " + std::to_string(&kind - kKinds); }
+
+constexpr Operation kOperations[] = {Operation::kPlain, Operation::kTransposed, Operation::kAdjoint,
+                                     Operation::kConjugated};
 
 template <Scalar T>
 struct System {
@@ -76,10 +99,10 @@ double backward_error(const System<T>& A, Operation operation, const T* x, const
   return r == 0 ? 0 : static_cast<double>(r / (norm * x_norm + b_norm));
 }
 
-// From [-1, 1], or the square of it.
+// From [-1, 1], or the square of it, with so few bits that sums of a few are exact.
 template <Scalar T>
 T random_value(std::mt19937& numbers) {
-  const auto next = [&] { return static_cast<RealOf<T>>(static_cast<int>(numbers() % 20001) - 10000) / 10000; };
+  const auto next = [&] { return static_cast<RealOf<T>>(static_cast<int>(numbers() % 16385) - 8192) / 8192; };
   if constexpr (kIsComplex<T>) {
     const RealOf<T> re = next();
     return {re, next()};

@@ -2,41 +2,13 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
-#include <functional>
-
-#if !defined(_WIN32)
-#include <pthread.h>
-#endif
 
 #include "tests/sparse/systems.hpp"
 
 namespace quorin::sparse::test {
 namespace {
 
-constexpr Operation kOperations[] = {Operation::kPlain, Operation::kTransposed, Operation::kAdjoint,
-                                     Operation::kConjugated};
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-#define QUORIN_IS_SANITIZED 1
-#else
-#define QUORIN_IS_SANITIZED 0
-#endif
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
-
-constexpr Kind kKinds[] = {
-    {Factorization::kLLT, Pivoting::kInOrder, Symmetry::kHermitian},
-    {Factorization::kLDLH, Pivoting::kInOrder, Symmetry::kHermitian},
-    {Factorization::kLDLH, Pivoting::kDiagonal, Symmetry::kHermitian},
-    {Factorization::kLDLH, Pivoting::kBunchKaufman, Symmetry::kHermitian},
-    {Factorization::kLDLT, Pivoting::kInOrder, Symmetry::kSymmetric},
-    {Factorization::kLDLT, Pivoting::kDiagonal, Symmetry::kSymmetric},
-    {Factorization::kLDLT, Pivoting::kBunchKaufman, Symmetry::kSymmetric},
-    {Factorization::kLU, Pivoting::kInOrder, Symmetry::kGeneral},
-    {Factorization::kLU, Pivoting::kPartial, Symmetry::kGeneral},
-    {Factorization::kLU, Pivoting::kComplete, Symmetry::kGeneral},
-    {Factorization::kLU, Pivoting::kPartial, Symmetry::kSymmetric},
-    {Factorization::kLU, Pivoting::kPartial, Symmetry::kHermitian},
-};
-std::string text(const Kind& kind) { return "kind " + std::to_string(&kind - kKinds); }
 
 Matrix complete(int n) {
   Edges edges(n);
@@ -79,7 +51,6 @@ std::vector<Matrix> patterns() {
 
 template <class T>
 class Factors : public testing::Test {};
-using Scalars = testing::Types<float, double, std::complex<float>, std::complex<double>>;
 TYPED_TEST_SUITE(Factors, Scalars);
 
 TYPED_TEST(Factors, SolveForEveryPatternKindAndOperation) {
@@ -89,11 +60,9 @@ TYPED_TEST(Factors, SolveForEveryPatternKindAndOperation) {
     SCOPED_TRACE(pattern.name);
     for (const Kind& kind : kKinds) {
       SCOPED_TRACE(text(kind));
-      const bool is_definite = kind.factorization == Factorization::kLLT;
-      const System<T> A = dominant_system<T>(pattern, kind.symmetry, is_definite, 1.1, ++seed);
+      const System<T> A = dominant_system<T>(pattern, kind.symmetry, kind.is_definite(), 1.1, ++seed);
       Solved<T> solved(A);
-      const FactorOptions options{.factorization = kind.factorization, .pivoting = kind.pivoting};
-      ASSERT_EQ(solved.compute(options), FactorOutcome::kDone);
+      ASSERT_EQ(solved.compute(kind.options()), FactorOutcome::kDone);
       EXPECT_EQ(solved.factor.report().pivots.perturbed, 0);
       for (const Operation operation : kOperations) {
         for (const int nrhs : {1, 3, 5, 37}) {
@@ -120,8 +89,7 @@ TYPED_TEST(Factors, ExchangeInsideADiagonalBlock) {
               kind.pivoting == Pivoting::kBunchKaufman && e.row % 3 != 0 ? T{} : T{1} / T(static_cast<RealOf<T>>(n));
       }
       Solved<T> solved(A);
-      const FactorOptions options{.factorization = kind.factorization, .pivoting = kind.pivoting};
-      ASSERT_EQ(solved.compute(options), FactorOutcome::kDone);
+      ASSERT_EQ(solved.compute(kind.options()), FactorOutcome::kDone);
       for (const Operation operation : kOperations) {
         EXPECT_LE(solved.error(operation, 1), 10 * tolerance<T>(n));
         EXPECT_LE(solved.error(operation, 7), 10 * tolerance<T>(n));
@@ -288,8 +256,7 @@ TYPED_TEST(Factors, RefuseWhatIsNotFinite) {
       for (const std::size_t k : {std::size_t{0}, A.entries.size() / 2, A.entries.size() - 1}) {
         Solved<T> solved(A);
         solved.values[k] = T(static_cast<RealOf<T>>(value));
-        const FactorOptions options{.factorization = kind.factorization, .pivoting = kind.pivoting};
-        EXPECT_EQ(solved.compute(options), FactorOutcome::kNotFinite);
+        EXPECT_EQ(solved.compute(kind.options()), FactorOutcome::kNotFinite);
       }
     }
     // An overflow on the way.
@@ -299,7 +266,7 @@ TYPED_TEST(Factors, RefuseWhatIsNotFinite) {
           std::numeric_limits<RealOf<T>>::max() * RealOf<T>{0.7F} * (e.row == e.column ? T{1} / T{1 << 20} : T{1});
     }
     Solved<T> solved(huge);
-    const FactorOutcome outcome = solved.compute({.factorization = kind.factorization, .pivoting = kind.pivoting});
+    const FactorOutcome outcome = solved.compute(kind.options());
     EXPECT_NE(outcome, FactorOutcome::kOutOfMemory) << text(kind);
   }
 }
@@ -309,15 +276,14 @@ TYPED_TEST(Factors, HaveTheSameBitsOnAnyNumberOfThreads) {
   for (const Matrix& pattern : {grid(60, 55, 1, false), grid(13, 12, 11, false)}) {
     for (const Kind& kind : kKinds) {
       SCOPED_TRACE(text(kind));
-      const System<T> A = dominant_system<T>(pattern, kind.symmetry, kind.factorization == Factorization::kLLT, 1.1, 9);
+      const System<T> A = dominant_system<T>(pattern, kind.symmetry, kind.is_definite(), 1.1, 9);
       Solved<T> solved(A);
       std::mt19937 numbers(3);
       std::vector<T> b(static_cast<std::size_t>(A.n) * 40);
       for (T& value : b) value = random_value<T>(numbers);
       std::vector<T> first;
       for (const int threads : {1, 2, 3, 8}) {
-        const FactorOptions options{.factorization = kind.factorization, .pivoting = kind.pivoting, .threads = threads};
-        ASSERT_EQ(solved.compute(options), FactorOutcome::kDone);
+        ASSERT_EQ(solved.compute(kind.options(Method::kLeftLooking, threads)), FactorOutcome::kDone);
         std::vector<T> all;
         for (const int nrhs : {1, 40}) {
           const std::vector<T> x = solved.solution(
@@ -331,75 +297,6 @@ TYPED_TEST(Factors, HaveTheSameBitsOnAnyNumberOfThreads) {
     }
   }
 }
-
-// The last panel is S = A22 - A21 A11^-1 A12, and the stages solve with it.
-TYPED_TEST(Factors, LeaveASchurComplement) {
-  using T = TypeParam;
-  for (const Kind& kind : kKinds) {
-    SCOPED_TRACE(text(kind));
-    const System<T> A = dominant_system<T>(grid(9, 9, 1, false), kind.symmetry, true, 1.1, 2);
-    const int schur_size = 7, n1 = A.n - schur_size;
-    std::vector<int> order(A.n);
-    for (int k = 0; k < A.n; ++k) order[k] = (k * 10 + 4) % A.n;
-    Solved<T> solved(A, {.schur_size = schur_size}, order.data());
-    ASSERT_EQ(solved.compute({.factorization = kind.factorization, .pivoting = kind.pivoting}), FactorOutcome::kDone);
-    const Plan& plan = solved.plan;
-    const T* const S = solved.factor.panels().pin(plan.eliminated());
-    // S y = c for a known y, when x = (0; y) and b = A x - A (A11^-1 A12 y; 0): by the stages, forward on A x is
-    // (L^-1 P A12 y; S y).
-    std::mt19937 numbers(4);
-    std::vector<T> x(A.n), b(A.n);
-    for (int k = n1; k < A.n; ++k) x[k] = random_value<T>(numbers);
-    A.for_each([&](int row, int column, T value) { b[plan.inverse()[row]] += value * x[plan.inverse()[column]]; });
-    ASSERT_EQ(solve(solved.factor, Operation::kPlain, Stage::kForward, 1, b.data(), A.n), FactorOutcome::kDone);
-    for (int i = 0; i < schur_size; ++i) {
-      T sum{};
-      for (int j = 0; j < schur_size; ++j) {
-        const bool is_mirrored = j > i && kind.factorization != Factorization::kLU;
-        const T value = is_mirrored ? S[i * schur_size + j] : S[j * schur_size + i];
-        sum += (is_mirrored && kind.symmetry == Symmetry::kHermitian ? conjugate(value) : value) * x[n1 + j];
-      }
-      EXPECT_LE(std::abs(sum - b[n1 + i]), 50 * tolerance<T>(A.n)) << i;
-    }
-    // With the solution of S in place, the rest follows: zeros.
-    std::copy(x.begin() + n1, x.end(), b.begin() + n1);
-    ASSERT_EQ(solve(solved.factor, Operation::kPlain, Stage::kDiagonal, 1, b.data(), A.n), FactorOutcome::kDone);
-    ASSERT_EQ(solve(solved.factor, Operation::kPlain, Stage::kBackward, 1, b.data(), A.n), FactorOutcome::kDone);
-    for (int k = 0; k < n1; ++k) EXPECT_LE(std::abs(b[k]), 50 * tolerance<T>(A.n));
-  }
-}
-
-#if !defined(_WIN32)
-// Runs the action on a stack of 64 KB, below what the sanitizers add.
-void run_on_small_stack(const std::function<void()>& action) {
-  pthread_attr_t attributes;
-  ASSERT_EQ(pthread_attr_init(&attributes), 0);
-  ASSERT_EQ(pthread_attr_setstacksize(&attributes, std::size_t{1} << (QUORIN_IS_SANITIZED ? 18 : 16)), 0);
-  pthread_t thread;
-  const auto run = [](void* context) -> void* {
-    (*static_cast<const std::function<void()>*>(context))();
-    return nullptr;
-  };
-  ASSERT_EQ(pthread_create(&thread, &attributes, run, const_cast<std::function<void()>*>(&action)), 0);
-  pthread_join(thread, nullptr);
-  pthread_attr_destroy(&attributes);
-}
-
-TEST(Path, OfAMillionUnknownsNeedsNoDeepStack) {
-  constexpr int n = 1'000'000;
-  const System<double> A = dominant_system<double>(path(n), Symmetry::kSymmetric, true, 1.1, 1);
-  std::vector<int> order(n);
-  for (int k = 0; k < n; ++k) order[k] = k;
-  run_on_small_stack([&] {
-    Solved<double> solved(A, {}, order.data());
-    for (const Factorization factorization : {Factorization::kLLT, Factorization::kLDLT}) {
-      ASSERT_EQ(solved.compute({.factorization = factorization, .pivoting = Pivoting::kBunchKaufman, .threads = 2}),
-                FactorOutcome::kDone);
-      EXPECT_LE(solved.error(Operation::kPlain, 1), tolerance<double>(n));
-    }
-  });
-}
-#endif
 
 class Stopper : public Progress {
  public:

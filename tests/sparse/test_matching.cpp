@@ -151,7 +151,6 @@ double best_product(const SparseMatrix& A) {
 
 template <Scalar T>
 class MatchingOf : public testing::Test {};
-using Scalars = testing::Types<float, double, std::complex<float>, std::complex<double>>;
 TYPED_TEST_SUITE(MatchingOf, Scalars);
 
 TYPED_TEST(MatchingOf, MakesTheProductOfTheDiagonalLargest) {

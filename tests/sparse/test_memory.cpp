@@ -1,5 +1,5 @@
-// The k-th allocation of an ordering fails, for k = 1, 2, ... until it no longer notices: it says so, and nothing is
-// lost. The libraries that we call ask in vain, too.
+// Memory of orderings and factorizations: the k-th allocation fails, for k = 1, 2, ... until none does any more, and
+// what is taken beside what was announced. The libraries that we call ask in vain, too.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -9,11 +9,42 @@
 #include "base/thread_settings.hpp"
 #include "dense/dense.hpp"
 #include "platform/platform.hpp"
+#include "sparse/numeric/archive.hpp"
+#include "tests/sparse/files.hpp"
 #include "tests/sparse/systems.hpp"
 #include "tests/sparse/watched_heap.hpp"
 
 namespace quorin::sparse::test {
 namespace {
+
+constexpr std::uint64_t kPlenty = std::uint64_t{1} << 30;
+
+// Runs `work` until no allocation of it fails any more; each fails alone or with all after it. `work` can do without
+// some. `clear` gives back all that it made.
+template <class Result>
+void fail_each_allocation(
+    const std::function<Result()>& work, const std::function<void()>& clear = [] {}) {
+  bool failed = true;
+  int k = 1, failures = 0;
+  for (; failed && k < 5000; ++k) {
+    heap = {};
+    heap.fail_at = k;
+    heap.failures = k % 2 == 0 ? 1'000'000 : 1;
+    heap.watches = true;
+    const Result outcome = work();
+    failed = heap.asked >= k;
+    clear();
+    dense::release_buffers();
+    heap.watches = false;
+    EXPECT_EQ(heap.live, 0) << "allocation " << k;
+    if (outcome == Result::kDone) continue;
+    EXPECT_EQ(outcome, Result::kOutOfMemory) << "allocation " << k;
+    EXPECT_TRUE(failed);
+    ++failures;
+  }
+  EXPECT_FALSE(failed);
+  EXPECT_GT(failures, 1);
+}
 
 using Call = std::function<Outcome(const Matrix&, const Ordering&)>;
 
@@ -47,33 +78,7 @@ Outcome preprocessed(const Matrix& A, const Ordering& ordering, Symmetry symmetr
   }
 }
 
-void run(const char* name, const Call& call, const Matrix& A, int failures) {
-  SCOPED_TRACE(name);
-  bool succeeded = false;
-  int k = 1;
-  for (; !succeeded && k < 5000; ++k) {
-    Arrays arrays(A.columns);
-    heap = {};
-    heap.watches = true;
-    heap.fail_at = k;
-    heap.failures = failures;
-    const Outcome outcome = call(A, arrays.ordering());
-    const bool failed = heap.asked >= k;
-    heap.watches = false;
-    EXPECT_EQ(heap.live, 0) << "allocation " << k;
-    succeeded = outcome == Outcome::kDone;
-    if (succeeded) {
-      EXPECT_TRUE(arrays.is_valid());
-    } else {
-      EXPECT_EQ(outcome, Outcome::kOutOfMemory) << "allocation " << k;
-      EXPECT_TRUE(failed);
-    }
-  }
-  EXPECT_GT(k, 2) << "the first allocation is one that no ordering can do without";
-  EXPECT_TRUE(succeeded);
-}
-
-TEST(Memory, RunsOutWithoutLossAndWithoutAnEnd) {
+TEST(Memory, OfOrderingsRunsOutWithoutLoss) {
   const Matrix A = grid(15, 15, 2, false);
   const std::pair<const char*, Call> calls[] = {
       {"minimum degree", on_graph(order_minimum_degree)},
@@ -85,7 +90,9 @@ TEST(Memory, RunsOutWithoutLossAndWithoutAnEnd) {
       {"colamd", [](const Matrix& B, const Ordering& o) { return order_colamd(B.pattern(), o); }},
   };
   for (const auto& [name, call] : calls) {
-    for (const int failures : {1, 1'000'000}) run(name, call, A, failures);
+    SCOPED_TRACE(name);
+    std::vector<int> permutation(static_cast<std::size_t>(A.columns)), inverse(permutation);
+    fail_each_allocation<Outcome>([&] { return call(A, {permutation.data(), inverse.data()}); });
   }
 }
 
@@ -106,85 +113,127 @@ TEST(Memory, OfMetisRunsOutWithoutASignal) {
   EXPECT_EQ(std::signal(SIGABRT, before), static_cast<void (*)(int)>(handler));
 }
 
-// Every allocation of a plan, an assembly, a factorization on two threads and solves fails once.
-TEST(Memory, OfFactorsRunsOutWithoutLossAndThePlanStaysUsable) {
+class FactorMemory : public testing::Test {
+ protected:
+  // Workers that come or go while the heap is watched would be counted, and buffers that are there already.
+  void SetUp() override {
+    dense::start();
+    base::set_block_time(platform::kForever);
+    options_.threads = 3;
+    ASSERT_EQ(solved_.compute(options_), FactorOutcome::kDone);
+    solved_.factor.clear();
+    dense::release_buffers();
+    options_.threads = 1;
+  }
+  void TearDown() override {
+    base::set_block_time(block_time_);
+    dense::stop();
+  }
+
+  const int block_time_ = base::block_time();
+  const System<double> system_ = dominant_system<double>(grid(25, 24, 1, false), Symmetry::kHermitian, false, 1.1, 6);
+  Solved<double> solved_{system_};
+  FactorOptions options_{.factorization = Factorization::kLDLH, .pivoting = Pivoting::kBunchKaufman};
+  Folder folder_;
+};
+
+TEST_F(FactorMemory, RunsOutInEitherMethod) {
+  for (const Method method : {Method::kLeftLooking, Method::kMultifrontal}) {
+    for (const int threads : {1, 3}) {
+      options_.method = method;
+      options_.threads = threads;
+      fail_each_allocation<FactorOutcome>([&] { return solved_.compute(options_); }, [&] { solved_.factor.clear(); });
+    }
+  }
+}
+
+TEST_F(FactorMemory, RunsOutWithFiles) {
+  const std::string name = folder_.file("factor");
+  PanelFiles files;
+  options_.store = &files;
+  const auto close = [&] {
+    solved_.factor.clear();
+    files.close();
+  };
+  fail_each_allocation<FactorOutcome>(
+      [&] {
+        FactorOutcome outcome = files.begin(name.c_str(), 30'000);
+        if (outcome == FactorOutcome::kDone) outcome = solved_.compute(options_);
+        if (outcome == FactorOutcome::kDone) outcome = Archive::complete(files, solved_.factor);
+        return outcome;
+      },
+      close);
+  Plan plan;
+  Factor<double> factor;
+  fail_each_allocation<FactorOutcome>([&] { return Archive::open(name.c_str(), 30'000, files, plan, factor); },
+                                      [&] {
+                                        factor.clear();
+                                        plan = Plan();
+                                        files.close();
+                                      });
+}
+
+// A plan, an assembly, a factorization on three threads and solves. What was there before stays usable.
+TEST_F(FactorMemory, RunsOutFromThePlanToTheSolution) {
   const System<double> A = dominant_system<double>(grid(30, 31, 1, false), Symmetry::kGeneral, true, 1.1, 1);
-  Solved<double> arrays(A);
+  const Solved<double> arrays(A);
   const Graph graph = graph_of(arrays.matrix);
   Arrays order(A.n);
   order_identity(A.n, order.ordering());
-  const FactorOptions options{.factorization = Factorization::kLU, .pivoting = Pivoting::kPartial, .threads = 2};
-  // A worker that comes or goes while the heap is watched would be counted.
-  const int block_time = base::block_time();
-  base::set_block_time(platform::kForever);
-  ASSERT_EQ(arrays.compute(options), FactorOutcome::kDone);
-  arrays.factor.clear();
-  dense::release_buffers();
+  const FactorOptions options{.factorization = Factorization::kLU, .pivoting = Pivoting::kPartial, .threads = 3};
   std::vector<double> x(static_cast<std::size_t>(A.n) * 5, 1.0), before(x);
-  bool succeeded = false;
-  int k = 0;
-  while (!succeeded && ++k < 1000) {
-    heap = {};
-    heap.watches = true;
-    heap.fail_at = k;
-    {
-      Plan plan;
-      Assembly assembly;
-      Factor<double> factor;
-      const bool is_planned =
-          plan.build(graph, order.ordering()) == Outcome::kDone &&
-          assembly.build(plan, arrays.matrix.pattern(),
-                         {.panels = PanelKind::kUnsymmetric, .symmetry = Symmetry::kGeneral}) == Outcome::kDone;
-      if (is_planned) {
-        FactorOutcome outcome = factor.compute(plan, assembly, {arrays.values.data()}, options);
-        if (outcome != FactorOutcome::kDone) {
-          EXPECT_EQ(outcome, FactorOutcome::kOutOfMemory) << "allocation " << k;
-          EXPECT_EQ(factor.compute(plan, assembly, {arrays.values.data()}, options), FactorOutcome::kDone);
-        }
-        succeeded = heap.asked < k;
-        for (const int nrhs : {1, 5}) {
-          std::copy(x.begin(), x.end(), before.begin());
-          outcome = solve(factor, Operation::kPlain, Stage::kAll, nrhs, x.data(), A.n, 2);
-          EXPECT_TRUE(outcome == FactorOutcome::kDone || (outcome == FactorOutcome::kOutOfMemory && x == before));
-          succeeded = succeeded && outcome == FactorOutcome::kDone;
-        }
-        succeeded = succeeded && heap.asked < k;
-      }
+  fail_each_allocation<FactorOutcome>([&] {
+    Plan plan;
+    Assembly assembly;
+    Factor<double> factor;
+    Outcome planned = plan.build(graph, order.ordering());
+    if (planned == Outcome::kDone) {
+      planned = assembly.build(plan, arrays.matrix.pattern(), {.panels = PanelKind::kUnsymmetric});
     }
-    dense::release_buffers();
-    heap.watches = false;
-    EXPECT_EQ(heap.live, 0) << "allocation " << k;
-  }
-  base::set_block_time(block_time);
-  EXPECT_GT(k, 20);
-  EXPECT_TRUE(succeeded);
+    if (planned == Outcome::kOutOfMemory) return FactorOutcome::kOutOfMemory;
+    EXPECT_EQ(planned, Outcome::kDone);
+    FactorOutcome outcome = factor.compute(plan, assembly, {arrays.values.data()}, options);
+    if (outcome != FactorOutcome::kDone && heap.failures > 1) return outcome;
+    if (outcome != FactorOutcome::kDone) {
+      EXPECT_EQ(factor.compute(plan, assembly, {arrays.values.data()}, options), FactorOutcome::kDone);
+    }
+    for (const int nrhs : {1, 5}) {
+      std::copy(x.begin(), x.end(), before.begin());
+      const FactorOutcome solved = solve(factor, Operation::kPlain, Stage::kAll, nrhs, x.data(), A.n, 2);
+      EXPECT_TRUE(solved == FactorOutcome::kDone || x == before);
+      if (solved != FactorOutcome::kDone) outcome = solved;
+    }
+    return outcome;
+  });
 }
 
-// The estimates before a factorization, and what it asks for.
-TEST(Memory, OfFactorsIsWhatWasEstimated) {
-  for (const Matrix& pattern : {grid(150, 150, 1, false), grid(17, 17, 17, false)}) {
-    for (const Factorization factorization : {Factorization::kLLT, Factorization::kLDLT, Factorization::kLU}) {
-      const bool is_lu = factorization == Factorization::kLU;
-      const System<double> A =
-          dominant_system<double>(pattern, is_lu ? Symmetry::kGeneral : Symmetry::kSymmetric, true, 1.1, 1);
+// Of the multifrontal method on one thread, what it takes beside the factor is the plan's stack.
+TEST_F(FactorMemory, IsWhatWasAnnounced) {
+  for (const Matrix& pattern : {grid(80, 75, 1, false), grid(14, 13, 12, false)}) {
+    for (const Kind& kind : {kKinds[0], kKinds[6], kKinds[8]}) {
+      const System<double> A = dominant_system<double>(pattern, kind.symmetry, true, 1.1, 6);
       Solved<double> solved(A);
-      const FactorOptions options{.factorization = factorization,
-                                  .pivoting = is_lu ? Pivoting::kPartial : Pivoting::kBunchKaufman};
-      ASSERT_EQ(solved.compute(options), FactorOutcome::kDone);  // which leaves a buffer of the kernels to the next
-      solved.factor.clear();
-      heap = {};
-      heap.watches = true;
-      ASSERT_EQ(solved.compute(options), FactorOutcome::kDone);
-      heap.watches = false;
-      const auto factor = static_cast<double>(factor_bytes<double>(solved.plan, options));
-      const auto peak = static_cast<double>(peak_bytes<double>(solved.plan, options));
-      EXPECT_NEAR(static_cast<double>(heap.bytes) / factor, 1, 0.05);
-      EXPECT_NEAR(static_cast<double>(heap.most_bytes) / peak, 1, 0.05);
-      EXPECT_LE(static_cast<double>(heap.most_bytes) / factor, 1.10) << pattern.name;
-      heap.watches = true;
-      solved.factor.clear();
-      heap.watches = false;
-      EXPECT_EQ(heap.live, 0);
+      for (const int variant : {0, 1, 2, 4}) {
+        SCOPED_TRACE(pattern.name + ", " + std::to_string(variant));
+        const FactorOptions options = variant == 0 ? kind.options() : kind.options(Method::kMultifrontal, variant);
+        ASSERT_EQ(solved.compute(options), FactorOutcome::kDone);  // workers and buffers are there now
+        solved.factor.clear();
+        heap = {};
+        heap.watches = true;
+        ASSERT_EQ(solved.compute(options), FactorOutcome::kDone);
+        heap.watches = false;
+        const auto factor = static_cast<double>(factor_bytes<double>(solved.plan, options));
+        const auto taken = static_cast<double>(heap.most_bytes);
+        EXPECT_NEAR(static_cast<double>(heap.bytes) / factor, 1, 0.05);
+        EXPECT_NEAR(static_cast<double>(peak_bytes<double>(solved.plan, options)) / taken, 1, 0.05);
+        const auto stack = static_cast<double>(solved.plan.stack_elements()) * sizeof(double);
+        EXPECT_TRUE(variant != 0 || taken <= 1.10 * factor);
+        EXPECT_TRUE(variant != 1 || taken - factor >= stack);
+        heap.watches = true;
+        solved.factor.clear();
+        heap.watches = false;
+        EXPECT_EQ(heap.live, 0);
+      }
     }
   }
 }

@@ -1,12 +1,10 @@
 // Plans beside dense symbolic elimination, and assembled panels beside the dense matrix.
 #include <gtest/gtest.h>
 
-#include <complex>
 #include <cstddef>
-#include <random>
 #include <set>
 
-#include "tests/sparse/matrices.hpp"
+#include "tests/sparse/systems.hpp"
 
 namespace quorin::sparse::test {
 namespace {
@@ -175,30 +173,6 @@ TEST(Plan, NeverCutsPairsApart) {
   check_rows(plan, dense_factor(graph, plan.permutation(), 0), 3);
 }
 
-// A path whose tree is as deep as it has nodes; numbered from one end, and by halves.
-TEST(Plan, OfAMillionStepsNeedsNoDeepStack) {
-  constexpr int n = 1'000'000;
-  Edges path(n);
-  for (int i = 0; i + 1 < n; ++i) path.add(i, i + 1);
-  const Matrix A = path.matrix("path");
-  Arrays given(n);
-  order_identity(n, given.ordering());
-  const Plan plan = plan_of(A, given.ordering());
-  EXPECT_EQ(plan.entries(), 2 * n - 1);
-  EXPECT_EQ(plan.depth(), n);
-}
-
-template <Scalar T>
-T random_scalar(std::mt19937& numbers) {
-  const auto next = [&] { return static_cast<RealOf<T>>(static_cast<int>(numbers() % 2001) - 1000) / 8; };
-  if constexpr (kIsComplex<T>) {
-    const RealOf<T> re = next();
-    return {re, next()};
-  } else {
-    return next();
-  }
-}
-
 // The dense matrix that the panels hold.
 template <Scalar T>
 std::vector<T> assembled(const Plan& plan, const Assembly& assembly, const Values<T>& values) {
@@ -226,7 +200,6 @@ std::vector<T> assembled(const Plan& plan, const Assembly& assembly, const Value
 
 template <class T>
 class AssembledMatrix : public testing::Test {};
-using Scalars = testing::Types<float, double, std::complex<float>, std::complex<double>>;
 TYPED_TEST_SUITE(AssembledMatrix, Scalars);
 
 TYPED_TEST(AssembledMatrix, IsThePermutedOneInAllForms) {
@@ -274,7 +247,7 @@ TYPED_TEST(AssembledMatrix, IsThePermutedOneInAllForms) {
       }
       const Matrix A = from_columns("entries", n, lists);
       std::vector<T> values(A.indices.size());
-      for (T& value : values) value = random_scalar<T>(numbers);
+      for (T& value : values) value = random_value<T>(numbers);
 
       std::vector<T> expected(static_cast<std::size_t>(n) * n);
       std::vector<Real> sums(n);

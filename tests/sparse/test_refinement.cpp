@@ -132,7 +132,6 @@ auto sloppy_solve(const Dense& A, int& solves) {
 
 template <Scalar T>
 class RefinementOf : public testing::Test {};
-using Scalars = testing::Types<float, double, std::complex<float>, std::complex<double>>;
 TYPED_TEST_SUITE(RefinementOf, Scalars);
 
 // However the matrix is stored, and whichever system is solved. Eleven columns: more than are worked on at a time.

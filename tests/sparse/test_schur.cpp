@@ -11,24 +11,6 @@
 namespace quorin::sparse::test {
 namespace {
 
-struct Kind {
-  FactorOptions options;
-  Symmetry symmetry;
-  bool is_definite;
-};
-
-template <Scalar T>
-std::vector<Kind> kinds() {
-  const Symmetry hermitian = kIsComplex<T> ? Symmetry::kHermitian : Symmetry::kSymmetric;
-  return {
-      {{.factorization = Factorization::kLLT}, hermitian, true},
-      {{.factorization = Factorization::kLDLT, .pivoting = Pivoting::kBunchKaufman}, Symmetry::kSymmetric, false},
-      {{.factorization = Factorization::kLDLH, .pivoting = Pivoting::kBunchKaufman}, hermitian, false},
-      {{.factorization = Factorization::kLU, .pivoting = Pivoting::kPartial}, Symmetry::kGeneral, false},
-      {{.factorization = Factorization::kLU, .pivoting = Pivoting::kComplete}, Symmetry::kGeneral, false},
-  };
-}
-
 // What elimination of all but the last `left` unknowns, in the order of `permutation`, makes of A; column-major.
 template <Scalar T>
 std::vector<Exact<T>> dense_complement(const System<T>& A, const int* permutation, int left) {
@@ -57,25 +39,22 @@ std::vector<int> random_order(int n, unsigned seed) {
   return order;
 }
 
-constexpr Operation kOperations[] = {Operation::kPlain, Operation::kTransposed, Operation::kAdjoint,
-                                     Operation::kConjugated};
-
 template <Scalar T>
 class SchurOf : public testing::Test {};
-using Scalars = testing::Types<float, double, std::complex<float>, std::complex<double>>;
 TYPED_TEST_SUITE(SchurOf, Scalars);
 
 TYPED_TEST(SchurOf, IsThatOfDenseEliminationAndSolvesTheSystem) {
   using T = TypeParam;
   const Matrix pattern = grid(8, 7, 1, true);
   const int n = pattern.columns;
-  for (const Kind& kind : kinds<T>()) {
-    const System<T> A = dominant_system<T>(pattern, kind.symmetry, kind.is_definite, 1.1, 3);
+  for (const Kind& kind : kKinds) {
+    SCOPED_TRACE(text(kind));
+    const System<T> A = dominant_system<T>(pattern, kind.symmetry, kind.is_definite(), 1.1, 3);
     for (const int m : {1, 6, 25, n}) {
       SCOPED_TRACE(m);
       const std::vector<int> order = random_order(n, static_cast<unsigned>(m));
       Solved<T> solved(A, {.schur_size = m}, order.data());
-      ASSERT_EQ(solved.compute(kind.options), FactorOutcome::kDone);
+      ASSERT_EQ(solved.compute(kind.options()), FactorOutcome::kDone);
       const Plan& plan = solved.plan;
       for (int k = n - m; k < n; ++k) ASSERT_EQ(plan.permutation()[k], order[k]);
 
@@ -123,10 +102,11 @@ TYPED_TEST(SchurOf, PartialSolvesGiveWhatWholeOnesDo) {
   const int n = pattern.columns;
   const std::vector<int> sets[] = {{0}, {5, 60, 61, 100}, {n - 3, n - 2, n - 1}, {}};
   using Steps = std::optional<std::span<const int>>;
-  for (const Kind& kind : kinds<T>()) {
-    const System<T> A = dominant_system<T>(pattern, kind.symmetry, kind.is_definite, 1.1, 4);
+  for (const Kind& kind : kKinds) {
+    SCOPED_TRACE(text(kind));
+    const System<T> A = dominant_system<T>(pattern, kind.symmetry, kind.is_definite(), 1.1, 4);
     Solved<T> solved(A);
-    ASSERT_EQ(solved.compute(kind.options), FactorOutcome::kDone);
+    ASSERT_EQ(solved.compute(kind.options()), FactorOutcome::kDone);
     for (int variant = 0; variant < 25; ++variant) {
       const int from = variant / 5, to = variant % 5;
       const Steps given = from < 4 ? Steps(sets[from]) : std::nullopt, wanted = to < 4 ? Steps(sets[to]) : std::nullopt;

@@ -1,9 +1,8 @@
-// Orderings by name: which matrices each takes, that METIS and AMD answer as when called directly, and the fill.
+// Orderings by name: which matrices each takes, and that METIS and AMD answer as when called directly.
 #include <amd.h>
 #include <metis.h>
 
 #include <set>
-#include <thread>
 
 #include "tests/support/sparse.hpp"
 #include "tests/taucs/taucs_host.hpp"
@@ -78,8 +77,9 @@ TEST(Orderings, TakeTheMatricesThatTheyAreFor) {
   }
   EXPECT_TRUE(Ordering(general.get(), "colamd").is_valid(35));
   for (const taucs_ccs_matrix* A : {symmetric.get(), hermitian.get(), general.get(), upper.get()}) {
-    EXPECT_TRUE(Ordering(A, "random").is_valid(35));
-    const Ordering identity(A, "identity");
+    const Ordering random(A, "random"), identity(A, "identity");
+    EXPECT_TRUE(random.is_valid(35));
+    EXPECT_NE(random.indices(35), identity.indices(35));
     for (int i = 0; i < 35; ++i) EXPECT_TRUE(identity.perm[i] == i && identity.inverse[i] == i);
     for (const char* name : {"amd", "amdbar", "md", "METIS", "Metis", "metis ", "", "meti", "genmmd2", "COLAMD"}) {
       EXPECT_TRUE(Ordering(A, name).is_null()) << name;
@@ -139,7 +139,7 @@ TEST(Orderings, RefusePatternsThatAreNone) {
 
 // METIS and AMD, called here.
 TEST(Orderings, OfTheDependenciesAreTheirs) {
-  for (const Matrix& A : {grid(100, 90, 1), grid(316, 316, 1), grid(46, 46, 46), grid(9, 8, 7)}) {
+  for (const Matrix& A : {grid(100, 90, 1), grid(9, 8, 7)}) {
     int n = A->n;
     std::vector<int> theirs(n), inverse(n);
     ASSERT_EQ(amd_order(n, A->colptr, A->rowind, theirs.data(), nullptr, nullptr), AMD_OK);
@@ -161,51 +161,6 @@ TEST(Orderings, OfTheDependenciesAreTheirs) {
     const Ordering metis(A.get(), "metis");
     EXPECT_EQ(metis.indices(n), theirs);
     EXPECT_TRUE(metis.is_valid(n));
-  }
-}
-
-// Of the factor in this order, by elimination on sets: for small matrices.
-std::size_t factor_entries(const taucs_ccs_matrix& A, const Ordering& ordering) {
-  std::vector<std::set<int>> below(A.n);
-  for (int j = 0; j < A.n; ++j) {
-    for (int k = A.colptr[j]; k < A.colptr[j + 1]; ++k) {
-      const auto [first, last] = std::minmax(ordering.inverse[j], ordering.inverse[A.rowind[k]]);
-      if (first != last) below[first].insert(last);
-    }
-  }
-  std::size_t entries = below.size();
-  for (const auto& column : below) {
-    entries += column.size();
-    if (!column.empty()) below[*column.begin()].insert(std::next(column.begin()), column.end());
-  }
-  return entries;
-}
-
-TEST(Orderings, KeepFactorsSparse) {
-  const Matrix plane = grid(30, 30, 1), space = grid(10, 9, 11), path = grid(400, 1, 1);
-  for (const taucs_ccs_matrix* A : {plane.get(), space.get()}) {
-    const auto of_camd = static_cast<double>(factor_entries(*A, Ordering(A, "camd")));
-    EXPECT_LE(factor_entries(*A, Ordering(A, "genmmd")), 1.1 * of_camd);
-    EXPECT_LE(factor_entries(*A, Ordering(A, "tree")), 1.1 * of_camd);
-    EXPECT_GE(factor_entries(*A, Ordering(A, "random")), 1.5 * of_camd);
-  }
-  EXPECT_EQ(factor_entries(*path, Ordering(path.get(), "tree")), 400U + 399U);
-}
-
-TEST(Orderings, AreTheSameFromSeveralThreads) {
-  const Matrix A = grid(60, 50, 1);
-  for (const char* name : {"metis", "genmmd", "camd", "random"}) {
-    const std::vector<int> expected = Ordering(A.get(), name).indices(A->n);
-    std::vector<std::vector<int>> computed(4);
-    std::vector<std::thread> threads;
-    threads.reserve(computed.size());
-    for (auto& indices : computed) {
-      threads.emplace_back([&] {
-        for (int k = 0; k < 3; ++k) indices = Ordering(A.get(), name).indices(A->n);
-      });
-    }
-    for (std::thread& thread : threads) thread.join();
-    for (const auto& indices : computed) EXPECT_EQ(indices, expected) << name;
   }
 }
 
