@@ -15,6 +15,7 @@
 #include <list>
 #include <map>
 #include <random>
+#include <regex>
 #include <span>
 #include <string>
 #include <string_view>
@@ -23,6 +24,7 @@
 #include <vector>
 
 #include "quorin/quorin.h"
+#include "tests/support/capture_output.hpp"
 #include "tests/support/guarded_pages.hpp"
 #include "tests/support/temporary_file.hpp"
 #include "tests/support/watchdog.hpp"
@@ -46,8 +48,9 @@ double special_number(Random& random) {
 // A sequence of calls of one family, which share what calls leave for others: handles, and the parameters of a run.
 class Draw {
  public:
-  Draw(std::string_view family, std::uint32_t seed, quorin::test::Watchdog& watchdog)
-      : family_(family), seed_(seed), watchdog_(watchdog), random_(seed) {
+  Draw(std::string_view family, std::uint32_t seed, quorin::test::Watchdog& watchdog,
+       quorin::test::CapturedOutput& output)
+      : family_(family), seed_(seed), watchdog_(watchdog), output_(output), random_(seed) {
     n_ = 1 + below(12);
     m_ = family == "trust_region" ? n_ + below(4) : is_one_of(2) ? n_ : 1 + below(12);
     nz_ = 1 + below(40);
@@ -80,6 +83,11 @@ class Draw {
     watchdog_.begin(text);
   }
   void finish() {
+    EXPECT_LE(watchdog_.end(), quorin::test::Watchdog::kMost) << routine_ << ", seed " << seed_;
+    const std::string text = output_.take();
+    printed_ += text.empty() ? 0 : 1;
+    EXPECT_TRUE(std::regex_match(text, std::regex(documented_output())))
+        << routine_ << ", seed " << seed_ << " prints: " << text;
     for (const Array& array : arrays_) {
       EXPECT_TRUE(array.pages->intact()) << routine_ << ", seed " << seed_ << ": writes beside " << array.name;
       if (array.direction == Direction::kIn) {
@@ -99,6 +107,9 @@ class Draw {
       forget([&](const Handle& handle) { return handle.value == passed_ && handle.is_lu() == is_lu; });
     }
   }
+
+  // The calls that printed something.
+  int printed() const { return printed_; }
 
   // --- Results ---
 
@@ -539,6 +550,7 @@ class Draw {
       for (int k = 0; k < count; ++k) data[k] = (k + 1) / 2;
     } else if (name == "fpm") {
       if (count >= 128) feastinit_32f(data);
+      if (is_gentle_ && count > 0) data[0] = below(2);  // prints
       constexpr std::int32_t kValues[] = {-1, 0, 1, 2, 3, 4, 8, 12, 100, 2147483647};
       for (int k = 0; k < 2 && is_one_of(2); ++k) {
         const int position = is_one_of(2) ? below(28) : below(count);
@@ -598,6 +610,35 @@ class Draw {
     constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
     const std::int32_t values[] = {-1, 0, 1, 13, 1000, kMost, kMost - 1, -kMost - 1};
     return values[random_() % std::size(values)];
+  }
+
+  // What was passed in an array of integers, or its address, under that name.
+  std::int32_t passed(std::string_view name, std::size_t place = 0) const {
+    std::int32_t value = 0;
+    for (const Array& array : arrays_) {
+      if (array.name != name || array.before.size() < (place + 1) * sizeof value) continue;
+      std::memcpy(&value, array.before.data() + place * sizeof value, sizeof value);
+    }
+    return value;
+  }
+  // What the interface has this call write to standard output: as a rule, nothing.
+  std::string documented_output() const {
+    std::string upper = routine_, lower = routine_;
+    for (char& c : upper) c = static_cast<char>(std::toupper(c));
+    for (char& c : lower) c = static_cast<char>(std::tolower(c));
+    if (family_ == "blas" || family_ == "pack") {
+      return "(\nIntel MKL ERROR: Parameter [0-9]+ was incorrect on entry to " + upper + "\\.\n)?";
+    }
+    if (routine_ == "XERBLA") return "(\nIntel MKL (INTERNAL )?ERROR: [^\n]*\n)?";
+    constexpr std::int32_t kScreen = 6;
+    if (family_ == "rci" && passed("ipar", 1) == kScreen && (passed("ipar", 5) != 0 || passed("ipar", 6) != 0)) {
+      return "(" + lower + ": (error|warning)( -?[0-9]+)?: [^\n]+\n)*";
+    }
+    if (family_ == "feast" && passed("fpm") == 1) {
+      return "(FEAST: n = [^\n]*\n([^\n]* by the signs of pivots\n)?loop  found [^\n]*\n( *[0-9]+ [^\n]*\n)*)?";
+    }
+    if (family_ == "pardiso" && passed("msglvl") == 1) return "(\nPARDISO, phase [^\n]*\n(  [^\n]*\n)+\n)?";
+    return "";
   }
 
   // What a run keeps between its calls.
@@ -672,10 +713,11 @@ class Draw {
   std::string family_, routine_;
   std::uint32_t seed_;
   quorin::test::Watchdog& watchdog_;
+  quorin::test::CapturedOutput& output_;
   std::mt19937 random_;
   bool is_gentle_ = false;  // a call without a hostile argument but numbers
   int order_ = 0;           // the last n
-  int n_ = 1, m_ = 1, calls_ = 0, mode_ = 0;
+  int n_ = 1, m_ = 1, calls_ = 0, mode_ = 0, printed_ = 0;
   bool is_sound_ = false;
   // Of PARDISO: the system, and the present call.
   bool is_spoilt_ = false, is_single_ = false, is_zero_based_ = false, is_supplied_ = true;

@@ -10,10 +10,9 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 #if defined(_WIN32)
 #include <io.h>
-#else
-#include <unistd.h>
 #endif
 
 #include "tests/support/temporary_file.hpp"
@@ -38,6 +37,16 @@ class CapturedOutput {
   CapturedOutput(const CapturedOutput&) = delete;
   CapturedOutput& operator=(const CapturedOutput&) = delete;
 
+  // What was caught since the last time.
+  std::string take() {
+    std::fflush(stdout);
+    if (lseek(kStandardOutput, 0, SEEK_CUR) == 0) return "";
+    std::ifstream stream(file_.name());
+    std::string text(std::istreambuf_iterator<char>(stream), {});
+    if (ftruncate(kStandardOutput, 0) != 0) throw std::runtime_error("cannot empty the caught output");
+    lseek(kStandardOutput, 0, SEEK_SET);
+    return text;
+  }
   // Puts standard output back and returns what was caught.
   std::string stop() {
     std::fflush(stdout);
