@@ -3,6 +3,8 @@
 
 #include <cmath>
 #include <cstdint>
+#include <limits>
+#include <utility>
 #include <vector>
 
 #include "quorin/lapack.h"
@@ -28,12 +30,15 @@ TEST(Bisection, ReadsItsBoundsThroughTheirPairs) {
   const std::int32_t n = 20, il = 0, iu = 0;
   const float abstol = 0;
   const std::vector<float> d(20, 2), e(19, -1);
-  const std::vector<float> bounds = {-1, -1, 0.5F, 1.5F};  // vl = bounds[2], vu = bounds[3]
+  std::vector<float> bounds = {-1, -1, 0.5F, 1.5F};  // vl = bounds[2], vu = bounds[3]
   std::vector<float> w(20), work(80);
   std::vector<std::int32_t> iblock(20), isplit(20), iwork(60);
   std::int32_t m = 0, nsplit = 0, info = -1;
-  sstebz_Idx("V", "E", &n, bounds.data(), 2, bounds.data() + 1, 2, &il, &iu, &abstol, d.data(), 0, e.data(), 0, &m,
-             &nsplit, w.data(), 0, iblock.data(), 0, isplit.data(), 0, work.data(), 0, iwork.data(), 0, &info);
+  const auto bisect = [&] {
+    sstebz_Idx("V", "E", &n, bounds.data(), 2, bounds.data() + 1, 2, &il, &iu, &abstol, d.data(), 0, e.data(), 0, &m,
+               &nsplit, w.data(), 0, iblock.data(), 0, isplit.data(), 0, work.data(), 0, iwork.data(), 0, &info);
+  };
+  bisect();
   ASSERT_EQ(info, 0);
   std::vector<double> expected;
   for (int k = 1; k <= n; ++k) {
@@ -42,6 +47,15 @@ TEST(Bisection, ReadsItsBoundsThroughTheirPairs) {
   }
   ASSERT_EQ(static_cast<std::size_t>(m), expected.size());
   for (std::size_t i = 0; i < expected.size(); ++i) EXPECT_NEAR(w[i], expected[i], 40 * kUnitRoundoff);
+  // A bound that is no number makes no interval.
+  for (const std::size_t bound : {2, 3}) {
+    const float number = std::exchange(bounds[bound], std::numeric_limits<float>::quiet_NaN());
+    bisect();
+    EXPECT_EQ(info, 1);
+    EXPECT_EQ(m, 0);
+    EXPECT_TRUE(std::isnan(w[0]));
+    bounds[bound] = number;
+  }
 }
 
 // Upper triangular matrices are their own Schur form, with the eigenvalues 1, -2, 3, -4, ...

@@ -160,7 +160,7 @@ TYPED_TEST(Factorization, TellsWhereItFails) {
   std::int32_t info = -1;
   for (const int zero : {0, 37, 99}) {
     auto singular = this->random(n, n);
-    for (int i = 0; i < n; ++i) singular(i, zero) = 0;
+    for (int i = 0; i < n; ++i) singular(i, zero) = singular(i, n - 1) = 0;  // the first one counts
     getrf(n, n, singular.a.data(), singular.lda, ipiv.data(), &info);
     EXPECT_EQ(info, zero + 1);
     for (const float bad : {-1.0F, std::numeric_limits<float>::quiet_NaN()}) {
