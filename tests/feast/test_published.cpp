@@ -157,6 +157,16 @@ TEST(Parameters, ToleranceLoopsAndTests) {
   EXPECT_EQ(hopeless.m, 7);
   expect_right(problem, hopeless, eigenvalues);
 
+  // epsout and res are relative to the interval.
+  SparseMatrix large = second_difference(50);
+  for (auto& entry : large.entries) entry.value *= 1024;
+  Call scaled(102.4, 614.4, 9);
+  scaled.fpm = hopeless.fpm;
+  solve(make_problem("1024 of it", large), scaled);
+  EXPECT_GT(hopeless.epsout, 0);
+  EXPECT_NEAR(scaled.epsout, hopeless.epsout, 1e-3 * hopeless.epsout);
+  for (std::size_t j = 0; j < 7; ++j) EXPECT_NEAR(scaled.res[j], hopeless.res[j], 1e-3 * hopeless.res[j] + 1e-12);
+
   Call by_trace(0.1, 0.6, 9);
   by_trace.parameter(6) = 1;
   solve(problem, by_trace);

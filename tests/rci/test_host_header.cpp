@@ -54,6 +54,20 @@ TEST(HostHeader, EveryScale) {
     EXPECT_TRUE(rci::solve_fgmres(scaled(b, power / 2), y, product(small)).converged());
     expect_near(y, solution, 1e-5);
   }
+  // A tolerance is of the norm and in the host's units, whatever the solver keeps.
+  rci::Options absolute;
+  absolute.relative_tolerance = 0.0;
+  for (const int power : {0, 600}) {
+    absolute.absolute_tolerance = std::ldexp(1e-3, power);
+    Vector x(A.n, 0.0), y(A.n, 0.0);
+    EXPECT_TRUE(rci::solve_cg(scaled(b, power), x, product(A), rci::NoPreconditioner{}, absolute).converged());
+    EXPECT_TRUE(rci::solve_fgmres(scaled(b, power), y, product(A), rci::NoPreconditioner{}, absolute).converged());
+    for (const Vector& each : {x, y}) {
+      const double residual = residual_norm(A, b.data(), scaled(each, -power).data());
+      EXPECT_LE(residual, 1.01e-3);
+      EXPECT_GE(residual, 1e-6) << "that is more than was asked for";
+    }
+  }
   // Each of several right-hand sides has its own.
   Vector x(2 * A.n, 0.0);
   EXPECT_TRUE(rci::solve_cg_many(2, joined(scaled(b, -600), b), x, product(A)).converged());

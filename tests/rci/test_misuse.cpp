@@ -32,7 +32,9 @@ void expect_check_codes(Host& host) {
   }
   host.ipar[7] = host.ipar[9] = 0;
   EXPECT_EQ(host.step(), -11);
+  host.ipar[4] = 0;  // what was altered is told before what was not
   EXPECT_EQ(host.check(), -1011);
+  host.ipar[4] = 4;
   EXPECT_EQ(host.ipar[7], 1);
   EXPECT_EQ(host.ipar[8], 1);
   host.ipar[0] = 0;
@@ -51,6 +53,10 @@ TEST(CheckAndInit, Cg) {
 TEST(CheckAndInit, CgMany) {
   const Csr A = spd4();
   ManyHost host(A, joined(kRightHandSide, kRightHandSide), joined(kZeros, kZeros));
+  for (std::size_t i = 128; i < host.ipar.size(); ++i) {
+    EXPECT_EQ(host.ipar[i], 0) << i;
+    EXPECT_EQ(host.dpar[i], 0.0) << i;
+  }
   EXPECT_EQ(host.init(0, 1), -10000);
   EXPECT_EQ(host.init(2, 2), -10000);
   expect_check_codes(host);

@@ -85,6 +85,8 @@ TYPED_TEST(Toeplitz, IllConditionedSystemsLoseNothing) {
   // Two sinusoids in a little noise.
   const auto tones = [](int k) { return (k == 0 ? 1e-4 : 0.0) + std::cos(0.3 * k) + 0.5 * std::cos(1.1 * k); };
   expect_one_rounding(hermitian_system<T>(60, tones, 3));
+  // Singular but for the last bit of a float.
+  expect_one_rounding(System<T>{{T(1), T(1 - 0x1p-24F)}, {T(1)}, {T(1), T(0)}});
 }
 
 TEST(ToeplitzComplex, HermitianSystem) {

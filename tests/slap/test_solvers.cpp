@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <tuple>
 
 #include "tests/slap/slap_host.hpp"
 #include "tests/support/capture_output.hpp"
@@ -248,6 +249,17 @@ TEST(Solvers, HeadersTellWhereThingsAre) {
   EXPECT_EQ(Integers(cholesky.iwork.begin(), cholesky.iwork.begin() + 5), (Integers{nl, 11, 11 + nl, 1, nl + 1}));
   EXPECT_EQ(cholesky.iwork[8], nl + n + 12);
   EXPECT_EQ(cholesky.iwork[9], nl + 5 * n + 1);
+  // Of both factors: where the columns are, the starts of the rows, and the values.
+  const Outcome lu = run(solver("SSLUBC"), a, b);
+  const int entries = (nelt - n) / 2;
+  for (const auto& [columns, starts, values, first] : {std::tuple(0, 1, 4, 1), {2, 3, 6, entries + n + 1}}) {
+    const auto at = [&](int word) { return lu.iwork.begin() + lu.iwork[static_cast<std::size_t>(word)] - 1; };
+    EXPECT_EQ(*at(starts), 1);
+    EXPECT_EQ(at(starts)[n], entries + 1);
+    EXPECT_EQ(std::count_if(at(columns), at(columns) + entries, [n](int c) { return c >= 1 && c <= n; }), entries);
+    EXPECT_EQ(lu.iwork[static_cast<std::size_t>(values)], first);
+  }
+  EXPECT_EQ(lu.iwork[5], entries + 1);
 }
 
 // On such grids the recurrences drift from the true residual, and the biconjugate ones lose all digits to convection.
