@@ -178,6 +178,17 @@ TEST(Amwb, TakesPositiveEntriesOfDominantMatrices) {
   }
 }
 
+// Without dominance a positive entry goes to the diagonal, so that A 1 = M 1.
+TEST(Amwb, MovesPositiveEntriesOfOthersToTheDiagonal) {
+  SparseMatrix path;
+  for (int i = 0; i < 6; ++i) path.add(i, i, i == 0 || i == 5 ? 1.125 : 2.125);
+  for (int i = 1; i < 6; ++i) path.add(i, i - 1, -1);
+  path.add(3, 0, 0.25);
+  const Matrix A = record<double>(path, kSymmetricLower), M = preconditioner(A, 6);
+  EXPECT_EQ(edges(*M).size(), 5U);
+  EXPECT_EQ(row_sums(*M), row_sums(*A));
+}
+
 // A cycle of edges that want their ends equal, but for one.
 TEST(Amwb, TiesDownWhatContradictsItself) {
   SparseMatrix cycle;

@@ -225,6 +225,9 @@ TYPED_TEST(Linsolve, RefusesWhatCannotBe) {
   EXPECT_EQ(call(other.get(), &handle.F, 0, nullptr, nullptr, kLlt), TAUCS_SUCCESS) << "a factor of its own";
   EXPECT_EQ(handle->n, 19);
   EXPECT_EQ(status(A, kSolveOnly), TAUCS_ERROR_BADARGS) << "a smaller factor";
+  using Other = std::conditional_t<std::is_same_v<T, double>, Complex, double>;
+  const Matrix of_other_type = record<Other>(laplacian(19, 1, 1, 0), kLowerOf<Other>);
+  EXPECT_EQ(status(of_other_type, kSolveOnly), TAUCS_ERROR_BADARGS) << "a factor of the other type";
 }
 
 // Where the flags name both types, complex counts; with both factorizations asked for, the second does.
@@ -247,16 +250,19 @@ TYPED_TEST(Linsolve, StandsFlagsAndOptionsThatSayTwoThings) {
 TYPED_TEST(Linsolve, StopsIterationsWhereOptionsSay) {
   using T = TypeParam;
   const Matrix A = record<T>(laplacian(40, 40, 1, 0), kLowerOf<T>);
-  const auto B = this->right_hand_sides(A, 1);
+  const auto B = this->right_hand_sides(A, 2);
   std::vector<T> X(B.size());
   double limit = 50;
   const Options cg = {"taucs.factor=false", "taucs.solve.cg=true"};
   const auto said = logged([&] {
-    EXPECT_EQ(call(A.get(), nullptr, 1, X.data(), B.data(), cg + Options{"taucs.solve.maxits=#0"}, {&limit}),
+    EXPECT_EQ(call(A.get(), nullptr, 2, X.data(), B.data(), cg + Options{"taucs.solve.maxits=#0"}, {&limit}),
               TAUCS_ERROR);
   });
-  EXPECT_NE(said.find("ended with status 1\n"), std::string::npos) << said;
-  EXPECT_GT(norm(X), 0) << "the last iterate";
+  EXPECT_NE(said.find("right-hand side 1: the iteration ended with status 1\n"), std::string::npos) << said;
+  for (const std::ptrdiff_t c : {0, 1}) {
+    const auto first = X.begin() + c * A->n;
+    EXPECT_GT(norm(std::vector<T>(first, first + A->n)), 0) << "the last iterate of column " << c;
+  }
 }
 
 // The log of a call, with times masked.
