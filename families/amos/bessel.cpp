@@ -78,8 +78,13 @@ class Evaluation {
 
  private:
   void each(int from, int to) {
-    if (c_.i.used) descend_i(request_.nu, from, to, c_.w, [this](int j, Scaled f) { return take_i(j, f); });
-    if (c_.k.used && status_ == Status::kOk) {
+    if (c_.i.used) {
+      descend_i(request_.nu, from, to, c_.w, [this, to](int j, Scaled f) {
+        if (j == to - 1) weigh(f);
+        return take_i(j, f);
+      });
+    }
+    if (c_.k.used && !k_is_negligible_ && status_ == Status::kOk) {
       ascend_k(request_.nu, from, to, c_.w, [this](int j, Scaled f) { return take_k(j, f); });
     }
   }
@@ -88,7 +93,16 @@ class Evaluation {
   void both_at(int j) {
     const bool below = c_.w.imag() < 0.0;
     const Uniform expansion(two_sum(request_.nu, j), amos::mirrored(c_.w, below));
-    if (take_i(j, amos::mirrored(expansion.i(), below))) take_k(j, amos::mirrored(expansion.k(), below));
+    const Scaled i = amos::mirrored(expansion.i(), below);
+    weigh(i);
+    if (take_i(j, i) && !k_is_negligible_) take_k(j, amos::mirrored(expansion.k(), below));
+  }
+
+  // Whether the part of K counts, from I of the largest order: |I K| < 2^10 for all orders and arguments that do not
+  // underflow, I falls with the order, and K rises.
+  void weigh(Scaled i) {
+    constexpr std::int64_t kBits = 60 + 10;
+    k_is_negligible_ = c_.k.used && (i_.e + i.e) - (k_.e - i.e) > kBits;
   }
 
   Scaled i_part(int j, Scaled f) const { return normalized(f * i_ * times_i_power(1.0, c_.i.turns * (j & 3))); }
@@ -98,7 +112,7 @@ class Evaluation {
   // lose digits, and is computed once more then; far below that, only next to a part of K that counts as little.
   bool take_i(int j, Scaled f) {
     const Scaled part = i_part(j, f);
-    if (!c_.k.used) {
+    if (!c_.k.used || k_is_negligible_) {
       const bool small = c_.real ? is_small(j, part.m.real(), part.m) : is_beside_zero(j, f);
       return store(j, part, small);
     }
@@ -161,6 +175,7 @@ class Evaluation {
   bool mirrored_;  // the function was asked for at the conjugate of the argument
   Result result_;
   Scaled i_, k_;  // what the terms have in front at the first order
+  bool k_is_negligible_ = false;
   std::optional<SecondLook> second_look_;
   Status status_ = Status::kOk;
   int underflows_ = 0;
