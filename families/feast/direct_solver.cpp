@@ -36,6 +36,8 @@ double inner_product(int n, const T* x, const T* y) {
   return sum;
 }
 
+constexpr std::size_t kVectors = 3;  // that scratch holds
+
 // The entries of both triangles, by columns, of a matrix whose lower triangle is given: put(entry, k, is_mirrored) for
 // the k-th entry of `lower`. `next` holds the columns' starts, and is used up.
 template <class Put>
@@ -55,13 +57,8 @@ void spread(const sparse::Pattern& lower, int* next, const Put& put) {
 
 template <Scalar T>
 Status DirectSolver<T>::analyze(const Pencil<T>& pencil, OrderingMethod method, int threads) {
-  constexpr std::size_t kVectors = 3;
   pencil_ = &pencil;
   threads_ = threads;
-  const sparse::Pattern pattern = pencil.pattern();
-  values_ = base::Workspace<T>(static_cast<std::size_t>(pattern.entries()));
-  vectors_ = base::Workspace<T>(base::saturating_product(kVectors, static_cast<std::size_t>(pencil.size())));
-  if (!values_ || !vectors_) return Status::kNoMemory;
   Status status = plan(method);
   if (status == Status::kDone && kIsComplex<T>) status = build_full_pattern();
   if (status == Status::kDone && !pencil.is_standard()) status = check_b();
@@ -146,7 +143,9 @@ template <Scalar T>
 double DirectSolver<T>::spectral_radius(const sparse::Factor<T>& factor_of_b) {
   constexpr int kSteps = 12;
   const int n = pencil_->size();
-  T *const x = vectors_.data(), *const y = x + n, *const ax = y + n;
+  base::Workspace<T> vectors(base::saturating_product(kVectors, static_cast<std::size_t>(n)));
+  if (!vectors) return -1;
+  T *const x = vectors.data(), *const y = x + n, *const ax = y + n;
   std::mt19937 random;
   std::generate_n(x, n, [&random] { return static_cast<double>(random()) * 0x1p-31 - 1; });
   pencil_->multiply_by_b(1, x, y);
@@ -173,9 +172,10 @@ Status DirectSolver<T>::clamp(Interval& interval, bool& is_empty) {
   const double bound = is_certain ? kSlack * pencil_->norm_of_a() : 2 * radius_;
   const bool is_above = interval.low > bound;
   std::optional<int> below;
+  sparse::Factor<T> factor;
   if (is_above || interval.high < -bound) {
     const double end = is_above ? interval.low : interval.high;
-    const Status status = is_certain ? Status::kDone : count_below(end, std::fabs(end) / 2, below);
+    const Status status = is_certain ? Status::kDone : count_below(end, std::fabs(end) / 2, threads_, factor, below);
     is_empty = is_certain || below == (is_above ? pencil_->size() : 0);
     return status;
   }
@@ -183,11 +183,13 @@ Status DirectSolver<T>::clamp(Interval& interval, bool& is_empty) {
   if (!(part.low < part.high)) return Status::kDone;
   if (!is_certain) {
     if (part.low > interval.low) {
-      if (const Status status = count_below(part.low, bound / 2, below); status != Status::kDone) return status;
+      if (const Status status = count_below(part.low, bound / 2, threads_, factor, below); status != Status::kDone)
+        return status;
       if (below != 0) part.low = interval.low;
     }
     if (part.high < interval.high) {
-      if (const Status status = count_below(part.high, bound / 2, below); status != Status::kDone) return status;
+      if (const Status status = count_below(part.high, bound / 2, threads_, factor, below); status != Status::kDone)
+        return status;
       if (below != pencil_->size()) part.high = interval.high;
     }
   }
@@ -198,32 +200,31 @@ Status DirectSolver<T>::clamp(Interval& interval, bool& is_empty) {
 // The pivots are those of a matrix nearby: to be trusted, it has to be nearer than (A - (sigma -+ margin) B). That is
 // tried with a solution x for a random right-hand side, which consists mostly of the eigenvectors next to sigma.
 template <Scalar T>
-Status DirectSolver<T>::count_below(double sigma, double margin, std::optional<int>& below) {
+Status DirectSolver<T>::count_below(double sigma, double margin, int threads, sparse::Factor<T>& factor,
+                                    std::optional<int>& below) const {
   constexpr double kSafety = 16;
   below.reset();
   const sparse::ColumnMatrix<T> A = pencil_->A(), B = pencil_->B();
-  for (int k = 0; k < A.entries(); ++k) values_.data()[k] = A.values[k] - sigma * B.values[k];
-  FactorOptions options;
-  options.factorization = kIsComplex<T> ? Factorization::kLDLH : Factorization::kLDLT;
-  options.pivoting = sparse::Pivoting::kBunchKaufman;
-  options.threads = threads_;
-  sparse::Factor<T> factor;
-  FactorOutcome outcome = factor.compute(plan_, lower_, {values_.data()}, options);
+  const int n = pencil_->size();
+  base::Workspace<T> values(static_cast<std::size_t>(A.entries()));
+  base::Workspace<T> vectors(base::saturating_product(kVectors, static_cast<std::size_t>(n)));
+  if (!values || !vectors) return Status::kNoMemory;
+  for (int k = 0; k < A.entries(); ++k) values.data()[k] = A.values[k] - sigma * B.values[k];
+  FactorOutcome outcome = factor.compute(plan_, lower_, {values.data()}, inertia_options(threads));
   if (outcome == FactorOutcome::kSingular || outcome == FactorOutcome::kNotFinite) return Status::kDone;
   if (outcome != FactorOutcome::kDone) return feast::status_of(outcome);
   const sparse::PivotCounts& pivots = factor.report().pivots;
   if (pivots.zero > 0) return Status::kDone;
 
-  const int n = pencil_->size();
-  T *const x = vectors_.data(), *const product = x + n, *const residual = product + n;
+  T *const x = vectors.data(), *const product = x + n, *const residual = product + n;
   std::mt19937 random;
   std::generate_n(residual, n, [&random] { return static_cast<double>(random()) * 0x1p-31 - 1; });
   sparse::permute(n, plan_.permutation(), residual, product);
-  outcome = sparse::solve(factor, Operation::kPlain, Stage::kAll, 1, product, n, threads_);
+  outcome = sparse::solve(factor, Operation::kPlain, Stage::kAll, 1, product, n, threads);
   if (outcome != FactorOutcome::kDone) return feast::status_of(outcome);
   sparse::permute_back(n, plan_.permutation(), product, x);
   std::fill_n(product, n, T{});
-  sparse::add_product({A, values_.data()}, sparse::Symmetry::kHermitian, x, product);
+  sparse::add_product({A, values.data()}, sparse::Symmetry::kHermitian, x, product);
   for (int i = 0; i < n; ++i) residual[i] -= product[i];
   pencil_->multiply_by_b(1, x, product);
   const double error = std::sqrt(squared_norm(n, residual)), step = std::sqrt(squared_norm(n, product));
@@ -231,11 +232,26 @@ Status DirectSolver<T>::count_below(double sigma, double margin, std::optional<i
   return Status::kDone;
 }
 
+template <Scalar T>
+FactorOptions DirectSolver<T>::inertia_options(int threads) {
+  FactorOptions options;
+  options.factorization = kIsComplex<T> ? Factorization::kLDLH : Factorization::kLDLT;
+  options.pivoting = sparse::Pivoting::kBunchKaufman;
+  options.threads = threads;
+  return options;
+}
+
+template <Scalar T>
+double DirectSolver<T>::real_factor_bytes() const {
+  return static_cast<double>(sparse::factor_bytes<T>(plan_, inertia_options(1)));
+}
+
 // ---- z B - A --------------------------------------------------------------------------------------------------------
 
 template <Scalar T>
 std::size_t DirectSolver<T>::value_count() const {
-  return kIsComplex<T> ? static_cast<std::size_t>(full_starts_.data()[pencil_->size()]) : values_.size();
+  return kIsComplex<T> ? static_cast<std::size_t>(full_starts_.data()[pencil_->size()])
+                       : static_cast<std::size_t>(pencil_->pattern().entries());
 }
 
 // The imaginary part of z B - A is definite, so that pivots in any order do; the exchanges keep them large.

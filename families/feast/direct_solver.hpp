@@ -40,8 +40,12 @@ class DirectSolver {
   [[nodiscard]] Status clamp(Interval& interval, bool& is_empty);
 
   // The number of eigenvalues below sigma: that of the negative pivots of A - sigma B (Sylvester's law of inertia).
-  // Nothing if it cannot be trusted to be that of the eigenvalues below some point in sigma -+ margin.
-  [[nodiscard]] Status count_below(double sigma, double margin, std::optional<int>& below);
+  // Nothing if it cannot be trusted to be that of the eigenvalues below some point in sigma -+ margin. `factor` becomes
+  // that of A - sigma B. Several threads may call.
+  [[nodiscard]] Status count_below(double sigma, double margin, int threads, sparse::Factor<T>& factor,
+                                   std::optional<int>& below) const;
+  // Bytes of one such factor.
+  double real_factor_bytes() const;
 
   // Factors z B - A. `values`: value_count() elements.
   [[nodiscard]] sparse::FactorOutcome factor(Complex z, Complex* values, int threads,
@@ -59,6 +63,7 @@ class DirectSolver {
   Status plan(OrderingMethod method);
   sparse::Outcome order(const sparse::Graph& graph, OrderingMethod method, const sparse::Ordering& ordering);
   Status build_full_pattern();
+  static sparse::FactorOptions inertia_options(int threads);
   static sparse::FactorOptions shifted_options(int threads);
   Status check_b();
   double spectral_radius(const sparse::Factor<T>& factor_of_b);
@@ -71,8 +76,6 @@ class DirectSolver {
   // Of both triangles of complex matrices, by columns.
   sparse::Assembly full_;
   base::Workspace<int> full_starts_;
-  // Scratch: values of the lower triangle, three vectors.
-  base::Workspace<T> values_, vectors_;
 };
 
 }  // namespace quorin::feast

@@ -8,6 +8,7 @@
 #include <numeric>
 #include <span>
 
+#include "base/parallel.hpp"
 #include "platform/platform.hpp"
 
 namespace quorin::feast {
@@ -60,27 +61,49 @@ OrderingMethod IntervalSearch<Host>::ordering_method() const {
 
 // ---- Before the first loop ------------------------------------------------------------------------------------------
 
-// The number of eigenvalues below `where`, a point at a distance of about `margin` from an end; nothing if it cannot be
-// trusted at several such points.
+// The number of eigenvalues below a point at a distance of about `margin` from an end, if it can be trusted at one of
+// several such points.
 template <Scalar Host>
-Status IntervalSearch<Host>::count_beside(double end, double margin, std::optional<int>& below, double& where) {
-  for (const double factor : {1.0, 1.375, 0.75, 1.75}) {
-    where = end + factor * margin;
-    const Status status = solver_.count_below(where, std::fabs(margin), below);
-    if (status != Status::kDone || below) return status;
+Status IntervalSearch<Host>::count_beside(double end, double margin, int threads, Count& there,
+                                          bool& is_counted) const {
+  is_counted = false;
+  sparse::Factor<T> factor;
+  for (const double times : {1.0, 1.375, 0.75, 1.75}) {
+    there.where = end + times * margin;
+    std::optional<int> below;
+    const Status status = solver_.count_below(there.where, std::fabs(margin), threads, factor, below);
+    if (status != Status::kDone) return status;
+    if (below) {
+      there.below = *below;
+      is_counted = true;
+      return status;
+    }
   }
   return Status::kDone;
 }
 
 // The number of eigenvalues in an interval that is larger than the host's by about a margin on both sides (smaller, for
-// a negative one), and that interval; nothing if it cannot be told.
+// a negative one); nothing if it cannot be told. The interval is that between ends_.
 template <Scalar Host>
-Status IntervalSearch<Host>::count_within(double margin, std::optional<int>& count, Interval& within) {
-  std::optional<int> below_low, below_high;
+Status IntervalSearch<Host>::count_within(double margin, std::optional<int>& count) {
+  constexpr int kEnds = 2;
+  const platform::MemoryStatus memory = platform::memory_status();
+  const double budget = std::min(memory.total_physical, memory.available_virtual) / 2;
+  std::array<Status, kEnds> statuses;
+  std::array<bool, kEnds> are_counted{};
+  const auto count_both = [&](int together) {
+    base::parallel_for(kEnds, together, [&](int end) {
+      const auto place = static_cast<std::size_t>(end);
+      statuses[place] = count_beside(end == 0 ? bounds_.low : bounds_.high, end == 0 ? -margin : margin,
+                                     together == 1 ? threads_ : 1, ends_[place], are_counted[place]);
+    });
+    return statuses[0] != Status::kDone ? statuses[0] : statuses[1];
+  };
+  const int together = kEnds * solver_.real_factor_bytes() <= budget ? std::min(threads_, kEnds) : 1;
+  Status status = count_both(together);
+  if (status == Status::kNoMemory && together > 1) status = count_both(1);
   count.reset();
-  Status status = count_beside(bounds_.low, -margin, below_low, within.low);
-  if (status == Status::kDone && below_low) status = count_beside(bounds_.high, margin, below_high, within.high);
-  if (below_low && below_high) count = std::max(0, *below_high - *below_low);
+  if (status == Status::kDone && are_counted[0] && are_counted[1]) count = std::max(0, ends_[1].below - ends_[0].below);
   return status;
 }
 
@@ -89,41 +112,42 @@ Status IntervalSearch<Host>::count_within(double margin, std::optional<int>& cou
 template <Scalar Host>
 Status IntervalSearch<Host>::take_census() {
   constexpr double kMargins[] = {0x1p-10, 0x1p-20, 0x1p-30};
-  constexpr int kSharpFilter = 8;  // nodes with which the filter is small at 1 1/4 radii; else at 1 1/2
   const double radius = bounds_.radius();
   std::optional<int> count;
-  Interval within{};
   for (const double margin : kMargins) {
-    Status status = count_within(margin * radius, count, within);
+    Status status = count_within(margin * radius, count);
     if (status != Status::kDone || !count) return status;
     census_.inside = count;
-    census_.interval = within;
-    if (count == 0) return status;
-    if (margin == kMargins[0]) {
-      const double distance = arguments_.parameter(kFpmNodes) < kSharpFilter ? 0.5 : 0.25;
-      status = count_within(distance * radius, count, within);
-      if (status != Status::kDone) return status;
-      census_.passing = count.value_or(*census_.inside + *census_.inside / 2);
-    }
-    if (*census_.inside <= room_) return status;
-    status = count_within(-margin * radius, count, within);
+    census_.interval = {ends_[0].where, ends_[1].where};
+    if (*count <= room_) return status;
+    status = count_within(-margin * radius, count);
     census_.exceeds_room = count > room_;
     if (status != Status::kDone || census_.exceeds_room) return status;
   }
   return Status::kDone;
 }
 
+// The number of eigenvalues in a wider interval, outside of which the filter is small.
+template <Scalar Host>
+Status IntervalSearch<Host>::count_passing(int& passing) {
+  constexpr int kSharpFilter = 8;  // nodes with which the filter is small at 1 1/4 radii; else at 1 1/2
+  const double distance = arguments_.parameter(kFpmNodes) < kSharpFilter ? 0.5 : 0.25;
+  std::optional<int> count;
+  const Status status = count_within(distance * bounds_.radius(), count);
+  passing = count.value_or(*census_.inside + *census_.inside / 2);
+  return status;
+}
+
 // Room for all that passes the filter, so that what converges slowly, or mixes, is left out. Where that is very much
 // more than what is wanted, there are limits: of the reduced problem, and of memory.
 template <Scalar Host>
-int IntervalSearch<Host>::working_size() const {
+int IntervalSearch<Host>::working_size(int passing) const {
   constexpr int kSpare = 8, kMany = 64, kReduced = 512;
   constexpr std::size_t kBytes = std::size_t{64} << 20;
-  if (arguments_.is_on(kFpmFilterOnly) || census_.exceeds_room || !census_.inside) return room_;
   const std::size_t bytes_of_vector = static_cast<std::size_t>(pencil_.size()) * sizeof(T);
   const int affordable = static_cast<int>(std::min<std::size_t>(kReduced, kBytes / bytes_of_vector));
   const int least = *census_.inside + kSpare, most = std::max({room_, 3 * *census_.inside + kMany, affordable});
-  const int wanted = std::clamp(census_.passing + kSpare, least, most);
+  const int wanted = std::clamp(passing + kSpare, least, most);
   return std::min(pencil_.size(), arguments_.is_on(kFpmInitialSubspace) ? std::max(wanted, room_) : wanted);
 }
 
@@ -132,21 +156,69 @@ void IntervalSearch<Host>::randomize(int first) {
   X_.randomize(first, [this](int i) { return pencil_.diagonal_of_b(i); });
 }
 
-// Random vectors, in front of them those that the host gives.
+// By Lanczos runs: `found` are their pairs, if there are any. Where all are there, but residuals in the documented norm
+// are large, or values next to an end are not told from it, runs to smaller residuals follow. Without memory there are
+// no pairs.
 template <Scalar Host>
-bool IntervalSearch<Host>::load_subspace() {
-  const int n = pencil_.size(), size = working_size();
-  pairs_ = base::Workspace<Pair>(static_cast<std::size_t>(size));
-  order_ = base::Workspace<int>(static_cast<std::size_t>(size));
-  previous_values_ = base::Workspace<double>(static_cast<std::size_t>(size));
+Status IntervalSearch<Host>::start(std::optional<Tally>& found) {
+  constexpr double kParts[] = {1, 0x1p-12};
+  if (!census_.inside || *census_.inside > room_ || arguments_.is_on(kFpmInitialSubspace)) return Status::kDone;
+  const double tolerance = std::pow(10.0, -arguments_.parameter(kFpmTolerance));
+  for (const double part : kParts) {
+    Slices<T> slices(pencil_, solver_, part * tolerance_of_runs(), threads_);
+    const Status status = slices.run(ends_[0], ends_[1], X_);
+    found.reset();
+    if (status == Status::kNoMemory || X_.size() == 0) return Status::kDone;
+    if (status != Status::kDone) return status;
+    if (!reserve_results()) return Status::kNoMemory;
+    if (!ritz_.run(pencil_, X_)) return Status::kReducedFailed;
+    measure();
+    found = tally();
+    const bool is_right = found->is_resolved && found->largest_residual < tolerance;
+    if (is_right || found->candidates != census_.inside) break;
+  }
+  return Status::kDone;
+}
+
+// Of residuals, so that they are below the documented tolerance, and values right to float precision if what is next to
+// them is as far away as most of the interval is.
+template <Scalar Host>
+double IntervalSearch<Host>::tolerance_of_runs() const {
+  constexpr double kSafety = 0.125;
+  const double documented = kSafety * std::pow(10.0, -arguments_.parameter(kFpmTolerance)) * scale_;
+  return std::min(documented, std::sqrt(kSafety * kFloatPrecision * largest_magnitude(bounds_) * bounds_.radius()));
+}
+
+// Room for what is computed of the vectors.
+template <Scalar Host>
+bool IntervalSearch<Host>::reserve_results() {
+  const auto size = static_cast<std::size_t>(X_.capacity());
+  pairs_ = base::Workspace<Pair>(size);
+  order_ = base::Workspace<int>(size);
+  previous_values_ = base::Workspace<double>(size);
+  return pairs_ && order_ && previous_values_ && ritz_.reserve(X_.capacity());
+}
+
+// The subspace for the contour: random vectors, in front of them those that were found or that the host gives.
+template <Scalar Host>
+Status IntervalSearch<Host>::load_subspace() {
+  const int n = pencil_.size();
+  int size = room_;
+  if (!arguments_.is_on(kFpmFilterOnly) && !census_.exceeds_room && census_.inside) {
+    int passing = 0;
+    if (const Status status = count_passing(passing); status != Status::kDone) return status;
+    size = working_size(passing);
+  }
+  Subspace<T> found = std::move(X_);
+  X_ = {};
   contour_ = Contour(bounds_, arguments_.parameter(kFpmNodes));
-  if (!pairs_ || !order_ || !previous_values_ || !X_.reserve(n, size, threads_) ||
-      !filter_.reserve(pencil_, solver_, contour_, X_)) {
-    return false;
+  if (!X_.reserve(n, size, threads_) || !filter_.reserve(pencil_, solver_, contour_, X_) || !reserve_results()) {
+    return Status::kNoMemory;
   }
   X_.resize(size);
   randomize(0);
-  if (!arguments_.is_on(kFpmInitialSubspace)) return true;
+  for (int j = 0; j < std::min(size, found.size()); ++j) std::copy_n(found.column(j), n, X_.column(j));
+  if (!arguments_.is_on(kFpmInitialSubspace)) return Status::kDone;
   for (int j = 0; j < std::min(size, room_); ++j) {
     const Host* const given = arguments_.x + static_cast<std::ptrdiff_t>(j) * n;
     const double length =
@@ -155,7 +227,7 @@ bool IntervalSearch<Host>::load_subspace() {
     const double factor = arguments_.is_on(kFpmFilterOnly) ? 1 : 1 / length;
     std::transform(given, given + n, X_.column(j), [factor](Host x) { return factor * T{x}; });
   }
-  return true;
+  return Status::kDone;
 }
 
 // ---- Loops ----------------------------------------------------------------------------------------------------------
@@ -163,7 +235,7 @@ bool IntervalSearch<Host>::load_subspace() {
 template <Scalar Host>
 Status IntervalSearch<Host>::filter_only() {
   bounds_ = interval_;
-  if (!load_subspace()) return Status::kNoMemory;
+  if (const Status status = load_subspace(); status != Status::kDone) return status;
   if (const Status status = filter_.apply(X_); status != Status::kDone) return status;
   const T* const first = X_.column(0);
   std::transform(first, first + static_cast<std::ptrdiff_t>(pencil_.size()) * room_, arguments_.x,
@@ -189,12 +261,17 @@ Status IntervalSearch<Host>::iterate() {
     return Status::kNoneFound;
   }
   if (!census_.inside) census_.interval = bounds_;
-  if (!load_subspace() || !ritz_.reserve(X_.capacity())) return Status::kNoMemory;
-  for (;; ++loop_) {
-    if (status = filter_.apply(X_); status != Status::kDone) return status;
-    if (!ritz_.run(pencil_, X_)) return Status::kReducedFailed;
-    measure();
-    const Tally now = tally();
+  std::optional<Tally> found;
+  status = start(found);
+  if (status == Status::kDone && !found) status = load_subspace();
+  for (; status == Status::kDone; ++loop_) {
+    const bool is_start = loop_ == 0 && found;
+    if (!is_start) {
+      if (status = filter_.apply(X_); status != Status::kDone) break;
+      if (!ritz_.run(pencil_, X_)) return Status::kReducedFailed;
+      measure();
+    }
+    const Tally now = is_start ? *found : tally();
     epsout_ = std::fabs(now.sum - previous_sum_) / scale_;
     if (arguments_.is_on(kFpmPrint)) print_loop(now);
     if (const std::optional<Status> reached = verdict(now)) {
@@ -202,8 +279,13 @@ Status IntervalSearch<Host>::iterate() {
       return *reached;
     }
     remember(now);
-    replenish(now);
+    if (is_start) {
+      status = load_subspace();
+    } else {
+      replenish(now);
+    }
   }
+  return status;
 }
 
 template <Scalar Host>

@@ -11,6 +11,7 @@
 #include "families/feast/filter.hpp"
 #include "families/feast/pencil.hpp"
 #include "families/feast/rayleigh_ritz.hpp"
+#include "families/feast/slices.hpp"
 #include "families/feast/subspace.hpp"
 
 namespace quorin::feast {
@@ -40,7 +41,6 @@ class IntervalSearch {
   struct Census {
     Interval interval;          // a little larger than the host's
     std::optional<int> inside;  // eigenvalues in there; nothing if it could not be told
-    int passing = 0;            // with those in a wider one, outside of which the filter is small
     bool exceeds_room = false;  // more than m0 in the host's interval, for certain
   };
   // The pairs of a loop.
@@ -53,12 +53,16 @@ class IntervalSearch {
 
   Status prepare();
   Status take_census();
-  Status count_within(double margin, std::optional<int>& count, Interval& within);
-  Status count_beside(double end, double margin, std::optional<int>& below, double& where);
+  Status count_within(double margin, std::optional<int>& count);
+  Status count_beside(double end, double margin, int threads, Count& there, bool& is_counted) const;
+  Status count_passing(int& passing);
   OrderingMethod ordering_method() const;
   void randomize(int first);
-  bool load_subspace();
-  int working_size() const;
+  Status start(std::optional<Tally>& found);
+  Status load_subspace();
+  int working_size(int passing) const;
+  bool reserve_results();
+  double tolerance_of_runs() const;
   Status iterate();
   Status filter_only();
 
@@ -93,6 +97,7 @@ class IntervalSearch {
   Interval bounds_{};  // the part of the interval in which the spectrum lies
   Contour contour_;
   Census census_{};
+  std::array<Count, 2> ends_;  // where eigenvalues were counted last
   base::Workspace<Pair> pairs_;
   base::Workspace<int> order_;
 

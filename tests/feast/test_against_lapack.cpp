@@ -40,6 +40,9 @@ int count_inside(const std::vector<double>& eigenvalues, double low, double high
       std::count_if(eigenvalues.begin(), eigenvalues.end(), [&](double x) { return x >= low && x <= high; }));
 }
 
+// Since the program began.
+int calls = 0, without_contour = 0;
+
 // Solves with m0 too small, exact and generous.
 void expect_agreement(const Problem& problem, const std::vector<double>& eigenvalues, double low, double high) {
   const int inside = count_inside(eigenvalues, low, high), n = problem.n();
@@ -50,6 +53,8 @@ void expect_agreement(const Problem& problem, const std::vector<double>& eigenva
     // With ends rounded to floats there may be more, and what is an end to LAPACK's rounding may be inside.
     const double unsure = 1e-13 * std::max(std::fabs(eigenvalues.front()), std::fabs(eigenvalues.back()));
     if (call.info == 3 && count_inside(eigenvalues, call.emin - unsure, call.emax + unsure) > room) continue;
+    ++calls;
+    without_contour += call.loop == 0 ? 1 : 0;
     EXPECT_TRUE(call.info == 0 || call.info == 1)
         << problem.name << ' ' << low << ' ' << high << " m0 " << room << " status " << call.info;
     expect_right(problem, call, eigenvalues);
@@ -111,21 +116,37 @@ const std::function<Problem()> kStructures[] = {
 };
 INSTANTIATE_TEST_SUITE_P(All, Structures, testing::ValuesIn(kStructures));
 
-// Many eigenvalues next to an end, which pass the filter, too, and little room: the subspace is larger than m0.
+// Many eigenvalues next to an end, which pass the filter, too, and little room.
 TEST(Crowds, NextToAnEnd) {
-  for (const double last : {0.9, 0.999}) {
+  for (const auto& [crowd, last] : {std::pair(200, 0.9), std::pair(200, 0.999), std::pair(700, 0.9)}) {
     std::vector<double> values = {-0.9, -0.3, 0.1, 0.6, last};
-    for (int i = 1; i <= 200; ++i) values.push_back(1 + 0.01 * i / 200);
+    for (int i = 1; i <= crowd; ++i) values.push_back(1 + 0.01 * i / crowd);
     for (int i = 0; i < 50; ++i) values.push_back(2 + i);
     const Problem problem = make_problem("crowd", diagonal(values));
-    for (const int nodes : {3, 8}) {
-      Call call(-1, 1, 6);
-      call.parameter(2) = nodes;
-      solve(problem, call);
-      EXPECT_EQ(call.info, 0) << last << ", " << nodes << " nodes";
-      EXPECT_EQ(call.m, 5);
-      expect_right(problem, call, values);
-    }
+    Call call(-1, 1, 6);
+    solve(problem, call);
+    EXPECT_EQ(call.info, 0) << last << " beside " << crowd;
+    EXPECT_EQ(call.m, 5);
+    expect_right(problem, call, values);
+  }
+}
+
+// More eigenvalues than one shift is for, some of them ten times, and most in a part of the interval.
+TEST(Slices, MeetWithoutGaps) {
+  std::vector<double> values;
+  for (int i = 0; i < 250; ++i) values.push_back(1 + 0.004 * i);
+  for (int i = 0; i < 9; ++i) values.push_back(1.5);
+  for (int i = 0; i < 150; ++i) values.push_back(3 + 1e-4 * (i % 75));
+  for (int i = 0; i < 60; ++i) values.push_back(4 + i);
+  std::sort(values.begin(), values.end());
+  const Problem problems[] = {make_problem("spread", diagonal(values)), make_problem("box", laplacian(9, 9, 9))};
+  for (const Problem& problem : problems) {
+    const std::vector<double> eigenvalues = all_eigenvalues(problem);
+    Call by_slices(-1, 3.7, 420);
+    solve(problem, by_slices);
+    EXPECT_EQ(by_slices.info, 0) << problem.name;
+    EXPECT_GT(by_slices.m, 100);
+    expect_right(problem, by_slices, eigenvalues);
   }
 }
 

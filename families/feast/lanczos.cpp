@@ -1,0 +1,322 @@
+#include "families/feast/lanczos.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <complex>
+
+#include "dense/dense.hpp"
+
+namespace quorin::feast {
+namespace {
+
+// A column that is so much shorter after orthogonalization consists of rounding errors.
+constexpr double kDependent = 1e-11;
+// The Cholesky factor of a Gram matrix with a pivot so small, relative to its diagonal, would not make columns
+// orthogonal to half of the digits.
+constexpr double kSmallPivot = 1e-8;
+
+template <Scalar T>
+T dot(int n, const T* x, const T* y) {
+  T sum{};
+  for (int i = 0; i < n; ++i) sum += product(conjugate(x[i]), y[i]);
+  return sum;
+}
+
+template <Scalar T>
+void subtract_multiple(int n, T factor, const T* x, T* y) {
+  for (int i = 0; i < n; ++i) y[i] -= product(factor, x[i]);
+}
+
+// Cholesky: the upper triangle of R with R^H R = gram, in place; false where a pivot is small.
+template <Scalar T>
+bool factor_upper(int width, T* gram, int ld) {
+  const auto g = [&](int i, int j) -> T& { return gram[i + static_cast<std::ptrdiff_t>(j) * ld]; };
+  for (int j = 0; j < width; ++j) {
+    const double square = real_part(g(j, j));
+    for (int i = 0; i < j; ++i) {
+      for (int k = 0; k < i; ++k) g(i, j) -= product(conjugate(g(k, i)), g(k, j));
+      g(i, j) /= g(i, i);
+    }
+    double pivot = square;
+    for (int k = 0; k < j; ++k) pivot -= std::norm(g(k, j));
+    if (!(pivot > kSmallPivot * square)) return false;
+    g(j, j) = std::sqrt(pivot);
+    std::fill(&g(j, j) + 1, &g(0, j) + width, T{});
+  }
+  return true;
+}
+
+}  // namespace
+
+template <Scalar T>
+bool Lanczos<T>::reserve(int n, int capacity) {
+  n_ = n;
+  capacity_ = capacity;
+  const auto length = static_cast<std::size_t>(n), k = static_cast<std::size_t>(capacity);
+  constexpr std::size_t kWidth = kBlock;
+  V_ = base::Workspace<T>(base::saturating_product(length, k + kWidth));
+  Y_ = base::Workspace<T>(base::saturating_product(length, kWidth));
+  projected_ = base::Workspace<T>(base::saturating_product(k, k));
+  S_ = base::Workspace<T>(base::saturating_product(k, k));
+  coupling_ = base::Workspace<T>(kWidth * kWidth);
+  coefficients_ = base::Workspace<T>(base::saturating_product(k + kWidth, kWidth));
+  theta_ = base::Workspace<double>(k);
+  residuals_ = base::Workspace<double>(k);
+  lengths_ = base::Workspace<double>(kWidth);
+  return V_ && Y_ && projected_ && S_ && coupling_ && coefficients_ && theta_ && residuals_ && lengths_ &&
+         eigensolver_.reserve(capacity);
+}
+
+template <Scalar T>
+Status Lanczos<T>::run(const Pencil<T>& pencil, const sparse::Factor<T>& factor, const Goal& goal, int threads) {
+  pencil_ = &pencil;
+  factor_ = &factor;
+  goal_ = goal;
+  threads_ = threads;
+  size_ = width_ = 0;
+  random_.seed(std::mt19937_64::default_seed);
+  std::fill_n(projected_.data(), projected_.size(), T{});
+  Status status = start();
+  for (int check = 2 * kBlock; status == Status::kDone;) {
+    status = expand();
+    if (status != Status::kDone) break;
+    const bool is_full = next_ == 0 || size_ + next_ > capacity_;
+    if (size_ < check && !is_full) continue;
+    if (!examine()) return Status::kReducedFailed;
+    if (is_full || (is_reached(Side::kBelow, goal_.below) && is_reached(Side::kAbove, goal_.above))) break;
+    check = size_ + size_ / 8;
+  }
+  return status;
+}
+
+// ---- The basis ------------------------------------------------------------------------------------------------------
+
+// With entries from (-1, 1), scaled so that all eigenvectors have a similar part.
+template <Scalar T>
+void Lanczos<T>::randomize(T* x) {
+  const auto number = [this] { return static_cast<double>(random_() >> 11) * 0x1p-52 - 1; };
+  for (int i = 0; i < n_; ++i) {
+    const double factor = 1 / std::sqrt(n_ * pencil_->diagonal_of_b(i));
+    const double re = number();
+    if constexpr (kIsComplex<T>) {
+      x[i] = T{factor * re, factor * number()};
+    } else {
+      x[i] = factor * re;
+    }
+  }
+}
+
+// B W, which is W itself or in Y_.
+template <Scalar T>
+const T* Lanczos<T>::times_b(const T* W, int width) {
+  if (pencil_->is_standard()) return W;
+  pencil_->multiply_by_b(width, W, Y_.data());
+  return Y_.data();
+}
+
+// to <- M from, which may be the same.
+template <Scalar T>
+Status Lanczos<T>::apply(const T* from, int count, T* to) {
+  const int* const permutation = factor_->plan().permutation();
+  const T* const y = times_b(from, count);
+  T* const z = to == y ? Y_.data() : to;
+  for (int j = 0; j < count; ++j) sparse::permute(n_, permutation, y + offset(j), z + offset(j));
+  const auto outcome = sparse::solve(*factor_, sparse::Operation::kPlain, sparse::Stage::kAll, count, z, n_, threads_);
+  if (outcome != sparse::FactorOutcome::kDone) return status_of(outcome);
+  T* const scratch = z == to ? Y_.data() : z;
+  if (z == to) std::copy_n(z, offset(count), scratch);
+  for (int j = 0; j < count; ++j) sparse::permute_back(n_, permutation, scratch + offset(j), to + offset(j));
+  return Status::kDone;
+}
+
+// The first block: M times random vectors.
+template <Scalar T>
+Status Lanczos<T>::start() {
+  next_ = std::min(kBlock, n_);
+  for (int j = 0; j < next_; ++j) randomize(column(j));
+  const Status status = apply(column(0), next_, column(0));
+  if (status != Status::kDone) return status;
+  measure(column(0), next_);
+  for (int pass = 0; pass < 2; ++pass) next_ = orthonormalize(column(0), next_, next_, coupling_.data());
+  return next_ > 0 ? Status::kDone : Status::kReducedFailed;
+}
+
+// M times the latest block, without what lies in the space of that and the one before, gives the next; what rounding
+// errors leave of the others is taken out after that.
+template <Scalar T>
+Status Lanczos<T>::expand() {
+  const int first = size_, count = next_, before = width_;
+  for (int j = 0; j < before; ++j) {
+    for (int i = 0; i < count; ++i) projected(first + i, first - before + j) = coupling(j)[i];
+  }
+  T* const W = column(first + count);
+  const Status status = apply(column(first), count, W);
+  if (status != Status::kDone) return status;
+  measure(W, count);
+  project_out(first - before, before + count, W, count);
+  for (int j = 0; j < count; ++j) {
+    for (int i = j; i < count; ++i) {
+      projected(first + i, first + j) = coefficients_[static_cast<std::size_t>(j * (before + count) + before + i)];
+    }
+  }
+  size_ += count;
+  width_ = count;
+  next_ = orthonormalize(W, count, std::min(kBlock, n_ - size_), coupling_.data());
+  if (next_ == 0) return status;
+  T ignored[kBlock * kBlock];  // nearly I
+  project_out(0, size_, W, next_);
+  next_ = orthonormalize(W, next_, next_, ignored);
+  return status;
+}
+
+// The columns' lengths in the norm of B.
+template <Scalar T>
+void Lanczos<T>::measure(const T* W, int width) {
+  const T* const bw = times_b(W, width);
+  for (int j = 0; j < width; ++j) {
+    lengths_.data()[j] = std::sqrt(std::max(0.0, real_part(dot(n_, W + offset(j), bw + offset(j)))));
+  }
+}
+
+// W <- W - V V^H B W for columns first, ..., first + count - 1 of V. The coefficients are kept, count x width.
+template <Scalar T>
+void Lanczos<T>::project_out(int first, int count, T* W, int width) {
+  T* const C = coefficients_.data();
+  dense::blocked::gemm('C', 'N', count, width, n_, T{1}, column(first), n_, times_b(W, width), n_, T{}, C, count,
+                       threads_);
+  dense::blocked::gemm('N', 'N', n_, width, count, T{-1}, column(first), n_, C, count, T{1}, W, n_, threads_);
+}
+
+// W, behind the basis, becomes orthonormal in the inner product of B, `wanted` columns or fewer: W = W' R, of which the
+// leading dimension is kBlock. Returns how many. Columns that are short by what lengths_ say are dependent; lengths_
+// become 1.
+template <Scalar T>
+int Lanczos<T>::orthonormalize(T* W, int width, int wanted, T* R) {
+  dense::blocked::gemm('C', 'N', width, width, n_, T{1}, W, n_, times_b(W, width), n_, T{}, R, kBlock, threads_);
+  bool is_independent = width == wanted;
+  for (int j = 0; j < width; ++j) {
+    const double least = kDependent * lengths_.data()[j];
+    is_independent = is_independent && real_part(R[j * (kBlock + 1)]) > least * least;
+  }
+  if (is_independent && factor_upper(width, R, kBlock)) {
+    dense::blocked::trsm('R', 'U', 'N', 'N', n_, width, T{1}, R, kBlock, W, n_, threads_);
+  } else {
+    width = mend(W, width, wanted, R);
+  }
+  std::fill_n(lengths_.data(), kBlock, 1.0);
+  return width;
+}
+
+// The same column by column. Random vectors follow those that are independent.
+template <Scalar T>
+int Lanczos<T>::mend(T* W, int width, int wanted, T* R) {
+  constexpr double kExhausted = 1e-6;  // of a random vector, if nothing is outside of the space
+  T* const bw = Y_.data();
+  int count = 0;
+  const auto project_column_out = [&](T* w, T* factors) {
+    pencil_->multiply_by_b(1, w, bw);
+    for (int i = 0; i < count; ++i) factors[i] = dot(n_, W + offset(i), bw);
+    for (int i = 0; i < count; ++i) subtract_multiple(n_, factors[i], W + offset(i), w);
+  };
+  const auto normalize = [&](T* w, double least) {
+    pencil_->multiply_by_b(1, w, bw);
+    const double length = std::sqrt(std::max(0.0, real_part(dot(n_, w, bw))));
+    if (!(length > least)) return 0.0;
+    std::transform(w, w + n_, w, [factor = 1 / length](T x) { return factor * x; });
+    return length;
+  };
+  T factors[kBlock];
+  std::fill_n(R, kBlock * kBlock, T{});
+  for (int j = 0; j < width; ++j) {
+    T *const w = W + offset(count), *const r = R + static_cast<std::ptrdiff_t>(j) * kBlock;
+    if (count < j) std::copy_n(W + offset(j), n_, w);
+    for (int pass = 0; pass < 2; ++pass) {
+      project_column_out(w, factors);
+      for (int i = 0; i < count; ++i) r[i] += factors[i];
+    }
+    if (count == wanted) continue;
+    const double length = normalize(w, kDependent * lengths_.data()[j]);
+    if (length > 0) r[count++] = length;
+  }
+  while (count < wanted) {
+    T* const w = W + offset(count);
+    randomize(w);
+    for (int pass = 0; pass < 2; ++pass) {
+      if (size_ > 0) project_out(0, size_, w, 1);
+      project_column_out(w, factors);
+    }
+    if (normalize(w, kExhausted / std::sqrt(n_)) == 0) break;
+    ++count;
+  }
+  return count;
+}
+
+// ---- Ritz pairs -----------------------------------------------------------------------------------------------------
+
+// theta and S with V^H B M V = S diag(theta) S^H, and the residuals of x = M V s / theta: with f = M V s - theta V s,
+// which is the next block times its coupling with the latest times the last rows of s, A x - lambda B x is
+// -B f / theta^2. False if LAPACK fails.
+template <Scalar T>
+bool Lanczos<T>::examine() {
+  T* const S = S_.data();
+  for (int j = 0; j < size_; ++j) {
+    std::copy_n(&projected(j, j), size_ - j, S + j + static_cast<std::ptrdiff_t>(j) * size_);
+  }
+  if (!eigensolver_.decompose(size_, S, theta_.data())) return false;
+  for (std::size_t k = 0; k < static_cast<std::size_t>(size_); ++k) {
+    double square = 0;
+    for (int i = 0; i < next_; ++i) square += std::norm(next_component(i, k));
+    residuals_[k] = std::sqrt(square) / (theta_[k] * theta_[k]);
+  }
+  for (const Side side : {Side::kBelow, Side::kAbove}) {
+    int& count = converged_[index(side)] = 0;
+    while (is_on(side, count) && residuals_[place(side, count)] <= goal_.tolerance) ++count;
+  }
+  return true;
+}
+
+// Of M V s_k, the part of vector i of the next block.
+template <Scalar T>
+T Lanczos<T>::next_component(int i, std::size_t k) const {
+  const T* const s = S_.data() + k * static_cast<std::size_t>(size_) + size_ - width_;
+  T sum{};
+  for (int j = 0; j < width_; ++j) sum += product(coupling_[static_cast<std::size_t>(i + j * kBlock)], s[j]);
+  return sum;
+}
+
+// All is there if an eigenvalue from beyond the reach nearly is, too.
+template <Scalar T>
+bool Lanczos<T>::is_reached(Side side, const Wanted& wanted) const {
+  constexpr double kLoosely = 16;
+  const int count = converged(side);
+  if (wanted.reach <= 0 || count >= wanted.count || next_ == 0) return true;
+  return is_on(side, count) && std::fabs(value(side, count) - goal_.shift) > wanted.reach &&
+         residuals_[place(side, count)] <= kLoosely * goal_.tolerance;
+}
+
+template <Scalar T>
+std::optional<double> Lanczos<T>::next_value(Side side) const {
+  if (!is_on(side, converged(side))) return std::nullopt;
+  return value(side, converged(side));
+}
+
+template <Scalar T>
+bool Lanczos<T>::vectors(Side side, int count, T* X) const {
+  if (count == 0) return true;
+  const int rows = size_ + next_;
+  base::Workspace<T> C(base::saturating_product(static_cast<std::size_t>(rows), static_cast<std::size_t>(count)));
+  if (!C) return false;
+  T* c = C.data();
+  for (int j = 0; j < count; ++j, c += rows) {
+    const std::size_t k = place(side, j);
+    std::copy_n(S_.data() + k * static_cast<std::size_t>(size_), size_, c);
+    for (int i = 0; i < next_; ++i) c[size_ + i] = next_component(i, k) / theta_[k];
+  }
+  dense::blocked::gemm('N', 'N', n_, count, rows, T{1}, V_.data(), n_, C.data(), rows, T{}, X, n_, threads_);
+  return true;
+}
+
+template class Lanczos<double>;
+template class Lanczos<std::complex<double>>;
+
+}  // namespace quorin::feast
