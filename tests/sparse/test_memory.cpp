@@ -89,10 +89,10 @@ TEST(Memory, OfOrderingsRunsOutWithoutLoss) {
       {"matching", [](const Matrix& B, const Ordering& o) { return preprocessed(B, o, Symmetry::kGeneral); }},
       {"colamd", [](const Matrix& B, const Ordering& o) { return order_colamd(B.pattern(), o); }},
   };
-  for (const auto& [name, call] : calls) {
-    SCOPED_TRACE(name);
+  for (const auto& call : calls) {
+    SCOPED_TRACE(call.first);
     std::vector<int> permutation(static_cast<std::size_t>(A.columns)), inverse(permutation);
-    fail_each_allocation<Outcome>([&] { return call(A, {permutation.data(), inverse.data()}); });
+    fail_each_allocation<Outcome>([&] { return call.second(A, {permutation.data(), inverse.data()}); });
   }
 }
 

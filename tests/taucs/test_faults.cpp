@@ -163,6 +163,7 @@ TEST_F(Faults, OfTheDriver) {
       {"taucs.factor.LU=true", "taucs.factor.ordering=identity"}};
   for (const auto& call : calls) {
     std::vector<char*> options;
+    options.reserve(call.size() + 1);
     for (const char* const option : call) options.push_back(const_cast<char*>(option));
     options.push_back(nullptr);
     run(
