@@ -112,6 +112,18 @@ TEST(NotFiniteInput, MayStandWhereNothingIsRead) {
   std::vector<float> a = matrix_with(kNan), w(kOrder);
   EXPECT_EQ(syevr("L", kOrder, a, w), 0);
   for (std::size_t i = 0; i < kOrder; ++i) EXPECT_NEAR(w[i], i + 1 < kOrder ? 3.5F : 5.5F, 1e-5F);
+
+  // Of a band, the corner that lies outside of the matrix.
+  const std::int32_t n = 3, kd = 1, ldab = 2, one = 1;
+  for (const bool is_upper : {true, false}) {
+    std::vector<float> band = {2, 0, 2, 0, 2, 0}, values(3), z(1), work(7);
+    if (is_upper) band = {kNan, 2, 0, 2, 0, 2};
+    if (!is_upper) band.back() = kNan;
+    std::int32_t info = -99;
+    ssbev("N", is_upper ? "U" : "L", &n, &kd, band.data(), &ldab, values.data(), z.data(), &one, work.data(), &info);
+    EXPECT_EQ(info, 0);
+    EXPECT_EQ(values, std::vector<float>(3, 2));
+  }
 }
 
 TEST(NotFiniteInput, DoesNotHideAWrongArgument) {
