@@ -65,6 +65,7 @@ TEST(HostHeader, OwnsItsHandle) {
   EXPECT_EQ(first->negative_eigenvalues(), 3);
   Solver<double> second = std::move(*first);
   first.reset();
+  second.factor(given.values);
   std::vector<double> b(8, 1.0), x(8);
   second.solve(b, x);
   EXPECT_NEAR(x[0], -0.041860201286809, 1e-14);

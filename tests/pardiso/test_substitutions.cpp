@@ -61,6 +61,13 @@ TEST(Substitutions, OverwriteBOnRequest) {
   ASSERT_EQ(host.call(13), 0);
   const auto b = host.b, solution = host.x;
   EXPECT_EQ(b, std::vector<double>(16, 1.0));
+  for (const int other_number : {-1, 2}) {
+    host.cell(6) = other_number;
+    host.x.assign(host.x.size(), -7.0);
+    ASSERT_EQ(host.call(33), 0);
+    EXPECT_EQ(host.b, b);
+    EXPECT_EQ(host.x, solution);
+  }
   host.cell(6) = 1;
   ASSERT_EQ(host.call(33), 0);
   EXPECT_EQ(host.b, solution);
