@@ -173,6 +173,30 @@ TEST(Plan, NeverCutsPairsApart) {
   check_rows(plan, dense_factor(graph, plan.permutation(), 0), 3);
 }
 
+// Cliques above cliques: one branch needs a large stack and leaves little, which is least if it comes first.
+TEST(Plan, PutsTheChildrenInTheOrderOfTheSmallestStack) {
+  constexpr int kBranches = 10, kLeaf = 60, kMiddle = 100, kRoot = 100, kShared = 10, kLarge = 80;
+  constexpr int root = (kBranches + 1) * kLeaf + kMiddle;
+  Edges edges(root + kRoot);
+  const auto join = [&edges](int first, int count, int other, int others) {
+    for (int i = first; i < first + count; ++i) {
+      for (int j = i + 1; j < first + count; ++j) edges.add(i, j);
+      for (int j = other; j < other + others; ++j) edges.add(i, j);
+    }
+  };
+  int next = 0;
+  for (int branch = 0; branch < kBranches; ++branch, next += kLeaf) join(next, kLeaf, root, kShared);
+  join(next, kLeaf, next + kLeaf, kLarge);
+  join(next + kLeaf, kMiddle, root, kShared);
+  join(root, kRoot, root, 0);
+  const Matrix A = edges.matrix("cliques");
+  Arrays given(root + kRoot);
+  order_identity(root + kRoot, given.ordering());
+  const Plan plan = plan_of(A, given.ordering());
+  ASSERT_EQ(plan.supernodes(), kBranches + 3);
+  EXPECT_EQ(plan.stack_elements(), kLarge * kLarge + kShared * kShared);
+}
+
 // The dense matrix that the panels hold.
 template <Scalar T>
 std::vector<T> assembled(const Plan& plan, const Assembly& assembly, const Values<T>& values) {
