@@ -9,14 +9,15 @@ namespace quorin::dense::kernels::target {
 
 template <class Real>
 using TileKernel = void(int k, const Real* a, std::ptrdiff_t a_step, const Real* b, std::ptrdiff_t b_step,
-                        std::ptrdiff_t b_column, Real alpha, bool adds, Real* c, std::ptrdiff_t ldc) noexcept;
+                        std::ptrdiff_t b_column, Real alpha, bool adds, Real* c, std::ptrdiff_t ldc, int last) noexcept;
 
 // C <- alpha A B, or C + alpha A B, for kVectors vectors of rows by kColumns columns and k terms: the rows of term l
 // stand together at a + l * a_step, its element of column j is b[l * b_step + j * b_column]. The product with alpha is
 // rounded before it is added, in every tile alike, so that an element's bits do not depend on the tile that makes it.
+// Of the last vector of each column the first `last` rows are wanted.
 template <class Isa, class Real, int kVectors, int kColumns>
 void multiply_tile(int k, const Real* a, std::ptrdiff_t a_step, const Real* b, std::ptrdiff_t b_step,
-                   std::ptrdiff_t b_column, Real alpha, bool adds, Real* c, std::ptrdiff_t ldc) noexcept {
+                   std::ptrdiff_t b_column, Real alpha, bool adds, Real* c, std::ptrdiff_t ldc, int last) noexcept {
   using V = Vector<Isa, Real>;
   constexpr int kWidth = kLanes<Isa, Real>;
   constexpr int kCacheLine = 64 / static_cast<int>(sizeof(Real)), kAhead = kColumns + (kColumns == 1 ? 1 : 0);
@@ -54,16 +55,21 @@ void multiply_tile(int k, const Real* a, std::ptrdiff_t a_step, const Real* b, s
     if constexpr (kColumns > 3) thirds[1] += b_step;
     if constexpr (kColumns > 6) thirds[2] += b_step;
   }
+  Real parts[kColumns][kWidth];  // the last vectors, if not all of them is wanted
+  const bool has_parts = last < kWidth;
 #pragma GCC unroll 8
   for (int j = 0; j < kColumns; ++j) {
 #pragma GCC unroll 8
     for (int v = 0; v < kVectors; ++v) {
-      Real* const target = c + j * ldc + v * kWidth;
+      const bool is_part = v == kVectors - 1 && has_parts;
+      Real* const target = is_part ? parts[j] : c + j * ldc + v * kWidth;
       V product = alpha * sums[j][v];
       pin(product);
-      store<Isa>(target, adds ? product + load<Isa>(target) : product);
+      store<Isa>(target, adds && !is_part ? product + load<Isa>(target) : product);
     }
   }
+  if (!has_parts) return;
+  for (int j = 0; j < kColumns; ++j) put<Isa>(parts[j], last, adds, c + j * ldc + (kVectors - 1) * kWidth);
 }
 
 // How many columns a tile of so many vectors has at best: as many independent sums as there are registers for.

@@ -42,19 +42,18 @@ template <class Isa, Scalar T>
 template <class Isa, class Real>
 struct Square {
   static constexpr int kSize = 16 / static_cast<int>(sizeof(Real));
-  using Row [[gnu::vector_size(16)]] = Real;
-  using RowInMemory [[gnu::vector_size(16), gnu::aligned(4), gnu::may_alias]] = Real;
+  using Row = Vector<Narrowest<Isa>, Real>;
+
+  [[gnu::always_inline]] static Row get(const Real* from) noexcept { return load<Narrowest<Isa>>(from); }
+  [[gnu::always_inline]] static void put(Real* to, Row values) noexcept { store<Narrowest<Isa>, Real>(to, values); }
 
   // Without kScales nothing is computed: bits are moved, whatever they mean.
   template <bool kScales>
   [[gnu::always_inline]] static void copy_transposed(const Real* from, std::ptrdiff_t from_step, Real* to,
                                                      std::ptrdiff_t to_step, Real factor) noexcept {
     const auto row = [&](int i) __attribute__((always_inline)) {
-      const Row values = *reinterpret_cast<const RowInMemory*>(from + i * from_step);
+      const Row values = get(from + i * from_step);
       return kScales ? values * factor : values;
-    };
-    const auto put = [&](int i, Row values) __attribute__((always_inline)) {
-      *reinterpret_cast<RowInMemory*>(to + i * to_step) = values;
     };
     if constexpr (kSize == 4) {
       const Row r0 = row(0), r1 = row(1), r2 = row(2), r3 = row(3);
@@ -62,14 +61,14 @@ struct Square {
                 high01 = __builtin_shufflevector(r0, r1, 2, 6, 3, 7);
       const Row low23 = __builtin_shufflevector(r2, r3, 0, 4, 1, 5),
                 high23 = __builtin_shufflevector(r2, r3, 2, 6, 3, 7);
-      put(0, __builtin_shufflevector(low01, low23, 0, 1, 4, 5));
-      put(1, __builtin_shufflevector(low01, low23, 2, 3, 6, 7));
-      put(2, __builtin_shufflevector(high01, high23, 0, 1, 4, 5));
-      put(3, __builtin_shufflevector(high01, high23, 2, 3, 6, 7));
+      put(to, __builtin_shufflevector(low01, low23, 0, 1, 4, 5));
+      put(to + to_step, __builtin_shufflevector(low01, low23, 2, 3, 6, 7));
+      put(to + 2 * to_step, __builtin_shufflevector(high01, high23, 0, 1, 4, 5));
+      put(to + 3 * to_step, __builtin_shufflevector(high01, high23, 2, 3, 6, 7));
     } else {
       const Row r0 = row(0), r1 = row(1);
-      put(0, __builtin_shufflevector(r0, r1, 0, 2));
-      put(1, __builtin_shufflevector(r0, r1, 1, 3));
+      put(to, __builtin_shufflevector(r0, r1, 0, 2));
+      put(to + to_step, __builtin_shufflevector(r0, r1, 1, 3));
     }
   }
 };
@@ -100,6 +99,10 @@ void copy_rectangle(const Source<Real>& from, int count, int terms, Real factor,
       for (; i + kLanes<Isa, Real> <= inner; i += kLanes<Isa, Real>) {
         const Vector<Isa, Real> values = load<Isa>(from.data + x + i);
         store<Isa, Real>(to + y + i, kScales ? values * factor : values);
+      }
+      for (; i + kSize <= inner; i += kSize) {
+        const auto values = Square<Isa, Real>::get(from.data + x + i);
+        Square<Isa, Real>::put(to + y + i, kScales ? values * factor : values);
       }
       for (; i < inner; ++i) copy(x + i, y + i);
     }

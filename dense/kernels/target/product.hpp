@@ -31,7 +31,7 @@ struct Panel {
   std::ptrdiff_t a_step;
   int terms;  // real ones
 };
-template <class Isa, Scalar T>
+template <Scalar T>
 struct BlockOfB {
   using Real = RealOf<T>;
   const Real* data;
@@ -68,37 +68,23 @@ void make_part_of_tile(const Product<T>& p, const Panel<Isa, T>& whole, const Re
   TileKernel<Real>* const kernel = tile_kernel<Isa, Real>(panel.vectors, columns);
   alignas(64) Real copy[Tiles<Isa, T>::kMostTile];
   const int height = panel.vectors * kLanes<Isa, Real>;
-  const auto exchange = [&](bool is_result) __attribute__((always_inline)) {
-    for (int j = 0; j < columns; ++j) {
-      int first = panel.first_row, end = panel.first_row + panel.rows;
-      if (p.part == Part::kLower) first = std::max(first, column + j);
-      if (p.part == Part::kUpper) end = std::min(end, column + j + 1);
-      Real* const inside = copy + j * height + kParts * (first - panel.first_row);
-      Real* const outside = reinterpret_cast<Real*>(p.c + first + (column + j) * p.ldc);
-      for (int i = 0; i < kParts * (end - first); ++i) {
-        if (is_result) {
-          outside[i] = inside[i];
-        } else {
-          inside[i] = outside[i];
-        }
-      }
-    }
-  };
-  if (adds) {
-    for (int i = 0; i < columns * height; ++i) copy[i] = 0;
-    exchange(false);
+  kernel(panel.terms, panel.a, panel.a_step, b, b_step, b_column, alpha, false, copy, height, kLanes<Isa, Real>);
+  for (int j = 0; j < columns; ++j) {
+    int first = panel.first_row, end = panel.first_row + panel.rows;
+    if (p.part == Part::kLower) first = std::max(first, column + j);
+    if (p.part == Part::kUpper) end = std::min(end, column + j + 1);
+    put<Isa>(copy + j * height + kParts * (first - panel.first_row), kParts * (end - first), adds,
+             reinterpret_cast<Real*>(p.c + first + (column + j) * p.ldc));
   }
-  kernel(panel.terms, panel.a, panel.a_step, b, b_step, b_column, alpha, adds, copy, height);
-  exchange(true);
 }
 
 template <class Isa, Scalar T>
-void make_tiles(const Product<T>& p, const Panel<Isa, T>& panel, const BlockOfB<Isa, T>& block, RealOf<T> alpha,
+void make_tiles(const Product<T>& p, const Panel<Isa, T>& panel, const BlockOfB<T>& block, RealOf<T> alpha,
                 bool adds) noexcept {
   using Real = RealOf<T>;
   constexpr int kParts = Tiles<Isa, T>::kParts;
   const int last_row = panel.first_row + panel.rows - 1;
-  const bool is_full = kParts * panel.rows == panel.vectors * Tiles<Isa, T>::kWidth;
+  const int last = kParts * panel.rows - (panel.vectors - 1) * Tiles<Isa, T>::kWidth;
   const int most = block.sliver > 1 ? block.sliver : tile_columns<Isa>(panel.vectors);
   for (int j = 0, count = 0; j < block.columns; j += count) {
     count = std::min(most, block.columns - j);
@@ -116,13 +102,46 @@ void make_tiles(const Product<T>& p, const Panel<Isa, T>& panel, const BlockOfB<
     } else {
       b += j * b_column;
     }
-    if (is_full && is_inside) {
+    if (is_inside) {
       TileKernel<Real>* const kernel = tile_kernel<Isa, Real>(panel.vectors, count);
       kernel(panel.terms, panel.a, panel.a_step, b, b_step, b_column, alpha, adds,
-             reinterpret_cast<Real*>(p.c + panel.first_row + column * p.ldc), kParts * p.ldc);
+             reinterpret_cast<Real*>(p.c + panel.first_row + column * p.ldc), kParts * p.ldc, last);
     } else {
       make_part_of_tile<Isa>(p, panel, b, b_step, b_column, alpha, adds, column, count);
     }
+  }
+}
+
+// The rows from `i` on, for a block of columns and of terms l, l + 1, ...
+template <class Isa, Scalar T>
+void make_panels(const Product<T>& p, int i, int l, int terms, bool reads_a_directly, RealOf<T>* memory,
+                 const BlockOfB<T>& block, RealOf<T> alpha, bool adds) noexcept {
+  using Real = RealOf<T>;
+  constexpr int kParts = Tiles<Isa, T>::kParts, kWidth = Tiles<Isa, T>::kWidth;
+  const int end_row = p.first_row + p.rows;
+  for (int rows = 0; i < end_row; i += rows) {
+    const int reals = kParts * (end_row - i);
+    int part = reals % kWidth == 0 ? 0 : 1;  // of a vector
+    if constexpr (kHasNarrower<Isa>) {
+      using Narrower = typename Isa::Narrower;
+      if (reals < kWidth) return make_panels<Narrower>(p, i, l, terms, reads_a_directly, memory, block, alpha, adds);
+      if (reals % kLanes<Narrowest<Isa>, Real> == 0) part = 0;  // narrower vectors will be whole
+    }
+    const int vectors = panel_vectors<Isa>(reals / kWidth + part);
+    rows = std::min(end_row - i, vectors * kWidth / kParts);
+    if (p.part == Part::kLower && i + rows <= block.first_column) continue;
+    if (p.part == Part::kUpper && i >= block.first_column + block.columns) break;
+    Panel<Isa, T> panel{i, rows, vectors, memory, std::ptrdiff_t{vectors} * kWidth, kParts * terms};
+    const bool has_whole_vectors = kParts * rows == vectors * kWidth;
+    if (reads_a_directly && has_whole_vectors) {
+      panel.a = reinterpret_cast<const Real*>(p.a.data + i + l * p.a.column_step);
+      panel.a_step = p.a.column_step;
+    } else {
+      const PanelOfA<Isa, T> target{memory, vectors * kWidth};
+      pack<Isa, true>(p.a, i, rows, l, terms, target);
+      if (!has_whole_vectors) target.put_zeros(rows, terms);
+    }
+    make_tiles<Isa>(p, panel, block, alpha, adds);
   }
 }
 
@@ -171,13 +190,13 @@ void multiply(const Product<T>& p, const Blocking& blocking, std::byte* buffer) 
   Real* const panel_memory = reinterpret_cast<Real*>(buffer);
   Real* const block_memory = panel_memory + std::ptrdiff_t{depth} * kParts * Isa::kTileVectors * kWidth;
 
-  const int end_row = p.first_row + p.rows, end_column = p.first_column + p.columns;
+  const int end_column = p.first_column + p.columns;
   for (int j = p.first_column, columns = 0; j < end_column; j += columns) {
     columns = std::min(blocking.columns, end_column - j);
     bool adds = p.beta != T{};
     for (int l = 0, terms = 0; l < p.k; l += terms, adds = true) {
       terms = std::min(depth, p.k - l);
-      BlockOfB<Isa, T> block{nullptr, 1, 1, 1, j, columns};
+      BlockOfB<T> block{nullptr, 1, 1, 1, j, columns};
       if (direct_b) {
         block.data = reinterpret_cast<const Real*>(p.b.data + l * p.b.row_step + j * p.b.column_step);
         block.term_step = kIsComplex<T> ? 1 : p.b.row_step;
@@ -198,24 +217,7 @@ void multiply(const Product<T>& p, const Blocking& blocking, std::byte* buffer) 
           }
         }
       }
-      for (int i = p.first_row, rows = 0; i < end_row; i += rows) {
-        // Whole vectors first, then the rest of the rows in one.
-        const int vectors = std::max(1, panel_vectors<Isa>(kParts * (end_row - i) / kWidth));
-        rows = std::min(end_row - i, vectors * kWidth / kParts);
-        if (p.part == Part::kLower && i + rows <= j) continue;
-        if (p.part == Part::kUpper && i >= j + columns) break;
-        Panel<Isa, T> panel{i, rows, vectors, panel_memory, std::ptrdiff_t{vectors} * kWidth, kParts * terms};
-        const bool has_whole_vectors = kParts * rows == vectors * kWidth;
-        if (direct_a && has_whole_vectors) {
-          panel.a = reinterpret_cast<const Real*>(p.a.data + i + l * p.a.column_step);
-          panel.a_step = p.a.column_step;
-        } else {
-          const PanelOfA<Isa, T> target{panel_memory, vectors * kWidth};
-          pack<Isa, true>(p.a, i, rows, l, terms, target);
-          if (!has_whole_vectors) target.put_zeros(rows, terms);
-        }
-        make_tiles<Isa>(p, panel, block, alpha, adds);
-      }
+      make_panels<Isa>(p, p.first_row, l, terms, direct_a, panel_memory, block, alpha, adds);
     }
   }
 }

@@ -22,9 +22,16 @@ struct LaneBlock {
   static constexpr int kReals = kVectors * kWidth, kVectorsOfT = kReals / kParts, kStep = kParts * kReals;
   const TriangleBlock<T>& block;
   Real* x;
+  Real sign = block.is_conjugated ? Real{-1} : Real{1};  // of imaginary parts
 
+  // Without a choice, which could keep the compiler from fusing a multiplication before it with an addition behind it.
   T element(int p, int q) const noexcept {
-    return maybe_conjugated<Isa>(block.is_conjugated, block.triangle[p * block.row_step + q * block.column_step]);
+    const T& stored = block.triangle[p * block.row_step + q * block.column_step];
+    if constexpr (kIsComplex<T>) {
+      return T(stored.real(), sign * stored.imag());
+    } else {
+      return stored;
+    }
   }
 
   void put(int p, const V (&value)[kVectors]) const noexcept {
@@ -37,16 +44,20 @@ struct LaneBlock {
     }
   }
 
-  // value <- value + t x_p
+  // value <- value + t x_p, or value - t x_p
+  template <bool kSubtracts>
   [[gnu::always_inline]] void add_multiple(T t, int p, V (&value)[kVectors]) const noexcept {
     const Real* const from = x + p * kStep;
+    const auto add = [&value](int v, V product) __attribute__((always_inline)) {
+      value[v] = kSubtracts ? value[v] - product : value[v] + product;
+    };
     const V re = all<Isa>(std::real(t));
 #pragma GCC unroll 8
-    for (int v = 0; v < kVectors; ++v) value[v] += re * load<Isa>(from + v * kWidth);
+    for (int v = 0; v < kVectors; ++v) add(v, re * load<Isa>(from + v * kWidth));
     if constexpr (kIsComplex<T>) {
       const V im = all<Isa>(t.imag());
 #pragma GCC unroll 8
-      for (int v = 0; v < kVectors; ++v) value[v] += im * load<Isa>(from + kReals + v * kWidth);
+      for (int v = 0; v < kVectors; ++v) add(v, im * load<Isa>(from + kReals + v * kWidth));
     }
   }
 
@@ -71,7 +82,7 @@ struct LaneBlock {
       const Real size = std::max(std::abs(pivot.real()), std::abs(pivot.imag()));
       if (size >= 1 / kLargest && size <= kLargest) {
         for (V& vector : value) vector = V{};
-        return add_multiple(T{1} / pivot, p, value);
+        return add_multiple<false>(T{1} / pivot, p, value);
       }
       T* const numbers = reinterpret_cast<T*>(x + p * kStep);
       for (int j = 0; j < kVectorsOfT; ++j) numbers[j] /= pivot;
@@ -79,14 +90,60 @@ struct LaneBlock {
     }
   }
 
-  void solve() const noexcept {
-    for (int p = 0; p < block.order; ++p) {
-      V value[kVectors];
-      get(p, value);
-      for (int q = 0; q < p; ++q) add_multiple(-element(p, q), q, value);
-      if (!block.has_unit_diagonal) divide(p, element(p, p), value);
-      put(p, value);
+  // The rows that are made at once, so that sums hide each other's latency.
+  static constexpr int kRows = kVectors == 1 ? 4 : kVectors <= 3 ? 2 : 1;
+  template <int kCount>
+  using Values = V[kCount][kVectors];
+
+  // Each row of `values` gets its multiples of the x_q before element p, in order.
+  template <int kCount, bool kSubtracts>
+  [[gnu::always_inline]] void add_products(int p, Values<kCount>& values) const noexcept {
+    for (int q = 0; q < p; ++q) {
+#pragma GCC unroll 4
+      for (int row = 0; row < kCount; ++row) add_multiple<kSubtracts>(element(p + row, q), q, values[row]);
     }
+  }
+
+  template <int kCount>
+  void solve_rows(int p) const noexcept {
+    Values<kCount> values;
+#pragma GCC unroll 4
+    for (int row = 0; row < kCount; ++row) get(p + row, values[row]);
+    add_products<kCount, true>(p, values);
+#pragma GCC unroll 4
+    for (int row = 0; row < kCount; ++row) {
+#pragma GCC unroll 4
+      for (int k = 0; k < row; ++k) add_multiple<true>(element(p + row, p + k), p + k, values[row]);
+      if (!block.has_unit_diagonal) divide(p + row, element(p + row, p + row), values[row]);
+      put(p + row, values[row]);
+    }
+  }
+
+  void solve() const noexcept {
+    int p = 0;
+    for (; p + kRows <= block.order; p += kRows) solve_rows<kRows>(p);
+    for (; p < block.order; ++p) solve_rows<1>(p);
+  }
+
+  template <int kCount>
+  void multiply_rows(int p) const noexcept {
+    Values<kCount> values = {};
+#pragma GCC unroll 4
+    for (int row = 0; row < kCount; ++row) {
+      if (block.has_unit_diagonal) {
+        get(p + row, values[row]);
+      } else {
+        add_multiple<false>(element(p + row, p + row), p + row, values[row]);
+      }
+    }
+    add_products<kCount, false>(p, values);
+#pragma GCC unroll 4
+    for (int row = 1; row < kCount; ++row) {
+#pragma GCC unroll 4
+      for (int k = 0; k < row; ++k) add_multiple<false>(element(p + row, p + k), p + k, values[row]);
+    }
+#pragma GCC unroll 4
+    for (int row = 0; row < kCount; ++row) put(p + row, values[row]);
   }
 
   void multiply() const noexcept {
@@ -97,16 +154,9 @@ struct LaneBlock {
         put(p, value);
       }
     }
-    for (int p = block.order - 1; p >= 0; --p) {
-      V value[kVectors] = {};
-      if (block.has_unit_diagonal) {
-        get(p, value);
-      } else {
-        add_multiple(element(p, p), p, value);
-      }
-      for (int q = 0; q < p; ++q) add_multiple(element(p, q), q, value);
-      put(p, value);
-    }
+    int p = block.order;
+    for (; p >= kRows; p -= kRows) multiply_rows<kRows>(p - kRows);
+    for (; p > 0; --p) multiply_rows<1>(p - 1);
   }
 
   // Vectors first.. to their lanes or back; the lanes beyond `count` hold zeros.
@@ -158,14 +208,15 @@ struct LaneBlock {
 template <class Isa, Scalar T, bool kSolves>
 void run_triangle(const TriangleBlock<T>& block, std::byte* buffer) noexcept {
   auto* const x = reinterpret_cast<RealOf<T>*>(buffer);
-  // A block takes as long with one vector of lanes as with several, whose sums hide each other's latency.
-  constexpr int kMost = Isa::kSums > 6 ? 6 : 4, kLanesOfT = LaneBlock<Isa, T, 1>::kVectorsOfT;
+  constexpr int kMost = 6, kLanesOfT = LaneBlock<Isa, T, 1>::kVectorsOfT;
   const int first = LaneBlock<Isa, T, kMost>{block, x}.template run<kSolves>(0, false);
   const int rest = block.count - first;
   if (rest > 4 * kLanesOfT) {
     LaneBlock<Isa, T, kMost>{block, x}.template run<kSolves>(first, true);
-  } else if (rest > 2 * kLanesOfT) {
+  } else if (rest > 3 * kLanesOfT) {
     LaneBlock<Isa, T, 4>{block, x}.template run<kSolves>(first, true);
+  } else if (rest > 2 * kLanesOfT) {
+    LaneBlock<Isa, T, 3>{block, x}.template run<kSolves>(first, true);
   } else if (rest > kLanesOfT) {
     LaneBlock<Isa, T, 2>{block, x}.template run<kSolves>(first, true);
   } else {

@@ -8,24 +8,35 @@ namespace quorin::dense::kernels::target {
 // The register file as 32-bit code sees it: eight vectors. A tile of C of kTileVectors by kTileColumns stays in
 // registers while its sums are formed. Seven sums leave one register: for an element of B that multiplies vectors of A
 // in memory, or, where the instructions can repeat an element of B from memory by themselves (AVX-512), for a vector of
-// A. Without fused multiply-adds a product needs a register of its own.
+// A. Without fused multiply-adds a product needs a register of its own. Rows that do not fill a vector go to narrower
+// registers, which make the same bits.
 struct Sse2 {
+  using Narrower = void;
   static constexpr auto kSet = platform::InstructionSet::kSse2;
   static constexpr int kBytes = 16, kTileVectors = 6, kTileColumns = 1, kSums = 6;
 };
-struct Avx2 {
-  static constexpr auto kSet = platform::InstructionSet::kAvx2;
-  static constexpr int kBytes = 32, kTileVectors = 7, kTileColumns = 1, kSums = 7;
-};
 // AVX2's instructions on registers of SSE's width, which cost nothing to leave.
 struct Avx2Small {
+  using Narrower = void;
   static constexpr auto kSet = platform::InstructionSet::kAvx2;
   static constexpr int kBytes = 16, kTileVectors = 7, kTileColumns = 1, kSums = 7;
 };
-struct Avx512 {
-  static constexpr auto kSet = platform::InstructionSet::kAvx512;
-  static constexpr int kBytes = 64, kTileVectors = 1, kTileColumns = 7, kSums = 7;
+struct Avx2 {
+  using Narrower = Avx2Small;
+  static constexpr auto kSet = platform::InstructionSet::kAvx2;
+  static constexpr int kBytes = 32, kTileVectors = 7, kTileColumns = 1, kSums = 7;
 };
+template <int kVectorBytes>
+struct Avx512Of {
+  using Narrower = std::conditional_t<(kVectorBytes > 16), Avx512Of<kVectorBytes / 2>, void>;
+  static constexpr auto kSet = platform::InstructionSet::kAvx512;
+  static constexpr int kBytes = kVectorBytes, kTileVectors = 1, kTileColumns = 7, kSums = 7;
+};
+using Avx512 = Avx512Of<64>;
+
+// Whether vectors of half the width work for the set, too.
+template <class Isa>
+inline constexpr bool kHasNarrower = !std::is_void_v<typename Isa::Narrower>;
 
 template <class Isa, class Real>
 struct VectorTypes {
@@ -49,6 +60,25 @@ template <class Isa, class Real>
 template <class Isa, class Real>
 [[gnu::always_inline]] inline Vector<Isa, Real> all(Real x) noexcept {
   return x - Vector<Isa, Real>{};  // x - 0 is x, whatever its sign, and costs nothing
+}
+
+// Registers of SSE's width, whatever the set's.
+template <class Isa>
+struct Narrowest {
+  static constexpr int kBytes = 16;
+};
+
+// to <- from, or from + to.
+template <class Isa, class Real>
+void put(const Real* from, int count, bool adds, Real* to) noexcept {
+  using Quarter = Narrowest<Isa>;
+  constexpr int kWidth = kLanes<Quarter, Real>;
+  int i = 0;
+  for (; i + kWidth <= count; i += kWidth) {
+    const auto values = load<Quarter>(from + i);
+    store<Quarter, Real>(to + i, adds ? values + load<Quarter>(to + i) : values);
+  }
+  for (; i < count; ++i) to[i] = adds ? from[i] + to[i] : from[i];
 }
 
 // Keeps what a register holds from being computed again, read from memory, or fused with what follows.
