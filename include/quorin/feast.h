@@ -6,10 +6,13 @@
  * whole (uplo F) the lower triangle is read; entries of the other triangle of one given as U or L are ignored, and
  * entries of the same place add up.
  *
- * The interval's eigenvectors are filtered out of a subspace by a contour integral of (z B - A)^-1 around it, which
- * takes fpm(2) factorizations; a Rayleigh-Ritz step in the filtered subspace gives eigenvalues, and both are repeated
- * until the residuals are small. All of it is computed in double precision; e, x and res are rounded to floats at the
- * end. Eigenvectors are orthonormal: x_i^H x_j or x_i^H B x_j is 1 for i = j and 0 otherwise.
+ * The subspace to begin with is made by Lanczos runs with (A - sigma B)^-1 for one or several shifts sigma in the
+ * interval, each with one factorization, and a Rayleigh-Ritz step gives eigenvalues. Mostly they are all there then,
+ * with small residuals, and the call ends with loop = 0. Otherwise, and when the host gives the subspace, the
+ * interval's eigenvectors are filtered out of it by a contour integral of (z B - A)^-1 around the interval, which takes
+ * fpm(2) factorizations; that and another Rayleigh-Ritz step are repeated until the residuals are small. The trace
+ * test, fpm(6) = 1, takes one such loop at least. All of it is computed in double precision; e, x and res are rounded
+ * to floats at the end. Eigenvectors are orthonormal: x_i^H x_j or x_i^H B x_j is 1 for i = j and 0 otherwise.
  *
  * Before it begins, the routine counts: the signs of the pivots of A - sigma B, for sigma a little (a thousandth of the
  * half width) outside of each end, tell how many eigenvalues there are. So status 1 is certain, and no status 0 leaves
