@@ -1,9 +1,11 @@
 // BLAS on square matrices and contiguous vectors, beside another BLAS.
+#include <complex>
 #include <cstddef>
 #include <type_traits>
 
 #include "bench/operands.hpp"
 #include "bench/suite.hpp"
+#include "dense/blocked.hpp"
 
 namespace quorin::bench {
 namespace {
@@ -32,6 +34,14 @@ auto syrk_call(const Library& blas, int n) {
   };
 }
 
+// C <- A B, A symmetric
+auto symm_call(const Library& blas, int n) {
+  return [symm = blas.ssymm, n, a = square_matrix<float>(n), b = square_matrix<float>(n), c = square_matrix<float>(n)] {
+    const float one = 1, zero = 0;
+    symm("L", "L", &n, &n, &one, a.data(), &n, b.data(), &n, &zero, c.data(), &n);
+  };
+}
+
 // A lower triangular matrix that is its own inverse, [I 0; C -I], so that solving with it again and again lets nothing
 // grow or vanish. C is small, to keep rounding errors from growing either.
 Array<float> triangular_involution(int n) {
@@ -50,11 +60,12 @@ Array<float> triangular_involution(int n) {
   return a;
 }
 
-// B <- A^-1 B
-auto trsm_call(const Library& blas, int n) {
-  return [trsm = blas.strsm, n, a = triangular_involution(n), b = square_matrix<float>(n)] {
+// B <- A^-1 B or A B
+template <class Routine>
+auto triangular_call(Routine* routine, int n) {
+  return [routine, n, a = triangular_involution(n), b = square_matrix<float>(n)] {
     const float one = 1;
-    trsm("L", "L", "N", "N", &n, &n, &one, a.data(), &n, b.data(), &n);
+    routine("L", "L", "N", "N", &n, &n, &one, a.data(), &n, b.data(), &n);
   };
 }
 
@@ -82,6 +93,20 @@ Row reading_row(const char* operation, int n, int threads, double floats) {
   return {"blas", operation, n, threads, floats * sizeof(float), Unit::kByte, Limit::kReading};
 }
 
+// C <- A B in double precision, which the library exports no BLAS for, but computes with itself. The peer has no
+// doubles.
+template <class T>
+void add_engine_row(Suite& suite, const char* operation, int n, int threads, double flops) {
+  const Row row{"blas", operation, n, threads, flops, Unit::kFlop, Limit::kDoubleArithmetic};
+  suite.measure(row, "quorin", [n, threads] {
+    return [n, threads, a = square_matrix<T>(n), b = square_matrix<T>(n), c = square_matrix<T>(n)] {
+      const dense::KernelBuffer buffers(threads);
+      dense::blocked::gemm('N', 'N', n, n, n, T{1}, a.data(), n, b.data(), n, T{0}, c.data(), n, threads);
+    };
+  });
+  suite.add_limit(row);
+}
+
 }  // namespace
 
 void add_blas_rows(Suite& suite) {
@@ -96,8 +121,15 @@ void add_blas_rows(Suite& suite) {
                     [n](const Library& blas) { return gemm_call<float>(blas.sgemm, n); });
       suite.compare(arithmetic_row("cgemm", n, threads, 8 * cube),
                     [n](const Library& blas) { return gemm_call<quorin_complex>(blas.cgemm, n); });
-      suite.compare(arithmetic_row("strsm", n, threads, cube), [n](const Library& blas) { return trsm_call(blas, n); });
+      suite.compare(arithmetic_row("strsm", n, threads, cube),
+                    [n](const Library& blas) { return triangular_call(blas.strsm, n); });
+      suite.compare(arithmetic_row("strmm", n, threads, cube),
+                    [n](const Library& blas) { return triangular_call(blas.strmm, n); });
+      suite.compare(arithmetic_row("ssymm", n, threads, 2 * cube),
+                    [n](const Library& blas) { return symm_call(blas, n); });
       suite.compare(arithmetic_row("ssyrk", n, threads, cube), [n](const Library& blas) { return syrk_call(blas, n); });
+      add_engine_row<double>(suite, "dgemm", n, threads, 2 * cube);
+      add_engine_row<std::complex<double>>(suite, "zgemm", n, threads, 8 * cube);
       suite.compare(reading_row("sgemv", n, threads, static_cast<double>(n) * n),
                     [n](const Library& blas) { return gemv_call(blas, n); });
     }

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "bench/operands.hpp"
@@ -47,6 +48,51 @@ auto potrf_call(const quorin_library& lapack, int n) {
   return [potrf = lapack.spotrf, p = Problem<float>(n)] {
     std::int32_t info = 0;
     potrf("L", &p.n, p.fresh(), &p.n, &info);
+  };
+}
+
+// Inverses, from factors that are made beforehand.
+template <class T, class Getrf, class Getri>
+auto getri_call(Getrf* getrf, Getri* getri, int n) {
+  Problem<T> problem(n);
+  std::vector<std::int32_t> pivots(problem.side());
+  std::int32_t info = 0;
+  getrf(&n, &n, problem.original.data(), &n, pivots.data(), &info);
+  return
+      [getri, p = std::move(problem), pivots = std::move(pivots), work = Array<T>(64 * static_cast<std::size_t>(n))] {
+        const std::int32_t lwork = 64 * p.n;
+        std::int32_t status = 0;
+        getri(&p.n, p.fresh(), &p.n, pivots.data(), work.data(), &lwork, &status);
+      };
+}
+
+template <class T, class Potrf, class Potri>
+auto potri_call(Potrf* potrf, Potri* potri, int n) {
+  Problem<T> problem(n);
+  std::int32_t info = 0;
+  potrf("L", &n, problem.original.data(), &n, &info);
+  return [potri, p = std::move(problem)] {
+    std::int32_t status = 0;
+    potri("L", &p.n, p.fresh(), &p.n, &status);
+  };
+}
+
+template <class T, class Trtri>
+auto trtri_call(Trtri* trtri, int n) {
+  return [trtri, p = Problem<T>(n)] {
+    std::int32_t info = 0;
+    trtri("L", "N", &p.n, p.fresh(), &p.n, &info);
+  };
+}
+
+// L D L^T of a symmetric (with hetrf: L D L^H of a Hermitian) matrix.
+template <class T, class Sytrf>
+auto sytrf_call(Sytrf* sytrf, int n) {
+  const auto side = static_cast<std::size_t>(n);
+  return [sytrf, p = Problem<T>(n), pivots = std::vector<std::int32_t>(side), work = Array<T>(64 * side)]() mutable {
+    const std::int32_t lwork = 64 * p.n;
+    std::int32_t info = 0;
+    sytrf("L", &p.n, p.fresh(), &p.n, pivots.data(), work.data(), &lwork, &info);
   };
 }
 
@@ -134,6 +180,17 @@ void add_lapack_rows(Suite& suite) {
       compare("sgeqrf", 4.0 / 3 * cube, [](const quorin_library& l, int m) { return geqrf_call<float>(l.sgeqrf, m); });
       compare("cgeqrf", 16.0 / 3 * cube,
               [](const quorin_library& l, int m) { return geqrf_call<quorin_complex>(l.cgeqrf, m); });
+      using Complex = quorin_complex;
+      using Lapack = const quorin_library&;
+      compare("sgetri", 4.0 / 3 * cube, [](Lapack l, int m) { return getri_call<float>(l.sgetrf, l.sgetri, m); });
+      compare("cgetri", 16.0 / 3 * cube, [](Lapack l, int m) { return getri_call<Complex>(l.cgetrf, l.cgetri, m); });
+      compare("spotri", 2.0 / 3 * cube, [](Lapack l, int m) { return potri_call<float>(l.spotrf, l.spotri, m); });
+      compare("cpotri", 8.0 / 3 * cube, [](Lapack l, int m) { return potri_call<Complex>(l.cpotrf, l.cpotri, m); });
+      compare("strtri", 1.0 / 3 * cube, [](Lapack l, int m) { return trtri_call<float>(l.strtri, m); });
+      compare("ctrtri", 4.0 / 3 * cube, [](Lapack l, int m) { return trtri_call<Complex>(l.ctrtri, m); });
+      compare("ssytrf", 1.0 / 3 * cube, [](Lapack l, int m) { return sytrf_call<float>(l.ssytrf, m); });
+      compare("csytrf", 4.0 / 3 * cube, [](Lapack l, int m) { return sytrf_call<Complex>(l.csytrf, m); });
+      compare("chetrf", 4.0 / 3 * cube, [](Lapack l, int m) { return sytrf_call<Complex>(l.chetrf, m); });
       compare("ssyevr", 10.0 / 3 * cube, syevr_call);
       compare("cheevr", 40.0 / 3 * cube, heevr_call);
       compare("sgesdd", 20.0 / 3 * cube, gesdd_call);

@@ -29,12 +29,15 @@ TITLES = {
 # What a section of the results answers. A section without an entry here is shown under its own name.
 SECTIONS = {
     "calls": ("The cost of a call", "One thread. \"Index adds\" is the time of the index form less that of the plain form."),
-    "blas": ("BLAS on square matrices of order n, and on vectors of length n", ""),
+    "blas": (
+        "BLAS on square matrices of order n, and on vectors of length n",
+        "dgemm and zgemm are not exported: UMFPACK and the sparse engine compute with them. Their limit is that of doubles. The peer has none.",
+    ),
     "lapack": (
         "LAPACK on square matrices of order n",
         "The peer is the published LAPACK over the stock OpenBLAS, on as many threads. Singular values, symmetric eigenvalues and right"
         " eigenvectors of general matrices, all with vectors. Operations are nominal, in n^3: sgetrf 2/3, cgetrf 8/3, spotrf 1/3,"
-        " sgeqrf 4/3, cgeqrf 16/3, ssyevr 10/3, cheevr 40/3, sgesdd 20/3, sgeev 25.",
+        " sgeqrf 4/3, cgeqrf 16/3, sgetri 4/3, spotri 2/3, strtri and ssytrf 1/3, their complex twins four times as many, ssyevr 10/3, cheevr 40/3, sgesdd 20/3, sgeev 25.",
     ),
     "orderings": (
         "Orderings",

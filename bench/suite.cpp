@@ -103,6 +103,8 @@ void Suite::add_limit(const Row& row) {
       return;
     case Limit::kArithmetic:
       return add_arithmetic_limit(*this, row, best_arithmetic(), best_arithmetic_flops(kArithmeticRounds));
+    case Limit::kDoubleArithmetic:
+      return add_arithmetic_limit(*this, row, best_arithmetic(), best_arithmetic_flops(kArithmeticRounds) / 2);
     case Limit::kReading:
       return add_reading_limit(*this, row, row.work);
     case Limit::kTriad:

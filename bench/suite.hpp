@@ -18,9 +18,10 @@ namespace quorin::bench {
 // What bounds the speed of a row.
 enum class Limit {
   kNone,
-  kArithmetic,  // multiply-add loop in registers, on the row's threads
-  kReading,     // reading as many bytes from an array of that size, on the row's threads
-  kTriad,       // y <- a x + y on arrays that together are as large as the row's, on the row's threads
+  kArithmetic,        // multiply-add loop in registers, on the row's threads
+  kDoubleArithmetic,  // the same for doubles: half as many in a register
+  kReading,           // reading as many bytes from an array of that size, on the row's threads
+  kTriad,             // y <- a x + y on arrays that together are as large as the row's, on the row's threads
 };
 
 // What a call's work is counted in.
