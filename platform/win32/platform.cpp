@@ -12,8 +12,7 @@
 #include <cstring>
 #include <new>
 
-#define WIN32_LEAN_AND_MEAN
-#include <windows.h>
+#include "platform/win32/later_functions.hpp"
 
 namespace quorin::platform {
 namespace {
@@ -45,7 +44,7 @@ HMODULE open_beside(HMODULE module, const char* name) {
   std::strcpy(path + folder_length, name);
   constexpr DWORD kFlags = LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR | LOAD_LIBRARY_SEARCH_DEFAULT_DIRS;
   HMODULE found = LoadLibraryExA(path, nullptr, kFlags);
-  // Windows 7 knows the flags since an update only.
+  // Before Windows 8 the flags are known since an update only.
   if (found == nullptr && GetLastError() == ERROR_INVALID_PARAMETER) {
     found = LoadLibraryExA(path, nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
   }
@@ -113,11 +112,12 @@ Module open_companion(const char* name) {
   HMODULE module = nullptr;
   if (GetModuleHandleExA(0, name, &module)) return module;
   // A missing library must not raise a message box in the host.
+  auto* const set_mode = later_function<BOOL WINAPI(DWORD, DWORD*)>("SetThreadErrorMode");
   DWORD mode = 0;
-  SetThreadErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX, &mode);
+  if (set_mode != nullptr) set_mode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX, &mode);
   if (HMODULE const own = own_module()) module = open_beside(own, name);
   if (module == nullptr) module = open_beside(nullptr, name);
-  SetThreadErrorMode(mode, nullptr);
+  if (set_mode != nullptr) set_mode(mode, nullptr);
   return module;
 }
 Module find_loaded_module(const char* name) { return GetModuleHandleA(name); }

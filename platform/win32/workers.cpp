@@ -5,9 +5,7 @@
 #include <utility>
 
 #include "platform/platform.hpp"
-
-#define WIN32_LEAN_AND_MEAN
-#include <windows.h>
+#include "platform/win32/later_functions.hpp"
 
 namespace quorin::platform {
 namespace {
@@ -54,8 +52,10 @@ bool open_pool() {
   if (pool != nullptr) return true;
   pool = CreateThreadpool(nullptr);
   if (pool == nullptr) return false;
+  // Otherwise stacks are as large as the host's program wants its own.
   TP_POOL_STACK_INFORMATION stack{.StackReserve = 1 << 20, .StackCommit = 1 << 16};
-  SetThreadpoolStackInformation(pool, &stack);
+  using SetStack = BOOL WINAPI(PTP_POOL, TP_POOL_STACK_INFORMATION*);
+  if (auto* const set_stack = later_function<SetStack>("SetThreadpoolStackInformation")) set_stack(pool, &stack);
   return true;
 }
 
