@@ -4,6 +4,7 @@
 #include <atomic>
 #include <mutex>
 
+#include "base/idle.hpp"
 #include "base/thread_settings.hpp"
 #include "platform/floating_point.hpp"
 #include "platform/platform.hpp"
@@ -66,6 +67,8 @@ class Pool {
   }
   void begin() { has_ended_ = false; }
 
+  void set_idle_action(void (*action)() noexcept) { idle_action_ = action; }
+
  private:
   static void worker_main(void* pool) noexcept { static_cast<Pool*>(pool)->work(); }
 
@@ -124,7 +127,8 @@ class Pool {
       if (--region->working == 0) region->left.notify_one();
     }
     --idle_;
-    --workers_;
+    // With the mutex held, so that it is over when the library ends.
+    if (--workers_ == 0 && !has_ended_ && idle_action_ != nullptr) idle_action_();
     mutex_.unlock();
   }
 
@@ -158,6 +162,7 @@ class Pool {
   int workers_ = 0;
   int idle_ = 0;
   bool has_ended_ = false;
+  void (*idle_action_)() noexcept = nullptr;
   std::atomic<int> open_regions_{0};
 };
 
@@ -177,6 +182,8 @@ void stop_parallel() {
 }
 
 void apply_block_time() { pool.wake_idle(); }
+
+void set_idle_action(void (*action)() noexcept) { pool.set_idle_action(action); }
 
 bool in_parallel_region() { return region_slot.get() != nullptr; }
 

@@ -1,5 +1,6 @@
 // What happens when a process loads the library and when it unloads it.
 #include "base/allocator.hpp"
+#include "base/idle.hpp"
 #include "base/parallel.hpp"
 #include "dense/dense.hpp"
 #include "families/umfpack_single/umfpack_single.hpp"
@@ -13,6 +14,14 @@ void __freeres();
 }
 
 namespace quorin::platform {
+namespace {
+
+// Buffers of an allocator that the host has unloaded can only be abandoned.
+void give_back_buffers() noexcept {
+  if (base::allocator_is_mapped()) dense::release_buffers();
+}
+
+}  // namespace
 
 void on_load() noexcept {
   start_floating_point();
@@ -20,12 +29,13 @@ void on_load() noexcept {
   base::choose_allocator();
   base::start_parallel();
   dense::start();
+  base::set_idle_action(&give_back_buffers);
   umfpack_single::start();
 }
 
 void on_unload() noexcept {
   base::stop_parallel();
-  if (base::allocator_is_mapped()) dense::release_buffers();
+  give_back_buffers();
   dense::stop();
   stop_floating_point();
   __gnu_cxx::__freeres();

@@ -1,7 +1,10 @@
 // Which allocator the library takes when it is loaded: that of a complete libimalloc, else the run-time library's.
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <climits>
 #include <string>
+#include <thread>
 
 #include "tests/boundary/counting_allocator.hpp"
 #include "tests/support/exact_product.hpp"
@@ -48,6 +51,12 @@ TEST(AllocatorChoice, TakesACompleteLibraryAndReleasesIt) {
     EXPECT_GE(state.release, 3);
     EXPECT_EQ(state.live, 0);
 
+    multiply(product);
+    product->sokmp_set_blocktime(1);
+    for (int i = 0; i < 3000 && state.live > 0; ++i) std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    EXPECT_EQ(state.live, 0) << "the last worker's end gives the buffers back";
+
+    product->sokmp_set_blocktime(INT_MAX);
     multiply(product);
     EXPECT_GT(state.live, 0);
     expect_unload(product);
