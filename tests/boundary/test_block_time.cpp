@@ -53,7 +53,7 @@ TEST(BlockTime, DecidesHowLongIdleWorkersStay) {
     auto* const set_block_time = product->sokmp_set_blocktime;
     product->sMKL_Set_Dynamic(0);
     product->sMKL_Set_Num_Threads(4);
-    ExactProduct problem(200);
+    ExactProduct problem;
     const auto multiply = [&] { EXPECT_TRUE(problem.is_solved_by(product->sgemm)); };
     const int alone = thread_count_alone();
 

@@ -1,4 +1,4 @@
-// A matrix product that every order of summation computes exactly, big enough for several threads.
+// A matrix product that every order of summation computes exactly, big enough for five threads.
 #pragma once
 
 #include <cstddef>
@@ -22,7 +22,7 @@ inline std::vector<float> whole_numbers(std::size_t count, std::uint32_t seed) {
 // C <- A B for n-by-n matrices. The sums are at most 9 n, far below 2^24, so floats hold them exactly.
 class ExactProduct {
  public:
-  explicit ExactProduct(int n = 160)
+  explicit ExactProduct(int n = 224)
       : n_(n), a_(whole_numbers(size(), 1)), b_(whole_numbers(size(), 2)), expected_(size()), c_(size(), -1.0F) {
     for (std::size_t j = 0; j < side(); ++j) {
       for (std::size_t k = 0; k < side(); ++k) {
