@@ -162,6 +162,7 @@ TEST(Parameters, ToleranceLoopsAndTests) {
   for (auto& entry : large.entries) entry.value *= 1024;
   Call scaled(102.4, 614.4, 9);
   scaled.fpm = hopeless.fpm;
+  scaled.guess = hopeless.guess;
   solve(make_problem("1024 of it", large), scaled);
   EXPECT_GT(hopeless.epsout, 0);
   EXPECT_NEAR(scaled.epsout, hopeless.epsout, 1e-3 * hopeless.epsout);
