@@ -75,6 +75,49 @@ TYPED_TEST(Factors, SolveForEveryPatternKindAndOperation) {
   }
 }
 
+// L and U, which are unique without exchanges, beside elimination of the dense matrix in the widest precision.
+TYPED_TEST(Factors, AreThoseOfDenseElimination) {
+  using T = TypeParam;
+  for (const Matrix& pattern : patterns()) {
+    const int n = pattern.columns;
+    if (n > 100) continue;
+    SCOPED_TRACE(pattern.name);
+    const System<T> A = dominant_system<T>(pattern, Symmetry::kGeneral, false, 1.1, 91);
+    Solved<T> solved(A);
+    ASSERT_EQ(solved.compute({.factorization = Factorization::kLU}), FactorOutcome::kDone);
+    const Plan& plan = solved.plan;
+    std::vector<std::vector<Exact<T>>> lu(n, std::vector<Exact<T>>(n));
+    long double largest = 0;
+    for (const auto& e : A.entries) {
+      lu[plan.inverse()[e.row]][plan.inverse()[e.column]] += exact(e.value);
+      largest = std::max(largest, std::abs(exact(e.value)));
+    }
+    for (int k = 0; k < n; ++k) {
+      for (int i = k + 1; i < n; ++i) {
+        lu[i][k] /= lu[k][k];
+        for (int j = k + 1; j < n; ++j) lu[i][j] -= lu[i][k] * lu[k][j];
+      }
+    }
+    std::vector<std::vector<Exact<T>>> found(n, std::vector<Exact<T>>(n));
+    for (int s = 0; s < plan.supernodes(); ++s) {
+      const int first = plan.first(s), columns = plan.columns(s), height = plan.height(PanelKind::kUnsymmetric, s);
+      const auto below = plan.below(s);
+      const T* panel = solved.factor.panels().pin(s);
+      for (int c = 0; c < columns; ++c, panel += height) {
+        for (int r = 0; r < columns; ++r) found[first + r][first + c] = exact(panel[r]);
+        for (std::size_t r = 0; r < below.size(); ++r) {
+          found[below[r]][first + c] = exact(panel[columns + r]);
+          found[first + c][below[r]] = exact(panel[columns + below.size() + r]);
+        }
+      }
+    }
+    const long double bound = 4 * n * largest * std::numeric_limits<RealOf<T>>::epsilon();
+    for (int i = 0; i < n; ++i) {
+      for (int j = 0; j < n; ++j) ASSERT_LE(std::abs(found[i][j] - lu[i][j]), bound) << i << ' ' << j;
+    }
+  }
+}
+
 // Without a dominant diagonal: pivots must be exchanged. One supernode holds all, so that they may be.
 TYPED_TEST(Factors, ExchangeInsideADiagonalBlock) {
   using T = TypeParam;
