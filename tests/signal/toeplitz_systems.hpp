@@ -100,7 +100,9 @@ template <class T>
 double relative_error(const T* x, const std::vector<Wide<T>>& exact) {
   double error = 0.0, size = 0.0;
   for (std::size_t i = 0; i < exact.size(); ++i) {
-    error = std::max(error, std::abs(Wide<T>(x[i]) - exact[i]));
+    const double difference = std::abs(Wide<T>(x[i]) - exact[i]);
+    if (std::isnan(difference)) return difference;
+    error = std::max(error, difference);
     size = std::max(size, std::abs(exact[i]));
   }
   return error / size;

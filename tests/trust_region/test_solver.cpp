@@ -235,7 +235,8 @@ TEST(Handles, InitRefusesWhatMakesNoSense) {
   EXPECT_EQ(status([](Fit&) {}), kSuccess);
   EXPECT_EQ(status([](Fit& r) { r.eps[4] = -1e-5F; }), kSuccess);
   EXPECT_EQ(status([](Fit& r) { r.lower[1] = -kInfinity; }), kSuccess);
-  Fit unbounded = powell_run(1, -1e-5F);
+  Fit unbounded = powell_run(1, 1e-5F);
+  unbounded.eps[4] = -1e-5F;
   EXPECT_EQ(unbounded.begin(), kInvalid);
   EXPECT_EQ(status([](Fit& r) { r.m = 3; }), kInvalid);
   EXPECT_EQ(status([](Fit& r) { r.limit = 0; }), kInvalid);
