@@ -21,8 +21,7 @@ struct Count {
 // A wide interval has several shifts. The inertia of A - shift B tells how many eigenvalues lie below each, so that
 // those between two shifts can be numbered, from below by the run from the lower shift, from above by that from the
 // upper one: when the two meet, none is missed and none is there twice. Where they do not meet, another shift is put
-// between them.
-//  Shifts depend on the problem alone, and runs work on one thread each if there are several, so that any
+// between them. Shifts depend on the problem alone, and runs work on one thread each if there are several, so that any
 // number of threads gives the same bits.
 //
 // Grimes, Lewis & Simon (lanczos.hpp), sections 3 and 6, where shifts follow one another. T is double or

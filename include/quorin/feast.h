@@ -61,8 +61,9 @@ enum {
   QUORIN_FEAST_FPM_NODES = 2, /* nodes of the quadrature on half of the contour: 3, 4, 5, 6, 8, 10, 12, 16, 20, 24, 32,
       40 or 48. More of them are fewer loops */
   QUORIN_FEAST_FPM_DOUBLE_TOLERANCE = 3, /* not read: the tolerance of double-precision routines */
-  QUORIN_FEAST_FPM_LOOP_LIMIT = 4, /* most loops after the first pass */
-  QUORIN_FEAST_FPM_INITIAL_SUBSPACE = 5, /* 1: x holds m0 vectors to begin with. 0: random ones, the same each time */
+  QUORIN_FEAST_FPM_LOOP_LIMIT = 4, /* most loops after the first Rayleigh-Ritz step */
+  QUORIN_FEAST_FPM_INITIAL_SUBSPACE = 5, /* 1: x holds m0 vectors to begin with. 0: what Lanczos runs find, the same
+      each time */
   QUORIN_FEAST_FPM_STOPPING_TEST = 6, /* 0: the largest res must be below the tolerance. 1: epsout must */
   QUORIN_FEAST_FPM_TOLERANCE = 7, /* the tolerance is 10^-fpm(7), which is from 0 to 7 */
   QUORIN_FEAST_FPM_FILTER_ONLY = 14, /* 1: one contour integral; x becomes the filtered subspace of m0 vectors, status
@@ -89,7 +90,7 @@ QUORIN_API void QUORIN_CDECL feastinit_32f(int32_t* fpm);
      ja: [nnz]: column of each entry of A, one-based
      fpm: in, out, [128]: parameters
      epsout: out: change of the sum of the eigenvalues inside in the last loop, divided by max(abs(emin), abs(emax))
-     loop: out: loops done after the first pass; 0 if the first was enough
+     loop: out: loops done after the first Rayleigh-Ritz step; 0 if that was enough
      emin: lower end of the interval
      emax: upper end, larger than emin
      m0: in, out: the most eigenvalues that e, x and res have room for; becomes the size of the subspace at the end if
@@ -120,7 +121,7 @@ QUORIN_API void QUORIN_CDECL sfeast_scsrev_Idx(const char* uplo, const int32_t* 
      ja: [nnz]: column of each entry of A, one-based
      fpm: in, out, [128]: parameters
      epsout: out: change of the sum of the eigenvalues inside in the last loop, divided by max(abs(emin), abs(emax))
-     loop: out: loops done after the first pass; 0 if the first was enough
+     loop: out: loops done after the first Rayleigh-Ritz step; 0 if that was enough
      emin: lower end of the interval
      emax: upper end, larger than emin
      m0: in, out: the most eigenvalues that e, x and res have room for; becomes the size of the subspace at the end if
@@ -156,7 +157,7 @@ QUORIN_API void QUORIN_CDECL cfeast_hcsrev_Idx(const char* uplo, const int32_t* 
      jb: [nnzb]: column of each entry of B, one-based
      fpm: in, out, [128]: parameters
      epsout: out: change of the sum of the eigenvalues inside in the last loop, divided by max(abs(emin), abs(emax))
-     loop: out: loops done after the first pass; 0 if the first was enough
+     loop: out: loops done after the first Rayleigh-Ritz step; 0 if that was enough
      emin: lower end of the interval
      emax: upper end, larger than emin
      m0: in, out: the most eigenvalues that e, x and res have room for; becomes the size of the subspace at the end if
@@ -193,7 +194,7 @@ QUORIN_API void QUORIN_CDECL sfeast_scsrgv_Idx(const char* uplo, const int32_t* 
      jb: [nnzb]: column of each entry of B, one-based
      fpm: in, out, [128]: parameters
      epsout: out: change of the sum of the eigenvalues inside in the last loop, divided by max(abs(emin), abs(emax))
-     loop: out: loops done after the first pass; 0 if the first was enough
+     loop: out: loops done after the first Rayleigh-Ritz step; 0 if that was enough
      emin: lower end of the interval
      emax: upper end, larger than emin
      m0: in, out: the most eigenvalues that e, x and res have room for; becomes the size of the subspace at the end if
