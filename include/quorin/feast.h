@@ -3,8 +3,8 @@
  * All eigenvalues in [emin, emax], and their eigenvectors, of A x = lambda x or A x = lambda B x, for sparse A, real
  * symmetric or complex Hermitian, and positive definite B. Fill fpm with feastinit_32f, change what you like, and call
  * the routine for the kind of problem. Matrices come row by row, with one-based indices (in C, too). Of a matrix given
- * whole (uplo F) the lower triangle is read; entries of the other triangle of one given as U or L are ignored, and
- * entries of the same place add up.
+ * whole (uplo F) the lower triangle is read; entries of the other triangle of one given as U or L and imaginary parts
+ * on the diagonal are ignored, and entries of the same place add up.
  *
  * The subspace to begin with is made by Lanczos runs with (A - sigma B)^-1 for one or several shifts sigma in the
  * interval, each with one factorization, and a Rayleigh-Ritz step gives eigenvalues. Mostly they are all there then,

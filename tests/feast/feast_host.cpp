@@ -118,7 +118,8 @@ Csr<T> csr(const SparseMatrix& lower, char uplo) {
   for (const auto& [place, value] : entries) {
     ++result.starts[to_size(place.first) + 1];
     result.columns.push_back(place.second + 1);
-    result.values.push_back(value_as<T>(value));
+    // The diagonal's imaginary part is not read.
+    result.values.push_back(value_as<T>(place.first == place.second ? value + Wide(0, 0.75) : value));
   }
   result.starts[0] = 1;
   for (std::size_t i = 1; i < result.starts.size(); ++i) result.starts[i] += result.starts[i - 1];
