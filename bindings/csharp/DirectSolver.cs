@@ -59,6 +59,7 @@ namespace Quorin.Lapacks
             if (isDisposed) throw new ObjectDisposedException(nameof(DirectSolver));
             Pardiso.sPARDISO_64f_Idx(handle, One, One, kind, phase, order, values, 0, starts, 0, columns, 0, null, 0, One, Parameters, 0,
                 new[] { Pardiso.QUORIN_PARDISO_SILENT }, b, 0, x, 0, out int error);
+            GC.KeepAlive(this); // its finalizer would free what the call uses
             if (error != Pardiso.QUORIN_PARDISO_DONE) throw new LapacksException("PARDISO", error);
         }
 

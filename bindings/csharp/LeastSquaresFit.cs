@@ -17,8 +17,7 @@ namespace Quorin.Lapacks
         private readonly float[] above;
         private readonly float[] below;
         private readonly float[] shifted;
-        private GCHandle pinned;
-        private IntPtr run;
+        private readonly ObjectHandle run;
 
         /// <param name="start">x at the start; n variables</param>
         /// <param name="residuals">m, the entries of F, at least n</param>
@@ -37,15 +36,19 @@ namespace Quorin.Lapacks
             jacobian = new float[residuals * n];
             shifted = new float[n];
             float[] eps = { tolerance, tolerance, tolerance, tolerance, tolerance, 0 };
-            pinned = GCHandle.Alloc(point, GCHandleType.Pinned);
+            GCHandle pinned = GCHandle.Alloc(point, GCHandleType.Pinned);
             HasBounds = bounds.HasValue;
+            IntPtr address = IntPtr.Zero;
             int status = bounds.HasValue
-                ? TrustRegion.strnlspbc_init(ref run, n, residuals, pinned.AddrOfPinnedObject(), bounds.Value.lower, bounds.Value.upper,
+                ? TrustRegion.strnlspbc_init(ref address, n, residuals, pinned.AddrOfPinnedObject(), bounds.Value.lower, bounds.Value.upper,
                     eps, steps, 100, 0)
-                : TrustRegion.strnlsp_init(ref run, n, residuals, pinned.AddrOfPinnedObject(), eps, steps, 100, 0);
-            if (status == TrustRegion.QUORIN_TRUST_REGION_SUCCESS) return;
-            pinned.Free();
-            throw new LapacksException(HasBounds ? "strnlspbc_init" : "strnlsp_init", status);
+                : TrustRegion.strnlsp_init(ref address, n, residuals, pinned.AddrOfPinnedObject(), eps, steps, 100, 0);
+            if (status != TrustRegion.QUORIN_TRUST_REGION_SUCCESS)
+            {
+                pinned.Free();
+                throw new LapacksException(HasBounds ? "strnlspbc_init" : "strnlsp_init", status);
+            }
+            run = new ObjectHandle(address, HasBounds ? DeleteBounded : (ObjectHandle.Release)Delete, pinned);
         }
 
         public bool HasBounds { get; }
@@ -57,15 +60,14 @@ namespace Quorin.Lapacks
         /// <returns>The best x that was found.</returns>
         public float[] Solve()
         {
-            if (run == IntPtr.Zero) throw new ObjectDisposedException(nameof(LeastSquaresFit));
             int request = 0;
             function(point, residual);
             Differentiate();
             while (request >= 0)
             {
-                int status = HasBounds
-                    ? TrustRegion.strnlspbc_solve(ref run, residual, jacobian, ref request)
-                    : TrustRegion.strnlsp_solve(ref run, residual, jacobian, ref request);
+                int status = run.Use(address => HasBounds
+                    ? TrustRegion.strnlspbc_solve(ref address, residual, jacobian, ref request)
+                    : TrustRegion.strnlsp_solve(ref address, residual, jacobian, ref request));
                 if (status != TrustRegion.QUORIN_TRUST_REGION_SUCCESS) throw new LapacksException("strnlsp_solve", status);
                 if (request == TrustRegion.QUORIN_TRUST_REGION_RESIDUAL) function(point, residual);
                 if (request == TrustRegion.QUORIN_TRUST_REGION_JACOBIAN) Differentiate();
@@ -92,16 +94,9 @@ namespace Quorin.Lapacks
             }
         }
 
-        public void Dispose()
-        {
-            if (run == IntPtr.Zero) return;
-            if (HasBounds) TrustRegion.strnlspbc_delete(ref run);
-            else TrustRegion.strnlsp_delete(ref run);
-            run = IntPtr.Zero;
-            pinned.Free();
-            GC.SuppressFinalize(this);
-        }
+        private static void Delete(ref IntPtr address) => TrustRegion.strnlsp_delete(ref address);
+        private static void DeleteBounded(ref IntPtr address) => TrustRegion.strnlspbc_delete(ref address);
 
-        ~LeastSquaresFit() => Dispose();
+        public void Dispose() => run.Dispose();
     }
 }

@@ -32,6 +32,49 @@ namespace Quorin.Lapacks
         }
     }
 
+    /// <summary>An object of the library's: freed once, by Dispose or when nobody refers to it, and not while a call uses it.</summary>
+    internal sealed class ObjectHandle : SafeHandle
+    {
+        private readonly Release release;
+        private GCHandle kept;
+
+        /// <param name="kept">what the library keeps the address of; it stays pinned as long as the object</param>
+        public ObjectHandle(IntPtr address, Release release, GCHandle kept = default) : base(IntPtr.Zero, true)
+        {
+            this.release = release;
+            this.kept = kept;
+            SetHandle(address);
+        }
+
+        /// <summary>Frees the object and sets its address to null.</summary>
+        public delegate void Release(ref IntPtr address);
+
+        public override bool IsInvalid => handle == IntPtr.Zero;
+
+        /// <summary>What a routine answers that is given the object's address.</summary>
+        /// <exception cref="ObjectDisposedException">There has been a Dispose.</exception>
+        public int Use(Func<IntPtr, int> routine)
+        {
+            bool isHeld = false;
+            try
+            {
+                DangerousAddRef(ref isHeld);
+                return routine(handle);
+            }
+            finally
+            {
+                if (isHeld) DangerousRelease();
+            }
+        }
+
+        protected override bool ReleaseHandle()
+        {
+            release(ref handle);
+            if (kept.IsAllocated) kept.Free();
+            return true;
+        }
+    }
+
     /// <summary>Two floats, the real part first.</summary>
     [StructLayout(LayoutKind.Sequential)]
     public struct FloatComplex

@@ -9,7 +9,7 @@ namespace Quorin.Lapacks
         private readonly int[] starts;
         private readonly int[] rows;
         private readonly float[] values;
-        private IntPtr factors;
+        private readonly ObjectHandle factors;
 
         /// <param name="starts">where the columns begin, n + 1 numbers</param>
         /// <param name="rows">the rows of the entries</param>
@@ -21,10 +21,11 @@ namespace Quorin.Lapacks
             this.rows = (int[])rows.Clone();
             this.values = (float[])values.Clone();
             int n = starts.Length - 1;
-            IntPtr analysis = IntPtr.Zero;
+            IntPtr analysis = IntPtr.Zero, numeric = IntPtr.Zero;
             Check("umfpack_di_symbolic", Umfpack.umfpack_di_symbolic(n, n, starts, rows, values, ref analysis, null, null));
-            int status = Umfpack.umfpack_di_numeric(starts, rows, values, analysis, ref factors, null, null);
+            int status = Umfpack.umfpack_di_numeric(starts, rows, values, analysis, ref numeric, null, null);
             Umfpack.umfpack_di_free_symbolic(ref analysis);
+            factors = new ObjectHandle(numeric, Umfpack.umfpack_di_free_numeric);
             if (status != Umfpack.UMFPACK_OK) Dispose();
             Check("umfpack_di_numeric", status);
         }
@@ -34,10 +35,9 @@ namespace Quorin.Lapacks
         /// <summary>x with A x = b, or with another of the systems of Umfpack, such as UMFPACK_At.</summary>
         public float[] Solve(float[] b, int system = Umfpack.UMFPACK_A)
         {
-            if (factors == IntPtr.Zero) throw new ObjectDisposedException(nameof(SparseLU));
             if (b.Length != Order) throw new ArgumentException($"{Order} numbers are needed", nameof(b));
             float[] x = new float[Order];
-            Check("umfpack_di_solve", Umfpack.umfpack_di_solve(system, starts, rows, values, x, b, factors, null, null));
+            Check("umfpack_di_solve", factors.Use(numeric => Umfpack.umfpack_di_solve(system, starts, rows, values, x, b, numeric, null, null)));
             return x;
         }
 
@@ -46,13 +46,6 @@ namespace Quorin.Lapacks
             if (status != Umfpack.UMFPACK_OK) throw new LapacksException(routine, status);
         }
 
-        public void Dispose()
-        {
-            if (factors != IntPtr.Zero) Umfpack.umfpack_di_free_numeric(ref factors);
-            factors = IntPtr.Zero;
-            GC.SuppressFinalize(this);
-        }
-
-        ~SparseLU() => Dispose();
+        public void Dispose() => factors.Dispose();
     }
 }
