@@ -1,6 +1,7 @@
 // Files as hosts have them: what the formats say, numbers that come back, and files that are not what they claim.
 #include <clocale>
 #include <cstring>
+#include <numeric>
 #include <utility>
 
 #include "tests/taucs/taucs_host.hpp"
@@ -78,6 +79,12 @@ TEST(Ijv, TakesAnEnormousIndexForASlip) {
   const Matrix A = read(taucs_ccs_read_ijv, "1000000 1 5\n", TAUCS_DOUBLE);
   ASSERT_NE(A, nullptr);
   EXPECT_EQ(A->n, 1000000);
+  // Its row lies beyond m: what is made of such a record stays inside of its arrays.
+  const Matrix B(taucs_ccs_transpose(A.get()));
+  EXPECT_TRUE(B == nullptr || B->colptr[B->n] == 1);
+  std::vector<int> identity(static_cast<std::size_t>(A->m));
+  std::iota(identity.begin(), identity.end(), 0);
+  taucs_ccs_permute_rows_inplace(A.get(), identity.data());
   std::string text;
   for (int k = 0; k < 40000; ++k) text += std::to_string(50 * k + 1) + " 1 1\n";
   EXPECT_NE(read(taucs_ccs_read_ijv, text, TAUCS_DOUBLE), nullptr);
