@@ -156,7 +156,7 @@ Status Lanczos<T>::expand() {
   project_out(first - before, before + count, W, count);
   for (int j = 0; j < count; ++j) {
     for (int i = j; i < count; ++i) {
-      projected(first + i, first + j) = coefficients_[static_cast<std::size_t>(j * (before + count) + before + i)];
+      projected(first + i, first + j) = coefficients_.data()[j * (before + count) + before + i];
     }
   }
   size_ += count;
@@ -280,7 +280,7 @@ template <Scalar T>
 T Lanczos<T>::next_component(int i, std::size_t k) const {
   const T* const s = S_.data() + k * static_cast<std::size_t>(size_) + size_ - width_;
   T sum{};
-  for (int j = 0; j < width_; ++j) sum += product(coupling_[static_cast<std::size_t>(i + j * kBlock)], s[j]);
+  for (int j = 0; j < width_; ++j) sum += product(coupling_.data()[i + j * kBlock], s[j]);
   return sum;
 }
 

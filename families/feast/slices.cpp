@@ -50,14 +50,14 @@ bool Slices<T>::plan_first(const Count& low, const Count& high) {
   const double width = (high.where - low.where) / slices;
   count_ = slices + 2;
   for (int i = 0; i < count_; ++i) {
-    Point& point = points_[static_cast<std::size_t>(i)];
+    Point& point = at(i);
     point = {};
     point.shift = low.where + (i - 1 + kMiddle) * width;
     point.reach_below = point.reach_above = kReach * width;
     point.least = point.shift - width;
     point.most = point.shift + width;
   }
-  Point &first = points_[0], &last = points_[static_cast<std::size_t>(slices + 1)];
+  Point &first = at(0), &last = at(slices + 1);
   first.shift = low.where;
   first.below = low.below;
   last.shift = high.where;
@@ -73,7 +73,7 @@ bool Slices<T>::plan_more(int& missing) {
   missing = 0;
   bool has_more = false;
   for (int i = 0; i + 1 < count_; ++i) {
-    const Point &low = points_[static_cast<std::size_t>(i)], &high = points_[static_cast<std::size_t>(i + 1)];
+    const Point &low = at(i), &high = at(i + 1);
     const Split found = split(low, high);
     if (found.is_complete) continue;
     const int lacking = *high.below - *low.below - found.from_below - found.from_above;
@@ -94,7 +94,7 @@ bool Slices<T>::plan_more(int& missing) {
     std::move_backward(points_.begin() + i + 1, points_.begin() + count_, points_.begin() + count_ + wanted);
     count_ += wanted;
     for (int k = 1; k <= wanted; ++k) {
-      Point& point = points_[static_cast<std::size_t>(i + k)];
+      Point& point = at(i + k);
       point = {};
       point.shift = from + k * step;
       point.reach_below = point.reach_above = step;
@@ -113,13 +113,11 @@ Status Slices<T>::run_points() {
   std::array<Point*, kMostPoints> waiting;
   int count = 0;
   for (int i = 0; i < count_; ++i) {
-    Point& point = points_[static_cast<std::size_t>(i)];
+    Point& point = at(i);
     if (point.is_done) continue;
     // What is known by now of the eigenvalues around does not depend on the order in which runs end.
-    for (int k = i - 1; k >= 0 && !point.below_least; --k)
-      point.below_least = points_[static_cast<std::size_t>(k)].below;
-    for (int k = i + 1; k < count_ && !point.below_most; ++k)
-      point.below_most = points_[static_cast<std::size_t>(k)].below;
+    for (int k = i - 1; k >= 0 && !point.below_least; --k) point.below_least = at(k).below;
+    for (int k = i + 1; k < count_ && !point.below_most; ++k) point.below_most = at(k).below;
     waiting[static_cast<std::size_t>(count++)] = &point;
   }
   const platform::MemoryStatus memory = platform::memory_status();
@@ -240,9 +238,8 @@ Status Slices<T>::gather(Subspace<T>& X) const {
       place += count;
     };
     for (int i = 0; i + 1 < count_; ++i) {
-      const Branch &above = points_[static_cast<std::size_t>(i)].upper,
-                   &below = points_[static_cast<std::size_t>(i + 1)].lower;
-      const Split found = split(points_[static_cast<std::size_t>(i)], points_[static_cast<std::size_t>(i + 1)]);
+      const Branch &above = at(i).upper, &below = at(i + 1).lower;
+      const Split found = split(at(i), at(i + 1));
       append(above, 0, found.from_below);
       append(below, 0, found.from_above);
       if (i == 0) append(below, found.from_above, std::min(kNeighbours, below.count - found.from_above));

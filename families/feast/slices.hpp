@@ -61,6 +61,9 @@ class Slices {
     bool is_complete = true;
   };
 
+  Point& at(int i) { return points_[static_cast<std::size_t>(i)]; }
+  const Point& at(int i) const { return points_[static_cast<std::size_t>(i)]; }
+
   bool plan_first(const Count& low, const Count& high);
   bool plan_more(int& missing);
   Status run_points();
