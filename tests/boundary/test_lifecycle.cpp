@@ -149,13 +149,17 @@ TEST(Lifecycle, CyclesOfAllFamiliesLeaveNothingBehind) {
   for (int cycle = 0; cycle < kCycles; ++cycle) {
     Product product = load_threaded_product();
     ASSERT_TRUE(product);
-    set_block_time(product, kBlockTimes[static_cast<std::size_t>(cycle) % std::size(kBlockTimes)]);
+    const int block_time = kBlockTimes[static_cast<std::size_t>(cycle) % std::size(kBlockTimes)];
+    set_block_time(product, block_time);
     for (std::size_t i = 0; i < families.size(); ++i) {
       const std::size_t family = (i + static_cast<std::size_t>(cycle)) % families.size();
       const Results results = families[family].run(*product, 0);
       if (cycle == 0) expected[family] = results;
       ASSERT_FALSE(results.empty()) << families[family].name << ", cycle " << cycle;
       ASSERT_EQ(results, expected[family]) << families[family].name << ", cycle " << cycle;
+    }
+    if (block_time == INT_MAX) {
+      ASSERT_TRUE(comes_true([=] { return thread_count() >= threads_alone + kThreads - 1; })) << "no workers";
     }
     wait_a_moment();
     product.close();
