@@ -26,9 +26,10 @@ bool LinearModel::take(const float* jacobian, const float* residual) {
 }
 
 // (R c) <- the triangle of (R c) with the rows of the block below it. Row k of the triangle is the only one in which
-// column k, and the reflection that clears it, are not zero.
+// column k, and the reflection that clears it, are not zero. What then is left of the last column below c, rho, is not
+// needed.
 void LinearModel::append(std::size_t rows) {
-  for (std::size_t k = 0; k <= n_; ++k) {
+  for (std::size_t k = 0; k < n_; ++k) {
     double* const v = block_column(k);
     const double below = dot(rows, v, v);
     if (below == 0.0) continue;

@@ -41,7 +41,7 @@ class LinearModel {
   bool is_finite() const;
 
   std::size_t n_ = 0, m_ = 0, block_rows_ = 0;
-  double* triangle_ = nullptr;  // n + 1 columns of n + 1 entries: (R c; 0 rho)
+  double* triangle_ = nullptr;  // n + 1 columns of n + 1 entries: (R c); the last row is zero
   double* block_ = nullptr;     // rows of (J F) under way
 };
 
