@@ -8,6 +8,7 @@
 #include <numbers>
 #include <numeric>
 
+#include "families/signal/equilibrium.hpp"
 #include "families/signal/exchange.hpp"
 #include "families/signal/linear_phase.hpp"
 #include "families/signal/precise_polynomial.hpp"
@@ -126,9 +127,8 @@ class Designer {
         precise_(points_at_most()),
         stage_(points_at_most()),
         best_(points_at_most()),
-        old_(points_at_most()),
-        old_in_(problem.bands.size()),
-        width_(problem.bands.size()),
+        places_(points_at_most()),
+        share_(problem.bands.size()),
         points_in_(problem.bands.size()) {
     const int bands = problem.band_count();
     widest_gap_ = 2 * std::max(problem.bands[0].lower, pi - problem.bands[bands - 1].upper);
@@ -137,7 +137,7 @@ class Designer {
     }
   }
   explicit operator bool() const {
-    return exchange_ && precise_ && stage_.points && best_.points && old_ && old_in_ && width_ && points_in_;
+    return exchange_ && precise_ && stage_.points && best_.points && places_ && share_ && points_in_;
   }
 
   Outcome run(int most_iterations);
@@ -153,14 +153,11 @@ class Designer {
   std::size_t points_at_most() const { return static_cast<std::size_t>(degree_) + 2; }
   Progress run_stage(int degree, int most_iterations, double tolerance);
   Progress iterate(int most_iterations, double tolerance);
-  Outcome settle_at_floor(int low, int high);
+  Outcome settle_at_floor();
   bool may_be_large(int degree) const { return degree * widest_gap_ > 2 * kLargeExponent; }
   double peak_between_bands() const;
-  void remember_reference();
-  void apportion(int points, const base::Workspace<double>& share);
+  void apportion(int points);
   void start(int points);
-  void spread_evenly(int points);
-  void spread_like_remembered(int points);
   void evaluate_best(double* response, int samples);
   bool is_well_conditioned(double t) const;
   bool is_rounding_harmless() const;
@@ -174,21 +171,19 @@ class Designer {
   Exchange exchange_;
   PrecisePolynomial precise_;
   Candidate stage_, best_;
-  // The reference of the last stage that came to its end: its points, and how many of them are in each band.
-  int remembered_ = 0;
-  base::Workspace<double> old_, old_in_;
-  base::Workspace<double> width_;
+  base::Workspace<double> places_, share_;
   base::Workspace<int> points_in_;
 };
 
-// Divides `points` among the bands in proportion to their shares, every band getting one if there are enough.
-void Designer::apportion(int points, const base::Workspace<double>& share) {
+// Divides `points` among the bands in proportion to their shares, every band getting one if there are enough, and none
+// more than its grid has if another has room.
+void Designer::apportion(int points) {
   const int bands = problem_.band_count();
-  const double total = std::accumulate(share.data(), share.data() + bands, 0.0);
+  const double total = std::accumulate(share_.begin(), share_.end(), 0.0);
   double sum = 0.0;
   int given = 0;
   for (int b = 0; b < bands; ++b) {
-    sum += share[b];
+    sum += share_[b];
     const int up_to = b + 1 < bands ? static_cast<int>(std::lround(points * (sum / total))) : points;
     points_in_[b] = up_to - given;
     given = up_to;
@@ -199,63 +194,33 @@ void Designer::apportion(int points, const base::Workspace<double>& share) {
     here = 1;
     --most;
   }
+  if (problem_.grid_step == 0) return;
+  int surplus = 0;
+  const auto most_in = [&](int b) { return problem_.grid_points(problem_.bands[b]); };
+  for (int b = 0; b < bands; ++b) {
+    surplus += std::max(points_in_[b] - most_in(b), 0);
+    points_in_[b] = std::min(points_in_[b], most_in(b));
+  }
+  for (int b = 0; b < bands; ++b) {
+    const int more = std::min(surplus, most_in(b) - points_in_[b]);
+    surplus -= more;
+    points_in_[b] += more;
+  }
+  points_in_[bands - 1] += surplus;
 }
 
 void Designer::start(int points) {
-  if (remembered_ > 0) {
-    spread_like_remembered(points);
-  } else {
-    spread_evenly(points);
-  }
-  if (problem_.grid_step > 0) exchange_.move_to_grid();
-}
-
-void Designer::spread_evenly(int points) {
+  const Equilibrium equilibrium(problem_, points - 2);
   const int bands = problem_.band_count();
-  for (int b = 0; b < bands; ++b) width_[b] = problem_.bands[b].upper - problem_.bands[b].lower;
-  apportion(points, width_);
+  for (int b = 0; b < bands; ++b) share_[b] = equilibrium.extrema(b) + 2.0 / bands;
+  apportion(points);
   exchange_.set_count(points);
   int next = 0;
   for (int b = 0; b < bands; ++b) {
-    const int count = points_in_[b];
-    for (int i = 0; i < count; ++i) {
-      const double u = count > 1 ? static_cast<double>(i) / (count - 1) : 0.5;
-      exchange_.set_point(next++, std::lerp(problem_.bands[b].lower, problem_.bands[b].upper, u), b);
-    }
+    equilibrium.place(b, points_in_[b], places_.data());
+    for (int i = 0; i < points_in_[b]; ++i) exchange_.set_point(next++, places_[i], b);
   }
-}
-
-void Designer::remember_reference() {
-  std::fill(old_in_.begin(), old_in_.end(), 0.0);
-  remembered_ = exchange_.count();
-  for (int i = 0; i < remembered_; ++i) {
-    old_[i] = exchange_.point(i).t;
-    old_in_[exchange_.point(i).band] += 1.0;
-  }
-}
-
-// Each band gets points in proportion to those remembered there, dense where those are dense.
-void Designer::spread_like_remembered(int points) {
-  apportion(points, old_in_);
-  exchange_.set_count(points);
-  int next = 0;
-  const double* old = old_.data();
-  for (int b = 0; b < problem_.band_count(); ++b) {
-    const Band& band = problem_.bands[b];
-    const int count = points_in_[b];
-    const int old_count = static_cast<int>(old_in_[b]);
-    for (int i = 0; i < count; ++i) {
-      const double u = count > 1 ? static_cast<double>(i) / (count - 1) : 0.5;
-      if (old_count < 2) {
-        exchange_.set_point(next++, std::lerp(band.lower, band.upper, u), b);
-        continue;
-      }
-      const double place = u * (old_count - 1);
-      const int left = std::min(static_cast<int>(place), old_count - 2);
-      exchange_.set_point(next++, std::lerp(old[left], old[left + 1], place - left), b);
-    }
-    old += old_count;
-  }
+  if (problem_.grid_step > 0) exchange_.move_to_grid();
 }
 
 // The largest response between the bands, where nothing holds it, from a few samples. What is uncertain about it counts
@@ -310,42 +275,32 @@ Designer::Progress Designer::run_stage(int degree, int most_iterations, double t
   const bool lost = stage_.error <= stage_.rounding;
   if (best_.count == 0 || stage_.total() < best_.total()) std::swap(stage_, best_);
   if (progress != Progress::kReached) return progress;
-  remember_reference();
   return lost ? Progress::kAtFloor : Progress::kReached;
 }
 
-constexpr int kStageIterations = 20;
-constexpr double kStageTolerance = 1e-2;
-
-// Each stage starts from the reference of a design of half the degree, whose extrema lie where its own will, only half
-// as dense; the first from an even spread.
 Outcome Designer::run(int most_iterations) {
-  constexpr int kSmallDegree = 16;
   constexpr double kTolerance = 1e-9, kToleratedRounding = 1e-3;
-  int halvings = 0;
-  while ((degree_ >> halvings) > kSmallDegree) ++halvings;
-  for (int before = -1; halvings > 0; --halvings) {
-    const int degree = degree_ >> halvings;
-    if (run_stage(degree, kStageIterations, kStageTolerance) == Progress::kAtFloor)
-      return settle_at_floor(before, degree);
-    before = degree;
-  }
   const Progress progress = run_stage(degree_, most_iterations, kTolerance);
-  if (progress == Progress::kAtFloor) return settle_at_floor(degree_ / 2, degree_);
+  if (progress == Progress::kAtFloor) return settle_at_floor();
   const bool is_best = best_.count == degree_ + 2 && best_.rounding <= kToleratedRounding * best_.error;
   return progress == Progress::kReached && is_best ? Outcome::kConverged : Outcome::kNotConverged;
 }
 
-// The least error of degree `high` is lost in rounding, and exchanges lead nowhere. A polynomial of lower degree will
-// do, and better if it is smaller between the bands: looks for the highest degree whose error is not lost.
-Outcome Designer::settle_at_floor(int low, int high) {
+// The least error is lost in rounding, and exchanges lead nowhere. A polynomial of lower degree will do, and better if
+// it is smaller between the bands: looks for the highest degree whose error is not lost, by doubling and then by
+// bisection.
+Outcome Designer::settle_at_floor() {
+  constexpr int kSmallDegree = 16, kIterations = 20;
+  constexpr double kTolerance = 1e-2;
+  const auto reaches = [&](int degree) { return run_stage(degree, kIterations, kTolerance) == Progress::kReached; };
+  int low = -1, high = std::min(kSmallDegree, degree_);
+  while (high < degree_ && reaches(high)) {
+    low = high;
+    high = std::min(2 * high, degree_);
+  }
   while (high - low > 1 && best_.total() > 2 * rounding_.computation) {
     const int degree = low + (high - low) / 2;
-    if (run_stage(degree, kStageIterations, kStageTolerance) == Progress::kReached) {
-      low = degree;
-    } else {
-      high = degree;
-    }
+    (reaches(degree) ? low : high) = degree;
   }
   const bool is_near = best_.total() <= kNearRounding * rounding_.computation;
   return is_near && is_rounding_harmless() ? Outcome::kConverged : Outcome::kNotConverged;

@@ -6,8 +6,7 @@
 // ends of this inequality tell how good the design is (de la Vallee Poussin).
 //
 // Sources: Parks & McClellan, IEEE Trans. Circuit Theory 19 (1972) 189-194; Filip, ACM Trans. Math. Softw. 43 (2016) 7,
-// for the barycentric evaluation, the search for extrema by interpolation between reference points, and the start from
-// a design of half the degree.
+// for the barycentric evaluation and the search for extrema by interpolation between reference points.
 #pragma once
 
 #include <array>

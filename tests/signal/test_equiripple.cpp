@@ -306,6 +306,13 @@ TEST(Equiripple, TooFewExchangesGiveTheBestSoFar) {
   EXPECT_LT(largest_error(d, first), 20 * largest_error(d, best));
 }
 
+// Each band begins with about as many extrema as it will have, also with a narrow transition or unequal weights.
+TEST(Equiripple, FewExchangesAreEnough) {
+  std::vector<double> h;
+  EXPECT_EQ(design({"narrow transition", 301, {0, 0.1, 0.106, 0.5}, {1, 0}, {1, 10}, 1, 0, 7}, h), 0);
+  EXPECT_EQ(design({"weights", 120, {0, 0.2, 0.23, 0.5}, {1, 0}, {1, 1e4}, 1, 0, 7}, h), 0);
+}
+
 TEST(Equiripple, BadInputWritesNothing) {
   const Design good{"good", 21, {0, 0.1, 0.2, 0.5}, {1, 0}, {1, 1}};
   const double nan = std::numeric_limits<double>::quiet_NaN(), infinity = std::numeric_limits<double>::infinity();
