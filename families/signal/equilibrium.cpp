@@ -18,6 +18,7 @@ double midpoint(int i, int points) { return pi * (i + 0.5) / points; }
 
 Equilibrium::Equilibrium(const Problem& problem, int degree)
     : problem_(problem), degree_(degree), gap_count_(problem.band_count() - 1) {
+  for (int b = 0; b <= gap_count_; ++b) total_width_ += problem.bands[b].upper - problem.bands[b].lower;
   is_even_ = problem.band_count() > kMostBands || !solve();
 }
 
@@ -84,7 +85,7 @@ bool Equilibrium::solve() {
 // error does not reach the level in a part of it.
 double Equilibrium::density(int b, double angle) const {
   const Band& band = problem_.bands[b];
-  if (is_even_) return band.upper - band.lower;
+  if (is_even_) return degree_ / pi * (band.upper - band.lower) / total_width_;
   const auto [middle, half] = between(band.lower, band.upper);
   const double x = middle + half * std::cos(angle);
   double sum = degree_;

@@ -47,6 +47,7 @@ class Equilibrium {
   const Problem& problem_;
   int degree_, gap_count_;
   bool is_even_;
+  double total_width_ = 0.0;
   double left_ = 0.0, right_ = 0.0;  // ends of all bands, as x
   // p(x) = prod (x - middle(k)) (degree + sum residue(k) / (x - middle(k))) with the middles of the gaps; gap k lies
   // between bands k and k + 1.
