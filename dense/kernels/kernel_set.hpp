@@ -98,7 +98,9 @@ template <Scalar T>
 constexpr bool is_small(int m, int n, int k) noexcept {
   constexpr double kMost = 2048.0 * sizeof(float) / sizeof(RealOf<T>) / (kIsComplex<T> ? 4 : 1);
   constexpr double kPanelBytes = (kIsComplex<T> ? 2 : 1) * 7 * 16;  // for a term
-  return static_cast<double>(m) * n * k <= kMost && k * (kPanelBytes + n * double{sizeof(T)}) <= kSmallBufferBytes;
+  constexpr int kPadding = 3;                                       // terms that fill up a column of B
+  const double bytes = k * kPanelBytes + (k + kPadding) * (n * double{sizeof(T)});
+  return static_cast<double>(m) * n * k <= kMost && bytes <= kSmallBufferBytes;
 }
 
 // The kernels of one set, for tests: the processor must have it.

@@ -32,6 +32,24 @@ void multiply_tile(int k, const Real* a, std::ptrdiff_t a_step, const Real* b, s
   const Real* thirds[] = {b, b + 3 * b_column, b + 6 * b_column};
   if constexpr (kColumns > 3) asm("" : "+r"(thirds[1]));
   if constexpr (kColumns > 6) asm("" : "+r"(thirds[2]));
+  if constexpr (!Isa::kFusesProducts && kColumns == 1) {
+    // A packed column of B lies aligned: a quarter of it is repeated lane by lane.
+    if (b_step == 1 && reinterpret_cast<std::uintptr_t>(b) % Isa::kBytes == 0) {
+      const auto add_term = [&](V bl) __attribute__((always_inline)) {
+#pragma GCC unroll 8
+        for (int v = 0; v < kVectors; ++v) add_in_place<Isa, Real>(sums[0][v], load<Isa>(a + v * kWidth) * bl);
+        a += a_step;
+      };
+      for (; k >= kWidth; k -= kWidth, thirds[0] += kWidth) {
+        add_term(repeated_lane<Isa, 0>(thirds[0]));
+        add_term(repeated_lane<Isa, 1>(thirds[0]));
+        if constexpr (kWidth == 4) {
+          add_term(repeated_lane<Isa, 2>(thirds[0]));
+          add_term(repeated_lane<Isa, 3>(thirds[0]));
+        }
+      }
+    }
+  }
   for (; k > 0; --k) {
     V first;  // several columns find the first vector of A in a register
     if constexpr (kVectors == 1 || kColumns > 1) {
@@ -76,6 +94,7 @@ void multiply_tile(int k, const Real* a, std::ptrdiff_t a_step, const Real* b, s
 template <class Isa>
 constexpr int tile_columns(int vectors) noexcept {
   if (vectors == 1) return Isa::kTileVectors == 1 ? Isa::kTileColumns : 6;
+  if (!Isa::kFusesProducts) return vectors == 2 ? 2 : 1;  // more would leave no register for a product
   return vectors <= 3 ? 6 / vectors : 1;
 }
 

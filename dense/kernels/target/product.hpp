@@ -19,7 +19,7 @@ struct Tiles {
 template <class Isa>
 constexpr int panel_vectors(int vectors) noexcept {
   if (vectors >= Isa::kTileVectors) return Isa::kTileVectors;
-  return vectors == 4 || vectors == 5 ? 3 : vectors;
+  return Isa::kFusesProducts && (vectors == 4 || vectors == 5) ? 3 : vectors;
 }
 
 // Where the tiles of one panel of rows find their factors.
@@ -203,10 +203,12 @@ void multiply(const Product<T>& p, const Blocking& blocking, std::byte* buffer) 
         block.column_step = kParts * p.b.column_step;
       } else {
         block.data = block_memory;
-        block.column_step = std::ptrdiff_t{terms} * kParts;
         if constexpr (Isa::kTileColumns == 1) {
-          pack<Isa, false>(p.b, j, columns, l, terms, SliverOfB<Isa, T>{block_memory, 1, terms, factor});
+          const int aligned_terms = (terms + 3) / 4 * 4;  // so that columns begin at multiples of SSE2's width
+          block.column_step = std::ptrdiff_t{aligned_terms} * kParts;
+          pack<Isa, false>(p.b, j, columns, l, terms, SliverOfB<Isa, T>{block_memory, 1, aligned_terms, factor});
         } else {
+          block.column_step = std::ptrdiff_t{terms} * kParts;
           block.sliver = Isa::kTileColumns;
           for (int s = 0; s < columns; s += Isa::kTileColumns) {
             const int width = std::min(Isa::kTileColumns, columns - s);

@@ -8,29 +8,33 @@ namespace quorin::dense::kernels::target {
 // The register file as 32-bit code sees it: eight vectors. A tile of C of kTileVectors by kTileColumns stays in
 // registers while its sums are formed. Seven sums leave one register: for an element of B that multiplies vectors of A
 // in memory, or, where the instructions can repeat an element of B from memory by themselves (AVX-512), for a vector of
-// A. Without fused multiply-adds a product needs a register of its own. Rows that do not fill a vector go to narrower
-// registers, which make the same bits.
+// A. Without fused multiply-adds a product needs a register of its own, and sums wait for an addition alone, so that few
+// of them are enough. Rows that do not fill a vector go to narrower registers, which make the same bits.
 struct Sse2 {
   using Narrower = void;
   static constexpr auto kSet = platform::InstructionSet::kSse2;
   static constexpr int kBytes = 16, kTileVectors = 6, kTileColumns = 1, kSums = 6;
+  static constexpr bool kFusesProducts = false;
 };
 // AVX2's instructions on registers of SSE's width, which cost nothing to leave.
 struct Avx2Small {
   using Narrower = void;
   static constexpr auto kSet = platform::InstructionSet::kAvx2;
   static constexpr int kBytes = 16, kTileVectors = 7, kTileColumns = 1, kSums = 7;
+  static constexpr bool kFusesProducts = true;
 };
 struct Avx2 {
   using Narrower = Avx2Small;
   static constexpr auto kSet = platform::InstructionSet::kAvx2;
   static constexpr int kBytes = 32, kTileVectors = 7, kTileColumns = 1, kSums = 7;
+  static constexpr bool kFusesProducts = true;
 };
 template <int kVectorBytes>
 struct Avx512Of {
   using Narrower = std::conditional_t<(kVectorBytes > 16), Avx512Of<kVectorBytes / 2>, void>;
   static constexpr auto kSet = platform::InstructionSet::kAvx512;
   static constexpr int kBytes = kVectorBytes, kTileVectors = 1, kTileColumns = 7, kSums = 7;
+  static constexpr bool kFusesProducts = true;
 };
 using Avx512 = Avx512Of<64>;
 
@@ -60,6 +64,30 @@ template <class Isa, class Real>
 template <class Isa, class Real>
 [[gnu::always_inline]] inline Vector<Isa, Real> all(Real x) noexcept {
   return x - Vector<Isa, Real>{};  // x - 0 is x, whatever its sign, and costs nothing
+}
+
+// One lane of an aligned vector in memory, in all lanes: one instruction of SSE2, where loading a number and repeating
+// it are two. Nothing is read earlier or later than it: sums of several terms would else wait for each other in memory.
+template <class Isa, int kLane, class Real>
+[[gnu::always_inline]] inline Vector<Isa, Real> repeated_lane(const Real* aligned) noexcept {
+  static_assert(Isa::kBytes == 16);
+  constexpr int kOrder = sizeof(Real) == 4 ? 0x55 * kLane : kLane == 0 ? 0x44 : 0xEE;
+  Vector<Isa, Real> result;
+  asm volatile("pshufd %2, %1, %0"
+               : "=x"(result)
+               : "m"(*reinterpret_cast<const Vector<Isa, Real>*>(aligned)), "i"(kOrder)
+               : "memory");
+  return result;
+}
+
+// sum <- sum + x in the register of the sum, which the compiler would let wander until they run out.
+template <class Isa, class Real>
+[[gnu::always_inline]] inline void add_in_place(Vector<Isa, Real>& sum, Vector<Isa, Real> x) noexcept {
+  if constexpr (sizeof(Real) == 4) {
+    asm("addps %1, %0" : "+x"(sum) : "x"(x));
+  } else {
+    asm("addpd %1, %0" : "+x"(sum) : "x"(x));
+  }
 }
 
 // Registers of SSE's width, whatever the set's.
