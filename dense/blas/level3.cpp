@@ -33,11 +33,11 @@ int available_threads(double multiplications) {
   return threads_for_products<T>(multiplications, base::region_threads(base::Domain::kBlas));
 }
 
-// For an operation of m by n by k multiplications, of which `counted` pay for threads: calls body(threads) with that
-// many packing buffers ready, or reports that there are none.
+// For an operation of which `counted` multiplications pay for threads: calls body(threads) with that many packing
+// buffers ready, or reports that there are none.
 template <Scalar T, class Body>
-void with_buffers(const char* operation, int m, int n, int k, double counted, const Body& body) {
-  if (kernels::is_small<T>(m, n, k)) return body(1);  // its buffer is on the stack
+void with_buffers(const char* operation, bool is_small, double counted, const Body& body) {
+  if (is_small) return body(1);  // its buffer is on the stack
   const blocked::BufferReservation buffers(available_threads<T>(counted));
   if (buffers.granted() == 0) return ArgumentCheck<T>::report(operation, base::kInsufficientWorkspace);
   body(buffers.granted());
@@ -60,7 +60,7 @@ void symmetric_product(const char* operation, Symmetric<T>* routine, char side, 
                                   .require(12, ldc >= least_leading_dimension(m))
                                   .passed();
   if (!arguments_hold || m == 0 || n == 0 || (alpha == T{} && beta == T{1})) return;
-  with_buffers<T>(operation, m, n, order, product_work(m, n, order), [&](int threads) {
+  with_buffers<T>(operation, kernels::is_small<T>(m, n, order), product_work(m, n, order), [&](int threads) {
     routine(upper(side), upper(uplo), m, n, alpha, a, lda, b, ldb, beta, c, ldc, threads);
   });
 }
@@ -83,9 +83,10 @@ void triangular(const char* operation, Triangular<T>* routine, char side, char u
                                   .passed();
   if (!arguments_hold || m == 0 || n == 0) return;
   const int vectors = left ? n : m;
-  with_buffers<T>(operation, vectors, order, order / 2, product_work(vectors, order, order / 2), [&](int threads) {
-    routine(upper(side), upper(uplo), upper(transa), upper(diag), m, n, alpha, a, lda, b, ldb, threads);
-  });
+  with_buffers<T>(operation, kernels::is_small_triangle<T>(order, vectors), product_work(vectors, order, order / 2),
+                  [&](int threads) {
+                    routine(upper(side), upper(uplo), upper(transa), upper(diag), m, n, alpha, a, lda, b, ldb, threads);
+                  });
 }
 
 // The checks of the arguments that all such updates begin with.
@@ -107,7 +108,7 @@ void rank_k(const char* operation, RankK<T, Factor>* routine, char uplo, char tr
                                   .require(10, ldc >= least_leading_dimension(n))
                                   .passed();
   if (!arguments_hold || n == 0 || ((alpha == Factor{} || k == 0) && beta == Factor{1})) return;
-  with_buffers<T>(operation, n, n, k, triangle_work(n, k),
+  with_buffers<T>(operation, kernels::is_small<T>(n, n, k), triangle_work(n, k),
                   [&](int threads) { routine(upper(uplo), upper(trans), n, k, alpha, a, lda, beta, c, ldc, threads); });
 }
 
@@ -121,7 +122,7 @@ void rank_2k(const char* operation, Rank2K<T, BetaFactor>* routine, char uplo, c
                                   .require(12, ldc >= least_leading_dimension(n))
                                   .passed();
   if (!arguments_hold || n == 0 || ((alpha == T{} || k == 0) && beta == BetaFactor{1})) return;
-  with_buffers<T>(operation, n, n, k, 2 * triangle_work(n, k), [&](int threads) {
+  with_buffers<T>(operation, kernels::is_small<T>(n, n, k), 2 * triangle_work(n, k), [&](int threads) {
     routine(upper(uplo), upper(trans), n, k, alpha, a, lda, b, ldb, beta, c, ldc, threads);
   });
 }
@@ -146,7 +147,7 @@ void gemm(char transa, char transb, int m, int n, int k, T alpha, const T* a, in
   if (is_small_product<T>(m, n, k)) {
     return small_product<T>(m, n, k, alpha, {transa, a, lda}, {transb, b, ldb}, beta, c, ldc);
   }
-  with_buffers<T>("GEMM", m, n, k, product_work(m, n, k), [&](int threads) {
+  with_buffers<T>("GEMM", kernels::is_small<T>(m, n, k), product_work(m, n, k), [&](int threads) {
     blocked::gemm(upper(transa), upper(transb), m, n, k, alpha, a, lda, b, ldb, beta, c, ldc, threads);
   });
 }

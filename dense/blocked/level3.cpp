@@ -271,7 +271,7 @@ void run_triangular(char side, char uplo, char transa, char diag, int m, int n, 
   const int vectors = is_left ? n : m, order = is_left ? m : n;
   const int threads = threads_for_products<T>(product_work(vectors, order, order / 2), most_threads);
   const int parts = std::clamp((vectors + kRowTile - 1) / kRowTile, 1, threads);
-  const bool is_small = kernels::is_small<T>(vectors, order, order / 2);
+  const bool is_small = kernels::is_small_triangle<T>(order, vectors);
   base::parallel_for(parts, threads, [&](int i) {
     const Workshop<T> workshop(is_small);
     const Range part = part_range(vectors, parts, i, kRowTile);

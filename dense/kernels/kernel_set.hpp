@@ -93,14 +93,27 @@ const KernelSet<T>& small_kernels() noexcept;
 // The buffer that is enough for them.
 inline constexpr int kSmallBufferBytes = 3584;
 
+// How many multiplications an operation for the small kernels has at most, `floats` if they are of real floats.
+template <Scalar T>
+constexpr double most_small_multiplications(double floats) noexcept {
+  return floats * sizeof(float) / sizeof(RealOf<T>) / (kIsComplex<T> ? 4 : 1);
+}
+
 // Whether an operation with m by n by k multiplications, k being the terms of its sums, is for the small kernels.
 template <Scalar T>
 constexpr bool is_small(int m, int n, int k) noexcept {
-  constexpr double kMost = 2048.0 * sizeof(float) / sizeof(RealOf<T>) / (kIsComplex<T> ? 4 : 1);
   constexpr double kPanelBytes = (kIsComplex<T> ? 2 : 1) * 7 * 16;  // for a term
   constexpr int kPadding = 3;                                       // terms that fill up a column of B
   const double bytes = k * kPanelBytes + (k + kPadding) * (n * double{sizeof(T)});
-  return static_cast<double>(m) * n * k <= kMost && bytes <= kSmallBufferBytes;
+  return static_cast<double>(m) * n * k <= most_small_multiplications<T>(2048) && bytes <= kSmallBufferBytes;
+}
+
+// The same for a triangle and `count` vectors.
+template <Scalar T>
+constexpr bool is_small_triangle(int order, int count) noexcept {
+  constexpr int kElementBytes = (kIsComplex<T> ? 2 : 1) * 6 * 16;  // of the vectors that are worked on at once
+  return order <= kTriangleOrder && order * kElementBytes <= kSmallBufferBytes &&
+         0.5 * count * order * order <= most_small_multiplications<T>(4200);
 }
 
 // The kernels of one set, for tests: the processor must have it.

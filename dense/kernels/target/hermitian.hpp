@@ -6,13 +6,6 @@
 
 namespace quorin::dense::kernels::target {
 
-// Real and imaginary parts in each other's places, for lanes that are counted by i.
-template <class Isa, class Real, int... i>
-[[gnu::always_inline]] inline Vector<Isa, Real> swapped_parts(Vector<Isa, Real> z,
-                                                              std::integer_sequence<int, i...>) noexcept {
-  return __builtin_shufflevector(z, z, (i ^ 1)...);
-}
-
 // y <- y + A t and, for the sums, A^H x, with m rows and kColumns columns of a general matrix A.
 template <class Isa, Scalar T, int kColumns>
 void multiply_columns(int m, const T* a, std::ptrdiff_t lda, const T* t, const T* x, T* y, T* sums) noexcept {

@@ -1,4 +1,4 @@
-// The innermost loop of all products: one tile of C.
+// The innermost loops of all products: tiles of C.
 //
 // Source: K. Goto, R. A. van de Geijn, Anatomy of high-performance matrix multiplication, ACM TOMS 34 (2008) 12.
 #pragma once
@@ -7,17 +7,32 @@
 
 namespace quorin::dense::kernels::target {
 
+// Tiles of C beside each other, of the same shape, on the same rows of A: the rows of term l stand together at
+// a + l * a_step, its element of column j of the first tile is b[l * b_step + j * b_column].
 template <class Real>
-using TileKernel = void(int k, const Real* a, std::ptrdiff_t a_step, const Real* b, std::ptrdiff_t b_step,
-                        std::ptrdiff_t b_column, Real alpha, bool adds, Real* c, std::ptrdiff_t ldc, int last) noexcept;
+struct TileRow {
+  int k;  // terms
+  const Real* a;
+  std::ptrdiff_t a_step;
+  const Real* b;
+  std::ptrdiff_t b_step, b_column, b_tile;  // b_tile: from one tile to the next
+  Real alpha;
+  bool adds;
+  Real* c;
+  std::ptrdiff_t ldc;
+  int last;  // of the last vector of each column, the rows that are wanted
+};
 
-// C <- alpha A B, or C + alpha A B, for kVectors vectors of rows by kColumns columns and k terms: the rows of term l
-// stand together at a + l * a_step, its element of column j is b[l * b_step + j * b_column]. The product with alpha is
+// C <- alpha A B, or C + alpha A B, for kVectors vectors of rows by kColumns columns. The product with alpha is
 // rounded before it is added, in every tile alike, so that an element's bits do not depend on the tile that makes it.
-// Of the last vector of each column the first `last` rows are wanted.
 template <class Isa, class Real, int kVectors, int kColumns>
-void multiply_tile(int k, const Real* a, std::ptrdiff_t a_step, const Real* b, std::ptrdiff_t b_step,
-                   std::ptrdiff_t b_column, Real alpha, bool adds, Real* c, std::ptrdiff_t ldc, int last) noexcept {
+[[gnu::always_inline]] inline void multiply_tile(const TileRow<Real>& row, const Real* b, Real* c) noexcept {
+  const Real* a = row.a;
+  const std::ptrdiff_t a_step = row.a_step, b_step = row.b_step, b_column = row.b_column, ldc = row.ldc;
+  const Real alpha = row.alpha;
+  const bool adds = row.adds;
+  const int last = row.last;
+  int k = row.k;
   using V = Vector<Isa, Real>;
   constexpr int kWidth = kLanes<Isa, Real>;
   constexpr int kCacheLine = 64 / static_cast<int>(sizeof(Real)), kAhead = kColumns + (kColumns == 1 ? 1 : 0);
@@ -73,22 +88,36 @@ void multiply_tile(int k, const Real* a, std::ptrdiff_t a_step, const Real* b, s
     if constexpr (kColumns > 3) thirds[1] += b_step;
     if constexpr (kColumns > 6) thirds[2] += b_step;
   }
-  Real parts[kColumns][kWidth];  // the last vectors, if not all of them is wanted
-  const bool has_parts = last < kWidth;
+  const bool has_part = last < kWidth;
 #pragma GCC unroll 8
   for (int j = 0; j < kColumns; ++j) {
 #pragma GCC unroll 8
     for (int v = 0; v < kVectors; ++v) {
-      const bool is_part = v == kVectors - 1 && has_parts;
-      Real* const target = is_part ? parts[j] : c + j * ldc + v * kWidth;
+      Real* const target = c + j * ldc + v * kWidth;
       V product = alpha * sums[j][v];
       pin(product);
-      store<Isa>(target, adds && !is_part ? product + load<Isa>(target) : product);
+      if (v == kVectors - 1 && has_part) {
+        Real part[kWidth];
+        store<Isa>(part, product);
+        put<Isa>(part, last, adds, target);
+      } else {
+        store<Isa>(target, adds ? product + load<Isa>(target) : product);
+      }
     }
   }
-  if (!has_parts) return;
-  for (int j = 0; j < kColumns; ++j) put<Isa>(parts[j], last, adds, c + j * ldc + (kVectors - 1) * kWidth);
 }
+
+template <class Isa, class Real, int kVectors, int kColumns>
+void multiply_tiles(const TileRow<Real>& row, int tiles) noexcept {
+  const Real* b = row.b;
+  Real* c = row.c;
+  for (; tiles > 0; --tiles, b += row.b_tile, c += kColumns * row.ldc) {
+    multiply_tile<Isa, Real, kVectors, kColumns>(row, b, c);
+  }
+}
+
+template <class Real>
+using TileKernel = void(const TileRow<Real>& row, int tiles) noexcept;
 
 // How many columns a tile of so many vectors has at best: as many independent sums as there are registers for.
 template <class Isa>
@@ -98,7 +127,7 @@ constexpr int tile_columns(int vectors) noexcept {
   return vectors <= 3 ? 6 / vectors : 1;
 }
 
-// The kernel for a tile of `vectors` by `columns`.
+// The kernel for tiles of `vectors` by `columns`.
 template <class Isa, class Real>
 TileKernel<Real>* tile_kernel(int vectors, int columns) noexcept {
   constexpr int kMost = 7;
@@ -108,7 +137,7 @@ TileKernel<Real>* tile_kernel(int vectors, int columns) noexcept {
     } table{};
     const auto enter = [&table]<int kVectors, int kColumns>() {
       if constexpr (kVectors <= Isa::kSums && kColumns <= tile_columns<Isa>(kVectors)) {
-        table.kernels[kVectors][kColumns] = multiply_tile<Isa, Real, kVectors, kColumns>;
+        table.kernels[kVectors][kColumns] = multiply_tiles<Isa, Real, kVectors, kColumns>;
       }
     };
     const auto enter_columns = [&enter]<int kVectors>() {

@@ -38,6 +38,20 @@ template <class Isa, Scalar T>
   }
 }
 
+// Real and imaginary parts in each other's places, for lanes that are counted by i.
+template <class Isa, class Real, int... i>
+[[gnu::always_inline]] inline Vector<Isa, Real> swapped_parts(Vector<Isa, Real> z,
+                                                              std::integer_sequence<int, i...>) noexcept {
+  return __builtin_shufflevector(z, z, (i ^ 1)...);
+}
+
+// One number in the places of real parts, another one in those of imaginary ones.
+template <class Isa, class Real, int... i>
+[[gnu::always_inline]] inline Vector<Isa, Real> alternating(Real re, Real im,
+                                                            std::integer_sequence<int, i...>) noexcept {
+  return Vector<Isa, Real>{(i % 2 == 0 ? re : im)...};
+}
+
 // Four floats or two doubles of kElements matrix rows, and the same transposed.
 template <class Isa, class Real>
 struct Square {
@@ -143,17 +157,35 @@ struct PanelOfA {
         Real* const crossed = straight + height;
         const Real* x = reinterpret_cast<const Real*>(from.data + l * from.term_step);
         const Real sign = from.is_conjugated ? Real{-1} : Real{1};
-        for (int i = 0; i < count; ++i, x += 2 * from.step) {
-          const Real re = x[0], im = sign * x[1];
-          straight[2 * i] = re;
-          straight[2 * i + 1] = im;
-          crossed[2 * i] = -im;
-          crossed[2 * i + 1] = re;
+        int i = 0;
+        if (from.step == 1) {
+          using Few = Narrowest<Isa>;
+          constexpr auto kLaneNumbers = std::make_integer_sequence<int, kLanes<Few, Real>>{};
+          for (; 2 * i + kLanes<Few, Real> <= 2 * count; i += kLanes<Few, Real> / 2, x += kLanes<Few, Real>) {
+            const auto z = load<Few>(x) * alternating<Few>(Real{1}, sign, kLaneNumbers);
+            store<Few, Real>(straight + 2 * i, z);
+            store<Few, Real>(crossed + 2 * i, swapped_parts<Few, Real>(z, kLaneNumbers) *
+                                                  alternating<Few>(Real{-1}, Real{1}, kLaneNumbers));
+          }
         }
+        for (; i < count; ++i, x += 2 * from.step) put_complex(T(x[0], sign * x[1]), straight + 2 * i);
       }
     }
   }
-  void put_element(T x, int row, int term) const noexcept { put({&x, 1, 1, false}, row, 1, term, 1); }
+  void put_element(T x, int row, int term) const noexcept {
+    if constexpr (kIsComplex<T>) {
+      put_complex(x, out + 2 * (row + std::ptrdiff_t{term} * height));
+    } else {
+      out[row + std::ptrdiff_t{term} * height] = x;
+    }
+  }
+  void put_complex(T x, Real* straight) const noexcept {
+    Real* const crossed = straight + height;
+    straight[0] = x.real();
+    straight[1] = x.imag();
+    crossed[0] = -x.imag();
+    crossed[1] = x.real();
+  }
   void put_zeros(int first, int terms) const noexcept {
     constexpr int kParts = kIsComplex<T> ? 2 : 1;
     for (int l = 0; l < kParts * terms; ++l) {
@@ -196,7 +228,17 @@ struct SliverOfB {
       }
     }
   }
-  void put_element(T x, int column, int term) const noexcept { put({&x, 1, 1, false}, column, 1, term, 1); }
+  void put_element(T x, int column, int term) const noexcept {
+    if (factor != T{1}) x = plain_product<Isa>(factor, x);
+    if constexpr (kIsComplex<T>) {
+      const std::ptrdiff_t step = width == 1 ? 2 * std::ptrdiff_t{depth} : 1;
+      Real* const to = out + column * step + 2 * std::ptrdiff_t{term} * width;
+      to[0] = x.real();
+      to[width] = x.imag();
+    } else {
+      out[column * (width == 1 ? depth : 1) + std::ptrdiff_t{term} * width] = x;
+    }
+  }
 };
 
 // Element (i, l) of a view whose rows (kRows) or columns the index i counts.

@@ -60,20 +60,22 @@ Panel<Isa, T> wanted_vectors(const Product<T>& p, Panel<Isa, T> panel, int colum
 
 // A tile of which only some rows of each column are wanted, by way of a copy.
 template <class Isa, Scalar T>
-void make_part_of_tile(const Product<T>& p, const Panel<Isa, T>& whole, const RealOf<T>* b, std::ptrdiff_t b_step,
-                       std::ptrdiff_t b_column, RealOf<T> alpha, bool adds, int column, int columns) noexcept {
+void make_part_of_tile(const Product<T>& p, const Panel<Isa, T>& whole, const TileRow<RealOf<T>>& row, int column,
+                       int columns) noexcept {
   using Real = RealOf<T>;
   constexpr int kParts = Tiles<Isa, T>::kParts;
   const Panel<Isa, T> panel = columns == 1 ? wanted_vectors(p, whole, column) : whole;
   TileKernel<Real>* const kernel = tile_kernel<Isa, Real>(panel.vectors, columns);
   alignas(64) Real copy[Tiles<Isa, T>::kMostTile];
   const int height = panel.vectors * kLanes<Isa, Real>;
-  kernel(panel.terms, panel.a, panel.a_step, b, b_step, b_column, alpha, false, copy, height, kLanes<Isa, Real>);
+  kernel({row.k, panel.a, row.a_step, row.b, row.b_step, row.b_column, 0, row.alpha, false, copy, height,
+          kLanes<Isa, Real>},
+         1);
   for (int j = 0; j < columns; ++j) {
     int first = panel.first_row, end = panel.first_row + panel.rows;
     if (p.part == Part::kLower) first = std::max(first, column + j);
     if (p.part == Part::kUpper) end = std::min(end, column + j + 1);
-    put<Isa>(copy + j * height + kParts * (first - panel.first_row), kParts * (end - first), adds,
+    put<Isa>(copy + j * height + kParts * (first - panel.first_row), kParts * (end - first), row.adds,
              reinterpret_cast<Real*>(p.c + first + (column + j) * p.ldc));
   }
 }
@@ -84,30 +86,45 @@ void make_tiles(const Product<T>& p, const Panel<Isa, T>& panel, const BlockOfB<
   using Real = RealOf<T>;
   constexpr int kParts = Tiles<Isa, T>::kParts;
   const int last_row = panel.first_row + panel.rows - 1;
-  const int last = kParts * panel.rows - (panel.vectors - 1) * Tiles<Isa, T>::kWidth;
   const int most = block.sliver > 1 ? block.sliver : tile_columns<Isa>(panel.vectors);
+  const bool has_slivers = block.sliver > 1;
+  TileRow<Real> row{panel.terms,
+                    panel.a,
+                    panel.a_step,
+                    block.data,
+                    block.term_step,
+                    block.column_step,
+                    has_slivers ? std::ptrdiff_t{most} * panel.terms : most * block.column_step,
+                    alpha,
+                    adds,
+                    nullptr,
+                    kParts * p.ldc,
+                    kParts * panel.rows - (panel.vectors - 1) * Tiles<Isa, T>::kWidth};
   for (int j = 0, count = 0; j < block.columns; j += count) {
     count = std::min(most, block.columns - j);
     const int column = block.first_column + j;
     if (p.part == Part::kLower && column > last_row) break;
     if (p.part == Part::kUpper && column + count <= panel.first_row) continue;
+    if (has_slivers) {
+      row.b = block.data + std::ptrdiff_t{j} * panel.terms;
+      row.b_step = count;
+      row.b_column = 1;
+    } else {
+      row.b = block.data + j * block.column_step;
+    }
     const bool is_inside =
         p.part == Part::kAll || (p.part == Part::kLower ? column + count - 1 <= panel.first_row : column >= last_row);
-    const Real* b = block.data;
-    std::ptrdiff_t b_step = block.term_step, b_column = block.column_step;
-    if (block.sliver > 1) {
-      b += std::ptrdiff_t{j} * panel.terms;
-      b_step = count;
-      b_column = 1;
-    } else {
-      b += j * b_column;
-    }
     if (is_inside) {
       TileKernel<Real>* const kernel = tile_kernel<Isa, Real>(panel.vectors, count);
-      kernel(panel.terms, panel.a, panel.a_step, b, b_step, b_column, alpha, adds,
-             reinterpret_cast<Real*>(p.c + panel.first_row + column * p.ldc), kParts * p.ldc, last);
+      // The tiles of this shape from here on that are inside, too.
+      const int columns =
+          p.part == Part::kLower ? std::min(block.columns - j, panel.first_row - column + 1) : block.columns - j;
+      const int tiles = columns / count;
+      row.c = reinterpret_cast<Real*>(p.c + panel.first_row + column * p.ldc);
+      kernel(row, tiles);
+      count *= tiles;
     } else {
-      make_part_of_tile<Isa>(p, panel, b, b_step, b_column, alpha, adds, column, count);
+      make_part_of_tile<Isa>(p, panel, row, column, count);
     }
   }
 }

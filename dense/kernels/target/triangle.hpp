@@ -6,13 +6,6 @@
 
 namespace quorin::dense::kernels::target {
 
-// i z for the complex numbers in a vector whose lanes are counted by i.
-template <class Isa, class Real, int... i>
-[[gnu::always_inline]] inline Vector<Isa, Real> times_i(Vector<Isa, Real> z,
-                                                        std::integer_sequence<int, i...>) noexcept {
-  return __builtin_shufflevector(z, z, (i ^ 1)...) * Vector<Isa, Real>{(i % 2 == 0 ? Real{-1} : Real{1})...};
-}
-
 // `kVectors` vectors of lanes: element p of all of them at x + p * kStep, and for complex numbers i times that behind.
 template <class Isa, Scalar T, int kVectors>
 struct LaneBlock {
@@ -39,8 +32,11 @@ struct LaneBlock {
     for (int v = 0; v < kVectors; ++v) {
       Real* const to = x + p * kStep + v * kWidth;
       store<Isa>(to, value[v]);
-      if constexpr (kIsComplex<T>)
-        store<Isa>(to + kReals, times_i<Isa, Real>(value[v], std::make_integer_sequence<int, kWidth>{}));
+      if constexpr (kIsComplex<T>) {  // i times it
+        constexpr auto kLaneNumbers = std::make_integer_sequence<int, kWidth>{};
+        store<Isa>(to + kReals, swapped_parts<Isa, Real>(value[v], kLaneNumbers) *
+                                    alternating<Isa>(Real{-1}, Real{1}, kLaneNumbers));
+      }
     }
   }
 
@@ -205,6 +201,26 @@ struct LaneBlock {
   }
 };
 
+// At most two vectors of lanes, which need not be wide if that leaves fewer lanes empty.
+template <class Isa, Scalar T, bool kSolves>
+void run_few(const TriangleBlock<T>& block, RealOf<T>* x, int first) noexcept {
+  constexpr int kLanesOfT = LaneBlock<Isa, T, 1>::kVectorsOfT;
+  const int rest = block.count - first;
+  if constexpr (kHasNarrower<Isa>) {
+    using Narrower = typename Isa::Narrower;
+    if (2 * rest <= kLanesOfT) return run_few<Narrower, T, kSolves>(block, x, first);
+    if (2 * rest <= 3 * kLanesOfT && rest > kLanesOfT) {
+      LaneBlock<Narrower, T, 3>{block, x}.template run<kSolves>(first, true);
+      return;
+    }
+  }
+  if (rest > kLanesOfT) {
+    LaneBlock<Isa, T, 2>{block, x}.template run<kSolves>(first, true);
+  } else {
+    LaneBlock<Isa, T, 1>{block, x}.template run<kSolves>(first, true);
+  }
+}
+
 template <class Isa, Scalar T, bool kSolves>
 void run_triangle(const TriangleBlock<T>& block, std::byte* buffer) noexcept {
   auto* const x = reinterpret_cast<RealOf<T>*>(buffer);
@@ -217,10 +233,8 @@ void run_triangle(const TriangleBlock<T>& block, std::byte* buffer) noexcept {
     LaneBlock<Isa, T, 4>{block, x}.template run<kSolves>(first, true);
   } else if (rest > 2 * kLanesOfT) {
     LaneBlock<Isa, T, 3>{block, x}.template run<kSolves>(first, true);
-  } else if (rest > kLanesOfT) {
-    LaneBlock<Isa, T, 2>{block, x}.template run<kSolves>(first, true);
-  } else {
-    LaneBlock<Isa, T, 1>{block, x}.template run<kSolves>(first, true);
+  } else if (rest > 0) {
+    run_few<Isa, T, kSolves>(block, x, first);
   }
 }
 

@@ -8,8 +8,8 @@ namespace quorin::dense::kernels::target {
 // The register file as 32-bit code sees it: eight vectors. A tile of C of kTileVectors by kTileColumns stays in
 // registers while its sums are formed. Seven sums leave one register: for an element of B that multiplies vectors of A
 // in memory, or, where the instructions can repeat an element of B from memory by themselves (AVX-512), for a vector of
-// A. Without fused multiply-adds a product needs a register of its own, and sums wait for an addition alone, so that few
-// of them are enough. Rows that do not fill a vector go to narrower registers, which make the same bits.
+// A. Without fused multiply-adds a product needs a register of its own, and sums wait for an addition alone, so that
+// few of them are enough. Rows that do not fill a vector go to narrower registers, which make the same bits.
 struct Sse2 {
   using Narrower = void;
   static constexpr auto kSet = platform::InstructionSet::kSse2;
