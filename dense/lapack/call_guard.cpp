@@ -143,7 +143,7 @@ bool are_blocks(const std::int32_t* ipiv, std::int32_t n) {
 
 bool are_balances(const float* scale, char job, std::int32_t n, std::int32_t ilo, std::int32_t ihi) {
   const bool permutes = upper(job) == 'P' || upper(job) == 'B';
-  if (!permutes || ilo < 1 || ihi > n) return true;
+  if (!permutes || ilo < 1 || ihi < std::min(ilo, n) || ihi > n) return true;
   for (std::int32_t i = 1; i <= n; ++i) {
     const float row = scale[i - 1];
     if ((i < ilo || i > ihi) && !(row >= 1 && row <= static_cast<float>(n))) return false;

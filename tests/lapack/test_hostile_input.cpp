@@ -163,6 +163,26 @@ TEST(Exchanges, ThatLeadOutsideAreRefused) {
   expect({1, 2, -3}, -6, -6);
 }
 
+// Each block of a tridiagonal matrix ends below the one before it, and inside of the matrix.
+TEST(Exchanges, EndsOfBlocksAscend) {
+  const std::int32_t n = 4, m = 4;
+  const std::vector<float> d = {1, 2, 3, 4}, e(3, 0), w = {1, 2, 3, 4};
+  const auto expect = [&](const std::vector<std::int32_t>& isplit, std::int32_t expected) {
+    std::vector<float> z(16), work(20);
+    std::vector<std::int32_t> iblock = {1, 1, 2, 3}, iwork(4), ifail(4);
+    std::int32_t info = -99;
+    quorin::test::captured([&] {
+      sstein(&n, d.data(), e.data(), &m, w.data(), iblock.data(), isplit.data(), z.data(), &n, work.data(),
+             iwork.data(), ifail.data(), &info);
+    });
+    EXPECT_EQ(info, expected) << testing::PrintToString(isplit);
+  };
+  expect({2, 3, 4, 0}, 0);
+  for (const std::vector<std::int32_t>& wrong : {std::vector{2, 2, 4, 0}, {0, 3, 4, 0}, {3, 2, 4, 0}, {2, 3, 5, 0}}) {
+    expect(wrong, -7);
+  }
+}
+
 TEST(Exchanges, OfBalancingAreTheHostsToo) {
   const std::int32_t n = 3, m = 1, ilo = 2, ihi = 2;
   for (const float row : {0.0F, 4.0F, -1.0F, 3e38F, kNan}) {

@@ -169,6 +169,17 @@ TEST(Status, PivotsThatWillNotDoAreReplaced) {
     for (int i = 0; i < 4; ++i) EXPECT_GT(o.rwork[diagonal + i], 0) << "the factors are definite";
     EXPECT_NEAR(o.rwork[diagonal + 2], 5.0 / 3, 1e-5);
   }
+  // A column of zeros has the pivot 1.
+  Triads zeros;
+  zeros.n = 2;
+  zeros.add(1, 1, 4);
+  zeros.add(2, 2, 0);
+  for (const auto& [name, word] : {std::pair("SSICCG", 4), {"SSLUBC", 5}}) {
+    const Outcome o = run(solver(name), zeros, {1, 0});
+    const auto diagonal = o.rwork.begin() + o.iwork[word] - 1;
+    EXPECT_EQ(Floats(diagonal, diagonal + 2), (Floats{0.25F, 1})) << name;
+    EXPECT_EQ(o.x, (Floats{0.25F, 0})) << name;
+  }
   // No diagonal at all.
   Triads swap;
   swap.n = 2;
@@ -178,6 +189,7 @@ TEST(Status, PivotsThatWillNotDoAreReplaced) {
     const Outcome o = run(solver(name), swap, {6, 8});
     EXPECT_TRUE(o.is_guarded);
     for (const float x : o.x) EXPECT_TRUE(std::isfinite(x)) << name;
+    EXPECT_EQ(o.rwork[o.iwork[5] - 1], 0.5F) << name << ": the sum of the column's magnitudes is 2";
   }
   EXPECT_LE(relative_residual(swap, {6, 8}, run(solver("SSLUGM"), swap, {6, 8}).x), 1e-4);
 }
