@@ -20,6 +20,7 @@ TEST(Fgmres, PublishedPlainExample) {
     host.test_residual(1e-3);
     ASSERT_EQ(host.check(), 0);
     EXPECT_EQ(host.run(), 0);
+    EXPECT_EQ(host.step(), 0) << "the end stands when the host calls again";
     expect_history(host.residuals, history, 1e-12);
     EXPECT_EQ(host.get(), 0);
     EXPECT_EQ(host.itercount, 5);
@@ -103,6 +104,7 @@ TEST(Fgmres, SmallEnds) {
   FgmresHost exact_tested(two, {2, 4, 6}, {1, 2, 3});
   exact_tested.test_residual(1e-3);
   EXPECT_EQ(exact_tested.run(), 0);
+  EXPECT_EQ(exact_tested.step(), 0);
   EXPECT_EQ(exact_tested.get(), 0);
   EXPECT_EQ(exact_tested.itercount, 0);
 }
@@ -138,6 +140,16 @@ TEST(Fgmres, LimitAndGoingOn) {
   limit_only.ipar[9] = 0;
   limit_only.ipar[11] = 1;
   EXPECT_EQ(limit_only.run(), 0);
+
+  FgmresHost none(A, b, Vector(5, 1.0)), relaxed(A, b, Vector(5, 1.0), 2);
+  none.test_residual(1e-3);
+  none.ipar[4] = 0;
+  EXPECT_EQ(none.run(), -1);
+  EXPECT_EQ(none.requests, "1");
+  relaxed.test_residual(1e-12);
+  while (relaxed.ipar[3] < 2 || relaxed.ipar[13] > 0) relaxed.advance();
+  relaxed.dpar[3] = 1e9;
+  EXPECT_EQ(relaxed.step(), 0) << "the target is tested when a cycle begins, too";
 }
 
 TEST(Fgmres, GetIntoXDoesNotEndTheIteration) {

@@ -61,6 +61,7 @@ TEST(Ilu0, Verdicts) {
       {"column twice", {2, {1, 3, 5}, {1, 1, 1, 2}, {1, 1, 1, 1}}, s, -106},
       {"column outside", {2, {1, 3, 5}, {1, 3, 1, 2}, {1, 1, 1, 1}}, s, -106},
       {"zero-based", {2, {0, 1, 2}, {0, 1}, {1, 1}}, s, -106},
+      {"the first row begins behind the first entry", {2, {2, 3, 4}, {7, 1, 2}, {7, 1, 1}}, s, 0},
       {"no size", {0, {1}, {}, {}}, s, -105},
       {"negative size", {-4, {1}, {}, {}}, s, -105},
       {"least size", {std::numeric_limits<int>::min(), {1}, {}, {}}, s, -105},
@@ -179,12 +180,14 @@ TEST(Ilut, Verdicts) {
       {{"column beyond", {1, {1, 2}, {2}, {1}}, s, -107}, 0.0, 0},
       {{"column before", {1, {1, 2}, {0}, {1}}, s, -107}, 0.0, 0},
       {{"no diagonal", swap, s, -102}, 0.1, 1},
+      {{"the replacement overflows", swap, Settings(1e308, true, 0.0), -102}, 0.1, 1},
       {{"a row of zeros", {1, {1, 2}, {1}, {0}}, replacing, -102}, 0.1, 0},
       {{"not a number", {1, {1, 2}, {1}, {kNan}}, replacing, -102}, 0.1, 0},
       {{"tolerance not a number", A, s, -102}, kNan, 1},
   };
   for (const Case& c : cases) EXPECT_EQ(Ilut(c.A, c.tol, c.fill, c.settings).ierr, c.ierr) << c.why;
-  EXPECT_EQ(Ilut(A, 1e-6, 4).factors.a, Ilut(A, 1e-6, 3).factors.a);
+  const Csr full = sparse({{4, 1, 1, 1}, {1, 4, 1, 1}, {1, 1, 4, 1}, {1, 1, 1, 4}});
+  EXPECT_EQ(Ilut(full, 1e-6, 4).factors.a.size(), 16U);
   EXPECT_EQ(Ilut(A, -1e-6, 1).factors.a, Ilut(A, 1e-6, 1).factors.a);
   const Ilut replaced(swap, 0.1, 1, replacing);
   EXPECT_EQ(replaced.ierr, 0);

@@ -9,6 +9,7 @@
 
 #include "tests/rci/ilu_oracle.hpp"
 #include "tests/rci/rci_host.hpp"
+#include "tests/support/capture_output.hpp"
 #include "tests/support/temporary_folder.hpp"
 
 namespace rci_test {
@@ -105,6 +106,12 @@ TEST(CheckAndInit, Fgmres) {
     EXPECT_EQ(host.check(), -1100);
     EXPECT_EQ(host.step(), -12);
   }
+  // The longest work array that positions reach: 3 n + 7 is the largest number there is.
+  host.ipar[14] = 1;
+  for (const auto& [n, status] : {std::pair(715827880, 0), {715827881, -1100}}) {
+    host.ipar[0] = n;
+    EXPECT_EQ(host.check(), status) << n;
+  }
   EXPECT_EQ(host.init(-1), -10000);
   EXPECT_TRUE(host.intact());
 }
@@ -121,6 +128,10 @@ TEST(Misuse, EndsARunOfCg) {
     host.dpar[entry] = value;
     EXPECT_EQ(host.step(), -10) << "dpar entry " << entry << " = " << value;
   }
+  const Csr steep = sparse({{1, 0}, {1e200, 1}});
+  CgHost overflow(steep, {1, 0}, {0, 0});
+  EXPECT_EQ(overflow.run(), -10);
+  EXPECT_EQ(overflow.requests, "11") << "the host is not asked about what has no norm";
   CgHost not_numbers(A, {1, kNan, 3, 4}, kZeros);
   EXPECT_EQ(not_numbers.run(), -10);
   EXPECT_EQ(not_numbers.requests, "1");
@@ -142,8 +153,9 @@ TEST(Misuse, EndsARunOfFgmres) {
     return host;
   };
   // Sizes, stage, step count and positions are those of the run, or the call refuses; GET likewise.
-  const std::pair<std::size_t, int> changes[] = {{0, 0},  {0, 6},  {2, 0},  {2, 77}, {2, -1}, {13, -1},
-                                                 {13, 4}, {14, 0}, {14, 2}, {15, 1}, {17, 9}, {20, 1000000}};
+  const std::pair<std::size_t, int> changes[] = {{0, 0},   {0, 6},  {2, 0},  {2, 77}, {2, -1},
+                                                 {13, -1}, {13, 4}, {14, 0}, {14, 2}, {15, 1},
+                                                 {16, 1},  {17, 9}, {18, 1}, {19, 1}, {20, 1000000}};
   for (const auto& [entry, value] : changes) {
     FgmresHost host = begun(4);
     host.ipar[entry] = value;
@@ -202,9 +214,15 @@ TEST(CheckAndInit, Defaults) {
     EXPECT_EQ(std::vector<int>(host.ipar.data() + 7, host.ipar.data() + 11), (std::vector<int>{1, 0, 1, 0}));
     EXPECT_EQ(Vector(host.dpar.data(), host.dpar.data() + 6), (Vector{1e-6, 0, 0, 0, 0, 0}));
   };
-  expect_defaults(CgHost(A, kRightHandSide, kZeros));
-  expect_defaults(ManyHost(A, kRightHandSide, kZeros));
+  const auto expect_cg_defaults = [&](Host&& host) {
+    EXPECT_EQ(Vector(host.dpar.data() + 6, host.dpar.data() + 8), (Vector{0, 0}));
+    EXPECT_EQ(Vector(host.tmp.data(), host.tmp.data() + 4), kZeros);
+    expect_defaults(std::move(host));
+  };
+  expect_cg_defaults(CgHost(A, kRightHandSide, kZeros));
+  expect_cg_defaults(ManyHost(A, kRightHandSide, kZeros));
   FgmresHost host(A, kRightHandSide, kZeros);
+  EXPECT_EQ(std::vector<int>(host.ipar.data() + 21, host.ipar.data() + 23), (std::vector<int>{1, 1}));
   EXPECT_EQ(Vector(host.dpar.data() + 6, host.dpar.data() + 8), (Vector{0, 1e-12}));
   EXPECT_EQ(std::vector<int>(host.ipar.data() + 11, host.ipar.data() + 15), (std::vector<int>{0, 0, 0, 4}));
   EXPECT_EQ(Vector(host.dpar.data() + 30, host.dpar.data() + 32), (Vector{1e-16, 1e-10}));
@@ -298,6 +316,61 @@ TEST(Messages, Files) {
   s.ipar[5] = 1;
   EXPECT_EQ(Ilu0(without_diagonal, s).ierr, -101);
   EXPECT_TRUE(has_lines(factors, 1, "dcsrilu0: error -101: "));
+}
+
+// The screen is for hosts that leave ipar(2) at 6: each routine by its name, each status in its words.
+TEST(Messages, OnTheScreen) {
+  const Csr A = nonsymmetric5(), without_diagonal = sparse({{0, 1}, {1, 0}});
+  const Vector five(5, 1.0);
+  const auto said = [](Host&& host) {
+    return quorin::test::captured([&] {
+      host.ipar[5] = host.ipar[6] = 1;
+      host.ipar[4] = -1;
+      host.dpar[0] = -1;
+      host.check();
+      host.ipar[4] = 1;
+      host.dpar[0] = 0;
+      host.ipar[7] = host.ipar[9] = 0;
+      host.check();
+      host.ipar[0] = 0;
+      host.check();
+      host.step();
+    });
+  };
+  const auto expected = [](const std::string& name) {
+    return name + "_check: warning -1001: the iteration limit is not positive\n" + name +
+           "_check: warning -1001: a tolerance is negative or NaN\n" + name +
+           "_check: warning -1011: no stopping test was on: ipar(8) and ipar(9) are on now\n" + name +
+           "_check: error -1100: a size is not positive, or too large for the positions in tmp\n" + name + ": error ";
+  };
+  EXPECT_EQ(said(CgHost(A, five, five)),
+            expected("dcg") + "-11: no stopping test is on, or size or stage are corrupt\n");
+  EXPECT_EQ(said(ManyHost(A, five, five)),
+            expected("dcgmrhs") + "-11: no stopping test is on, or size, stage or ipar(3) are corrupt\n");
+  EXPECT_EQ(said(FgmresHost(A, five, five)), expected("dfgmres") + "-12: ipar is not that of a run under way\n");
+  FgmresHost host(A, five, five);
+  Settings settings(0.0);
+  settings.ipar[1] = 6;
+  settings.ipar[5] = settings.ipar[6] = 1;
+  host.ipar[5] = host.ipar[6] = 1;
+  EXPECT_EQ(quorin::test::captured([&] {
+              host.ipar[15] = 1;
+              host.check();
+              host.advance();
+              host.ipar[13] = 9;
+              host.get();
+              Ilu0(without_diagonal, settings);
+              Ilut(spd4(), -1.0, 4, settings);
+            }),
+            "dfgmres_check: warning: the positions in ipar did not suit the size and the cycle length; they are put "
+            "right\n"
+            "dfgmres_get: error -12: ipar is not that of a run under way\n"
+            "dcsrilu0: error -101: a diagonal entry is absent\n"
+            "dcsrilut: warning 101: maxfil >= n; factorized with n-1\n"
+            "dcsrilut: warning 102: tol < 0; factorized with abs(tol)\n"
+            "dcsrilut: warning 103: factorized, but abs(tol) > dpar(31)\n"
+            "dcsrilut: warning 104: factorized, but dpar(31) = 0\n"
+            "dcsrilut: error -102: a pivot is too small for its row, or not finite\n");
 }
 
 }  // namespace

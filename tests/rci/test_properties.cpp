@@ -172,6 +172,27 @@ std::vector<std::unique_ptr<Host>> begin_solves(const std::vector<System>& posit
   return hosts;
 }
 
+// The arrays of a run serve for another when its stage is put back, and ipar(3) and (4) of one with several sides.
+TEST(Properties, ASecondSolveEqualsTheFirst) {
+  const std::vector<System> positive = {{30, true, 1}, {41, true, 2}}, general = {{30, false, 1}, {41, false, 2}};
+  for (const auto& host : begin_solves(positive, general)) {
+    const Vector start = host->x;
+    host->run();
+    const std::string requests = std::exchange(host->requests, "");
+    const Vector residuals = std::exchange(host->residuals, {});
+    host->x = start;
+    host->ipar[2] = 1;
+    if (dynamic_cast<ManyHost*>(host.get()) != nullptr) host->ipar[3] = 0;
+    host->request = -1;
+    host->advance();
+    EXPECT_EQ(host->ipar[3], 0);
+    EXPECT_EQ(host->dpar[5], 0.0);
+    host->run();
+    EXPECT_EQ(host->requests, requests);
+    EXPECT_EQ(host->residuals, residuals);
+  }
+}
+
 TEST(Properties, InterleavedSolvesEqualSeparateOnes) {
   std::vector<System> positive, general;
   for (unsigned k = 0; k < 6; ++k) {
