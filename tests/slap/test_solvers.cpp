@@ -241,6 +241,17 @@ TEST(Solvers, HeadersTellWhereThingsAre) {
   EXPECT_EQ(ends("SSDOMN"), std::pair(11, 7 * n + 10 * (3 * n + 1) + 1));
   EXPECT_EQ(ends("SSDGMR"), std::pair(31, 2 + n * 16 + 10 * 13));
   EXPECT_EQ(ends("SSILUR"), std::pair(nelt + 3 * n + 13, nelt + 3 * n + 1));
+  // A^2's diagonal, of whole matrices and of lower triangles.
+  Triads rows;
+  rows.n = 2;
+  rows.add(1, 1, 4);
+  rows.add(2, 1, 2);
+  rows.add(2, 2, 8);
+  for (const bool is_lower : {true, false}) {
+    rows.isym = is_lower ? 1 : 0;
+    const Outcome normal = run(solver("SSDCGN"), rows, {1, 1});
+    EXPECT_EQ(Floats(normal.rwork.begin(), normal.rwork.begin() + 2), (Floats{is_lower ? 0.05F : 0.0625F, 1.0F / 68}));
+  }
   const Outcome diagonal = run(solver("SSDCG"), a, b);
   EXPECT_EQ(diagonal.iwork[3], 1);
   EXPECT_EQ(Floats(diagonal.rwork.begin(), diagonal.rwork.begin() + n), Floats(n, 0.25F));
@@ -249,6 +260,10 @@ TEST(Solvers, HeadersTellWhereThingsAre) {
   EXPECT_EQ(Integers(cholesky.iwork.begin(), cholesky.iwork.begin() + 5), (Integers{nl, 11, 11 + nl, 1, nl + 1}));
   EXPECT_EQ(cholesky.iwork[8], nl + n + 12);
   EXPECT_EQ(cholesky.iwork[9], nl + 5 * n + 1);
+  const Outcome seidel = run(solver("SSGS"), a, b);
+  const int below = (nelt - n) / 2;
+  EXPECT_EQ(Integers(seidel.iwork.begin(), seidel.iwork.begin() + 5), (Integers{below, 11, 11 + below, 1, below + 1}));
+  EXPECT_EQ(ends("SSGS"), std::pair(below + n + 12, below + 3 * n + 1));
   // Of both factors: where the columns are, the starts of the rows, and the values.
   const Outcome lu = run(solver("SSLUBC"), a, b);
   const int entries = (nelt - n) / 2;
@@ -331,6 +346,23 @@ TEST(Solvers, RefinementByWholeFactorsStaysFinite) {
         EXPECT_LE(o.err, 3e-3F) << s.name << ", order " << n << ", IERR " << o.ierr;
       }
     }
+  }
+}
+
+// The pattern drops nothing of a full matrix, whether its entries are whole or come twice.
+TEST(Solvers, FactorsOfAFullMatrixAreWhole) {
+  std::mt19937 random(49);
+  const Triads full = random_dominant(25, 1.0, 1.0, true, random);
+  Triads twice = full;
+  for (int k = 0; k < full.nelt(); ++k) {
+    twice.a[k] /= 4;
+    twice.add(full.ia[k], full.ja[k], 3 * static_cast<double>(twice.a[k]));
+  }
+  const Floats b = right_hand_side(full, random_solution(25, random));
+  for (const Solver& s : solvers()) {
+    if (s.preconditioner != Solver::Preconditioner::kLu && s.preconditioner != Solver::Preconditioner::kCholesky)
+      continue;
+    for (const Triads& a : {full, full.lower(), twice, twice.lower()}) EXPECT_EQ(run(s, a, b).iter, 1) << s.name;
   }
 }
 

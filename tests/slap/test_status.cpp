@@ -59,6 +59,9 @@ TEST(Status, UnknownTests) {
       const Outcome o = run(s, two_by_two(4, 1, 1, 4), {1, 2}, {.itol = itol}, {7, 8});
       if (itol == 0 && s.iteration == Iteration::kGmres) {
         EXPECT_EQ(o.ierr, 0);
+        const Triads skewed = two_by_two(4, 1, 9, 1000);
+        EXPECT_EQ(run(s, skewed, {1, 2}, {.itol = 0, .itmax = 0}).err, 1) << "the plain residual is tested";
+        EXPECT_EQ(run(s, skewed, {1, 2}, {.itol = 0}).err, run(s, skewed, {1, 2}).err);
         continue;
       }
       EXPECT_EQ(o.ierr, 3) << s.name;
@@ -85,6 +88,7 @@ TEST(Status, TolerancesBelowTheFloorAreRaised) {
       EXPECT_GT(o.iter, 0) << "the iteration ran";
       EXPECT_EQ(run(s, a, b, {.tol = tol, .itmax = 1}).ierr, 2) << s.name;
     }
+    EXPECT_EQ(run(s, a, b, {.tol = std::ldexp(500.0F, -24)}).ierr, 0) << s.name << ": the floor itself will do";
   }
 }
 

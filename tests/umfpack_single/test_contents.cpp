@@ -112,6 +112,43 @@ TEST(Contents, FactorsMultiplyToTheScaledAndPermutedMatrix) {
   }
 }
 
+// What the host has no array for is left out, of L and U altogether; the rest is as ever.
+TEST(Contents, EveryPartIsGivenAlone) {
+  Host host(random_matrix(12, false));
+  host.factorize();
+  const Factors f(host);
+  for (int missing = 0; missing < 11; ++missing) {
+    SCOPED_TRACE(missing);
+    Factors g = f;
+    for (Integers* const v : {&g.Lp, &g.Lj, &g.Up, &g.Ui, &g.P, &g.Q}) std::fill(v->begin(), v->end(), -9);
+    for (Floats* const v : {&g.Lx, &g.Ux, &g.Dx, &g.Rs}) std::fill(v->begin(), v->end(), -9.0F);
+    g.do_recip = -9;
+    int argument = 0;
+    const auto given = [&](auto* array) { return argument++ == missing ? nullptr : array; };
+    int *const Lp = given(g.Lp.data()), *const Lj = given(g.Lj.data());
+    float* const Lx = given(g.Lx.data());
+    int *const Up = given(g.Up.data()), *const Ui = given(g.Ui.data());
+    float* const Ux = given(g.Ux.data());
+    int *const P = given(g.P.data()), *const Q = given(g.Q.data());
+    float* const Dx = given(g.Dx.data());
+    int* const do_recip = given(&g.do_recip);
+    float* const Rs = given(g.Rs.data());
+    EXPECT_EQ(umfpack_di_get_numeric(Lp, Lj, Lx, Up, Ui, Ux, P, Q, Dx, do_recip, Rs, host.Numeric), 0);
+    const auto expect = [](const auto& v, const auto& whole, bool is_given) {
+      EXPECT_EQ(v, is_given ? whole : std::decay_t<decltype(whole)>(whole.size(), -9));
+    };
+    for (Integers Factors::*const v : {&Factors::Lp, &Factors::Lj}) expect(g.*v, f.*v, missing > 2);
+    for (Integers Factors::*const v : {&Factors::Up, &Factors::Ui}) expect(g.*v, f.*v, missing < 3 || missing > 5);
+    expect(g.Lx, f.Lx, missing > 2);
+    expect(g.Ux, f.Ux, missing < 3 || missing > 5);
+    expect(g.P, f.P, missing != 6);
+    expect(g.Q, f.Q, missing != 7);
+    expect(g.Dx, f.Dx, missing != 8);
+    EXPECT_EQ(g.do_recip, missing != 9 ? f.do_recip : -9);
+    expect(g.Rs, f.Rs, missing != 10);
+  }
+}
+
 TEST(Contents, DeterminantAndScaling) {
   for (const bool is_complex : {false, true}) {
     // Its determinant is 47; the complex matrix is 1 + 2i times the real one.
@@ -264,6 +301,29 @@ TEST(Contents, ConversionsReproduceTheMatrix) {
       EXPECT_EQ(Bz, host.Az);
     }
     for (std::size_t k = 0; k < 2 * nz; ++k) ASSERT_EQ(A.Ai[Map[k]], Ti[k]);
+  }
+}
+
+// Patterns may be converted without their values.
+TEST(Contents, PatternsAreConvertedAlone) {
+  const Integers Ap = {0, 2, 3}, Ai = {0, 1, 1}, columns = {0, 0, 1};
+  const Floats Ax = {1, 2, 3};
+  for (const bool has_input : {false, true}) {
+    const float* const input = has_input ? Ax.data() : nullptr;
+    Integers Rp(3), Ri(3), Tp(3), Ti(3);
+    Floats Rx(3, 9), Tx(3, 9);
+    float* const none = nullptr;
+    EXPECT_EQ(umfpack_di_transpose(2, 2, Ap.data(), Ai.data(), input, nullptr, nullptr, Rp.data(), Ri.data(),
+                                   has_input ? none : Rx.data()),
+              0);
+    EXPECT_EQ(Rp, (Integers{0, 1, 3}));
+    EXPECT_EQ(Ri, (Integers{0, 0, 1}));
+    EXPECT_EQ(umfpack_di_triplet_to_col(2, 2, 3, Ai.data(), columns.data(), input, Tp.data(), Ti.data(),
+                                        has_input ? none : Tx.data(), nullptr),
+              0);
+    EXPECT_EQ(Tp, Ap);
+    EXPECT_EQ(Ti, Ai);
+    for (const Floats& untouched : {Rx, Tx}) EXPECT_EQ(untouched, Floats(3, 9));
   }
 }
 

@@ -79,6 +79,8 @@ TEST(Refusals, MissingArgumentsAndBadOrders) {
   ASSERT_EQ(host.symbolic(), 0);
   void* N = marker();
   EXPECT_EQ(umfpack_di_numeric(Ap, Ai, nullptr, host.Symbolic, &N, nullptr, nullptr), -5);
+  EXPECT_EQ(umfpack_di_numeric(Ap, nullptr, Ax, host.Symbolic, &N, nullptr, nullptr), -5);
+  EXPECT_EQ(umfpack_di_numeric(nullptr, Ai, Ax, host.Symbolic, &N, nullptr, nullptr), -5);
   EXPECT_EQ(N, nullptr);
   EXPECT_EQ(umfpack_di_numeric(Ap, Ai, Ax, host.Symbolic, nullptr, nullptr, host.Info.data()), -5);
   EXPECT_EQ(host.Info[0], -5);
@@ -92,12 +94,18 @@ TEST(Refusals, MissingArgumentsAndBadOrders) {
   EXPECT_EQ(umfpack_di_wsolve(0, Ap, Ai, Ax, x.data(), b.data(), host.Numeric, nullptr, nullptr, Wi.data(), nullptr),
             -5);
   EXPECT_EQ(umfpack_di_solve(-1, Ap, Ai, Ax, x.data(), b.data(), host.Numeric, nullptr, nullptr), -13);
-  EXPECT_EQ(umfpack_di_solve(15, Ap, Ai, Ax, x.data(), b.data(), host.Numeric, nullptr, nullptr), -13);
+  EXPECT_EQ(umfpack_di_wsolve(0, Ap, Ai, Ax, x.data(), b.data(), host.Numeric, nullptr, nullptr, nullptr, b.data()),
+            -5);
+  Floats Info(90, 7);
+  EXPECT_EQ(umfpack_di_solve(15, Ap, Ai, Ax, nullptr, b.data(), host.Numeric, nullptr, Info.data()), -13)
+      << "a wrong system is told before what is missing";
+  EXPECT_EQ(Floats({Info[0], Info[1], Info[16], Info[2]}), (Floats{-13, 5, 5, 7}));
   host.Control[7] = 0;
   EXPECT_EQ(
       umfpack_di_solve(0, nullptr, nullptr, nullptr, x.data(), b.data(), host.Numeric, host.Control.data(), nullptr), 0)
       << "without refinement the matrix is not needed";
   EXPECT_EQ(umfpack_di_scale(nullptr, b.data(), host.Numeric), -5);
+  EXPECT_EQ(umfpack_di_scale(x.data(), nullptr, host.Numeric), -5);
   EXPECT_EQ(umfpack_di_get_determinant(nullptr, nullptr, host.Numeric, nullptr), -5);
   EXPECT_EQ(umfpack_di_get_lunz(nullptr, nullptr, nullptr, nullptr, nullptr, host.Numeric), -5);
   EXPECT_EQ(umfpack_di_col_to_triplet(5, Ap, nullptr), -5);
@@ -229,6 +237,11 @@ TEST(Refusals, RectangularAndSingularSystems) {
     ASSERT_EQ(small.symbolic(), 0);
     ASSERT_EQ(small.numeric(), c.status);
     EXPECT_EQ(small.solve(0, b, b), c.status);
+    if (c.status == 1 && !c.A.is_complex()) {  // there is no refinement that would read the matrix
+      EXPECT_EQ(
+          umfpack_di_solve(0, nullptr, nullptr, nullptr, small.Xx.data(), b.data(), small.Numeric, nullptr, nullptr),
+          1);
+    }
     EXPECT_TRUE(c.first == infinity || small.Xx[0] == c.first) << small.Xx[0];
   }
 }

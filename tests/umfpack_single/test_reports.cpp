@@ -85,26 +85,90 @@ TEST(Reports, StatusByLevel) {
   EXPECT_TRUE(contains(at(6), "License"));
 }
 
+// Every setting in the words that its value asks for.
 TEST(Reports, ControlIsThatOfThisInterface) {
-  Floats Control = control(2);
-  Control[3] = 1.5F;
-  Control[1] = 0.3F;
-  Control[5] = 2;
-  const Pieces all = printed([&] { umfpack_di_report_control(Control.data()); });
-  ASSERT_GT(all.size(), 20U);
-  EXPECT_EQ(Pieces(all.begin(), all.begin() + 5),
-            Pieces({"UMFPACK V5.1.0 (May 31, 2007), Control:\n", "    Matrix entry defined as: FLOATS\n",
-                    "    Int (generic integer) defined as: int\n", "\n    0: print level: 2\n",
-                    "    1: dense row parameter:    0.3\n"}));
-  expect_lines(printed_text([&] { umfpack_di_report_control(Control.data()); }),
-               {"    3: pivot tolerance: 1\n", "    4: block size for dense matrix kernels: 32\n",
-                "    5: strategy: 2 (symmetric", "    6: initial allocation ratio: 0.7\n",
-                "    7: max iterative refinement steps: 2\n", "    10: CPU timer is ANSI C clock (may wrap around).\n",
-                "    12: 2-by-2 pivot tolerance: 0.01\n", "    14: AMD dense row/col parameter:    10\n",
-                "    15: diagonal pivot tolerance: 0.001\n", "    17: frontal matrix allocation ratio: 0.5\n",
-                "    18: drop tolerance: 0\n"});
-  EXPECT_EQ(printed([&] { umfpack_zi_report_control(Control.data()); }), all);
   EXPECT_EQ(printed([] { umfpack_di_report_control(nullptr); }), Pieces()) << "level 1 by default";
+  const auto report = [](const Floats& Control) {
+    return printed_text([&] { umfpack_di_report_control(Control.data()); });
+  };
+  Floats Control = control(2);
+  const Pieces all = printed([&] { umfpack_di_report_control(Control.data()); });
+  EXPECT_EQ(all[4], "    1: dense row parameter:    0.2\n") << "line by line";
+  EXPECT_EQ(printed([&] { umfpack_zi_report_control(Control.data()); }), all);
+  const std::string pointer = std::to_string(sizeof(void*));
+  EXPECT_EQ(report(Control),
+            R"(UMFPACK V5.1.0 (May 31, 2007), Control:
+    Matrix entry defined as: FLOATS
+    Int (generic integer) defined as: int
+
+    0: print level: 2
+    1: dense row parameter:    0.2
+        "dense" rows have    > max (16, (0.2)*16*sqrt(n_col) entries)
+    2: dense column parameter: 0.2
+        "dense" columns have > max (16, (0.2)*16*sqrt(n_row) entries)
+    3: pivot tolerance: 0.1
+    4: block size for dense matrix kernels: 32
+    5: strategy: 0 (auto)
+    6: initial allocation ratio: 0.7
+    7: max iterative refinement steps: 2
+    12: 2-by-2 pivot tolerance: 0.01
+    13: Q fixed during numerical factorization: 0 (auto)
+    14: AMD dense row/col parameter:    10
+       "dense" rows/columns have > max (16, (10)*sqrt(n)) entries
+        Only used if the AMD ordering is used.
+    15: diagonal pivot tolerance: 0.001
+        Only used if diagonal pivoting is attempted.
+    16: scaling: 1 (divide each row by sum of abs. values in each row)
+    17: frontal matrix allocation ratio: 0.5
+    18: drop tolerance: 0
+    19: AMD and COLAMD aggressive absorption: 1 (yes)
+
+    The following options can only be changed at compile-time:
+    8: BLAS library used:  Fortran BLAS.  size of BLAS integer: 4
+    9: compiled for ANSI C
+    10: CPU timer is ANSI C clock (may wrap around).
+    11: debugging not enabled.
+    size of int: 4 long: 4 Int: 4 pointer: )" +
+                pointer + " float: 4 Entry: 4 (in bytes)\n\n");
+  struct Case {
+    std::size_t index;
+    float value;
+    const char* text;
+  };
+  const Case cases[] = {
+      {1, -1, "    1: dense row parameter:    -1\n        no \"dense\" rows/columns\n"},
+      {1, 0,
+       "    1: dense row parameter:    0\n        \"dense\" rows have    > max (16, (0)*16*sqrt(n_col) entries)\n"},
+      {2, -1, "    2: dense column parameter: -1\n        no \"dense\" rows/columns\n"},
+      {3, 1.5F, "    3: pivot tolerance: 1\n"},
+      {3, -1, "    3: pivot tolerance: 0\n"},
+      {5, 1,
+       "    5: strategy: 1 (unsymmetric)\n        Q = COLAMD (A), Q refined during numerical\n"
+       "        factorization, and no attempt at diagonal pivoting.\n    6"},
+      {5, 2,
+       "    5: strategy: 2 (symmetric, with 2-by-2 block pivoting)\n        Taken as the symmetric strategy.\n    6"},
+      {5, 3,
+       "    5: strategy: 3 (symmetric)\n        Q = AMD (A+A'), Q not refined during numerical\n"
+       "        factorization, and diagonal pivoting (P=Q') attempted.\n    6"},
+      {6, 0, "    6: initial allocation ratio: 0\n"},
+      {6, -100, "    6: initial allocation (in Units): 100\n"},
+      {7, -3, "    7: max iterative refinement steps: 0\n"},
+      {12, 2, "    12: 2-by-2 pivot tolerance: 1\n"},
+      {13, 1, "    13: Q fixed during numerical factorization: 1 (yes)\n"},
+      {13, -1, "    13: Q fixed during numerical factorization: -1 (no)\n"},
+      {14, -1, "    14: AMD dense row/col parameter:    -1\n        no \"dense\" rows/columns\n"},
+      {15, 9, "    15: diagonal pivot tolerance: 1\n"},
+      {16, 0, "    16: scaling: 0 (no)\n"},
+      {16, 2, "    16: scaling: 2 (divide each row by max. abs. value in each row)\n"},
+      {17, -64, "    17: initial frontal matrix size (# of Entry's): 64\n"},
+      {18, 0.25F, "    18: drop tolerance: 0.25\n"},
+      {19, 0, "    19: AMD and COLAMD aggressive absorption: 0 (no)\n"},
+  };
+  for (const Case& c : cases) {
+    Floats changed = Control;
+    changed[c.index] = c.value;
+    expect_lines(report(changed), {c.text});
+  }
 }
 
 TEST(Reports, InfoHasTheLabelsAndThisBuildsValues) {
@@ -182,8 +246,11 @@ TEST(Reports, ValuesAreFloats) {
       printed_text([&] { status = call_index_form(umfpack_si_report_matrix_Idx, 2, 2, Ap, Ai, Ax, 1, Control); }),
       {"\trow 0 : (0.1)\n"});
   EXPECT_EQ(status, 0);
-  const Integers one_row = {0, 2};
-  printed([&] { status = umfpack_di_report_matrix(1, 2, one_row.data(), Ai.data(), Ax.data(), 0, Control.data()); });
+  const Integers one_row = {0, 2, -9};
+  expect_lines(printed_text([&] {
+                 status = umfpack_di_report_matrix(1, 2, one_row.data(), Ai.data(), Ax.data(), 0, Control.data());
+               }),
+               {"\tcolumn 0 : (0.1)\n"});
   EXPECT_EQ(status, 0) << "in row form";
 }
 

@@ -60,6 +60,32 @@ TEST(Settings, AreObeyed) {
   }
 }
 
+// One row and one column are full. They are dense by the default, and by none of the parameters if that is large.
+TEST(Settings, DenseRowsAndColumns) {
+  constexpr int kOrder = 500;
+  Matrix A(kOrder, kOrder, {0}, {}, {});
+  for (int j = 0; j < kOrder; ++j) {
+    for (int i = 0; i < kOrder; ++i) {
+      if (i != j && i != 0 && j != 0) continue;
+      A.Ai.push_back(i);
+      A.Ax.push_back(i == j ? 1000 : 1);
+    }
+    A.Ap.push_back(static_cast<int>(A.Ai.size()));
+  }
+  const auto info = [&](float strategy, int control, float value) {
+    Host host(A);
+    host.Control[5] = strategy;
+    host.Control[control] = value;
+    EXPECT_EQ(host.symbolic(), 0);
+    return Floats{host.Info[8], host.Info[10], host.Info[38]};
+  };
+  EXPECT_EQ(info(1, 1, 0.2F), (Floats{1, 1, -1})) << "dense rows, dense columns, of A + A'";
+  EXPECT_EQ(info(1, 1, 10), (Floats{0, 1, -1}));
+  EXPECT_EQ(info(1, 2, 10), (Floats{1, 0, -1}));
+  EXPECT_EQ(info(3, 14, 10)[2], 1);
+  EXPECT_EQ(info(3, 14, 30)[2], 0);
+}
+
 // Control[15] is the least pivot on the diagonal in the symmetric strategy, Control[3] that off it.
 TEST(Settings, DiagonalPivotTolerance) {
   // The diagonal is a hundredth of the largest entry of its column: kept at 0.001, left at 0.5.
