@@ -92,6 +92,21 @@ TEST(Jacobi, AsksForThePointsInOrderAndMayBeginAnew) {
   EXPECT_EQ(sjacobi_delete_Idx(&handle), kInvalid);
 }
 
+// Where the step is lost in x, a part of x in 256 takes its place.
+TEST(Jacobi, StepsThatAreLostInXBecomeAPartOfIt) {
+  const int one = 1;
+  const float step = 1e-8F;
+  float x = 512, slope = 0, f = 0;
+  void* handle = nullptr;
+  ASSERT_EQ(sjacobi_init(&handle, &one, &one, &x, &slope, &step), kSuccess);
+  int request = 0;
+  for (const float point : {514.0F, 510.0F}) {
+    ASSERT_EQ(sjacobi_solve(&handle, &f, &f, &request), kSuccess);
+    EXPECT_EQ(x, point);
+  }
+  EXPECT_EQ(sjacobi_delete(&handle), kSuccess);
+}
+
 // x + h and x - h are no floats: the difference that is divided by is the one that was made. f = x is then exact.
 TEST(Jacobi, RoundingOfThePointsLeavesNoTrace) {
   const auto identity = [](int*, int*, float* x, float* f) { f[0] = x[0]; };
@@ -132,14 +147,23 @@ TEST(Jacobi, RefusesWhatMakesNoSense) {
   EXPECT_EQ(sjacobix(nullptr, &n, &n, &column, &x, &step, nullptr), kInvalid);
   EXPECT_EQ(sjacobi(linear, &no, &n, &column, &x, &step), kInvalid);
   EXPECT_EQ(sjacobi(linear, &n, &no, &column, &x, &step), kInvalid);
+  EXPECT_EQ(sjacobi(linear, nullptr, &n, &column, &x, &step), kInvalid);
   EXPECT_EQ(sjacobi(linear, &n, nullptr, &column, &x, &step), kInvalid);
   EXPECT_EQ(sjacobi(linear, &n, &n, nullptr, &x, &step), kInvalid);
+  EXPECT_EQ(sjacobi(linear, &n, &n, &column, nullptr, &step), kInvalid);
+  EXPECT_EQ(sjacobi(linear, &n, &n, &column, &x, nullptr), kInvalid);
   void* handle = &x;
   EXPECT_EQ(sjacobi_init(&handle, &n, &n, nullptr, &column, &step), kInvalid);
   EXPECT_EQ(handle, nullptr);
   EXPECT_EQ(sjacobi_init(nullptr, &n, &n, &x, &column, &step), kInvalid);
   ASSERT_EQ(sjacobi_init(&handle, &n, &n, &x, &column, &step), kSuccess);
+  int request = 7;
   EXPECT_EQ(sjacobi_solve(&handle, &value, &value, nullptr), kInvalid);
+  EXPECT_EQ(sjacobi_solve(&handle, nullptr, &value, &request), kInvalid);
+  EXPECT_EQ(sjacobi_solve(&handle, &value, nullptr, &request), kInvalid);
+  EXPECT_EQ(sjacobi_solve(nullptr, &value, &value, &request), kInvalid);
+  EXPECT_EQ(sjacobi_delete(nullptr), kInvalid);
+  EXPECT_EQ(request, 7);
   EXPECT_EQ(sjacobi_delete(&handle), kSuccess);
   EXPECT_EQ(column, 7);
 }

@@ -156,7 +156,7 @@ std::string report(const std::string& name, int position) {
 TEST(Pack, ReportsWhatIsWrongAndTouchesNothing) {
   const int n = 2, none = 0, negative = -1, step = 1;
   const float a[] = {1, 2};
-  const int index[] = {0, 1};
+  const int index[] = {0, 1};  // a list may begin with 0
   float y[] = {9, 9};
   using quorin::test::captured;
   EXPECT_EQ(captured([&] {
@@ -164,14 +164,25 @@ TEST(Pack, ReportsWhatIsWrongAndTouchesNothing) {
               vsunpackm(&none, nullptr, nullptr, nullptr);
             }),
             "");
-  EXPECT_EQ(captured([&] { vspacki(&negative, a, &step, y); }), report("VSPACKI", 1));
-  EXPECT_EQ(captured([&] { vspacki(&n, nullptr, &step, y); }), report("VSPACKI", 2));
-  EXPECT_EQ(captured([&] { vspacki(&n, a, &none, y); }), report("VSPACKI", 3));
-  EXPECT_EQ(captured([&] { vsunpacki(&n, a, y, &negative); }), report("VSUNPACKI", 4));
-  EXPECT_EQ(captured([&] { vspackv(&n, a, nullptr, y); }), report("VSPACKV", 3));
-  EXPECT_EQ(captured([&] { vspackm(&n, a, index, nullptr); }), report("VSPACKM", 4));
-  EXPECT_EQ(captured([&] { vsunpackv(&negative, a, y, index); }), report("VSUNPACKV", 1));
-  EXPECT_EQ(captured([&] { vsunpackm(&n, a, y, nullptr); }), report("VSUNPACKM", 4));
+  // Each argument of each routine; n comes first, an increment must be positive.
+  const auto n_or = [&](int wrong) { return wrong == 1 ? &negative : wrong == 5 ? nullptr : &n; };
+  const auto or_null = [](int wrong, int position, auto* good) { return wrong == position ? nullptr : good; };
+  for (const int wrong : {1, 2, 3, 4, 5}) {
+    const int* const length = n_or(wrong);
+    const int position = wrong == 5 ? 1 : wrong;
+    const float* const from = or_null(wrong, 2, a);
+    float *const second = or_null(wrong, 3, y), *const third = or_null(wrong, 4, y);
+    const int *const list_3 = or_null(wrong, 3, index), *const list_4 = or_null(wrong, 4, index);
+    EXPECT_EQ(captured([&] { vspackv(length, from, list_3, third); }), report("VSPACKV", position));
+    EXPECT_EQ(captured([&] { vspackm(length, from, list_3, third); }), report("VSPACKM", position));
+    EXPECT_EQ(captured([&] { vsunpackv(length, from, second, list_4); }), report("VSUNPACKV", position));
+    EXPECT_EQ(captured([&] { vsunpackm(length, from, second, list_4); }), report("VSUNPACKM", position));
+    for (const int* const bad : {static_cast<const int*>(nullptr), &none, &negative}) {
+      const int *const inc_3 = wrong == 3 ? bad : &step, *const inc_4 = wrong == 4 ? bad : &step;
+      EXPECT_EQ(captured([&] { vspacki(length, from, inc_3, third); }), report("VSPACKI", position));
+      EXPECT_EQ(captured([&] { vsunpacki(length, from, second, inc_4); }), report("VSUNPACKI", position));
+    }
+  }
   EXPECT_EQ(y[0] + y[1], 18);
 }
 

@@ -238,6 +238,19 @@ std::vector<Design> designs() {
   return all;
 }
 
+// Of bands narrower than the distance that others keep from zeros of the form, a quarter is cut.
+TEST(Equiripple, NarrowBandsAtZerosOfTheForm) {
+  Design at_half{"band at 0.5", 30, {0, 0.3, 0.4998, 0.5}, {1, 0.5}, {1, 1}};
+  Design at_zero{"band at 0", 31, {0, 0.0002, 0.1, 0.4}, {0.5, 1}, {1, 1}, 3};
+  std::vector<double> h;
+  EXPECT_EQ(design(at_half, h), 0);
+  at_half.bands[3] = 0.49995;
+  expect_optimal(at_half, h, 1e-6);
+  EXPECT_EQ(design(at_zero, h), 0);
+  at_zero.bands[0] = 0.00005;
+  expect_optimal(at_zero, h, 1e-6);
+}
+
 TEST(Equiripple, AlternationOnADenseGrid) {
   for (const Design& d : designs()) {
     std::vector<double> h;

@@ -45,6 +45,8 @@ constexpr double kLeastSum = 1e-14;
 TEST(Nist, ParametersAgreeWithTheCertifiedOnes) {
   const std::vector<NistProblem> problems = nist_problems(QUORIN_NIST_DIR);
   ASSERT_EQ(problems.size(), 27U);
+  constexpr int kMostEvaluations = 8800;
+  int evaluations = 0;
   for (const NistProblem& problem : problems) {
     ASSERT_GT(problem.m(), problem.n()) << problem.name << " is not in " << QUORIN_NIST_DIR;
     for (const int start : {0, 1}) {
@@ -53,9 +55,11 @@ TEST(Nist, ParametersAgreeWithTheCertifiedOnes) {
         const double found = digits(run.x, problem.certified), sum = double{run.r2} * double{run.r2};
         EXPECT_GE(found, expected_digits(problem.name)) << problem.name << " after " << run.iterations << " steps";
         EXPECT_LE(sum, problem.residual_sum * (1 + kRelativeSum) + kLeastSum) << problem.name;
+        evaluations += run.requests[0];
       }
     }
   }
+  EXPECT_LE(evaluations, kMostEvaluations) << "as many as ever";
 }
 
 // With a box around the certified parameters that cuts one of them off, the others go where the fit is best.

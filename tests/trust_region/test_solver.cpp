@@ -243,8 +243,13 @@ TEST(Handles, InitRefusesWhatMakesNoSense) {
   EXPECT_EQ(status([](Fit& r) { r.step_limit = 0; }), kInvalid);
   EXPECT_EQ(status([](Fit& r) { r.rs = -1; }), kInvalid);
   EXPECT_EQ(status([](Fit& r) { r.rs = kNaN; }), kInvalid);
-  EXPECT_EQ(status([](Fit& r) { r.eps[3] = -1; }), kInvalid);
-  EXPECT_EQ(status([](Fit& r) { r.eps[4] = kNaN; }), kInvalid);
+  for (const std::size_t i : {0U, 1U, 2U, 3U, 4U, 5U}) {
+    for (const float value : {-1.0F, kNaN}) {
+      if (i == 4 && value == -1) continue;
+      EXPECT_EQ(status([i, value](Fit& r) { r.eps[i] = value; }), kInvalid) << "eps(" << i + 1 << ") = " << value;
+    }
+  }
+  EXPECT_EQ(status([](Fit& r) { r.limit = r.step_limit = 1; }), kSuccess);
   EXPECT_EQ(status([](Fit& r) { r.x[2] = kInfinity; }), kInvalid);
   EXPECT_EQ(status([](Fit& r) { r.lower[2] = 2; }), kInvalid);
   EXPECT_EQ(status([](Fit& r) { r.upper[2] = kNaN; }), kInvalid);
@@ -258,7 +263,13 @@ TEST(Handles, InitRefusesWhatMakesNoSense) {
   EXPECT_EQ(strnlsp_init(&handle, nullptr, &n, &x, eps, &n, &n, &rs), kInvalid);
   EXPECT_EQ(strnlsp_init(&handle, &n, &n, nullptr, eps, &n, &n, &rs), kInvalid);
   EXPECT_EQ(strnlsp_init(&handle, &n, &n, &x, eps, &n, &n, nullptr), kInvalid);
+  handle = &x;
   EXPECT_EQ(strnlspbc_init(&handle, &n, &n, &x, nullptr, &x, eps, &n, &n, &rs), kInvalid);
+  EXPECT_EQ(handle, nullptr);
+  handle = &x;
+  EXPECT_EQ(strnlspbc_init(&handle, &n, &n, &x, &x, nullptr, eps, &n, &n, &rs), kInvalid);
+  EXPECT_EQ(handle, nullptr);
+  EXPECT_EQ(strnlspbc_init(nullptr, &n, &n, &x, &x, nullptr, eps, &n, &n, &rs), kInvalid);
   if (sizeof(void*) == 4) {
     EXPECT_EQ(strnlsp_init(&handle, &n, &many, &x, eps, &n, &n, &rs), kOutOfMemory);
   }
