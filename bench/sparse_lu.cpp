@@ -2,12 +2,7 @@
 
 #include <stdexcept>
 
-#if defined(QUORIN_HAS_EIGEN)
-#define EIGEN_MPL2_ONLY
-#include <Eigen/SparseCore>
-//
-#include <Eigen/IterativeLinearSolvers>
-#endif
+#include "bench/eigen.hpp"
 
 namespace quorin::bench {
 
