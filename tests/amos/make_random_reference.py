@@ -11,9 +11,6 @@ next to a complex zero of Y, K, H1, H2, Bi or Bi', at a relative distance betwee
 a double); with --zeros all are such points. Each line: function m kode nu n re(z) im(z)
 as in make_reference.py, then "@j re im e" for members of the sequence: all of them with --every, else at most ten, the
 smallest ones among their neighbours before others, for those are next to a zero.
-
-The ladders of I and K in order come from the recurrence: K upwards from mpmath's K of order below 1; I downwards,
-normalized by the Wronskian, or for large |z| upwards from mpmath's I with as many digits more as that direction loses.
 """
 import gzip
 import math
@@ -26,87 +23,9 @@ import mpmath
 from mpmath import mp, mpc, mpf
 
 import make_reference as reference
-from make_reference import log_uniform
+from make_reference import DIGITS, log_uniform
 
-DIGITS = 60
 MOST_MEMBERS = 10
-I_POWERS = (1, 1j, -1, -1j)
-
-
-def miller_start(top, size):
-    """Steps above the order `top` after which I no longer counts at the working precision."""
-    growth, before, now, steps = 0.0, 0.0, 1.0, 0
-    while growth < (mp.dps / 2 + 5) * math.log(10):
-        steps += 1
-        factor = 2 * (top + steps) / size
-        # |p_{k+1}| >= factor |p_k| - |p_{k-1}|
-        before, now = now, max(factor * now - before, 1e-3) if top + steps > size else 1.0
-        if now > 1:
-            growth += math.log(now)
-            before, now = before / now, 1.0
-    return steps
-
-
-def ladders(nu, n, w):
-    """I and K at orders nu, ..., nu + n - 1, for Re w >= 0."""
-    top, size = float(nu) + n - 1, float(abs(w))
-    rises = size > 300 and top + 1 < size
-    mp.dps = DIGITS + (int(2 + 0.9 * top * top / size) if rises else 0)
-    first = int(mpmath.floor(nu))
-    fraction = nu - first
-    k = [mpmath.besselk(fraction, w), mpmath.besselk(fraction + 1, w)]
-    for j in range(1, first + n):
-        k.append(k[-2] + 2 * (fraction + j) / w * k[-1])
-    if rises:
-        i = [mpmath.besseli(fraction, w), mpmath.besseli(fraction + 1, w)]
-        for j in range(1, first + n):
-            i.append(i[-2] - 2 * (fraction + j) / w * i[-1])
-        return i[first:first + n], k[first:first + n]
-    above, at = mpf(0), mpf(1)
-    for j in range(miller_start(top, size), 0, -1):
-        above, at = at, above + 2 * (nu + (n - 1) + j) / w * at
-    ratio = above / at
-    at = 1 / (w * (k[-1] + ratio * k[-2]))
-    i = [at * ratio, at]
-    for j in range(n - 1, 0, -1):
-        i.append(i[-2] + 2 * (nu + j) / w * i[-1])
-    return i[:0:-1], k[first:first + n]
-
-
-def members(f, m, nu, n, z):
-    """The n members of a Bessel function, of which each part is coefficient * i^(turns * order) * I or K."""
-    if f == "H" and m == 2:
-        # The conjugate of H1(conj z), where the cut is approached from below.
-        return [mpmath.conj(v) for v in hankel1(nu, n, mpmath.conj(z), z.real < 0)]
-    if f == "H":
-        return hankel1(nu, n, z, False)
-    if z.imag < 0:
-        return [mpmath.conj(v) for v in members(f, m, nu, n, mpmath.conj(z))]
-    if f in "JY":
-        w = mpc(z.imag, -z.real)
-        return combine(nu, n, w, (1, 1), None) if f == "J" else combine(nu, n, w, (1j, 1), (-2 / mpmath.pi, -1))
-    if z.real >= 0:
-        return combine(nu, n, z, (1, 0) if f == "I" else None, (1, 0) if f == "K" else None)
-    return combine(nu, n, -z, (1, 2), None) if f == "I" else combine(nu, n, -z, (-mpmath.pi * 1j, 0), (1, -2))
-
-
-def hankel1(nu, n, z, below_cut):
-    if z.imag > 0 or (z.imag == 0 and not below_cut):
-        return combine(nu, n, mpc(z.imag, -z.real), None, (-2j / mpmath.pi, -1))
-    return combine(nu, n, mpc(-z.imag, z.real), (2, -1), (-2j / mpmath.pi, 1))
-
-
-def combine(nu, n, w, i_part, k_part):
-    i, k = ladders(nu, n, w)
-    result = [mpc(0)] * n
-    for part, values in ((i_part, i), (k_part, k)):
-        if part is None:
-            continue
-        coefficient, turns = part
-        start = coefficient * mpmath.expjpi(turns * nu / 2)
-        for j in range(n):
-            result[j] += start * I_POWERS[turns * j % 4] * values[j]
-    return result
 
 
 def values(f, m, nu, n, z):
@@ -114,7 +33,7 @@ def values(f, m, nu, n, z):
     if f in "AB":
         mp.dps = DIGITS + 20
         return [(mpmath.airyai if f == "A" else mpmath.airybi)(z, derivative=m)]
-    return members(f, m, mpf(nu), n, z)
+    return reference.members(f, m, mpf(nu), n, z)
 
 
 def chosen(v, every):
@@ -242,25 +161,12 @@ def random_line(task):
         signal.alarm(0)
 
 
-def self_check():
-    """Ladders agree with mpmath's functions."""
-    r = random.Random(7)
-    for _ in range(40):
-        nu, z = mpf(r.uniform(0, 20)), mpc(r.uniform(-30, 30), r.uniform(-30, 30))
-        for f, m in (("H", 1), ("H", 2), ("I", 0), ("J", 0), ("K", 0), ("Y", 0)):
-            mp.dps = DIGITS
-            last = members(f, m, nu, 30, z)[-1]
-            mp.dps = DIGITS + 60
-            expected = reference.by_mpmath(f, m, nu + 29, z)
-            assert abs(last - expected) < mpf(10) ** -40 * abs(expected), (f, m, nu, z)
-
-
 def main():
     signal.signal(signal.SIGALRM, reference.give_up)
     path, count = sys.argv[1], int(sys.argv[2])
     every = "--every" in sys.argv
     seed = next((int(a[7:]) for a in sys.argv if a.startswith("--seed=")), 0)
-    self_check()
+    reference.self_check()
     written = 0
     with gzip.open(path, "wt") as stream, multiprocessing.Pool(1) as pool:
         tasks = ((seed + k, every) for k in range(10 * count))
