@@ -1,10 +1,8 @@
 // The exports of the family, called as a host calls them, behind C++ types.
 #pragma once
 
-#include <complex>
-#include <vector>
-
 #include "quorin/amos.h"
+#include "tests/support/standard.hpp"
 
 namespace quorin_test {
 

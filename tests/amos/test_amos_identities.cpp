@@ -1,12 +1,7 @@
 // Relations between functions that come from different methods: Wronskians, connection formulas, symmetry, recurrences.
 // Bound: a small multiple of 10 u 10^S, u = 2.22e-16, against the largest term of the relation.
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <numbers>
-#include <random>
-
 #include "calls.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin_test {
 namespace {

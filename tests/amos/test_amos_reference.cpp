@@ -7,18 +7,10 @@
 // Arguments: the small table, the full one, which is compared instead when QUORIN_FULL_TESTS is "true", those of points
 // next to real zeros, of random points, of points next to complex zeros and of whole sequences, and optionally a file
 // for one line per value (function, z, order, relative error): tools/plot_amos_errors.py draws it.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cmath>
-#include <cstdio>
-#include <cstdlib>
 #include <fstream>
-#include <map>
-#include <sstream>
-#include <string>
 
 #include "calls.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin_test {
 namespace {

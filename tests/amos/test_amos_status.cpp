@@ -1,14 +1,6 @@
 // Input checks and their order, range limits, overflow, underflow counts, index forms, machine constants.
-#include <gtest/gtest.h>
-
-#include <array>
-#include <cmath>
-#include <cstdint>
-#include <cstring>
-#include <limits>
-#include <random>
-
 #include "calls.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin_test {
 namespace {

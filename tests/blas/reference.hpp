@@ -1,8 +1,7 @@
 // The reference BLAS under its Fortran names: the oracle.
 #pragma once
 
-#include <complex>
-#include <cstdint>
+#include "tests/support/standard.hpp"
 
 extern "C" {
 using Complex = std::complex<float>;

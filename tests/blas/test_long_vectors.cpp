@@ -1,15 +1,6 @@
 // Long vectors with strides.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <complex>
-#include <cstdint>
-#include <cstdlib>
-#include <random>
-#include <string>
-#include <vector>
-
 #include "quorin/blas.h"
+#include "tests/support/test.hpp"
 
 namespace {
 

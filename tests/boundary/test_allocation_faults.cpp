@@ -1,15 +1,9 @@
 // The k-th allocation of a call fails, alone or with all after it, for k = 1, 2, ... until the call no longer notices.
 // Each time it either computes the right result or reports code 1000 and leaves the output untouched.
-#include <gtest/gtest.h>
-
-#include <cstdint>
-#include <functional>
-#include <string>
-#include <vector>
-
 #include "tests/support/capture_output.hpp"
 #include "tests/support/exact_product.hpp"
 #include "tests/support/failing_host.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::test {
 namespace {

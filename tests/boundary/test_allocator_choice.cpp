@@ -1,9 +1,5 @@
 // Which allocator the library takes when it is loaded: that of a complete libimalloc, else the run-time library's.
-#include <gtest/gtest.h>
-
 #include <chrono>
-#include <climits>
-#include <string>
 #include <thread>
 
 #include "tests/boundary/counting_allocator.hpp"
@@ -11,6 +7,7 @@
 #include "tests/support/guarded_pages.hpp"
 #include "tests/support/host_module.hpp"
 #include "tests/support/temporary_folder.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::test {
 namespace {

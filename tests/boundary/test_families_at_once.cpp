@@ -1,13 +1,11 @@
 // Host threads call all families at once, each on data of its own, while another one takes the packing buffers away:
 // everybody gets the bits of a lone call.
-#include <gtest/gtest.h>
-
 #include <atomic>
 #include <thread>
-#include <vector>
 
 #include "tests/support/family_calls.hpp"
 #include "tests/support/host_module.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::test {
 namespace {

@@ -1,19 +1,15 @@
 // Hosts of all floating-point settings: exceptions unmasked as Delphi and Free Pascal have them, the x87 at 24, 53 and
 // 64 bits, subnormals flushed, every rounding. Results are those of a plain host, bit for bit, nothing is raised, and
 // the settings come back.
-#include <gtest/gtest.h>
 
 #include <csetjmp>
-#include <cstdint>
-#include <cstring>
-#include <limits>
 #include <thread>
-#include <vector>
 
 #include "tests/support/exact_product.hpp"
 #include "tests/support/failing_host.hpp"
 #include "tests/support/family_calls.hpp"
 #include "tests/support/host_module.hpp"
+#include "tests/support/test.hpp"
 
 // What the stubs below read and write.
 extern "C" {

@@ -1,21 +1,14 @@
 // Hosts load and unload the library again and again, and leave it in the middle of its work. Nothing may crash, hang or
 // grow.
-#include <gtest/gtest.h>
-
 #include <atomic>
 #include <chrono>
-#include <climits>
-#include <cstdlib>
-#include <iterator>
-#include <random>
-#include <string>
 #include <thread>
-#include <vector>
 
 #include "tests/support/exact_product.hpp"
 #include "tests/support/family_calls.hpp"
 #include "tests/support/host_module.hpp"
 #include "tests/support/process_state.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::test {
 namespace {

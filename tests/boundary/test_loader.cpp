@@ -1,11 +1,6 @@
 // quorin/loader.h: what a host learns when there is no library, or one that lacks exports.
-#include <gtest/gtest.h>
-
-#include <cstring>
-#include <string>
-#include <vector>
-
 #include "tests/support/host_module.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::test {
 namespace {

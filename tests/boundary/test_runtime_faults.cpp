@@ -2,21 +2,14 @@
 // ... until a call no longer notices, in every family, on one thread and on three. The requests are seen where the
 // library imports them: on Windows so are those that the runtime's own code inside the library makes, when it prints,
 // and its operator new. Elsewhere operator new is an import itself.
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <atomic>
-#include <cmath>
-#include <cstdint>
-#include <cstdlib>
 #include <new>
-#include <string>
-#include <vector>
 
 #include "tests/support/capture_output.hpp"
 #include "tests/support/family_calls.hpp"
 #include "tests/support/host_module.hpp"
 #include "tests/support/imports.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::test {
 namespace {

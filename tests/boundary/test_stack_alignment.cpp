@@ -1,17 +1,14 @@
 // Hosts of 32-bit Windows have stacks of many kinds. They align them to 4 bytes only. Every family must work, and
 // compute the same bits, from each of the four alignments that a call can have. (The BLAS's own test does the same for
 // each of its routines.)
-#include <gtest/gtest.h>
 #include <intrin.h>
 #include <windows.h>
-
-#include <cstdint>
-#include <vector>
 
 #include "tests/support/capture_output.hpp"
 #include "tests/support/family_calls.hpp"
 #include "tests/support/host_module.hpp"
 #include "tests/support/stack_skew.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::test {
 namespace {

@@ -1,16 +1,10 @@
 // What the library asks of the system, and what it makes of the answers.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cstdlib>
 #include <mutex>
-#include <set>
-#include <string>
-#include <vector>
 
 #include "tests/support/family_calls.hpp"
 #include "tests/support/host_module.hpp"
 #include "tests/support/imports.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::test {
 namespace {

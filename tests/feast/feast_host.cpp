@@ -1,14 +1,7 @@
 #include "tests/feast/feast_host.hpp"
 
-#include <algorithm>
-#include <cctype>
-#include <cmath>
-#include <cstdlib>
-#include <map>
-#include <numbers>
-#include <utility>
-
 #include "quorin/feast.h"
+#include "tests/support/standard.hpp"
 
 extern "C" {
 void xerbla_(const char*, const int*, std::size_t) { std::abort(); }

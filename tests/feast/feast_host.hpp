@@ -1,15 +1,8 @@
 // Eigenproblems as hosts pass them, and what has to hold of the answers.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <complex>
-#include <cstdint>
-#include <random>
-#include <string>
-#include <vector>
-
 #include "tests/support/sparse.hpp"
+#include "tests/support/test.hpp"
 
 namespace feast_test {
 

@@ -1,14 +1,8 @@
 // Against LAPACK in double precision: the same eigenvalues, none missed and none too many, on structures, with multiple
 // and clustered eigenvalues, ends everywhere, and on many random problems (QUORIN_FEAST_PROBLEMS sets how many).
-#include <algorithm>
-#include <cmath>
-#include <cstdlib>
-#include <functional>
-#include <numbers>
-#include <optional>
-
 #include "quorin/services.h"
 #include "tests/feast/feast_host.hpp"
+#include "tests/support/standard.hpp"
 
 namespace feast_test {
 namespace {

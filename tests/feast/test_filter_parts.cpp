@@ -1,14 +1,8 @@
 // The quadrature rule against published nodes and weights, and Rayleigh-Ritz steps on subspaces without full rank.
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <complex>
-#include <numeric>
-#include <vector>
-
 #include "base/parallel.hpp"
 #include "families/feast/contour.hpp"
 #include "families/feast/rayleigh_ritz.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::feast {
 namespace {

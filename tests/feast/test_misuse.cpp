@@ -1,12 +1,8 @@
 // Every status for a wrong call, in the order of the checks, with results untouched; damaged matrices and memory.
-#include <cstring>
-#include <functional>
-#include <limits>
-#include <utility>
-
 #include "quorin/feast.h"
 #include "tests/feast/feast_host.hpp"
 #include "tests/support/guarded_pages.hpp"
+#include "tests/support/standard.hpp"
 
 namespace feast_test {
 namespace {

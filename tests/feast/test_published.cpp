@@ -1,13 +1,10 @@
 // The problems with published or closed-form eigenvalues, each parameter, and each form of each routine.
-#include <algorithm>
-#include <cmath>
-#include <numbers>
-
 #include "quorin/feast.h"
 #include "tests/feast/feast_host.hpp"
 #include "tests/support/capture_output.hpp"
 #include "tests/support/guarded.hpp"
 #include "tests/support/index_form.hpp"
+#include "tests/support/standard.hpp"
 
 namespace feast_test {
 namespace {

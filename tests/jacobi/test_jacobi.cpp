@@ -1,14 +1,6 @@
 // Jacobians by differences: the protocol, the points asked for, exactness and restoration of x.
-#include <gtest/gtest.h>
-
-#include <array>
-#include <bit>
-#include <cmath>
-#include <cstdint>
-#include <limits>
-#include <vector>
-
 #include "quorin/jacobi.h"
+#include "tests/support/test.hpp"
 
 namespace {
 

@@ -2,20 +2,9 @@
 // cannot be accessed.
 #pragma once
 
-#include <algorithm>
-#include <cctype>
-#include <cmath>
-#include <cstdint>
-#include <cstring>
-#include <limits>
-#include <random>
-#include <span>
-#include <string>
-#include <string_view>
-#include <vector>
-
 #include "tests/lapack/routines.hpp"
 #include "tests/support/guarded_pages.hpp"
+#include "tests/support/standard.hpp"
 
 namespace quorin::test {
 

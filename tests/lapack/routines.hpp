@@ -2,15 +2,8 @@
 // have to be.
 #pragma once
 
-#include <algorithm>
-#include <bit>
-#include <cstddef>
-#include <cstdint>
-#include <span>
-#include <type_traits>
-#include <utility>
-
 #include "quorin/lapack.h"
+#include "tests/support/standard.hpp"
 
 namespace quorin::test {
 

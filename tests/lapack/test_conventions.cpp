@@ -1,13 +1,6 @@
 // What the published interface says about queries, selection functions and the exceptions of the index rule.
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <cstdint>
-#include <limits>
-#include <utility>
-#include <vector>
-
 #include "quorin/lapack.h"
+#include "tests/support/test.hpp"
 
 namespace {
 

@@ -1,29 +1,12 @@
 // Every routine of the LAPACK table, through both forms, driven by the table itself: the index form does in place what
 // the plain form does and leaves alone what lies around its arrays; a wrong argument is found, and nothing is touched.
-#include <gtest/gtest.h>
-
-#include <cctype>
-#include <cstdint>
-#include <cstring>
-#include <iterator>
-#include <string>
-#include <string_view>
-#include <vector>
-
 #include "tests/lapack/paged_call.hpp"
 #include "tests/support/capture_output.hpp"
+#include "tests/support/test.hpp"
 
 namespace {
 
-using quorin::test::Argument;
-using quorin::test::captured;
-using quorin::test::Content;
-using quorin::test::Element;
-using quorin::test::FaultReport;
-using quorin::test::Kind;
-using quorin::test::kRoutines;
-using quorin::test::PagedCall;
-using quorin::test::Routine;
+using namespace quorin::test;
 
 constexpr std::uint32_t kCalls = 6;  // of each routine
 

@@ -1,31 +1,14 @@
 // Every routine over infinities, NaNs, huge, tiny and subnormal numbers at random places, orders 0 to 65: it returns
 // within a second of processor time, stays in its arrays, and says nothing but what is wrong with the host's own
 // arguments. The arrays lie flush against pages that cannot be accessed. Then what comes out of such calls.
-#include <gtest/gtest.h>
-
-#include <cctype>
-#include <cmath>
-#include <complex>
-#include <cstdio>
-#include <cstdlib>
-#include <limits>
-#include <string>
-#include <vector>
-
 #include "tests/lapack/paged_call.hpp"
 #include "tests/support/capture_output.hpp"
+#include "tests/support/test.hpp"
 #include "tests/support/watchdog.hpp"
 
 namespace {
 
-using quorin::test::CapturedOutput;
-using quorin::test::Content;
-using quorin::test::FaultReport;
-using quorin::test::kContents;
-using quorin::test::kRoutines;
-using quorin::test::PagedCall;
-using quorin::test::Routine;
-using quorin::test::Watchdog;
+using namespace quorin::test;
 
 // The reports in `text`, and whether all name this routine.
 int reports(const std::string& text, const std::string& routine) {

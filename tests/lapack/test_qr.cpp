@@ -1,20 +1,12 @@
 // The QR factorization of our own: R and reflectors as LAPACK's other routines and the published routine itself (both
 // of LAPACK, on the reference BLAS) understand them. Errors are multiples of the unit roundoff (Higham,
 // Accuracy and Stability of Numerical Algorithms, 2nd ed., theorem 19.4).
-#include <algorithm>
-#include <cmath>
-#include <complex>
-#include <cstdint>
-#include <limits>
-#include <random>
-#include <type_traits>
-#include <vector>
-
 #include "quorin/lapack.h"
 #include "quorin/services.h"
 #include "tests/support/capture_output.hpp"
 #include "tests/support/failing_host.hpp"
 #include "tests/support/guarded.hpp"
+#include "tests/support/standard.hpp"
 
 using Complex = std::complex<float>;
 

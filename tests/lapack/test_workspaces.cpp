@@ -1,29 +1,13 @@
 // Work arrays of every routine that takes their lengths: the published minimum suffices, flush against pages that
 // cannot be accessed; one less is refused, whatever the rest is; a query answers no less than the minimum, and its
 // answer suffices.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cstdint>
-#include <cstdio>
-#include <cstring>
-#include <string>
-#include <string_view>
-
 #include "tests/lapack/paged_call.hpp"
 #include "tests/support/capture_output.hpp"
+#include "tests/support/test.hpp"
 
 namespace {
 
-using quorin::test::Argument;
-using quorin::test::captured;
-using quorin::test::Content;
-using quorin::test::Element;
-using quorin::test::FaultReport;
-using quorin::test::kRoutines;
-using quorin::test::PagedCall;
-using quorin::test::Routine;
-using quorin::test::Values;
+using namespace quorin::test;
 
 constexpr std::uint32_t kCalls = 40;  // of each routine
 

@@ -1,15 +1,9 @@
 // Packing: every bit of every payload, nothing but what is addressed, in place, and what is reported.
-#include <gtest/gtest.h>
-
-#include <bit>
 #include <cfenv>
-#include <cstdint>
-#include <random>
-#include <string>
-#include <vector>
 
 #include "quorin/pack.h"
 #include "tests/support/capture_output.hpp"
+#include "tests/support/test.hpp"
 
 namespace {
 

@@ -1,19 +1,9 @@
 // A host of PARDISO: one handle, its arrays, and calls with all sixteen arguments.
 #pragma once
 
-#include <algorithm>
-#include <array>
-#include <cmath>
-#include <complex>
-#include <cstdint>
-#include <limits>
-#include <string>
-#include <vector>
-
-#include <gtest/gtest.h>
-
 #include "quorin/pardiso.h"
 #include "tests/support/sparse.hpp"
+#include "tests/support/test.hpp"
 
 namespace pardiso_test {
 

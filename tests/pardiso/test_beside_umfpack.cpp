@@ -1,21 +1,13 @@
 // Solutions of unsymmetric systems from applications beside UMFPACK's, each with the refinement that it does by itself.
-#include <gtest/gtest.h>
 #include <umfpack_double.h>
 
-#include <algorithm>
-#include <array>
-#include <cmath>
-#include <cstdint>
 #include <filesystem>
-#include <limits>
-#include <random>
-#include <string>
-#include <vector>
 
 #include "base/parallel.hpp"
 #include "dense/dense.hpp"
 #include "families/pardiso/pardiso.hpp"
 #include "tests/support/sparse.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::pardiso {
 namespace {

@@ -1,14 +1,8 @@
 // Disks that are full or break, and folders that go: whatever operation on a file fails, the call says so with the
 // published code, the handle can be used or freed, and no file is left that looks whole.
-#include <gtest/gtest.h>
-
-#include <array>
-#include <cstdlib>
-#include <string>
-#include <vector>
-
 #include "families/pardiso/pardiso.hpp"
 #include "tests/sparse/files.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::pardiso {
 namespace {

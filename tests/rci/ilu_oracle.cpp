@@ -1,8 +1,6 @@
 #include "tests/rci/ilu_oracle.hpp"
 
-#include <algorithm>
-#include <cmath>
-#include <utility>
+#include "tests/support/standard.hpp"
 
 namespace rci_test {
 

@@ -2,10 +2,8 @@
 // rows in maps.
 #pragma once
 
-#include <map>
-#include <vector>
-
 #include "tests/rci/rci_host.hpp"
+#include "tests/support/standard.hpp"
 
 namespace rci_test {
 

@@ -1,8 +1,6 @@
 #include "tests/rci/rci_host.hpp"
 
-#include <algorithm>
-#include <cmath>
-#include <utility>
+#include "tests/support/standard.hpp"
 
 namespace rci_test {
 

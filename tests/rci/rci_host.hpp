@@ -1,18 +1,11 @@
 // Hosts as the documents describe them, for the tests of the iterative solvers, and matrices in compressed rows.
 #pragma once
 
-#include <cstddef>
-#include <functional>
-#include <random>
-#include <string>
-#include <vector>
-
-#include <gtest/gtest.h>
-
 #include "quorin/rci.h"
 #include "tests/support/guarded.hpp"
 #include "tests/support/index_form.hpp"
 #include "tests/support/sparse.hpp"
+#include "tests/support/test.hpp"
 
 namespace rci_test {
 

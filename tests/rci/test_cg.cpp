@@ -1,7 +1,6 @@
 // Conjugate gradients, for one and for several right-hand sides, driven as a host does.
-#include <gtest/gtest.h>
-
 #include "tests/rci/rci_host.hpp"
+#include "tests/support/test.hpp"
 
 namespace rci_test {
 namespace {

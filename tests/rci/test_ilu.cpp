@@ -1,10 +1,7 @@
 // Incomplete LU: against the defining identities, and against an independent factorization that keeps its rows in maps.
-#include <gtest/gtest.h>
-
-#include <limits>
-
 #include "tests/rci/ilu_oracle.hpp"
 #include "tests/rci/rci_host.hpp"
+#include "tests/support/test.hpp"
 
 namespace rci_test {
 namespace {

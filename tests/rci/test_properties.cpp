@@ -1,13 +1,10 @@
 // What holds for every run: legal requests, a residual that is the true one, nothing touched outside the arrays, and no
 // influence of one solve on another.
-#include <gtest/gtest.h>
-
 #include <initializer_list>
-#include <memory>
-#include <string_view>
 #include <thread>
 
 #include "tests/rci/rci_host.hpp"
+#include "tests/support/test.hpp"
 
 namespace rci_test {
 namespace {

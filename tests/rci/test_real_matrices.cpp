@@ -1,8 +1,7 @@
 // The preconditioners and solvers on matrices from applications, that come with the dependencies.
-#include <gtest/gtest.h>
-
 #include "tests/rci/ilu_oracle.hpp"
 #include "tests/rci/rci_host.hpp"
+#include "tests/support/test.hpp"
 
 namespace rci_test {
 namespace {

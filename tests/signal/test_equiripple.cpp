@@ -1,16 +1,7 @@
 // REMEZ against published filters, linear programs, closed forms and the alternation theorem.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cmath>
-#include <cstring>
-#include <limits>
-#include <numbers>
-#include <string>
-#include <vector>
-
 #include "quorin/signal.h"
 #include "tests/signal/optimal_filters.hpp"
+#include "tests/support/test.hpp"
 
 namespace {
 

@@ -1,12 +1,10 @@
 // TSLS1 and TSLC1 against dense elimination in double precision.
-#include <gtest/gtest.h>
-
 #include <cfenv>
-#include <cstring>
 
 #include "quorin/signal.h"
 #include "tests/signal/toeplitz_systems.hpp"
 #include "tests/support/guarded.hpp"
+#include "tests/support/test.hpp"
 
 namespace {
 

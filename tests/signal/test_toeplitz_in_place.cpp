@@ -1,8 +1,7 @@
 // The recursion as it runs when there is no memory: in the host's work arrays, with vectors in single precision.
-#include <gtest/gtest.h>
-
 #include "families/signal/toeplitz.hpp"
 #include "tests/signal/toeplitz_systems.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::signal_tests {
 namespace {

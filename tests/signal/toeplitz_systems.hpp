@@ -1,13 +1,7 @@
 // Toeplitz systems, and their solution by dense elimination in double precision.
 #pragma once
 
-#include <algorithm>
-#include <cmath>
-#include <complex>
-#include <random>
-#include <type_traits>
-#include <utility>
-#include <vector>
+#include "tests/support/standard.hpp"
 
 namespace quorin::signal_tests {
 

@@ -1,12 +1,7 @@
 #include "tests/slap/slap_host.hpp"
 
-#include <algorithm>
-#include <cmath>
-#include <numeric>
-#include <set>
-#include <stdexcept>
-
 #include "tests/support/guarded.hpp"
+#include "tests/support/standard.hpp"
 
 namespace slap_test {
 

@@ -2,13 +2,9 @@
 // the published lengths between guard words.
 #pragma once
 
-#include <cstdint>
-#include <random>
-#include <string>
-#include <vector>
-
 #include "quorin/slap.h"
 #include "tests/support/sparse.hpp"
+#include "tests/support/standard.hpp"
 
 namespace slap_test {
 

@@ -1,11 +1,6 @@
 // Triads to columns: SS2Y, whose exact order hosts see.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cmath>
-#include <tuple>
-
 #include "tests/slap/slap_host.hpp"
+#include "tests/support/test.hpp"
 
 namespace slap_test {
 namespace {

@@ -1,11 +1,6 @@
 // Iteration counts against the textbook methods, in double precision and with dense matrices.
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <functional>
-#include <numeric>
-
 #include "tests/slap/slap_host.hpp"
+#include "tests/support/test.hpp"
 
 namespace slap_test {
 namespace {

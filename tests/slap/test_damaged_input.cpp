@@ -1,11 +1,7 @@
 // Matrices that break the rules: whatever happens, nothing is written or read outside the caller's arrays (the
 // sanitizers see that on linux), and the status is one of the published ones.
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <limits>
-
 #include "tests/slap/slap_host.hpp"
+#include "tests/support/test.hpp"
 
 namespace slap_test {
 namespace {

@@ -1,10 +1,6 @@
 // The solvers on matrices from applications, scaled to a unit diagonal.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cmath>
-
 #include "tests/slap/slap_host.hpp"
+#include "tests/support/test.hpp"
 
 namespace slap_test {
 namespace {

@@ -2,15 +2,9 @@
 //
 // A single-precision residual b - A x is known to a few roundings of its largest terms, so ERR is compared with the
 // residual in double precision to kResidualNoise beside a relative kAgreement.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cmath>
-#include <cstdlib>
-#include <tuple>
-
 #include "tests/slap/slap_host.hpp"
 #include "tests/support/capture_output.hpp"
+#include "tests/support/test.hpp"
 
 namespace slap_test {
 namespace {

@@ -1,9 +1,6 @@
 // IERR, ITER, ERR and TOL when things do not go as planned.
-#include <gtest/gtest.h>
-
-#include <cmath>
-
 #include "tests/slap/slap_host.hpp"
+#include "tests/support/test.hpp"
 
 namespace slap_test {
 namespace {

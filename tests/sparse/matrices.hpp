@@ -1,19 +1,11 @@
 // Graphs and matrices for the tests: grids, random ones, and those that come with the dependencies.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <complex>
 #include <fstream>
-#include <random>
-#include <stdexcept>
-#include <string>
-#include <utility>
-#include <vector>
 
 #include "sparse/sparse.hpp"
 #include "tests/support/sparse.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::sparse::test {
 

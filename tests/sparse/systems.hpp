@@ -2,13 +2,8 @@
 // are made.
 #pragma once
 
-#include <cmath>
-#include <complex>
-#include <cstddef>
-#include <limits>
-#include <random>
-
 #include "tests/sparse/matrices.hpp"
+#include "tests/support/standard.hpp"
 
 namespace quorin::sparse::test {
 

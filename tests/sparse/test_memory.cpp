@@ -1,10 +1,6 @@
 // Memory of orderings and factorizations: the k-th allocation fails, for k = 1, 2, ... until none does any more, and
 // what is taken beside what was announced. The libraries that we call ask in vain, too.
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <csignal>
-#include <functional>
 
 #include "base/thread_settings.hpp"
 #include "dense/dense.hpp"
@@ -13,6 +9,7 @@
 #include "tests/sparse/files.hpp"
 #include "tests/sparse/systems.hpp"
 #include "tests/sparse/watched_heap.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::sparse::test {
 namespace {

@@ -1,17 +1,7 @@
 // The multifrontal method beside the left-looking one: the same pivots, and the same panels up to rounding.
-#include <gtest/gtest.h>
-
-#include <cstring>
-#include <functional>
-#include <numeric>
-
-#if defined(_WIN32)
-#include <windows.h>
-#else
-#include <pthread.h>
-#endif
-
 #include "tests/sparse/systems.hpp"
+#include "tests/support/system.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::sparse::test {
 namespace {
@@ -117,25 +107,6 @@ TYPED_TEST(Multifrontal, CountsTheSameSigns) {
     ASSERT_EQ(solved.compute(options), FactorOutcome::kDone);
     EXPECT_EQ(solved.factor.report().pivots.positive, counts.positive);
     EXPECT_EQ(solved.factor.report().pivots.negative, counts.negative);
-  }
-}
-
-TYPED_TEST(Multifrontal, NamesTheColumnThatFails) {
-  using T = TypeParam;
-  const int bad = 777;
-  for (const int threads : {1, 3}) {
-    System<T> A = dominant_system<T>(grid(40, 40, 1, false), Symmetry::kHermitian, true, 1.1, 1);
-    Solved<T> solved(A);
-    const FactorOptions options{.method = Method::kMultifrontal, .threads = threads};
-    ASSERT_EQ(solved.compute(options), FactorOutcome::kDone);
-    for (std::size_t k = 0; k < A.entries.size(); ++k) {
-      if (A.entries[k].row == bad && A.entries[k].column == bad) A.entries[k].value = T{-1};
-    }
-    solved.values = Solved<T>(A).values;
-    EXPECT_EQ(solved.compute(options), FactorOutcome::kNotPositiveDefinite);
-    EXPECT_EQ(solved.factor.report().failed_column, bad);
-    solved.values[0] = std::numeric_limits<RealOf<T>>::quiet_NaN();
-    EXPECT_EQ(solved.compute(options), FactorOutcome::kNotFinite);
   }
 }
 

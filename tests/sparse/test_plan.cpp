@@ -1,10 +1,6 @@
 // Plans beside dense symbolic elimination, and assembled panels beside the dense matrix.
-#include <gtest/gtest.h>
-
-#include <cstddef>
-#include <set>
-
 #include "tests/sparse/systems.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::sparse::test {
 namespace {

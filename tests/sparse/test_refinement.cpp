@@ -1,14 +1,8 @@
 // Refinement, over dense solves that are wrong on purpose. Backward errors are computed again from dense matrices in
 // long double; for systems of integers the solution is known.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cmath>
-#include <limits>
-#include <random>
-
 #include "tests/sparse/matrices.hpp"
 #include "tests/sparse/values.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::sparse::test {
 namespace {

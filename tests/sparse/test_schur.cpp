@@ -1,12 +1,6 @@
 // Schur complements beside dense elimination, solves by way of them, and solves of parts of systems beside whole ones.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <complex>
-#include <numeric>
-#include <random>
-
 #include "tests/sparse/systems.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::sparse::test {
 namespace {
@@ -178,63 +172,6 @@ TEST(Schur, TellsOfSingularComplements) {
   EXPECT_EQ(factor.compute(2, S, 2, false, 1e-13), FactorOutcome::kDone);
   EXPECT_EQ(factor.perturbed(), 1);
   EXPECT_EQ(factor.compute(2, bad, 2, false), FactorOutcome::kNotFinite);
-}
-
-// The steps of a solver, for rows in compressed form; the complement by rows.
-std::vector<double> complement_of(const std::vector<int>& starts, const std::vector<int>& indices,
-                                  const std::vector<double>& values, Symmetry symmetry, const std::vector<int>& last) {
-  const int n = static_cast<int>(starts.size()) - 1, m = static_cast<int>(last.size());
-  const ColumnMatrix<double> matrix{{n, n, starts.data(), indices.data()}, values.data()};
-  const bool is_general = symmetry == Symmetry::kGeneral;
-  const PreprocessOptions options{.by_rows = true,
-                                  .symmetry = symmetry,
-                                  .scales = is_general,
-                                  .matches = is_general,
-                                  .last = last,
-                                  .last_are_schur = true};
-  Preprocessing<double> prepared;
-  EXPECT_EQ(preprocess(matrix, options, prepared), MatchingOutcome::kDone);
-  Plan plan;
-  EXPECT_EQ(plan.build(prepared.graph, prepared.ordering(), {.schur_size = m}), Outcome::kDone);
-  Assembly assembly;
-  EXPECT_EQ(assembly.build(plan, matrix,
-                           {.panels = is_general ? PanelKind::kUnsymmetric : PanelKind::kSymmetric,
-                            .by_rows = true,
-                            .symmetry = symmetry,
-                            .row_position = prepared.row_position.data()}),
-            Outcome::kDone);
-  Factor<double> factor;
-  const FactorOptions rule{.factorization = is_general ? Factorization::kLU : Factorization::kLDLT,
-                           .pivoting = is_general ? Pivoting::kComplete : Pivoting::kBunchKaufman,
-                           .perturbation = 1e-13};
-  EXPECT_EQ(
-      factor.compute(plan, assembly, {values.data(), prepared.row_scale.data(), prepared.column_scale.data()}, rule),
-      FactorOutcome::kDone);
-  EXPECT_EQ(factor.report().pivots.perturbed, 0);
-  std::vector<double> S(std::size_t(m) * m);
-  EXPECT_EQ(copy_schur_complement(factor, true, S.data(), m), FactorOutcome::kDone);
-  return S;
-}
-
-void expect_near(const std::vector<double>& actual, const std::vector<double>& expected) {
-  ASSERT_EQ(actual.size(), expected.size());
-  for (std::size_t k = 0; k < actual.size(); ++k)
-    EXPECT_NEAR(actual[k], expected[k], 1e-13 * (1 + std::abs(expected[k])));
-}
-
-// Values computed in rational numbers. None of the first matrix's seven unknowns has a diagonal entry.
-TEST(Schur, IsRightWhereRowsHaveToBeExchanged) {
-  expect_near(complement_of({0, 3, 6, 9, 12, 15, 18, 19, 20, 21, 22},
-                            {4, 7, 8, 0, 5, 7, 1, 6, 8, 0, 2, 7, 1, 2, 8, 2, 3, 4, 3, 5, 6, 4},
-                            {-1, 1, 1, 1, 1, 5.5, 1, 1, 4, 1, -1, -2, 1, -1, -4, 1, -1, -6, 1, 1, 1, 1},
-                            Symmetry::kGeneral, {7, 8, 9}),
-              {-13.5, -6, 0, -6, -14, 0, 1, 1, 0});
-  expect_near(complement_of({0, 3, 5, 8, 11, 13}, {0, 1, 3, 0, 1, 2, 3, 4, 0, 2, 3, 1, 4},
-                            {1, -1, -3, -2, 5, 4, 6, 4, -4, 2, 7, 8, -5}, Symmetry::kGeneral, {3, 4}),
-              {-16, -2, 16, -5});
-  expect_near(complement_of({0, 4, 7, 9, 11, 14, 16, 17, 18}, {0, 2, 5, 6, 1, 2, 4, 2, 7, 3, 6, 4, 5, 6, 5, 7, 6, 7},
-                            {7, 1, 2, 7, -4, 8, 2, 1, 5, 7, 9, 5, 1, 5, -1, 5, 11, 5}, Symmetry::kSymmetric, {6, 7}),
-              {-7.644985368449055, -7.723463687150838, -7.723463687150838, 19.036312849162012});
 }
 
 }  // namespace

@@ -1,12 +1,9 @@
 // Matrices with values for the tests.
 #pragma once
 
-#include <complex>
-#include <string>
-#include <vector>
-
 #include "sparse/sparse.hpp"
 #include "tests/support/sparse.hpp"
+#include "tests/support/standard.hpp"
 
 namespace quorin::sparse::test {
 

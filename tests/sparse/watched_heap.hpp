@@ -2,10 +2,7 @@
 // --wrap for malloc, calloc, realloc and free, so that the libraries that we call are watched, too.
 #pragma once
 
-#include <algorithm>
-#include <array>
-#include <cstddef>
-#include <cstdint>
+#include "tests/support/standard.hpp"
 
 struct Heap {
   bool watches = false;

@@ -2,11 +2,7 @@
 // library writes by itself is caught too.
 #pragma once
 
-#include <cstdio>
 #include <fstream>
-#include <iterator>
-#include <stdexcept>
-#include <string>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -15,6 +11,7 @@
 #include <io.h>
 #endif
 
+#include "tests/support/standard.hpp"
 #include "tests/support/temporary_file.hpp"
 
 namespace quorin::test {

@@ -1,11 +1,8 @@
 // A matrix product that every order of summation computes exactly, big enough for five threads.
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
-#include <vector>
-
 #include "quorin/loader.h"
+#include "tests/support/standard.hpp"
 
 namespace quorin::test {
 

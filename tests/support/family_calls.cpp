@@ -1,11 +1,7 @@
 #include "tests/support/family_calls.hpp"
 
-#include <algorithm>
-#include <cmath>
-#include <cstdint>
-#include <cstdlib>
-
 #include "tests/support/exact_product.hpp"
+#include "tests/support/standard.hpp"
 
 namespace quorin::test {
 namespace {

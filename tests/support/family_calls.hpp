@@ -1,10 +1,8 @@
 // One real call of each family, for tests of what a host may do to the library as a whole.
 #pragma once
 
-#include <span>
-#include <vector>
-
 #include "quorin/loader.h"
+#include "tests/support/standard.hpp"
 
 namespace quorin::test {
 

@@ -1,9 +1,7 @@
 // An array between guard words, for tests of what a routine writes.
 #pragma once
 
-#include <cstddef>
-#include <cstring>
-#include <vector>
+#include "tests/support/standard.hpp"
 
 namespace quorin::test {
 

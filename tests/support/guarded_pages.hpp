@@ -1,22 +1,8 @@
 // Memory that ends, or begins, at a page which cannot be accessed: what reads or writes one byte outside faults.
 #pragma once
 
-#include <cstddef>
-#include <cstdio>
-#include <cstdlib>
-#include <cstring>
-#include <span>
-#include <utility>
-
-#if defined(_WIN32)
-#define WIN32_LEAN_AND_MEAN
-#include <windows.h>
-#else
-#include <sys/mman.h>
-#include <unistd.h>
-
-#include <csignal>
-#endif
+#include "tests/support/standard.hpp"
+#include "tests/support/system.hpp"
 
 namespace quorin::test {
 

@@ -2,19 +2,10 @@
 #pragma once
 
 #include <filesystem>
-#include <string>
-
-#if defined(_WIN32)
-#define WIN32_LEAN_AND_MEAN
-#include <windows.h>
-#else
-#include <sys/wait.h>
-#include <unistd.h>
-#endif
-
-#include <gtest/gtest.h>
 
 #include "quorin/loader.h"
+#include "tests/support/system.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::test {
 

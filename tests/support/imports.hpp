@@ -1,17 +1,8 @@
 // What a loaded module takes from others, exchanged for functions of a test.
 #pragma once
 
-#include <cstdint>
-#include <cstring>
-
-#if defined(_WIN32)
-#define WIN32_LEAN_AND_MEAN
-#include <windows.h>
-#else
-#include <link.h>
-#include <sys/mman.h>
-#include <unistd.h>
-#endif
+#include "tests/support/standard.hpp"
+#include "tests/support/system.hpp"
 
 namespace quorin::test {
 

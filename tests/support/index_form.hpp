@@ -1,8 +1,7 @@
 // Index forms, called with the arguments of the plain forms.
 #pragma once
 
-#include <cstdint>
-#include <tuple>
+#include "tests/support/standard.hpp"
 
 namespace quorin::test {
 

@@ -1,20 +1,11 @@
 // What a process holds of the system's resources.
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
-#include <thread>
-#include <vector>
-
-#if defined(_WIN32)
-#define WIN32_LEAN_AND_MEAN
-#include <windows.h>
-
-#include <tlhelp32.h>
-#else
 #include <filesystem>
-#include <iterator>
-#endif
+#include <thread>
+
+#include "tests/support/standard.hpp"
+#include "tests/support/system.hpp"
 
 namespace quorin::test {
 

@@ -1,14 +1,8 @@
 #include "tests/support/sparse.hpp"
 
-#include <algorithm>
-#include <cmath>
-#include <cstdlib>
 #include <fstream>
-#include <set>
-#include <sstream>
-#include <stdexcept>
-#include <tuple>
-#include <utility>
+
+#include "tests/support/standard.hpp"
 
 namespace quorin::test {
 namespace {

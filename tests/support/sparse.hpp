@@ -2,12 +2,7 @@
 // no code with the library, so that what this reader reads is an oracle for the library's readers.
 #pragma once
 
-#include <complex>
-#include <functional>
-#include <random>
-#include <string>
-#include <string_view>
-#include <vector>
+#include "tests/support/standard.hpp"
 
 namespace quorin::test {
 

@@ -3,9 +3,8 @@
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
-#include <random>
-#include <string>
+
+#include "tests/support/standard.hpp"
 
 namespace quorin::test {
 

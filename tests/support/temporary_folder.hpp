@@ -2,10 +2,9 @@
 #pragma once
 
 #include <filesystem>
-#include <iterator>
-#include <random>
-#include <string>
 #include <system_error>
+
+#include "tests/support/standard.hpp"
 
 namespace quorin::test {
 

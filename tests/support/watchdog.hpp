@@ -3,17 +3,10 @@
 
 #include <atomic>
 #include <chrono>
-#include <cstdio>
-#include <cstdlib>
-#include <string>
 #include <thread>
 
-#if defined(_WIN32)
-#define WIN32_LEAN_AND_MEAN
-#include <windows.h>
-#else
-#include <ctime>
-#endif
+#include "tests/support/standard.hpp"
+#include "tests/support/system.hpp"
 
 namespace quorin::test {
 

@@ -1,9 +1,7 @@
 // What the family says in the log that the environment asks for.
 #pragma once
 
-#include <cstdlib>
-#include <string>
-
+#include "tests/support/standard.hpp"
 #include "tests/support/temporary_file.hpp"
 
 namespace taucs_test {

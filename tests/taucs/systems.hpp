@@ -1,10 +1,8 @@
 // Sparse systems for tests of solvers: matrices, products in higher precision, residuals.
 #pragma once
 
-#include <cmath>
-#include <functional>
-
 #include "tests/support/sparse.hpp"
+#include "tests/support/standard.hpp"
 #include "tests/taucs/taucs_host.hpp"
 
 namespace taucs_test {

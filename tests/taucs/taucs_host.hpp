@@ -1,20 +1,9 @@
 // Matrices as a host holds them, their dense form, and files that vanish with the test.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <complex>
-#include <cstdint>
-#include <cstdlib>
-#include <functional>
-#include <memory>
-#include <random>
-#include <string>
-#include <vector>
-
 #include "quorin/taucs.h"
 #include "tests/support/temporary_file.hpp"
+#include "tests/support/test.hpp"
 
 namespace taucs_test {
 

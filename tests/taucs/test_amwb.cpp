@@ -1,10 +1,5 @@
 // AMWB preconditioners: what M has of A, that it is positive definite, and that it saves iterations.
-#include <cstdlib>
-#include <limits>
-#include <map>
-#include <numeric>
-#include <set>
-
+#include "tests/support/standard.hpp"
 #include "tests/taucs/systems.hpp"
 
 namespace taucs_test {

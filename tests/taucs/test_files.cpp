@@ -1,9 +1,7 @@
 // Files as hosts have them: what the formats say, numbers that come back, and files that are not what they claim.
 #include <clocale>
-#include <cstring>
-#include <numeric>
-#include <utility>
 
+#include "tests/support/standard.hpp"
 #include "tests/taucs/taucs_host.hpp"
 
 namespace taucs_test {

@@ -1,9 +1,8 @@
 // The driver: every way through it, what it says, and the factor object in every state.
 #include <filesystem>
-#include <limits>
-#include <numeric>
 #include <regex>
 
+#include "tests/support/standard.hpp"
 #include "tests/taucs/log.hpp"
 #include "tests/taucs/systems.hpp"
 

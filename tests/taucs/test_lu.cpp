@@ -1,7 +1,5 @@
 // LU factors: residuals, the order of the columns, and misuse.
-#include <limits>
-#include <numeric>
-
+#include "tests/support/standard.hpp"
 #include "tests/taucs/systems.hpp"
 
 namespace taucs_test {

@@ -1,11 +1,7 @@
 // Matrices and vectors against dense arithmetic on whole numbers, where every order of summation gives the same result.
-#include <cmath>
-#include <cstddef>
-#include <cstring>
 #include <ctime>
-#include <limits>
-#include <numeric>
 
+#include "tests/support/standard.hpp"
 #include "tests/taucs/taucs_host.hpp"
 
 namespace taucs_test {

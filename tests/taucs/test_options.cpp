@@ -1,11 +1,6 @@
 // Option strings: what each sets, and what is said of those that set nothing.
-#include <gtest/gtest.h>
-
-#include <iterator>
-#include <limits>
-#include <vector>
-
 #include "families/taucs/solvers/options.hpp"
+#include "tests/support/test.hpp"
 #include "tests/taucs/log.hpp"
 
 namespace quorin::taucs {

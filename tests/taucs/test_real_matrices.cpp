@@ -1,11 +1,8 @@
 // The matrices that come with the dependencies, read by the library and by Python (make_reference.py), and thousands of
 // damaged copies of them.
-#include <bit>
-#include <cstring>
 #include <iomanip>
-#include <map>
-#include <sstream>
 
+#include "tests/support/standard.hpp"
 #include "tests/taucs/taucs_host.hpp"
 
 namespace taucs_test {

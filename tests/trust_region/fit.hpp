@@ -1,19 +1,9 @@
 // A host of the trust-region solvers: answers requests and watches what it is asked.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <array>
-#include <cmath>
-#include <cstdint>
-#include <functional>
-#include <limits>
-#include <span>
-#include <vector>
-
 #include "quorin/jacobi.h"
 #include "quorin/trust_region.h"
+#include "tests/support/test.hpp"
 
 namespace trust_region_test {
 

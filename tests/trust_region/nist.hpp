@@ -1,14 +1,9 @@
 // The nonlinear regression problems of NIST's Statistical Reference Datasets, with certified parameters.
 #pragma once
 
-#include <cmath>
-#include <cstddef>
 #include <fstream>
-#include <functional>
-#include <numbers>
-#include <sstream>
-#include <string>
-#include <vector>
+
+#include "tests/support/standard.hpp"
 
 namespace trust_region_test {
 

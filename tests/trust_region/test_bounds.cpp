@@ -1,9 +1,5 @@
 // Bounds: the published example, and optimality of answers from random starts in random boxes.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <random>
-
+#include "tests/support/test.hpp"
 #include "tests/trust_region/fit.hpp"
 
 namespace trust_region_test {

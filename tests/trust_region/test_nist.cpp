@@ -1,8 +1,5 @@
 // The regression problems of NIST, from both starting points of each, with residuals and derivatives rounded to floats.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-
+#include "tests/support/test.hpp"
 #include "tests/trust_region/fit.hpp"
 #include "tests/trust_region/nist.hpp"
 

@@ -1,11 +1,6 @@
 // Problems of Moré, Garbow, Hillstrom, Testing unconstrained optimization software, ACM TOMS 7 (1981), with the minima
 // given there, from the standard start. Meyer's, Kowalik's and Osborne's first are among NIST's problems.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cmath>
-#include <numbers>
-
+#include "tests/support/test.hpp"
 #include "tests/trust_region/fit.hpp"
 
 namespace trust_region_test {

@@ -1,6 +1,5 @@
 // The protocol of the solvers, their handles and stops, the published example, and hosts that misbehave.
-#include <gtest/gtest.h>
-
+#include "tests/support/test.hpp"
 #include "tests/trust_region/fit.hpp"
 
 namespace trust_region_test {

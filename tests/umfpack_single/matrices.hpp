@@ -1,12 +1,8 @@
 // Matrices as UMFPACK takes them.
 #pragma once
 
-#include <cstddef>
-#include <string>
-#include <utility>
-#include <vector>
-
 #include "tests/support/sparse.hpp"
+#include "tests/support/standard.hpp"
 
 namespace umfpack_test {
 

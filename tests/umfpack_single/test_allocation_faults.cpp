@@ -1,10 +1,7 @@
 // The k-th allocation of a call fails, alone or with all after it, for k = 1, 2, ... until the call no longer notices.
 // UMFPACK recovers from some failures itself, so a call may succeed all the same.
-#include <algorithm>
-#include <functional>
-#include <vector>
-
 #include "tests/support/failing_host.hpp"
+#include "tests/support/standard.hpp"
 
 namespace quorin::test {
 namespace {

@@ -1,9 +1,5 @@
 // What objects hold, and conversions, against identities and dense arithmetic.
-#include <algorithm>
-#include <cmath>
-#include <complex>
-#include <numeric>
-
+#include "tests/support/standard.hpp"
 #include "tests/umfpack_single/umfpack_host.hpp"
 
 namespace umfpack_test {

@@ -1,10 +1,5 @@
 // Every matrix of the dependencies' demonstrations, solved with floats and by UMFPACK in double precision.
-#include <algorithm>
-#include <cmath>
-#include <complex>
-#include <limits>
-#include <set>
-
+#include "tests/support/standard.hpp"
 #include "tests/umfpack_single/oracle.hpp"
 #include "tests/umfpack_single/umfpack_host.hpp"
 

@@ -1,9 +1,6 @@
 // Wrong arguments get the documented status, and nothing is read or kept that should not be.
-#include <algorithm>
-#include <cmath>
-#include <limits>
-
 #include "tests/support/guarded_pages.hpp"
+#include "tests/support/standard.hpp"
 #include "tests/umfpack_single/umfpack_host.hpp"
 
 namespace umfpack_test {

@@ -1,8 +1,5 @@
 // Control, Info and the timers.
-#include <algorithm>
-#include <cmath>
-#include <limits>
-
+#include "tests/support/standard.hpp"
 #include "tests/umfpack_single/umfpack_host.hpp"
 
 namespace umfpack_test {

@@ -1,13 +1,10 @@
 // A host of the float interface: calls the index forms of the family that a matrix belongs to.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <array>
-
 #include "quorin/umfpack.h"
 #include "tests/support/guarded.hpp"
 #include "tests/support/index_form.hpp"
+#include "tests/support/test.hpp"
 #include "tests/umfpack_single/matrices.hpp"
 
 namespace umfpack_test {
