@@ -1,14 +1,12 @@
 // The worker pool: every part runs once, from many host threads at once, and idle workers come and go.
-#include "base/parallel.hpp"
-
-#include <gtest/gtest.h>
-
-#include <array>
 #include <atomic>
+#include <chrono>
+#include <mutex>
 #include <thread>
-#include <vector>
 
+#include "base/parallel.hpp"
 #include "base/thread_settings.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::base {
 namespace {
@@ -55,6 +53,26 @@ TEST_F(Parallel, RunsOnSeveralThreadsAndNestsSequentially) {
     parallel_for(4, 4, [&](int) { EXPECT_EQ(std::this_thread::get_id(), outer); });
   });
   EXPECT_FALSE(in_parallel_region());
+}
+
+// Regions of several hosts share the workers, of which there are never more than one region can have.
+TEST_F(Parallel, KeepsToTheMostThreads) {
+  constexpr int kHosts = 4;
+  std::mutex mutex;
+  std::set<std::thread::id> threads;
+  const auto run = [&] {
+    parallel_for(2 * kMostThreads, 2 * kMostThreads, [&](int) {
+      std::this_thread::sleep_for(std::chrono::milliseconds(1));
+      const std::lock_guard lock(mutex);
+      threads.insert(std::this_thread::get_id());
+    });
+  };
+  set_block_time(1000);
+  {
+    std::array<std::jthread, kHosts> hosts;
+    for (auto& host : hosts) host = std::jthread(run);
+  }
+  EXPECT_LE(threads.size(), kMostThreads - 1 + kHosts);
 }
 
 }  // namespace

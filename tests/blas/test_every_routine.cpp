@@ -2,28 +2,12 @@
 // all kinds of strides, leading dimensions larger than minimal, factors of 0 and 1, sizes around those of the kernels'
 // blocks. Each array ends, or begins, at a page that cannot be accessed; gaps between the elements hold NaN and must
 // keep it. The index form gives the plain form's bits, whatever the alignment of the stack.
-#include <gtest/gtest.h>
-#include <bit>
-
-#include <algorithm>
-#include <array>
-#include <cctype>
-#include <cmath>
-#include <cstdint>
-#include <cstring>
-#include <iterator>
-#include <limits>
-#include <span>
-#include <string>
-#include <string_view>
-#include <type_traits>
-#include <utility>
-#include <vector>
-
 #include "quorin/blas.h"
 #include "quorin/services.h"
+#include "tests/support/capture_output.hpp"
 #include "tests/support/guarded_pages.hpp"
 #include "tests/support/stack_skew.hpp"
+#include "tests/support/test.hpp"
 
 namespace {
 
@@ -62,6 +46,10 @@ struct Routine {
   Element result;  // kChar if there is none
   std::span<const Argument> arguments;
 
+  bool takes(std::size_t option, char letter) const {
+    return arguments[option].options.find(static_cast<char>(std::toupper(static_cast<unsigned char>(letter)))) !=
+           std::string_view::npos;
+  }
   bool has(std::string_view argument) const {
     for (const Argument& a : arguments) {
       if (a.name == argument) return true;
@@ -153,6 +141,8 @@ class Call {
     }
     return result;
   }
+
+  void put(std::size_t option, char letter) { *static_cast<char*>(memory_[option].data()) = letter; }
 
   bool intact() const {
     for (const GuardedPages& memory : memory_) {
@@ -398,6 +388,38 @@ TEST_P(Blas, DoesWhatTheReferenceDoesAndStaysInItsArrays) {
     for (const int y : {1, 3, -1, -2, 0}) strides.push_back({x, y});
   }
   EveryRoutine(*GetParam(), std::size_t{64} << 10).check(kSizes, strides, 3);
+}
+
+// Each letter but those that the interface names, in either case, is refused by the option's position, and nothing is
+// touched.
+TEST_P(Blas, RefusesEveryOtherLetter) {
+  const Routine& routine = *GetParam();
+  const std::string options = all_options(routine).front();
+  if (options.empty()) GTEST_SKIP() << "has no options";
+  std::string name(routine.name);
+  for (char& c : name) c = static_cast<char>(std::toupper(c));
+  Call plain(routine, 4096), before(routine, 4096);
+  for (std::size_t i = 0; i < routine.arguments.size(); ++i) {
+    if (routine.arguments[i].element != Element::kChar) continue;
+    const std::string expected =
+        "\nIntel MKL ERROR: Parameter " + std::to_string(i + 1) + " was incorrect on entry to " + name + ".\n";
+    for (Call* const call : {&plain, &before}) call->set({options, 5, 5, 5, 1, 1, 0, Edge::kBack}, false);
+    int refused = 0, letters = 0;
+    const std::string text = quorin::test::captured([&] {
+      for (int letter = 0; letter < 256; ++letter) {
+        const auto option = static_cast<char>(letter);
+        if (routine.takes(i, option)) continue;
+        plain.put(i, option);
+        plain.run(letter % 2 == 0 ? routine.plain : routine.indexed, letter % 2 != 0, false);
+        ++letters;
+      }
+    });
+    for (std::size_t at = 0; text.compare(at, expected.size(), expected) == 0; at += expected.size()) ++refused;
+    EXPECT_EQ(refused, letters) << text.substr(0, 200);
+    for (std::size_t k = 0; k < routine.arguments.size(); ++k) {
+      EXPECT_TRUE(routine.arguments[k].element == Element::kChar || plain.same_bits(before, k)) << k;
+    }
+  }
 }
 
 // At sizes that are cut into parts: wider than high, and higher than wide.

@@ -1,15 +1,11 @@
 // The library's allocator from inside: all four functions of a libimalloc are used, what fails stays a null pointer,
 // and no more is kept for later calls than is told.
 #include "base/allocator.hpp"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-
 #include "base/workspace.hpp"
 #include "dense/blocked/buffers.hpp"
 #include "tests/boundary/counting_allocator.hpp"
 #include "tests/support/host_module.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::test {
 namespace {
@@ -37,6 +33,11 @@ TEST_F(Allocator, GetsBackBuffersThatNobodyNeeds) {
     EXPECT_EQ(state.live, 100);
   }
   EXPECT_EQ(state.live, 64);
+  dense::blocked::trim_buffers();
+  EXPECT_EQ(state.live, 0);
+  // So is the one that waits for the next call of one thread.
+  { const BufferReservation alone(1); }
+  EXPECT_EQ(state.live, 1);
   dense::blocked::trim_buffers();
   EXPECT_EQ(state.live, 0);
 }

@@ -1,14 +1,10 @@
 // The packing buffers: no buffer is ever in two hands, and none gets lost.
-#include "dense/blocked/buffers.hpp"
-
-#include <gtest/gtest.h>
-
 #include <atomic>
-#include <set>
 #include <thread>
-#include <vector>
 
 #include "base/parallel.hpp"
+#include "dense/blocked/buffers.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::dense::blocked {
 namespace {

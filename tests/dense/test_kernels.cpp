@@ -1,23 +1,11 @@
 // Level 3 on every instruction set that this machine has, in all four scalar types, against plain loops in the widest
 // precision. Operands lie flush against inaccessible pages; sizes cross the edges of tiles, panels and blocks.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cmath>
-#include <complex>
-#include <cstdio>
-#include <cstring>
-#include <limits>
-#include <random>
-#include <string>
-#include <type_traits>
-#include <vector>
-
 #include "base/parallel.hpp"
 #include "dense/blocked.hpp"
 #include "dense/dense.hpp"
 #include "dense/kernels/kernel_set.hpp"
 #include "tests/support/guarded_pages.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::dense {
 namespace {

@@ -3,37 +3,23 @@
 // right is right: lengths of arrays that the library cannot check, handles that are alive.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cmath>
-#include <cstdint>
-#include <cstdlib>
-#include <cstring>
 #include <initializer_list>
-#include <limits>
 #include <list>
-#include <map>
-#include <random>
 #include <regex>
-#include <span>
-#include <string>
-#include <string_view>
-#include <type_traits>
-#include <utility>
-#include <vector>
 
 #include "quorin/quorin.h"
 #include "tests/support/capture_output.hpp"
 #include "tests/support/guarded_pages.hpp"
+#include "tests/support/index_form.hpp"
 #include "tests/support/temporary_file.hpp"
+#include "tests/support/test.hpp"
 #include "tests/support/watchdog.hpp"
 
 namespace hostile {
 
 enum class Direction { kIn, kOut, kInOut };
 
-using quorin::test::Edge;
+using quorin::test::base, quorin::test::Edge;
 using quorin::test::GuardedPages;
 
 // What host functions write, too.
@@ -71,12 +57,15 @@ class Draw {
     used_ = 0;
     passed_ = nullptr;
     is_supplied_ = !is_one_of(8);
+    is_indexed_ = is_one_of(2);
     arrays_.clear();
     matrices_.clear();
     slots_.clear();
     mode_ = below(8);
     is_gentle_ = is_one_of(2);
   }
+  // Whether it is made by bases and indices.
+  bool is_indexed() const { return is_indexed_; }
   void announce() {
     const std::string text = routine_ + ", seed " + std::to_string(seed_) + ", call " + std::to_string(++calls_);
     quorin::test::FaultReport::begin(text.c_str());
@@ -715,6 +704,7 @@ class Draw {
   quorin::test::Watchdog& watchdog_;
   quorin::test::CapturedOutput& output_;
   std::mt19937 random_;
+  bool is_indexed_ = false;
   bool is_gentle_ = false;  // a call without a hostile argument but numbers
   int order_ = 0;           // the last n
   int n_ = 1, m_ = 1, calls_ = 0, mode_ = 0, printed_ = 0;

@@ -120,15 +120,21 @@ def body(family: model.Family, routine: model.Routine) -> str:
                 f'  const auto drawn_{argument.name} = d.scalar<{argument.type.c}>("{argument.name}", {sized}, {values});'
             )
     passed = [] if not routine.result_is_argument else [f'd.array<{routine.result.c}>("result", 1, Direction::kOut, false)']
-    for argument in routine.arguments:
-        lines.append(f"  auto const arg_{argument.name} = {expression(family, routine, argument)};")
-        passed.append(f"arg_{argument.name}")
-        if not routine.has_plain and argument.has_index:
-            passed.append("0")
-    call = f"{routine.name if routine.has_plain else routine.index_name}({', '.join(passed)})"
-    is_taken = routine.result and not routine.result_is_argument
+    based = passed.copy()
+    for position, argument in enumerate(routine.arguments, 3):
+        name = f"arg_{argument.name}"
+        lines.append(f"  auto const {name} = {expression(family, routine, argument)};")
+        passed.append(name)
+        based.append(f"base({name}, {position}), {position}" if argument.kind in (model.ARRAY, model.PAIRED) else name)
+        if argument.kind == model.IGNORED:
+            based.append(str(position))
+    calls = [f"{routine.name}({', '.join(passed)})"] if routine.has_plain else []
+    if routine.index_name:
+        calls.append(f"{routine.index_name}({', '.join(based)})")
+    if routine.result and not routine.result_is_argument:
+        calls = [f"d.take({call})" for call in calls]
     lines.append("  d.announce();")
-    lines.append(f"  d.take({call});" if is_taken else f"  {call};")
+    lines.append(f"  {calls[0]};" if len(calls) == 1 else f"  if (d.is_indexed()) {{ {calls[1]}; }} else {{ {calls[0]}; }}")
     lines.append("  d.finish();")
     return "\n".join(lines)
 

@@ -1,18 +1,9 @@
 // The factorizations of our own, at orders where they recurse: the product of the factors is the matrix, and what
 // cannot be factored is told as published. Errors are multiples of the unit roundoff (Higham, Accuracy and Stability of
 // Numerical Algorithms, 2nd ed., theorems 9.3 and 10.3).
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cmath>
-#include <complex>
-#include <cstdint>
-#include <limits>
-#include <random>
-#include <type_traits>
-#include <vector>
-
 #include "quorin/lapack.h"
+#include "tests/support/capture_output.hpp"
+#include "tests/support/test.hpp"
 
 namespace {
 
@@ -155,23 +146,47 @@ TYPED_TEST(Factorization, DividesBySubnormalPivots) {
 }
 
 TYPED_TEST(Factorization, TellsWhereItFails) {
-  const int n = 100;
-  std::vector<std::int32_t> ipiv(n);
   std::int32_t info = -1;
-  for (const int zero : {0, 37, 99}) {
-    auto singular = this->random(n, n);
-    for (int i = 0; i < n; ++i) singular(i, zero) = singular(i, n - 1) = 0;  // the first one counts
-    getrf(n, n, singular.a.data(), singular.lda, ipiv.data(), &info);
-    EXPECT_EQ(info, zero + 1);
-    for (const float bad : {-1.0F, std::numeric_limits<float>::quiet_NaN()}) {
-      for (const char uplo : {'L', 'U'}) {
-        auto indefinite = this->positive(n);
-        indefinite(zero, zero) = bad;
-        potrf(uplo, n, indefinite.a.data(), indefinite.lda, &info);
-        EXPECT_EQ(info, zero + 1);
+  for (const int n : {9, 100}) {
+    std::vector<std::int32_t> ipiv(static_cast<std::size_t>(n));
+    for (const int zero : {0, 3 * n / 8, n - 1}) {
+      auto singular = this->random(n, n);
+      for (const int column : {zero, std::min(zero + 1, n - 1), n - 1}) {  // the first one counts
+        for (int i = 0; i < n; ++i) singular(i, column) = 0;
+      }
+      getrf(n, n, singular.a.data(), singular.lda, ipiv.data(), &info);
+      EXPECT_EQ(info, zero + 1);
+      for (const float bad : {-1.0F, 0.0F, std::numeric_limits<float>::quiet_NaN()}) {
+        for (const char uplo : {'L', 'U'}) {
+          auto indefinite = this->positive(n);
+          indefinite(zero, zero) = bad;
+          potrf(uplo, n, indefinite.a.data(), indefinite.lda, &info);
+          EXPECT_EQ(info, zero + 1);
+        }
       }
     }
   }
+}
+
+// Positions, the order of the checks, and every letter that is none of the two.
+TYPED_TEST(Factorization, RefusesWrongArguments) {
+  TypeParam a[4] = {};
+  std::int32_t ipiv[2], info = 0;
+  quorin::test::captured([&] {
+    for (const auto& [m, n, lda, expected] :
+         {std::tuple{-1, -1, 0, -1}, {2, -1, 0, -2}, {2, 2, 1, -4}, {0, 2, 0, -4}, {0, 2, 1, 0}}) {
+      getrf(m, n, a, lda, ipiv, &info);
+      EXPECT_EQ(info, expected);
+    }
+    for (int letter = 0; letter < 256; ++letter) {
+      const auto uplo = static_cast<char>(letter);
+      const bool is_known = std::strchr("ULul", uplo) != nullptr && uplo != 0;
+      for (const auto& [n, lda, expected] : {std::tuple{-1, 0, -2}, {2, 1, -4}, {0, 0, -4}, {0, 1, 0}}) {
+        potrf(uplo, n, a, lda, &info);
+        EXPECT_EQ(info, is_known ? expected : -1) << letter;
+      }
+    }
+  });
 }
 
 }  // namespace

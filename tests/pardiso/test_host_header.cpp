@@ -1,10 +1,7 @@
 // The C++ header: an object that owns a handle.
 #include "quorin/pardiso.hpp"
-
-#include <numeric>
-#include <optional>
-
 #include "tests/pardiso/systems.hpp"
+#include "tests/support/standard.hpp"
 
 namespace pardiso_test {
 namespace {
@@ -50,7 +47,9 @@ TEST(HostHeader, SolvesAllKinds) {
   expect_solved<float>(structurally_symmetric5(), Kind::kStructurallySymmetric);
   expect_solved<double>(indefinite8(), Kind::kSymmetric);
   expect_solved<float>(definite8(), Kind::kPositiveDefinite);
+  expect_solved<double>(indefinite8(), Kind::kHermitian);
   expect_solved<Complex>(complex5(), Kind::kUnsymmetric);
+  expect_solved<Complex>(with_type(structurally_symmetric5(), 3), Kind::kStructurallySymmetric);
   expect_solved<Complex>(complex8(indefinite8(), -4), Kind::kHermitian);
   expect_solved<std::complex<float>>(complex8(definite8(), 4), Kind::kPositiveDefinite);
   expect_solved<Complex>(complex8(indefinite8(), 6), Kind::kSymmetric);
@@ -76,14 +75,27 @@ TEST(HostHeader, OwnsItsHandle) {
 TEST(HostHeader, TellsErrors) {
   const Given<double> given(with_type(indefinite5(), 2));
   Solver<double> solver(Kind::kPositiveDefinite);
+  std::vector<double> b(7, 1.0), x(7);
+  EXPECT_THROW(solver.solve(b, x), std::invalid_argument) << "nothing is analysed";
   EXPECT_THROW(solver.analyze(given.starts, std::span(given.columns).first(3)), std::invalid_argument);
+  EXPECT_THROW(solver.analyze(given.starts, given.columns, std::span(given.values).first(3)), std::invalid_argument);
   solver.analyze(given.starts, given.columns);
+  EXPECT_THROW(solver.factor(std::span(given.values).first(3)), std::invalid_argument);
+  EXPECT_THROW(solver.solve(b, x), std::invalid_argument) << "7 numbers are no right-hand sides of 5";
+  EXPECT_THROW(solver.solve(std::span(b).first(5), x), std::invalid_argument);
   try {
     solver.factor(given.values);
     ADD_FAILURE();
   } catch (const quorin::pardiso::Error& error) {
     EXPECT_EQ(error.code(), -4);
     EXPECT_NE(std::string(error.what()).find("not positive"), std::string::npos);
+  }
+  const std::pair<int, const char*> words[] = {
+      {0, "done"},         {-1, "argument"},         {-2, "memory"},      {-3, "ordering"},  {-4, "pivot"},
+      {-5, "an internal"}, {-6, "structurally"},     {-7, "diagonal"},    {-8, "32 bits"},   {-9, "factors in files"},
+      {-10, "opened"},     {-11, "read or written"}, {-13, "no factors"}, {1, "an internal"}};
+  for (const auto& [code, word] : words) {
+    EXPECT_NE(std::string(quorin::pardiso::describe(code)).find(word), std::string::npos) << code;
   }
 }
 

@@ -1,11 +1,8 @@
 // The header for C++ hosts, and the solvers on systems of a realistic size.
-#include <gtest/gtest.h>
-
-#include <stdexcept>
-
 #include "quorin/rci.hpp"
 #include "tests/rci/ilu_oracle.hpp"
 #include "tests/rci/rci_host.hpp"
+#include "tests/support/test.hpp"
 
 namespace rci_test {
 namespace {
@@ -121,6 +118,25 @@ TEST(HostHeader, FailuresAndExceptions) {
   EXPECT_TRUE(limited.reached_limit());
   EXPECT_EQ(limited.iterations, 3);
   EXPECT_LT(residual_norm(A, b.data(), x.data()), norm(b));
+  // The first right-hand side that fails is the last one.
+  Vector both(2 * A.n, 0.0);
+  const rci::Result many = rci::solve_cg_many(2, joined(b, b), both, product(A), rci::NoPreconditioner{}, options);
+  EXPECT_TRUE(many.reached_limit());
+  EXPECT_EQ(many.iterations, 3);
+  EXPECT_EQ(Vector(both.begin() + A.n, both.end()), Vector(A.n, 0.0));
+  // Lengths of cycles are brought into their range.
+  options.max_iterations = 2000;
+  std::vector<int> iterations;
+  for (const int restart : {-1, 0, 1, A.n, A.n + 1}) {
+    options.restart = restart;
+    std::fill(x.begin(), x.end(), 0.0);
+    const rci::Result result = rci::solve_fgmres(b, x, product(A), rci::NoPreconditioner{}, options);
+    EXPECT_TRUE(result.converged()) << restart;
+    iterations.push_back(result.iterations);
+  }
+  EXPECT_EQ(iterations[0], iterations[2]);
+  EXPECT_EQ(iterations[1], iterations[2]);
+  EXPECT_EQ(iterations[4], iterations[3]);
   EXPECT_THROW(rci::solve_cg(b, wrong, product(A)), std::invalid_argument);
   EXPECT_THROW(rci::solve_cg_many(3, b, x, product(A)), std::invalid_argument);
   const auto throwing = [](std::span<const double>, std::span<double>) { throw std::runtime_error("host"); };

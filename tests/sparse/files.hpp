@@ -1,14 +1,11 @@
 // For tests of what is kept in files: a folder that goes with the test, and disks that fail on demand.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <fstream>
-#include <iterator>
-#include <string>
 
 #include "platform/block_file.hpp"
 #include "tests/support/temporary_folder.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::sparse::test {
 
@@ -21,6 +18,17 @@ inline std::string contents(const std::string& file) {
 
 inline void write_contents(const std::string& file, const std::string& text) {
   std::ofstream(file, std::ios::binary) << text;
+}
+
+// What an action asks of the disk, in its order.
+template <class Action>
+std::vector<platform::FileOperation> operations_of(const Action& action) {
+  static std::vector<platform::FileOperation> asked;
+  asked.clear();
+  platform::refuse_file_operation = [](platform::FileOperation operation) { return asked.push_back(operation), false; };
+  action();
+  platform::refuse_file_operation = nullptr;
+  return asked;
 }
 
 // While it lives, the k-th operation on a file fails, and all that follow if the disk is `broken` from there on.

@@ -1,12 +1,7 @@
 // Files that are whole or refused: cut short, damaged, foreign, forged, on disks that fail, and in use by others.
-#include <gtest/gtest.h>
-
-#include <limits>
-#include <numeric>
-#include <vector>
-
 #include "sparse/numeric/checked_file.hpp"
 #include "tests/sparse/files.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::sparse::test {
 namespace {
@@ -64,6 +59,35 @@ TEST(CheckedFile, GivesBackWhatWasPut) {
     EXPECT_EQ(values, numbers(count));
   }
   EXPECT_EQ(folder.files(), 1);
+  // Over a longer one.
+  std::vector<double> values;
+  ASSERT_EQ(write_file(folder.file("a"), numbers(5), Replacing::kInPlace), FactorOutcome::kDone);
+  EXPECT_EQ(read_file(folder.file("a"), values), FactorOutcome::kDone);
+  EXPECT_EQ(values, numbers(5));
+}
+
+TEST(BlockFile, IsReadAsFarAsItGoes) {
+  const Folder folder;
+  const std::string name = folder.file("a");
+  platform::BlockFile file;
+  EXPECT_FALSE(file.open(name.c_str()));
+  ASSERT_TRUE(file.create(name.c_str()));
+  EXPECT_TRUE(file.write(4, "abcdef", 6));
+  EXPECT_TRUE(file.write(2, "xy", 2));
+  EXPECT_EQ(file.size(), 10U);
+  char text[10] = {};
+  EXPECT_TRUE(file.read(2, text, 8));
+  EXPECT_EQ(std::string(text, 8), "xyabcdef");
+  for (const std::uint64_t place : {3, 10, 11}) EXPECT_FALSE(file.read(place, text, 8)) << place;
+  platform::BlockFile moved(std::move(file));
+  EXPECT_FALSE(file);  // NOLINT(bugprone-use-after-move)
+  EXPECT_TRUE(moved && moved.flush());
+  moved.close();
+  platform::BlockFile first, second;
+  EXPECT_TRUE(first.open(name.c_str()) && second.open(name.c_str()));
+  EXPECT_FALSE(file.create(name.c_str()));
+  EXPECT_FALSE(first.write(0, "z", 1));
+  EXPECT_EQ(second.size(), 10U);
 }
 
 TEST(CheckedFile, ThatIsNotWholeIsRefused) {
@@ -88,8 +112,19 @@ TEST(CheckedFile, ThatIsNotWholeIsRefused) {
     }
   }
   EXPECT_EQ(outcome_of("%%MatrixMarket matrix coordinate real general\n1 1 1\n1 1 1\n"), FactorOutcome::kWrongFormat);
+  // A later version's, with the right check of its first 28 bytes.
+  std::string later = whole;
+  const std::uint32_t version = 2;
+  std::memcpy(later.data() + 8, &version, sizeof version);
+  const std::uint32_t check = crc32(later.data(), 28);
+  std::memcpy(later.data() + 28, &check, sizeof check);
+  EXPECT_EQ(outcome_of(later), FactorOutcome::kWrongFormat);
   EXPECT_EQ(outcome_of(whole), FactorOutcome::kDone);
   EXPECT_EQ(read_file(name, values, FileKind::kPanels), FactorOutcome::kWrongFormat);
+  FileReader in_part;
+  ASSERT_EQ(in_part.begin(name.c_str(), FileKind::kHandle), FactorOutcome::kDone);
+  EXPECT_EQ(in_part.get<std::int32_t>(), -7);
+  EXPECT_EQ(in_part.complete(), FactorOutcome::kWrongFormat) << "there is more";
   EXPECT_EQ(read_file(folder.file("b"), values), FactorOutcome::kCannotOpen);
   EXPECT_EQ(read_file(folder.file("."), values), FactorOutcome::kCannotOpen);
 }
@@ -158,6 +193,15 @@ TEST(CheckedFile, OnAFailingDiskLeavesNothingThatLooksWhole) {
     const FactorOutcome expected = FailingDisk::was_opening() ? FactorOutcome::kCannotOpen : FactorOutcome::kFileFailed;
     EXPECT_EQ(outcome, failed ? expected : FactorOutcome::kDone);
   }
+}
+
+// The data are on the disk before the header tells of them, and both before the file has its name.
+TEST(CheckedFile, IsWrittenInTheOrderThatLossesOfPowerAskFor) {
+  using Operation = platform::FileOperation;
+  const Folder folder;
+  EXPECT_EQ(operations_of([&] { EXPECT_EQ(write_file(folder.file("a"), numbers(3)), FactorOutcome::kDone); }),
+            (std::vector{Operation::kCreate, Operation::kWrite, Operation::kFlush, Operation::kWrite, Operation::kFlush,
+                         Operation::kRename}));
 }
 
 TEST(CheckedFile, BelongsToItsWriterAlone) {

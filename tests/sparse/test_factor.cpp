@@ -1,9 +1,6 @@
 // Factors and solves, by residuals, by inertias that are known, and by what must fail.
-#include <gtest/gtest.h>
-
-#include <cstring>
-
 #include "tests/sparse/systems.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::sparse::test {
 namespace {
@@ -64,6 +61,9 @@ TYPED_TEST(Factors, SolveForEveryPatternKindAndOperation) {
       Solved<T> solved(A);
       ASSERT_EQ(solved.compute(kind.options()), FactorOutcome::kDone);
       EXPECT_EQ(solved.factor.report().pivots.perturbed, 0);
+      EXPECT_EQ(solved.factor.report().bytes, factor_bytes<T>(solved.plan, kind.options()));
+      EXPECT_EQ(solved.factor.report().peak_bytes, peak_bytes<T>(solved.plan, kind.options()));
+      EXPECT_GE(solved.factor.report().peak_bytes, solved.factor.report().bytes);
       for (const Operation operation : kOperations) {
         for (const int nrhs : {1, 3, 5, 37}) {
           EXPECT_LE(solved.error(operation, nrhs), tolerance<T>(A.n)) << static_cast<int>(operation) << ' ' << nrhs;
@@ -238,13 +238,16 @@ TYPED_TEST(Factors, NameTheColumnThatFails) {
   using T = TypeParam;
   const Matrix pattern = grid(9, 8, 1, false);
   const int bad = 37;
-  for (const int threads : {1, 3}) {
+  for (const auto& [method, threads] : {std::pair(Method::kLeftLooking, 1),
+                                        {Method::kLeftLooking, 3},
+                                        {Method::kMultifrontal, 1},
+                                        {Method::kMultifrontal, 3}}) {
     System<T> A = dominant_system<T>(pattern, Symmetry::kHermitian, true, 1.1, 1);
     for (auto& e : A.entries) {
       if (e.row == bad && e.column == bad) e.value = T{-1};
     }
     Solved<T> solved(A);
-    const FactorOptions llt{.factorization = Factorization::kLLT, .threads = threads};
+    const FactorOptions llt{.factorization = Factorization::kLLT, .method = method, .threads = threads};
     EXPECT_EQ(solved.compute(llt), FactorOutcome::kNotPositiveDefinite);
     EXPECT_EQ(solved.factor.report().failed_column, bad);
     EXPECT_FALSE(solved.factor);
@@ -263,7 +266,8 @@ TYPED_TEST(Factors, NameTheColumnThatFails) {
       if (e.row == bad || e.column == bad) e.value = T{};
     }
     Solved<T> singular(S);
-    FactorOptions lu{.factorization = Factorization::kLU, .pivoting = Pivoting::kInOrder, .threads = threads};
+    FactorOptions lu{
+        .factorization = Factorization::kLU, .method = method, .pivoting = Pivoting::kInOrder, .threads = threads};
     EXPECT_EQ(singular.compute(lu), FactorOutcome::kSingular);
     EXPECT_EQ(singular.factor.report().failed_column, bad);
     lu.perturbation = 1e-4;
@@ -277,8 +281,10 @@ TYPED_TEST(Factors, NameTheColumnThatFails) {
       if (e.row == e.column) e.value = real_part(e.value) + std::abs(e.value) + (e.row == bad ? T{} : T{8});
     }
     Solved<T> semidefinite(S);
-    const FactorOptions ldl{
-        .factorization = Factorization::kLDLH, .pivoting = Pivoting::kBunchKaufman, .threads = threads};
+    const FactorOptions ldl{.factorization = Factorization::kLDLH,
+                            .method = method,
+                            .pivoting = Pivoting::kBunchKaufman,
+                            .threads = threads};
     EXPECT_EQ(semidefinite.compute(ldl), FactorOutcome::kDone);
     EXPECT_EQ(semidefinite.factor.report().pivots.zero, 1);
     EXPECT_EQ(semidefinite.factor.report().pivots.positive, S.n - 1);
@@ -287,6 +293,26 @@ TYPED_TEST(Factors, NameTheColumnThatFails) {
     EXPECT_EQ(x[bad], T{});
     b[bad] = T{};
     EXPECT_LE(backward_error(S, Operation::kPlain, x.data(), b.data()), tolerance<T>(S.n));
+  }
+}
+
+// Where pivots have been exchanged, the column that is left over is told by its own number.
+TYPED_TEST(Factors, NameTheColumnThatFailsAfterExchanges) {
+  using T = TypeParam;
+  const int order[] = {0, 1, 2};
+  for (const Kind& kind : kKinds) {
+    if (kind.is_definite()) continue;
+    const bool has_pair = kind.factorization != Factorization::kLU;
+    System<T> A{"left over", 3, kind.symmetry, {}};
+    for (int j = 0; j < 3; ++j) {
+      for (int i = kind.symmetry == Symmetry::kGeneral ? 0 : j; i < 3; ++i) {
+        A.entries.push_back({i, j, i == 1 && j == 1 ? T{5} : has_pair && i + j == 2 ? T{1} : T{}});
+      }
+    }
+    Solved<T> solved(A, {}, order);
+    const bool takes_pairs = kind.pivoting == Pivoting::kBunchKaufman;
+    EXPECT_EQ(solved.compute(kind.options()), takes_pairs ? FactorOutcome::kDone : FactorOutcome::kSingular);
+    EXPECT_EQ(solved.factor.report().failed_column, takes_pairs ? kNone : 0) << text(kind);
   }
 }
 
@@ -302,7 +328,17 @@ TYPED_TEST(Factors, RefuseWhatIsNotFinite) {
         EXPECT_EQ(solved.compute(kind.options()), FactorOutcome::kNotFinite);
       }
     }
-    // An overflow on the way.
+    // An overflow on the way: l = huge / tiny.
+    if (kind.pivoting == Pivoting::kInOrder) {
+      using Limits = std::numeric_limits<RealOf<T>>;
+      const T large = Limits::max() / 4;
+      System<T> steep{"steep", 2, kind.symmetry, {{0, 0, T{Limits::min()}}, {1, 0, large}, {1, 1, large}}};
+      if (kind.symmetry == Symmetry::kGeneral) steep.entries.push_back({0, 1, large});
+      const int order[] = {0, 1};
+      Solved<T> solved(steep, {}, order);
+      EXPECT_EQ(solved.compute(kind.options()), FactorOutcome::kNotFinite) << text(kind);
+      EXPECT_EQ(solved.factor.report().failed_column, 1) << text(kind);
+    }
     System<T> huge = dominant_system<T>(complete(30), kind.symmetry, true, 0, 1);
     for (auto& e : huge.entries) {
       e.value =

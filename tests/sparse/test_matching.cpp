@@ -1,15 +1,8 @@
 // Matchings. Scalings with all entries at most 1 that are 1 along the permutation prove, by the duality of linear
 // programs, that no permutation has a larger product: no second implementation is needed but for tiny matrices.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <array>
-#include <cmath>
-#include <numeric>
-#include <random>
-
 #include "tests/sparse/matrices.hpp"
 #include "tests/sparse/values.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::sparse::test {
 namespace {
@@ -228,6 +221,27 @@ TEST(Matching, CompletesThePermutationAndKeepsTheDiagonalWhereItIsFree) {
   for (int j = 0; j < 30; ++j) EXPECT_EQ(identity.row_of[j], j);
 }
 
+TYPED_TEST(MatchingOf, ScalesOneNumberOfAnySizeToOne) {
+  using Limits = std::numeric_limits<RealOf<TypeParam>>;
+  for (int exponent = Limits::min_exponent - Limits::digits; exponent < Limits::max_exponent; ++exponent) {
+    for (const std::complex<double> unit : {std::complex<double>(1, 0), {0, -1}}) {
+      SparseMatrix A{"one " + std::to_string(exponent), 1, 1, {}, kIsComplex<TypeParam>};
+      A.add(0, 0, std::ldexp(1.0, exponent) * (kIsComplex<TypeParam> ? unit : 1.0));
+      EXPECT_EQ(check_matching<TypeParam>(A).rank, 1);
+    }
+  }
+}
+
+// Of entries that are as good, those of the diagonal are taken.
+TEST(Matching, PrefersTheDiagonal) {
+  for (int n = 1; n < 7; ++n) {
+    SparseMatrix A{"ones", n, n, {}};
+    for (int k = 0; k < n * n; ++k) A.add(k % n, k / n, k % 2 == 0 ? 1.0 : -1.0);
+    const Matching<double> matching = check_matching<double>(A);
+    for (int j = 0; j < n; ++j) EXPECT_EQ(matching.row_of[j], j);
+  }
+}
+
 TEST(Matching, SurvivesTheLargestAndTheSmallestNumbers) {
   SparseMatrix small{"small", 3, 3, {}, true}, large{"large", 3, 3, {}, true};
   small.add(0, 0, 5e-324), small.add(1, 0, 1e-310), small.add(1, 1, {1e-200, 1e-320}), small.add(2, 2, {0, 1e-323});
@@ -247,8 +261,13 @@ TEST(Matching, SurvivesTheLargestAndTheSmallestNumbers) {
 TEST(Matching, TellsWhatIsWrong) {
   Matching<double> matching;
   SymmetricMatching<double> symmetric;
-  for (const std::complex<double> bad :
-       {std::complex<double>{INFINITY, 0}, {NAN, 0}, {0, -INFINITY}, {INFINITY, NAN}}) {
+  for (const std::complex<double> bad : {std::complex<double>{INFINITY, 0},
+                                         {NAN, 0},
+                                         {0, -INFINITY},
+                                         {INFINITY, NAN},
+                                         {NAN, INFINITY},
+                                         {0, NAN},
+                                         {NAN, 1}}) {
     SparseMatrix A = random_sparse(6, 0.9, 1, 1);
     A.entries[3].value = bad;
     const TypedMatrix<std::complex<double>> values(A);

@@ -1,12 +1,8 @@
-// Factors in files: the bits of those in memory, whatever the budget, the method, the threads and the process; and
-// disks that fail.
-#include <gtest/gtest.h>
-
-#include <cstring>
-
+// Factors in files: the bits of those in memory, whatever the budget, the method, the threads and the process.
 #include "sparse/numeric/archive.hpp"
 #include "tests/sparse/files.hpp"
 #include "tests/sparse/systems.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::sparse::test {
 namespace {
@@ -42,6 +38,25 @@ std::vector<T> solution(const Plan& plan, const Factor<T>& factor, std::vector<T
   if (solve(factor, Operation::kPlain, Stage::kAll, nrhs, x.data(), n) != FactorOutcome::kDone) return {};
   for (int r = 0; r < nrhs; ++r) permute_back(n, plan.permutation(), &x[std::size_t(r) * n], &b[std::size_t(r) * n]);
   return b;
+}
+
+// What callers learn of a factor, and of its plan.
+template <Scalar T>
+std::vector<std::int64_t> what_is_told(const Plan& plan, const Factor<T>& factor) {
+  const FactorReport& report = factor.report();
+  const PivotCounts& pivots = report.pivots;
+  return {pivots.perturbed,
+          pivots.positive,
+          pivots.negative,
+          pivots.zero,
+          report.bytes,
+          report.peak_bytes,
+          static_cast<std::int64_t>(factor.factorization()),
+          plan.size(),
+          plan.eliminated(),
+          plan.supernodes(),
+          plan.depth(),
+          plan.entries()};
 }
 
 template <class T>
@@ -100,6 +115,7 @@ TYPED_TEST(OutOfCore, OpensAgainWithTheSameBits) {
     const System<T> A = system_of<T>(kind);
     const std::vector<T> b = right_sides<T>(A.n, 2);
     std::vector<T> expected;
+    std::vector<std::int64_t> told;
     {
       Solved<T> solved(A);
       PanelFiles files;
@@ -111,6 +127,7 @@ TYPED_TEST(OutOfCore, OpensAgainWithTheSameBits) {
       // The set may be used further on by its maker.
       expected = solved.solution(Operation::kPlain, b, 2);
       EXPECT_LE(solved.error(Operation::kPlain, 1), tolerance<T>(A.n));
+      told = what_is_told(solved.plan, solved.factor);
     }
     for (const std::uint64_t budget : {std::uint64_t{100'000}, kPlenty}) {
       Plan plan;
@@ -118,6 +135,7 @@ TYPED_TEST(OutOfCore, OpensAgainWithTheSameBits) {
       Factor<T> factor;
       ASSERT_EQ(Archive::open(name.c_str(), budget, files, plan, factor), FactorOutcome::kDone);
       EXPECT_TRUE(are_same_bits(solution(plan, factor, b, 2), expected));
+      EXPECT_EQ(what_is_told(plan, factor), told);
       // A copy into one file, from the set and from memory.
       for (const bool from_memory : {false, true}) {
         Factor<T> copy;
@@ -128,6 +146,7 @@ TYPED_TEST(OutOfCore, OpensAgainWithTheSameBits) {
           ASSERT_EQ(Archive::get(reader, plan, copy), FactorOutcome::kDone);
           ASSERT_EQ(reader.complete(), FactorOutcome::kDone);
           EXPECT_TRUE(are_same_bits(solution(plan, copy, b, 2), expected));
+          EXPECT_EQ(what_is_told(plan, copy), told);
           reader.close();
         }
         FileWriter writer;
@@ -144,74 +163,6 @@ TYPED_TEST(OutOfCore, OpensAgainWithTheSameBits) {
   }
 }
 
-class Disk : public testing::Test {
- protected:
-  static FactorOutcome expected() {
-    if (!FailingDisk::has_failed()) return FactorOutcome::kDone;
-    return FailingDisk::was_opening() ? FactorOutcome::kCannotOpen : FactorOutcome::kFileFailed;
-  }
-
-  const System<double> system_ = system_of<double>(kStored[1]);
-  Solved<double> solved_{system_};
-  const std::vector<double> b_ = right_sides<double>(system_.n, 1);
-};
-
-TEST_F(Disk, ThatFailsLeavesNothingAndTheFactorCanBeMadeAgain) {
-  const std::uint64_t budget = 30'000;
-  FactorOptions options{.factorization = Factorization::kLDLH, .pivoting = Pivoting::kBunchKaufman};
-  ASSERT_EQ(solved_.compute(options), FactorOutcome::kDone);
-  const std::vector<double> expected_solution = solved_.solution(Operation::kPlain, b_, 1);
-  // Larger steps where failures repeat each other.
-  for (int k = 1, step = 1;; k += step, step = 1 + k / 20) {
-    SCOPED_TRACE("operation " + std::to_string(k));
-    const Folder folder;
-    PanelFiles files;
-    ASSERT_EQ(files.begin(folder.file("factor").c_str(), budget, 20'000), FactorOutcome::kDone);
-    options.store = &files;
-    {
-      const FailingDisk disk(k, k % 2 == 0);
-      FactorOutcome outcome = solved_.compute(options);
-      if (outcome == FactorOutcome::kDone) outcome = Archive::complete(files, solved_.factor);
-      EXPECT_EQ(outcome, expected());
-    }
-    if (!FailingDisk::has_failed()) break;
-    solved_.factor.clear();
-    ASSERT_EQ(solved_.compute(options), FactorOutcome::kDone);
-    EXPECT_TRUE(are_same_bits(solved_.solution(Operation::kPlain, b_, 1), expected_solution));
-    solved_.factor.clear();
-    files.close();
-    EXPECT_EQ(folder.files(), 0);
-  }
-}
-
-TEST_F(Disk, ThatFailsInASolveIsTold) {
-  const Folder folder;
-  {
-    PanelFiles files;
-    ASSERT_EQ(files.begin(folder.file("factor").c_str(), kPlenty), FactorOutcome::kDone);
-    ASSERT_EQ(solved_.compute({.factorization = Factorization::kLDLH, .store = &files}), FactorOutcome::kDone);
-    ASSERT_EQ(Archive::complete(files, solved_.factor), FactorOutcome::kDone);
-    solved_.factor.clear();
-  }
-  for (int k = 1, step = 1;; k += step, step = 1 + k / 20) {
-    Plan plan;
-    PanelFiles files;
-    Factor<double> factor;
-    const FailingDisk disk(k, false);
-    FactorOutcome outcome = Archive::open(folder.file("factor").c_str(), 30'000, files, plan, factor);
-    std::vector<double> x = b_;
-    if (outcome == FactorOutcome::kDone) {
-      outcome = solve(factor, Operation::kPlain, Stage::kAll, 1, x.data(), system_.n);
-    }
-    EXPECT_EQ(outcome, expected());
-    if (!FailingDisk::has_failed()) break;
-    // An error of reading does not last.
-    if (factor) {
-      EXPECT_EQ(solve(factor, Operation::kPlain, Stage::kAll, 1, x.data(), system_.n), FactorOutcome::kDone);
-    }
-  }
-}
-
 // Any number of the file may be another one: its checksum is right, as whoever forges it would see to.
 TEST(Archives, WithForgedNumbersAreRefusedOrSafe) {
   const System<double> A = dominant_system<double>(grid(5, 4, 1, false), Symmetry::kHermitian, false, 1.1, 6);
@@ -220,35 +171,47 @@ TEST(Archives, WithForgedNumbersAreRefusedOrSafe) {
             FactorOutcome::kDone);
   const Folder folder;
   const std::string name = folder.file("handle");
+  std::size_t plan_bytes = 0;
   {
     FileWriter writer;
+    ASSERT_EQ(writer.begin(name.c_str(), FileKind::kHandle), FactorOutcome::kDone);
+    ASSERT_EQ(Archive::put(writer, solved.plan), FactorOutcome::kDone);
+    ASSERT_EQ(writer.complete(), FactorOutcome::kDone);
+    plan_bytes = contents(name).size() - 32;
     ASSERT_EQ(writer.begin(name.c_str(), FileKind::kHandle), FactorOutcome::kDone);
     ASSERT_EQ(Archive::put(writer, solved.plan), FactorOutcome::kDone);
     ASSERT_EQ(Archive::put(writer, solved.factor), FactorOutcome::kDone);
     ASSERT_EQ(writer.complete(), FactorOutcome::kDone);
   }
   const std::string body = contents(name).substr(32);
+  const auto is_refused = [&](std::size_t place, std::int32_t value) {
+    std::string forged = body;
+    std::memcpy(forged.data() + place, &value, sizeof value);
+    FileWriter writer;
+    EXPECT_EQ(writer.begin(name.c_str(), FileKind::kHandle), FactorOutcome::kDone);
+    writer.put(std::span<const char>(forged));
+    EXPECT_EQ(writer.complete(), FactorOutcome::kDone);
+    FileReader reader;
+    Plan plan;
+    Factor<double> factor;
+    EXPECT_EQ(reader.begin(name.c_str(), FileKind::kHandle), FactorOutcome::kDone);
+    if (Archive::get(reader, plan) == FactorOutcome::kDone) static_cast<void>(Archive::get(reader, plan, factor));
+    if (reader.complete() != FactorOutcome::kDone) return true;
+    std::vector<double> x(static_cast<std::size_t>(plan.size()), 1.0);
+    EXPECT_EQ(solve(factor, Operation::kPlain, Stage::kAll, 1, x.data(), plan.size()), FactorOutcome::kDone);
+    return false;
+  };
+  // Behind the plan: the letter of the scalars, the factorization, the number of orders.
+  for (const std::int32_t letter : {int{'S'}, int{'C'}, int{'Z'}, 0}) EXPECT_TRUE(is_refused(plan_bytes, letter));
+  for (const std::int32_t number : {-1, 4, 5, 1000}) {
+    EXPECT_TRUE(is_refused(plan_bytes + 4, number)) << number;
+    EXPECT_TRUE(is_refused(plan_bytes + 8, number)) << number;
+  }
   int refused = 0;
   for (std::size_t place = 0; place + 4 <= body.size(); place += place < 1200 ? 4 : 100) {
     for (const std::int32_t value : {-1, 0, 1, 2, 19, 20, 21, 1000, std::numeric_limits<std::int32_t>::max(),
                                      std::numeric_limits<std::int32_t>::min()}) {
-      std::string forged = body;
-      std::memcpy(forged.data() + place, &value, sizeof value);
-      FileWriter writer;
-      ASSERT_EQ(writer.begin(name.c_str(), FileKind::kHandle), FactorOutcome::kDone);
-      writer.put(std::span<const char>(forged));
-      ASSERT_EQ(writer.complete(), FactorOutcome::kDone);
-      FileReader reader;
-      Plan plan;
-      Factor<double> factor;
-      ASSERT_EQ(reader.begin(name.c_str(), FileKind::kHandle), FactorOutcome::kDone);
-      if (Archive::get(reader, plan) == FactorOutcome::kDone) static_cast<void>(Archive::get(reader, plan, factor));
-      if (reader.complete() == FactorOutcome::kDone) {
-        std::vector<double> x(static_cast<std::size_t>(plan.size()), 1.0);
-        EXPECT_EQ(solve(factor, Operation::kPlain, Stage::kAll, 1, x.data(), plan.size()), FactorOutcome::kDone);
-      } else {
-        ++refused;
-      }
+      refused += is_refused(place, value) ? 1 : 0;
     }
   }
   EXPECT_GT(refused, 100);

@@ -1,13 +1,8 @@
 // Panels in files: budgets, sets that are whole or not at all, disks that fail, sets in use by others.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cstring>
-#include <vector>
-
 #include "sparse/numeric/panel_files.hpp"
 #include "tests/sparse/files.hpp"
 #include "tests/sparse/matrices.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::sparse::test {
 namespace {
@@ -157,6 +152,7 @@ TEST_F(PanelFilesTest, OpenAgainWithinAnyBudgetAndTwiceAtATime) {
   ASSERT_EQ(open_set(folder_.file("set"), second), FactorOutcome::kDone);
   EXPECT_EQ(check(first, ascending()), FactorOutcome::kDone);
   EXPECT_EQ(check(second, shuffled()), FactorOutcome::kDone);
+  EXPECT_EQ(second.create(plan_, kKind, sizeof(double)), FactorOutcome::kCannotOpen) << "it is there to be read";
   // Nobody may write or remove what is being read.
   EXPECT_EQ(make_set(folder_.file("set")), FactorOutcome::kCannotOpen);
   EXPECT_EQ(PanelFiles::remove(folder_.file("set").c_str()), FactorOutcome::kCannotOpen);
@@ -165,6 +161,18 @@ TEST_F(PanelFilesTest, OpenAgainWithinAnyBudgetAndTwiceAtATime) {
   EXPECT_EQ(PanelFiles::remove(folder_.file("set").c_str()), FactorOutcome::kDone);
   EXPECT_EQ(folder_.files(), 2);
   EXPECT_EQ(read_set(folder_.file("other")), FactorOutcome::kDone);
+}
+
+// All panels are on the disk before the index tells that they are there.
+TEST_F(PanelFilesTest, AreFlushedBeforeTheIndexIsWhole) {
+  using Operation = platform::FileOperation;
+  const std::vector<Operation> all =
+      operations_of([&] { EXPECT_EQ(make_set(folder_.file("set"), kPlenty, 10'000), FactorOutcome::kDone); });
+  const auto parts = static_cast<std::size_t>(folder_.files() - 1);
+  std::vector<Operation> end(parts, Operation::kFlush);
+  end.insert(end.end(), {Operation::kWrite, Operation::kFlush, Operation::kWrite, Operation::kFlush});
+  ASSERT_GT(all.size(), end.size());
+  EXPECT_EQ(std::vector<Operation>(all.end() - static_cast<std::ptrdiff_t>(end.size()), all.end()), end);
 }
 
 TEST_F(PanelFilesTest, TakeTheirNameForThemselves) {

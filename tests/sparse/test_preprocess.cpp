@@ -1,14 +1,7 @@
 // What analysis stands on: permutations, scalings and orders that fit each other and the way in which A is stored.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cmath>
-#include <numeric>
-#include <random>
-#include <set>
-
 #include "tests/sparse/matrices.hpp"
 #include "tests/sparse/values.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::sparse::test {
 namespace {
@@ -123,7 +116,8 @@ TEST(Preprocess, PairsUnknownsOfSymmetricMatrices) {
     const bool by_rows = seed % 2 == 1, is_schur = seed % 4 < 2;
     const SparseMatrix lower = random_square(n, 3, true, seed);
     SparseMatrix stored = by_rows ? transposed(lower) : lower;
-    // What lies in the triangle that is not read has no effect on scales.
+    const TypedMatrix<double> read(stored);
+    // What lies in the triangle that is not read has no effect on scales and pairs.
     for (int k = 0; k < n; k += 9) stored.add(by_rows ? n - 1 : k, by_rows ? k : n - 1, 1e30);
     const TypedMatrix<double> matrix(stored);
     const std::vector<int> last = {30, 31, 2};
@@ -134,8 +128,11 @@ TEST(Preprocess, PairsUnknownsOfSymmetricMatrices) {
                                     .matches = true,
                                     .last = last,
                                     .last_are_schur = is_schur};
-    Preprocessing<double> result;
+    Preprocessing<double> result, expected;
     ASSERT_EQ(preprocess(matrix.matrix(), options, result), MatchingOutcome::kDone);
+    ASSERT_EQ(preprocess(read.matrix(), options, expected), MatchingOutcome::kDone);
+    EXPECT_TRUE(std::equal(result.row_scale.begin(), result.row_scale.end(), expected.row_scale.begin()));
+    EXPECT_TRUE(std::equal(result.pair_of.begin(), result.pair_of.end(), expected.pair_of.begin()));
     EXPECT_TRUE(is_order(result, n));
     EXPECT_EQ(result.row_position.size(), 0);
     int pairs = 0;

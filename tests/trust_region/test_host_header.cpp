@@ -1,10 +1,6 @@
 // The header for C++ hosts: fits with and without bounds and derivatives, and exceptions out of callables.
-#include <gtest/gtest.h>
-
-#include <array>
-#include <stdexcept>
-
 #include "quorin/least_squares.hpp"
+#include "tests/support/test.hpp"
 #include "tests/trust_region/nist.hpp"
 
 namespace trust_region_test {
@@ -81,6 +77,13 @@ TEST_F(HostHeader, ExceptionsOfCallablesComeThroughAndXIsWhole) {
     if (failing < 6) {
       EXPECT_EQ(x, (std::array<float, 2>{250, 0.0005F}));
     }
+    calls = 0;
+    std::vector<float> columns(2 * problem.m());
+    const auto differences = [&] { ls::Differences()(residual, x, problem.m(), columns); };
+    if (failing > 4) continue;
+    x = {250, 0.0005F};
+    EXPECT_THROW(differences(), std::runtime_error);
+    EXPECT_EQ(x, (std::array<float, 2>{250, 0.0005F}));
   }
 }
 
@@ -93,7 +96,10 @@ TEST_F(HostHeader, RefusesSizesAndTellsOfResidualsThatAreNotFinite) {
   EXPECT_THROW(ls::minimize(2, x, bad, {}, ls::Options{.step = -1}), std::invalid_argument);
   const ls::Result result = ls::minimize(2, x, bad);
   EXPECT_EQ(result.stop, ls::Stop::kNotFinite);
-  EXPECT_FALSE(result.converged());
+  for (int stop = 0; stop <= 6; ++stop) {
+    const bool is_good = stop == 2 || stop == 3 || stop == 5 || stop == 6;
+    EXPECT_EQ(ls::Result{.stop = static_cast<ls::Stop>(stop)}.converged(), is_good) << stop;
+  }
 }
 
 }  // namespace

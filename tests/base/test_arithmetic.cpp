@@ -1,14 +1,13 @@
-// Sums and sweeps against plain loops over small whole numbers, which are exact in any order, and the ends of the range
-// of doubles.
-#include "base/sums.hpp"
-
-#include <gtest/gtest.h>
-
-#include <cmath>
-#include <limits>
-#include <vector>
-
+// Sums, sweeps and lanes against plain loops over whole numbers so small that products and sums are exact, and the ends
+// of the range of doubles.
+//
+// Wide lanes are put together of narrow ones here; what that means for calls does not matter to functions that are
+// inlined.
+#pragma GCC diagnostic ignored "-Wpsabi"
+#include "base/lanes.hpp"
 #include "base/rotated_hessenberg.hpp"
+#include "base/sums.hpp"
+#include "tests/support/test.hpp"
 
 namespace {
 
@@ -55,6 +54,13 @@ TEST(Sums, NormsStayInRange) {
     EXPECT_TRUE(std::isnan(base::norm(x.size(), x.data())));
   }
   EXPECT_EQ(base::norm(0, nullptr), 0.0);
+  // All digits at every scale, where squares are subnormal too.
+  const std::vector<double> x = {1.0 / 3, 1.0 / 7, -0.1};
+  for (int exponent = -1000; exponent <= 1020; ++exponent) {
+    std::vector<double> scaled = x;
+    for (double& entry : scaled) entry = std::ldexp(entry, exponent);
+    EXPECT_NEAR(std::ldexp(base::norm(3, scaled.data()), -exponent), base::norm(3, x.data()), 2e-16) << exponent;
+  }
   const std::vector<float> largest(5, std::numeric_limits<float>::max());
   EXPECT_TRUE(std::isfinite(base::sum_of_squares(5, largest.data())));
 }
@@ -78,6 +84,49 @@ TEST(RotatedHessenberg, SolvesTheLeastSquaresProblem) {
   EXPECT_NEAR(hessenberg.residual_norm(2), std::sqrt(25 - 15 * y[0] - 5 * y[1]), 1e-14);
   hessenberg.solve(2, hessenberg.g());
   EXPECT_EQ(hessenberg.g()[0], y[0]);
+}
+
+template <Scalar T>
+T number(int real, int imaginary) {
+  if constexpr (kIsComplex<T>) {
+    return T(static_cast<RealOf<T>>(real), static_cast<RealOf<T>>(imaginary));
+  } else {
+    return static_cast<T>(real);
+  }
+}
+
+template <Scalar T, int kBytes>
+void multiplies_and_adds() {
+  constexpr int n = kElements<T, kBytes>;
+  std::vector<T> x(n), y(n + 1), z(n);
+  T plain{}, conjugated{}, first = number<T>(3, -7);
+  for (int i = 0; i < n; ++i) {
+    x[i] = number<T>(i + 1, 2 - 3 * i);
+    y[i + 1] = number<T>(5 - i * i, 4 * i + 1);
+    plain += product(x[i], y[i + 1]);
+    conjugated += product(conjugate(x[i]), y[i + 1]);
+  }
+  ProductSum<T, kBytes> sum, twice;
+  sum.add(load<kBytes>(x.data()), load<kBytes>(y.data() + 1));  // one of the two is not aligned
+  EXPECT_EQ(sum.template value<false>(), plain);
+  EXPECT_EQ(sum.template value<true>(), conjugated);
+  twice.add(sum);
+  twice.add(sum);
+  EXPECT_EQ(twice.template value<false>(), plain + plain);
+
+  store(z.data(), Factor<T, kBytes>(first)(load<kBytes>(x.data())));
+  for (int i = 0; i < n; ++i) EXPECT_EQ(z[i], product(first, x[i])) << i;
+}
+
+template <class T>
+class Lanes : public testing::Test {};
+using Scalars = testing::Types<float, double, std::complex<float>, std::complex<double>>;
+TYPED_TEST_SUITE(Lanes, Scalars);
+
+TYPED_TEST(Lanes, MultiplyAndAddInAllWidths) {
+  multiplies_and_adds<TypeParam, 16>();
+  multiplies_and_adds<TypeParam, 32>();
+  multiplies_and_adds<TypeParam, 64>();
 }
 
 }  // namespace
