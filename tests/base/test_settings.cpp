@@ -8,6 +8,7 @@
 #include "base/thread_settings.hpp"
 #include "platform/cpu.hpp"
 #include "platform/platform.hpp"
+#include "tests/support/system.hpp"
 #include "tests/support/test.hpp"
 
 namespace quorin::base {
@@ -154,37 +155,41 @@ TEST(HandleTable, WhatIsNoHandleFindsNothing) {
 // The choice of the instruction set: the best that the processor and the system have, unless the environment names a
 // lower one.
 TEST(InstructionSets, AreChosenAmongThoseThatRun) {
+  using platform::can_run, platform::kInstructionSets, platform::choose_instruction_set;
   const auto chosen = [](std::size_t best, const char* wanted) {
 #if defined(_WIN32)
     _putenv_s("QUORIN_CPU", wanted);
 #else
     setenv("QUORIN_CPU", wanted, 1);
 #endif
-    return static_cast<std::size_t>(platform::choose_instruction_set(platform::kInstructionSets[best].features));
+    return static_cast<std::size_t>(choose_instruction_set(kInstructionSets[best].features));
   };
-  for (std::size_t best = 0; best < platform::kInstructionSets.size(); ++best) {
-    for (std::size_t wanted = 0; wanted < platform::kInstructionSets.size(); ++wanted) {
-      EXPECT_EQ(chosen(best, platform::kInstructionSets[wanted].name), std::min(best, wanted));
+  for (std::size_t best = 0; best < kInstructionSets.size(); ++best) {
+    for (std::size_t wanted = 0; wanted < kInstructionSets.size(); ++wanted) {
+      EXPECT_EQ(chosen(best, kInstructionSets[wanted].name), std::min(best, wanted));
     }
     EXPECT_EQ(chosen(best, "none of them"), best);
     EXPECT_EQ(chosen(best, ""), best);
   }
   const std::uint32_t here = platform::cpu_features();
-  EXPECT_EQ(platform::can_run(platform::kInstructionSets[1], here),
-            __builtin_cpu_supports("avx2") && __builtin_cpu_supports("fma"));
-  EXPECT_EQ(platform::can_run(platform::kInstructionSets[2], here),
+  EXPECT_EQ(can_run(kInstructionSets[1], here), __builtin_cpu_supports("avx2") && __builtin_cpu_supports("fma"));
+  EXPECT_EQ(can_run(kInstructionSets[2], here),
             __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512dq") &&
                 __builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("avx512vl"));
   // The processor has it, and the system does not save its registers.
-  const std::uint32_t features =
-      platform::kInstructionSets[2].features & ~static_cast<std::uint32_t>(platform::kFeatureZmmState);
-  EXPECT_EQ(platform::choose_instruction_set(features), platform::InstructionSet::kAvx2);
+  const std::uint32_t features = kInstructionSets[2].features & ~static_cast<std::uint32_t>(platform::kFeatureZmmState);
+  EXPECT_EQ(choose_instruction_set(features), platform::InstructionSet::kAvx2);
 }
 
 #if defined(__linux__)
-// The system asks the processor, too.
+// The system asks the processor, too. Cores may differ: it is the first one's that are compared.
 TEST(Caches, AreThoseThatTheSystemTellsOf) {
+  cpu_set_t first, all;
+  CPU_ZERO(&first);
+  CPU_SET(0, &first);
+  if (sched_getaffinity(0, sizeof all, &all) != 0 || sched_setaffinity(0, sizeof first, &first) != 0) GTEST_SKIP();
   const platform::CacheSizes sizes = platform::cache_sizes();
+  sched_setaffinity(0, sizeof all, &all);
   for (int index = 0; index < 4; ++index) {
     const std::string cache = "/sys/devices/system/cpu/cpu0/cache/index" + std::to_string(index) + '/';
     int level = 0;
@@ -193,8 +198,7 @@ TEST(Caches, AreThoseThatTheSystemTellsOf) {
     std::ifstream(cache + "level") >> level;
     std::ifstream(cache + "type") >> type;
     std::ifstream(cache + "size") >> kilobytes;
-    if (type != "Data" && type != "Unified") continue;
-    if (level > 2) continue;
+    if ((type != "Data" && type != "Unified") || level > 2) continue;
     EXPECT_EQ(level == 1 ? sizes.level1 : sizes.level2, kilobytes << 10) << level;
   }
 }
