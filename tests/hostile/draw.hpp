@@ -41,6 +41,7 @@ class Draw {
     m_ = family == "trust_region" ? n_ + below(4) : is_one_of(2) ? n_ : 1 + below(12);
     nz_ = 1 + below(40);
     if (family == "feast") nz_ = 2 * kLargest + below(30);
+    if (family == "umfpack") nz_ = m_ * n_;
     if (family == "pardiso") draw_system();
   }
   Draw(const Draw&) = delete;
@@ -576,6 +577,10 @@ class Draw {
   // The last one is right: nobody can check it.
   void fill_starts(std::int32_t* starts, int count, int base) {
     if (count == 0) return;
+    if (family_ == "umfpack" && is_gentle_) {  // all entries, column by column: what the family makes objects of
+      for (int k = 0; k < count; ++k) starts[k] = k * m_;
+      return;
+    }
     for (int k = 0; k < count; ++k) starts[k] = base + below(static_cast<int>(nz_) + 1);
     std::sort(starts, starts + count);
     starts[0] = base;
@@ -590,6 +595,10 @@ class Draw {
                                   : family_ == "umfpack" || family_ == "rci" ? n_
                                   : family_ == "feast" || family_ == "slap"  ? order_
                                                                              : count);
+    if (family_ == "umfpack" && is_gentle_ && name == "Ai") {
+      for (int k = 0; k < count; ++k) indices[k] = k % m_;
+      return;
+    }
     for (int k = 0; k < count; ++k) indices[k] = base + (is_ordered ? k % bound : below(bound));
     // A diagonal matrix, whose last column has its entry many times.
     for (int k = 0; k < count && name == "jb" && is_gentle_; ++k) indices[k] = base + std::min(k, bound - 1);
