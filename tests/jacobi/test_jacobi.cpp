@@ -1,5 +1,6 @@
 // Jacobians by differences: the protocol, the points asked for, exactness and restoration of x.
 #include "quorin/jacobi.h"
+#include "tests/support/index_form.hpp"
 #include "tests/support/test.hpp"
 
 namespace {
@@ -67,12 +68,14 @@ TEST(Jacobi, AsksForThePointsInOrderAndMayBeginAnew) {
   const Floats start = {1, -3};
   Floats x = start, columns(2), f1(1), f2(1);
   void* handle = nullptr;
-  ASSERT_EQ(sjacobi_init(&handle, &n, &m, x.data(), columns.data(), &step), kSuccess);
+  using quorin::test::base;
+  ASSERT_EQ(sjacobi_init_Idx(&handle, &n, &m, base(x.data(), 3), 3, base(columns.data(), -5), -5, base(&step, 7), 7),
+            kSuccess);
   const std::vector<Floats> points = {{1.5F, -3}, {0.5F, -3}, {1, -2.5F}, {1, -3.5F}, start};
   for (int round = 0; round < 2; ++round) {
     for (std::size_t k = 0; k < points.size(); ++k) {
       int request = -7;
-      ASSERT_EQ(sjacobi_solve_Idx(&handle, f1.data(), 0, f2.data(), 0, &request), kSuccess);
+      ASSERT_EQ(sjacobi_solve_Idx(&handle, base(f1.data(), 2), 2, base(f2.data(), -4), -4, &request), kSuccess);
       EXPECT_EQ(request, k == 4 ? 0 : 1 + static_cast<int>(k % 2));
       EXPECT_EQ(x, points[k]);
       (request == 1 ? f1 : f2)[0] = x[0] * x[0] + 2 * x[1];
