@@ -116,12 +116,23 @@ FactorOutcome PanelFiles::begin_index() noexcept {
 }
 
 FactorOutcome PanelFiles::complete() noexcept {
+  const base::Workspace<char> name = index_name(base_name_.data());
+  if (!name) return FactorOutcome::kOutOfMemory;
   FactorOutcome outcome = create_parts(offset(panels_));
   for (int part = 0; part < part_count_ && outcome == FactorOutcome::kDone; ++part) {
     if (!parts_[static_cast<std::size_t>(part)].flush()) outcome = FactorOutcome::kFileFailed;
   }
+  // From here on the files are only read, so that others may read them, too. The index keeps them away until it is
+  // whole.
+  const int count = std::exchange(part_count_, 0);
+  if (outcome == FactorOutcome::kDone) outcome = open_parts();
+  part_count_ = count;
   if (outcome == FactorOutcome::kDone) outcome = writer_.complete();
   is_new_ = outcome != FactorOutcome::kDone;
+  if (is_new_) return outcome;
+  // To read the index keeps others from writing it. Without that the set is as good.
+  writer_.abandon();
+  if (count < kMostParts) static_cast<void>(parts_[static_cast<std::size_t>(count)].open(name.data()));
   return outcome;
 }
 
@@ -205,7 +216,7 @@ void PanelFiles::drop_panels() noexcept {
   checks_ = {};
   offsets_ = {};
   run_of_ = {};
-  for (int part = 0; part < part_count_; ++part) parts_[static_cast<std::size_t>(part)].close();
+  for (platform::BlockFile& part : parts_) part.close();
   if (is_new_) remove_parts(base_name_.data(), part_count_);
   part_count_ = panels_ = 0;
   oldest_ = newest_ = kNone;

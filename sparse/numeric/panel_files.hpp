@@ -28,12 +28,12 @@ class PanelFiles final : public PanelStore {
   // A set that is not complete is removed.
   ~PanelFiles() override { close(); }
 
-  // Takes the name for new panels, until close(): nobody else can have a set of that name then. One that there is, is
-  // lost. kOutOfMemory, kCannotOpen. `part_bytes` is for tests: the most that a file of panels holds.
+  // Takes the name for new panels: nobody else can have a set of that name until they are complete. One that there is,
+  // is lost. kOutOfMemory, kCannotOpen. `part_bytes` is for tests: the most that a file of panels holds.
   FactorOutcome begin(const char* base_name, std::uint64_t budget, std::uint64_t part_bytes = kPartBytes) noexcept;
   // Makes a set of the panels, after a factorization. What else belongs to them has been put into index_writer(). Waits
-  // until the disk has all of it; the panels can be used further on. Files that nobody is to open again need no
-  // completion.
+  // until the disk has all of it. The panels can be read further on, and others can open the set, too. Files that
+  // nobody is to open again need no completion.
   FactorOutcome begin_index() noexcept;
   FileWriter& index_writer() noexcept { return writer_; }
   FactorOutcome complete() noexcept;
@@ -103,8 +103,8 @@ class PanelFiles final : public PanelStore {
   base::Workspace<char> base_name_;
   FileWriter writer_;
   FileReader reader_;
-  std::array<platform::BlockFile, kMostParts> parts_;
-  int part_count_ = 0;  // that are open
+  std::array<platform::BlockFile, kMostParts> parts_;  // and behind those the index of a set that was completed here
+  int part_count_ = 0;                                 // that are open
   std::uint64_t part_bytes_ = 0;
   bool is_new_ = false;        // begun here and not complete
   bool is_read_only_ = false;  // opened
