@@ -2,24 +2,18 @@
 // published code, the handle can be used or freed, and no file is left that looks whole.
 #include "families/pardiso/pardiso.hpp"
 #include "tests/sparse/files.hpp"
+#include "tests/support/environment.hpp"
 #include "tests/support/test.hpp"
 
 namespace quorin::pardiso {
 namespace {
 
-using sparse::test::FailingDisk;
+using sparse::test::DiskCodes;
 using sparse::test::Folder;
+using sparse::test::on_failing_disks;
 
-constexpr int kDone = 0, kCannotOpen = -10, kFileFailed = -11;
-
-void set_path(const std::string& path) {
-  const std::string name = "MKL_PARDISO_OOC_PATH";
-#if defined(_WIN32)
-  _putenv((name + "=" + path).c_str());
-#else
-  setenv(name.c_str(), path.c_str(), 1);
-#endif
-}
+constexpr int kDone = 0;
+constexpr DiskCodes kCodes = {-10, -11};
 
 // A tridiagonal system, whose factors are in files.
 class Host {
@@ -68,54 +62,34 @@ class Host {
   std::vector<double> x;
 };
 
-// Lets the k-th operation of `step` fail, for every k, alone and with all that follow; check(whether that is
-// an error). Where `may_open_another`, a single file that cannot be opened need not be one: another name may do.
-template <class Step, class Check>
-void on_failing_disks(const Step& step, const Check& check, bool may_open_another = false) {
-  for (const bool broken : {false, true}) {
-    bool failed = true;
-    for (int k = 1; failed; ++k) {
-      SCOPED_TRACE("operation " + std::to_string(k) + (broken ? " and all that follow" : ""));
-      int error = 0;
-      {
-        const FailingDisk disk(k, broken);
-        error = step();
-        failed = FailingDisk::has_failed();
-      }
-      const bool is_due = failed && (error != kDone || broken || !may_open_another || !FailingDisk::was_opening());
-      if (is_due) {
-        EXPECT_EQ(error, FailingDisk::was_opening() ? kCannotOpen : kFileFailed);
-      } else {
-        EXPECT_EQ(error, kDone);
-      }
-      check(is_due);
-      ASSERT_LT(k, 1000);
-    }
-  }
-}
-
 TEST(FailingDisk, FactorsInFiles) {
   const Folder folder;
-  set_path(folder.file("factor"));
+  test::set_environment("MKL_PARDISO_OOC_PATH", folder.file("factor").c_str());
+  // If a file cannot be opened, another name may do.
+  const DiskCodes codes = {kCodes.cannot_open, kCodes.failed, [](platform::FileOperation operation) {
+                             return operation == platform::FileOperation::kCreate ||
+                                    operation == platform::FileOperation::kOpen;
+                           }};
   Host expected(false);
   ASSERT_EQ(expected.call(13), kDone);
   {
     Host host(true);
     ASSERT_EQ(host.call(11), kDone);
-    on_failing_disks([&] { return host.call(22); },
-                     [&](bool failed) {
-                       if (failed) {
-                         EXPECT_EQ(host.call(33), -1);
-                         EXPECT_EQ(folder.files(), 0);
-                         ASSERT_EQ(host.call(22), kDone);
-                       }
-                       host.expect_usable(expected.x);
-                       ASSERT_EQ(host.call(0), kDone);
-                       EXPECT_EQ(folder.files(), 0);
-                     },
-                     true);
+    on_failing_disks(
+        codes, [&] { return host.call(22); },
+        [&](bool failed) {
+          if (failed) {
+            EXPECT_EQ(host.call(33), -1);
+            EXPECT_EQ(folder.files(), 0);
+            ASSERT_EQ(host.call(22), kDone);
+          }
+          host.expect_usable(expected.x);
+          ASSERT_EQ(host.call(0), kDone);
+          EXPECT_EQ(folder.files(), 0);
+        });
     ASSERT_EQ(host.call(22), kDone);
-    on_failing_disks([&] { return host.call(33); }, [&](bool) { host.expect_usable(expected.x); });
+    on_failing_disks(
+        kCodes, [&] { return host.call(33); }, [&](bool) { host.expect_usable(expected.x); });
   }
   EXPECT_EQ(folder.files(), 0);
 }
@@ -138,7 +112,7 @@ TEST(FailingDisk, HandlesInFiles) {
     return error;
   };
   // With nothing there, and then over an older file, which stays.
-  on_failing_disks(store_it, [&](bool failed) {
+  on_failing_disks(kCodes, store_it, [&](bool failed) {
     EXPECT_EQ(folder.files(), failed ? 0 : 1);
     host.expect_usable(expected);
     if (failed) return;
@@ -147,12 +121,13 @@ TEST(FailingDisk, HandlesInFiles) {
     EXPECT_EQ(error, kDone);
   });
   ASSERT_EQ(store_it(), kDone);
-  on_failing_disks(store_it, [&](bool) {
+  on_failing_disks(kCodes, store_it, [&](bool) {
     EXPECT_EQ(folder.files(), 1);
     restores();
   });
   std::array<void*, 64> pt{};
   on_failing_disks(
+      kCodes,
       [&] {
         restore(pt.data(), directory.c_str(), &error);
         return error;

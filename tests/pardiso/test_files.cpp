@@ -3,43 +3,34 @@
 #include <fstream>
 
 #include "tests/pardiso/systems.hpp"
+#include "tests/support/environment.hpp"
 #include "tests/support/standard.hpp"
-#include "tests/support/system.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 namespace pardiso_test {
 namespace {
 
 namespace fs = std::filesystem;
 
-void set_environment(const char* name, const char* value) {
-#if defined(_WIN32)
-  SetEnvironmentVariableA(name, value);
-#else
-  value == nullptr ? unsetenv(name) : setenv(name, value, 1);
-#endif
-}
-
 // A folder of its own for each test, and no settings in the environment.
 class Files : public testing::Test {
  protected:
-  Files() {
-    folder = fs::temp_directory_path() / ("quorin-pardiso-" + std::to_string(std::random_device{}()));
-    fs::create_directories(folder);
-  }
   ~Files() override {
     for (const char* name : {"PATH", "MAX_CORE_SIZE", "MAX_SWAP_SIZE", "KEEP_FILE", "CFG_PATH", "CFG_FILE_NAME"}) {
       set(name, nullptr);
     }
-    std::error_code ignored;
-    fs::remove_all(folder, ignored);
   }
 
   static void set(const std::string& name, const char* value) {
-    set_environment(("MKL_PARDISO_OOC_" + name).c_str(), value);
+    quorin::test::set_environment(("MKL_PARDISO_OOC_" + name).c_str(), value);
   }
-  std::ptrdiff_t count() const { return std::distance(fs::directory_iterator(folder), fs::directory_iterator()); }
+  int count() const { return temporary_.files(); }
 
-  fs::path folder;
+ private:
+  const quorin::test::TemporaryFolder temporary_;
+
+ protected:
+  const fs::path folder = temporary_.path();
 };
 
 class OutOfCore : public Files {
@@ -235,11 +226,7 @@ TEST_F(Handles, OutliveTheProcess) {
   }
   ASSERT_EQ(host.call(13), 0);
   ASSERT_EQ(store(host), 0);
-  set_environment(kVariable, folder.string().c_str());
-  const std::string command =
-      testing::internal::GetArgvs()[0] + " --gtest_brief=1 --gtest_filter=Handles.OutliveTheProcess";
-  EXPECT_EQ(std::system(command.c_str()), 0);
-  set_environment(kVariable, nullptr);
+  EXPECT_TRUE(quorin::test::passes_in_another_process(kVariable, folder.string()));
   std::ifstream in(solution(folder), std::ios::binary);
   std::vector<double> x(host.x.size());
   in.read(reinterpret_cast<char*>(x.data()), static_cast<std::streamsize>(x.size() * sizeof(double)));
@@ -285,6 +272,19 @@ TEST_F(Handles, KeepEverything) {
     EXPECT_EQ(df, other_df);
     EXPECT_EQ(da, other_da);
   }
+}
+
+TEST_F(Handles, TakeFactorsOutOfTheirFiles) {
+  set("PATH", (folder / "factor").string().c_str());
+  Host<double> first(unsymmetric8()), second(unsymmetric8());
+  first.cell(60) = 2;
+  ASSERT_EQ(first.call(13), 0);
+  ASSERT_EQ(store(first), 0);
+  EXPECT_EQ(first.release(), 0);
+  EXPECT_EQ(count(), 1);
+  ASSERT_EQ(restore(second), 0);
+  ASSERT_EQ(second.call(33), 0);
+  EXPECT_EQ(second.x, first.x);
 }
 
 TEST_F(Handles, AreHeldAgainstTheHostsParameters) {

@@ -49,6 +49,7 @@ class FailingDisk {
 
   static bool has_failed() { return state.asked >= state.k; }
   // What failed first.
+  static platform::FileOperation refused() { return state.refused; }
   static bool was_opening() {
     return state.refused == platform::FileOperation::kOpen || state.refused == platform::FileOperation::kCreate;
   }
@@ -62,5 +63,33 @@ class FailingDisk {
   };
   static inline State state{};
 };
+
+// What calls return, and whether they may get over a failure that begins with an operation of that kind.
+struct DiskCodes {
+  int cannot_open, failed;
+  bool (*may_recover)(platform::FileOperation) = [](platform::FileOperation) { return false; };
+};
+
+// Lets the k-th operation on a file fail while step() runs, for every k, alone and with all that follow. The step
+// returns the code; check(whether it failed) comes when the disk works again.
+template <class Step, class Check>
+void on_failing_disks(const DiskCodes& codes, const Step& step, const Check& check) {
+  for (const bool broken : {false, true}) {
+    bool failed = true;
+    for (int k = 1; failed; ++k) {
+      SCOPED_TRACE("operation " + std::to_string(k) + (broken ? " and all that follow" : ""));
+      int code = 0;
+      {
+        const FailingDisk disk(k, broken);
+        code = step();
+        failed = FailingDisk::has_failed();
+      }
+      const bool is_due = failed && (code != 0 || !codes.may_recover(FailingDisk::refused()));
+      EXPECT_EQ(code, !is_due ? 0 : FailingDisk::was_opening() ? codes.cannot_open : codes.failed);
+      check(is_due);
+      ASSERT_LT(k, 1000);
+    }
+  }
+}
 
 }  // namespace quorin::sparse::test

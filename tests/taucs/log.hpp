@@ -1,18 +1,13 @@
 // What the family says in the log that the environment asks for.
 #pragma once
 
+#include "tests/support/environment.hpp"
 #include "tests/support/standard.hpp"
 #include "tests/support/temporary_file.hpp"
 
 namespace taucs_test {
 
-inline void set_log(const char* name) {
-#if defined(_WIN32)
-  _putenv_s("QUORIN_TAUCS_LOG", name);
-#else
-  setenv("QUORIN_TAUCS_LOG", name, 1);
-#endif
-}
+inline void set_log(const char* name) { quorin::test::set_environment("QUORIN_TAUCS_LOG", name); }
 
 // What the action has the library say.
 template <class Action>

@@ -1,8 +1,10 @@
 // The driver: every way through it, what it says, and the factor object in every state.
 #include <filesystem>
+#include <fstream>
 #include <regex>
 
 #include "tests/support/standard.hpp"
+#include "tests/support/temporary_folder.hpp"
 #include "tests/taucs/log.hpp"
 #include "tests/taucs/systems.hpp"
 
@@ -229,6 +231,25 @@ TYPED_TEST(Linsolve, RefusesWhatCannotBe) {
   EXPECT_EQ(status(of_other_type, kSolveOnly), TAUCS_ERROR_BADARGS) << "a factor of the other type";
 }
 
+// An object without a factor has an order: iterations work in that, and nothing else does.
+TYPED_TEST(Linsolve, KeepsAnOrderWithoutAFactor) {
+  using T = TypeParam;
+  const Matrix A = this->dominant(60);
+  const auto B = this->right_hand_sides(A, 2);
+  std::vector<T> X(B.size());
+  Handle handle;
+  EXPECT_EQ(call(A.get(), &handle.F, 0, nullptr, nullptr, {"taucs.factor.ordering=genmmd"}), TAUCS_SUCCESS);
+  ASSERT_NE(handle.F, nullptr);
+  EXPECT_EQ(handle->kind, 0);
+  EXPECT_EQ(call(A.get(), &handle.F, 2, X.data(), B.data(), kSolveOnly), TAUCS_ERROR);
+  EXPECT_EQ(call(A.get(), &handle.F, 2, X.data(), B.data(), kLlt + kMf + Options{"taucs.factor.symbolic=false"}),
+            TAUCS_ERROR_BADARGS);
+  EXPECT_EQ(
+      call(A.get(), &handle.F, 2, X.data(), B.data(), kSolveOnly + kCg + Options{"taucs.solve.convergetol=1e-12"}),
+      TAUCS_SUCCESS);
+  expect_solved(*A, 2, X, B, 1e-11);
+}
+
 // Where the flags name both types, complex counts; with both factorizations asked for, the second does.
 TYPED_TEST(Linsolve, StandsFlagsAndOptionsThatSayTwoThings) {
   using T = TypeParam;
@@ -328,6 +349,14 @@ TEST(LinsolveMessages, AreThePublishedOnes) {
                 "taucs_linsolve: starting LLT/LDLT factorization\n"
                 "taucs_linsolve: ERROR, you need to provide a symbolic factorization for a numeric factorization\n" +
                 bail);
+  Handle handle;
+  call(A.get(), &handle.F, 0, nullptr, nullptr, kLdlt + kMf);
+  EXPECT_EQ(masked_log([&] {
+              call(A.get(), &handle.F, 0, nullptr, nullptr, kLdlt + kMf + Options{"taucs.factor.symbolic=false"});
+            }),
+            begin + permute +
+                "taucs_linsolve: starting IC indefinite factorization\n"
+                "taucs_linsolve: starting IC indefinite MF factorization\n\t\tInertia: #0: 0 #+: 7 #-: 0\n");
   EXPECT_EQ(said({"taucs.factor=false"}), solve +
                                               "taucs_linsolve: WARNING, no preconditioner\n"
                                               "taucs_linsolve: I don't know how to solve!\n" +
@@ -448,6 +477,48 @@ TYPED_TEST(Linsolve, FactorsIntoFiles) {
   EXPECT_EQ(call(A.get(), nullptr, 0, nullptr, nullptr,
                  kLlt + Options{"taucs.ooc=true", "taucs.ooc.basename=no-such-folder/factor"}),
             TAUCS_ERROR);
+}
+
+// Factors of both kinds and types in a folder: made there, or found.
+template <class T>
+std::vector<T> solve_from_files(const std::filesystem::path& folder, bool finds_them, void** F) {
+  constexpr bool kReal = std::is_same_v<T, double>;
+  std::mt19937 random(5);
+  const Matrix A = record<T>(random_triangle(120, 0.05, 1.05, !kReal, random, kReal ? -1 : 50), kLowerOf<T>);
+  const auto B = random_vector<T>(120, random);
+  std::vector<T> X(B.size());
+  const Options files = {"taucs.ooc=true", "taucs.ooc.memory=100000",
+                         "taucs.ooc.basename=" + (folder / (kReal ? "real" : "complex")).string()};
+  EXPECT_EQ(call(A.get(), F, 1, X.data(), B.data(),
+                 (finds_them ? kSolveOnly
+                  : kReal    ? kLlt
+                             : kLdlt) +
+                     files),
+            TAUCS_SUCCESS);
+  expect_solved(*A, 1, X, B, 1e-15);
+  return X;
+}
+
+// What one process has factored solves in another, with the same bits, while the first one goes on or when it is done.
+// This program is that process, too, when the environment names a folder.
+TEST(LinsolveFiles, AreThereForAnotherProcess) {
+  constexpr const char* kVariable = "QUORIN_TEST_FACTOR_FOLDER";
+  const auto all = [](const std::filesystem::path& folder, bool finds_them, Handle* held) {
+    void** const F = held != nullptr ? &held->F : nullptr;
+    const auto x = solve_from_files<double>(folder, finds_them, nullptr);
+    const auto z = solve_from_files<Complex>(folder, finds_them, F);
+    return bytes_of(x.data(), x.size()) + bytes_of(z.data(), z.size());
+  };
+  if (const char* const folder = std::getenv(kVariable); folder != nullptr) {
+    std::ofstream(std::filesystem::path(folder) / "solutions", std::ios::binary) << all(folder, true, nullptr);
+    return;
+  }
+  const quorin::test::TemporaryFolder folder;
+  Handle held;
+  const std::string expected = all(folder.path(), false, &held);
+  EXPECT_TRUE(quorin::test::passes_in_another_process(kVariable, folder.path().string()));
+  std::ifstream in(folder.path() / "solutions", std::ios::binary);
+  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(in), {}), expected);
 }
 
 // Zero diagonals: [H B^T; B 0], with a right-hand side for which the solution is known to be bounded.

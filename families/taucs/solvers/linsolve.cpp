@@ -175,8 +175,7 @@ class Driver {
     message("taucs_linsolve: starting LLT/LDLT factorization\n");
     if (options_.ooc) return factor_out_of_core();
     if (const Status status = permute(*made_); status != Status::kSuccess) return status;
-    message(options_.indefinite ? "taucs_linsolve: starting IC indefinite factorization\n"
-                                : "taucs_linsolve: starting IC LLT factorization\n");
+    report_in_core();
     const int maxdepth = truncated(options_.maxdepth);
     if (!options_.mf) {
       message(options_.indefinite ? "taucs_linsolve: starting IC indefinite LL factorization\n"
@@ -194,6 +193,10 @@ class Driver {
     made_->kind = options_.indefinite ? Kind::kLdlt : Kind::kLlt;
     report_inertia(made_->factor);
     return Status::kSuccess;
+  }
+  void report_in_core() const {
+    message(options_.indefinite ? "taucs_linsolve: starting IC indefinite factorization\n"
+                                : "taucs_linsolve: starting IC LLT factorization\n");
   }
   void report_multifrontal() const {
     message(options_.indefinite ? "taucs_linsolve: starting IC indefinite MF factorization\n"
@@ -219,6 +222,7 @@ class Driver {
       return Status::kErrorBadargs;
     }
     if (const Status status = permute(*held_); status != Status::kSuccess) return status;
+    report_in_core();
     report_multifrontal();
     const Status status = factor_numeric(&permuted_M(), factor_kind(), held_->factor);
     if (status != Status::kSuccess) return report_failure();
