@@ -48,7 +48,7 @@ class Convergence {
  public:
   Convergence(double first, double tolerance) : first_(first), tolerance_(tolerance) {}
 
-  bool is_reached(double now) const { return now <= tolerance_ * first_; }
+  bool is_reached(double now) const { return now < tolerance_ * first_ || now == 0; }
   IterationFault fault(int steps, double now) const {
     constexpr double kMostGrowth = 1e6;
     if (!(now <= kMostGrowth * first_)) return IterationFault::kGrowth;

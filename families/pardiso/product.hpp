@@ -26,7 +26,7 @@ void multiply(const sparse::LinearSystem<T>& system, const T* x, T* y) {
     T sum{};
     for (int k = A.starts[i]; k < A.starts[i + 1]; ++k) {
       const int j = A.indices[k];
-      const T value = taken(A.values[k], is_conjugated);
+      const T value = is_hermitian && i == j ? T{real_part(A.values[k])} : taken(A.values[k], is_conjugated);
       if (!is_transposed) sum += product(value, x[j]);
       if (is_transposed) y[j] += product(value, x[i]);
       if (is_mirrored && i != j) y[j] += product(taken(value, is_hermitian), x[i]);

@@ -125,24 +125,47 @@ std::uint64_t TypedSolver<T>::fingerprint_of(const T* values) const {
   return fingerprint(values, static_cast<std::size_t>(pattern_.entries()) * (sizeof(T) / sizeof(std::uint32_t)));
 }
 
-// What is counted of memory is what has a number for each equation or entry. The peak is that of the ordering: the
-// graph twice, and some numbers for each vertex.
+namespace {
+
+// What orderings take for a vertex and for a directed edge, in bytes, and nested dissection for itself, as measured.
+struct OrderingBytes {
+  std::int64_t of_vertex, of_edge, own;
+};
+OrderingBytes bytes_of_ordering(const AnalysisOptions& options) {
+  if (options.takes_permutation) return {};
+  constexpr std::int64_t kDissectionItself = 175'000;
+  return options.ordering == sparse::OrderingMethod::kMinimumDegree ? OrderingBytes{232, 14, 0}
+                                                                    : OrderingBytes{88, 18, kDissectionItself};
+}
+
+}  // namespace
+
+// What is counted of memory is what has a number for each equation, supernode or entry. The peak is that of the
+// ordering or that of the plan, with the graph, and some numbers for each vertex, at its side.
 template <Scalar T>
 void TypedSolver<T>::set_results(const sparse::Graph& graph) {
   const auto kind = sparse::panel_kind(factorization());
-  const std::int64_t n = size(), entries = plan_.entries();
+  const std::int64_t n = size(), entries = plan_.entries(), edges = graph.directed_edges();
   const bool is_lu = kind == sparse::PanelKind::kUnsymmetric;
   AnalysisResults& results = analysis_results_;
   results.factor_entries = is_lu ? 2 * entries - n : entries;
   results.operations = plan_.operations() * (is_lu ? 2.0 : 1.0) * (kIsComplex<T> ? 4.0 : 1.0);
   std::int64_t rows = 0;
   for (int s = 0; s < plan_.supernodes(); ++s) rows += plan_.below_count(s);
-  constexpr std::int64_t kPlanArrays = 4, kOrderingArrays = 12;
+  constexpr std::int64_t kPlanArrays = 4, kWorkArrays = 18;
   constexpr auto kInt = static_cast<std::int64_t>(sizeof(int)), kScalar = static_cast<std::int64_t>(sizeof(T));
-  results.kept_bytes = static_cast<std::int64_t>(pattern_.bytes() + assembly_.bytes()) +
-                       (kPlanArrays * n + rows) * kInt +
-                       static_cast<std::int64_t>((row_scale_.size() + column_scale_.size()) * sizeof(Real));
-  results.peak_bytes = results.kept_bytes + (2 * std::int64_t{graph.directed_edges()} + kOrderingArrays * n) * kInt;
+  constexpr std::int64_t kSupernode = 4 * kInt + 2 * static_cast<std::int64_t>(sizeof(double));
+  const auto scales = static_cast<std::int64_t>((row_scale_.size() + column_scale_.size()) * sizeof(Real));
+  const auto pattern = static_cast<std::int64_t>(pattern_.bytes());
+  results.kept_bytes = pattern + static_cast<std::int64_t>(assembly_.bytes()) + (kPlanArrays * n + rows) * kInt +
+                       plan_.supernodes() * kSupernode + scales;
+  const OrderingBytes ordering = bytes_of_ordering(options_);
+  const std::int64_t graph_bytes = (edges + n) * kInt, matching_bytes = options_.is_matched ? graph_bytes : 0;
+  const std::int64_t in_ordering = pattern + scales + matching_bytes + (kind_.stores_upper ? 0 : edges * kInt) +
+                                   n * ordering.of_vertex + edges * ordering.of_edge +
+                                   std::min(ordering.own, n * ordering.of_vertex);
+  const std::int64_t in_plan = results.kept_bytes + matching_bytes + graph_bytes + kWorkArrays * n * kInt;
+  results.peak_bytes = std::max(in_ordering, in_plan);
   const std::int64_t vectors = 3 * n * kScalar;
   results.factor_bytes = sparse::peak_bytes<T>(plan_, factor_options({})) + vectors;
   results.least_bytes = std::min(3 * plan_.largest_panel(kind) * kScalar + vectors, results.factor_bytes);

@@ -102,9 +102,9 @@ Error TypedSolver<T>::factorize(const Call& call, const FactorizationOptions& op
     if (error == Error::kDone || error == Error::kMatchingFailed) error = compute(call, options, *slot, values);
   }
   if (error == Error::kDone) error = keep_files(*slot);
-  if (error == Error::kDone) error = assess(*slot, values);
   if (error == Error::kDone && options_.keeps_diagonal) error = keep_diagonal(*slot, values);
   if (error == Error::kDone && schur() != Schur::kNone) error = keep_schur(*slot, static_cast<T*>(call.x));
+  if (error == Error::kDone) error = assess(*slot, values);
   if (error != Error::kDone) {
     slot->factor.clear();
     slot->files.reset();

@@ -29,15 +29,17 @@ sparse::Operation operation_of(const Kind& kind, System system) {
 
 template <Scalar T>
 struct TypedSolver<T>::Solution {
-  Solution(const TypedSolver& owner, const Slot& factors, const SolutionOptions& options)
+  Solution(const TypedSolver& owner, const Slot& factors, const SolutionOptions& options, bool solves_partly)
       : solver(owner),
         slot(factors),
         operation(operation_of(owner.kind(), options.system)),
+        is_partial(solves_partly && owner.partial() != Partial::kNone),
         threads(options.is_sequential ? 1 : base::region_threads(base::Domain::kSparseDirect)) {}
 
   const TypedSolver& solver;
   const Slot& slot;
   const sparse::Operation operation;
+  const bool is_partial;
   const int threads;
   base::Workspace<T> work;
   // Of a partial solution: the steps that are read and written, if not all are, and the part of the factor.
@@ -47,7 +49,7 @@ struct TypedSolver<T>::Solution {
   // Room for so many columns at once.
   [[nodiscard]] bool reserve(int columns) {
     work = base::Workspace<T>(base::saturating_product(size(), static_cast<std::size_t>(columns)));
-    return work && (solver.partial() == Partial::kNone || find_paths());
+    return work && (!is_partial || find_paths());
   }
   [[nodiscard]] bool find_paths() {
     using Steps = std::optional<std::span<const int>>;
@@ -112,7 +114,7 @@ struct TypedSolver<T>::Solution {
     return slot.schur.solve(operation, columns, last, solver.size(), threads);
   }
   sparse::FactorOutcome run_whole(int columns) {
-    if (solver.partial() != Partial::kNone) {
+    if (is_partial) {
       return sparse::solve_partly(slot.factor, operation, paths, columns, work.data(), solver.size(), threads);
     }
     if (solver.schur_size() == 0) return run(sparse::Stage::kAll, columns);
@@ -152,16 +154,17 @@ struct TypedSolver<T>::Solution {
     return outcome;
   }
 
-  // Improves x, so many columns of it.
+  // Improves x, so many columns of it. `total` has the worst of all calls.
   Error refine(const sparse::LinearSystem<T>& system, const SolutionOptions& options, int columns, const T* b, T* x,
-               int& steps) {
+               sparse::RefinementReport& total) {
     const sparse::RefinementOptions how = {.most_steps = options.refinement_limit,
                                            .extended = options.has_precise_residuals};
     sparse::RefinementReport report;
     const sparse::FactorOutcome outcome = sparse::refine(
         system, how, columns, b, solver.size(), x, solver.size(),
         [this](int count, T* corrections) { return solve(count, corrections, corrections); }, report);
-    steps = std::max(steps, report.steps);
+    total.steps = std::max(total.steps, report.steps);
+    total.backward_error = std::max(total.backward_error, report.backward_error);
     if (outcome != sparse::FactorOutcome::kDone) return error_of(outcome);
     return report.end < sparse::RefinementEnd::kDiverged ? Error::kDone : Error::kNumericFailed;
   }
@@ -169,24 +172,30 @@ struct TypedSolver<T>::Solution {
 
 // Exchanges that are confined to a block may let entries grow without a pivot that is perturbed. What that does to
 // solutions shows in one for which the exact answer is known; if it is much, the slot keeps the values, because the
-// host need not have them any more.
+// host need not have them any more. Nor does a host that asks for partial solutions, which are whole ones then.
 template <Scalar T>
 Error TypedSolver<T>::assess(Slot& slot, const T* values) {
+  if (!kind_.has_perturbed_pivots() || schur() == Schur::kAlone) return Error::kDone;
+  if (slot.results.perturbed > 0) return partial() == Partial::kNone ? Error::kDone : keep_values(slot, values);
+  if (schur() == Schur::kWithFactors && !slot.has_schur) return Error::kDone;
   constexpr double kGood = 16 * std::numeric_limits<Real>::epsilon();
-  const bool is_sure = !kind_.has_perturbed_pivots() || slot.results.perturbed > 0;
-  if (is_sure || flagged_ > 0 || slot.files != nullptr) return Error::kDone;
   const auto n = static_cast<std::size_t>(size());
   base::Workspace<T> x(n), b(n);
-  Solution solution(*this, slot, {});
+  Solution solution(*this, slot, {}, false);
   if (!x || !b || !solution.reserve(1)) return Error::kNoMemory;
   std::minstd_rand random;
   std::generate_n(x.data(), n, [&random] { return static_cast<Real>(random() % 1024 + 1) / Real{512} - 1; });
   const sparse::LinearSystem<T> system = system_of(values);
   multiply(system, x.data(), b.data());
   const sparse::FactorOutcome outcome = solution.solve(1, b.data(), x.data());
+  if (outcome != sparse::FactorOutcome::kDone) return error_of(outcome);
   const double error = sparse::backward_error(system, b.data(), x.data());
-  if (outcome != sparse::FactorOutcome::kDone || error < 0) return Error::kNoMemory;
-  if (error <= kGood || !std::isfinite(error)) return Error::kDone;
+  if (error < 0) return Error::kNoMemory;
+  return error <= kGood || !std::isfinite(error) ? Error::kDone : keep_values(slot, values);
+}
+
+template <Scalar T>
+Error TypedSolver<T>::keep_values(Slot& slot, const T* values) {
   slot.values = base::Workspace<T>(static_cast<std::size_t>(pattern_.entries()));
   if (!slot.values) return Error::kNoMemory;
   std::copy_n(values, slot.values.size(), slot.values.data());
@@ -195,7 +204,8 @@ Error TypedSolver<T>::assess(Slot& slot, const T* values) {
 
 template <Scalar T>
 bool TypedSolver<T>::refines(const Slot& slot, const SolutionOptions& options) const {
-  if (partial() != Partial::kNone || options.refinement_limit == 0) return false;
+  if (partial() != Partial::kNone) return refines_by_itself(slot, options);
+  if (options.refinement_limit == 0) return false;
   return !options.is_refined_if_needed || slot.results.perturbed > 0 || slot.values;
 }
 
@@ -205,28 +215,56 @@ bool TypedSolver<T>::reads_matrix(int slot, const SolutionOptions& options) cons
   return refines(found, options) && !refines_by_itself(found, options);
 }
 
+// b, of which a partial solution may leave out what is not flagged: then `storage` has zeros there.
+template <Scalar T>
+const T* TypedSolver<T>::mask(const T* b, int columns, base::Workspace<T>& storage) const {
+  if (partial() != Partial::kFlaggedBoth) return b;
+  const int n = size();
+  for (int c = 0; c < columns; ++c) {
+    const std::ptrdiff_t first = std::ptrdiff_t{c} * n;
+    for (int i = 0; i < n; ++i) storage.data()[first + i] = is_flagged(i) ? b[first + i] : T{};
+  }
+  return storage.data();
+}
+
+// What the host wants of x.
+template <Scalar T>
+void TypedSolver<T>::deliver(const T* x, int columns, T* target) const {
+  const int n = size();
+  const bool wants_all = partial() == Partial::kNone || partial() == Partial::kFlaggedRightHandSide;
+  for (int c = 0; c < columns; ++c, x += n, target += n) {
+    for (int i = 0; i < n; ++i) {
+      if (wants_all || is_flagged(i)) target[i] = x[i];
+    }
+  }
+}
+
 template <Scalar T>
 Error TypedSolver<T>::solve(const Call& call, const SolutionOptions& options, Substitution substitution, int& steps) {
   const auto n = static_cast<std::size_t>(size());
   const Slot& slot = *find(call.slot);
   const bool is_refined = substitution == Substitution::kWhole && refines(slot, options);
   const int at_once = std::min(call.nrhs, kColumnsAtOnce);
-  Solution solution(*this, slot, options);
-  base::Workspace<T> refined, storage;
+  Solution solution(*this, slot, options, !is_refined);
+  base::Workspace<T> refined, masked, storage;
   const T* values = nullptr;
   if (!solution.reserve(at_once)) return Error::kNoMemory;
   if (is_refined) {
-    refined = base::Workspace<T>(base::saturating_product(n, static_cast<std::size_t>(at_once)));
+    const std::size_t elements = base::saturating_product(n, static_cast<std::size_t>(at_once));
+    refined = base::Workspace<T>(elements);
+    masked = base::Workspace<T>(partial() == Partial::kFlaggedBoth ? elements : 0);
     values = refines_by_itself(slot, options) ? slot.values.data() : gather(call, storage);
-    if (!refined || values == nullptr) return Error::kNoMemory;
+    if (!refined || !masked || values == nullptr) return Error::kNoMemory;
   }
   sparse::LinearSystem<T> system = system_of(values);
   system.operation = solution.operation;
+  sparse::RefinementReport report;
   T* const target = static_cast<T*>(options.overwrites_b ? call.b : call.x);
   for (int first = 0; first < call.nrhs; first += at_once) {
     const int columns = std::min(at_once, call.nrhs - first);
     const std::size_t offset = static_cast<std::size_t>(first) * n;
-    const T* const b = static_cast<const T*>(call.b) + offset;
+    const T* b = static_cast<const T*>(call.b) + offset;
+    if (is_refined) b = mask(b, columns, masked);
     T* const x = is_refined ? refined.data() : target + offset;
     {
       const Statistics::Timer timer = call.time(Step::kSubstitution);
@@ -237,8 +275,11 @@ Error TypedSolver<T>::solve(const Call& call, const SolutionOptions& options, Su
     }
     if (!is_refined) continue;
     const Statistics::Timer timer = call.time(Step::kRefinement);
-    if (const Error error = solution.refine(system, options, columns, b, x, steps); error != Error::kDone) return error;
-    std::copy_n(x, static_cast<std::size_t>(columns) * n, target + offset);
+    const Error error = solution.refine(system, options, columns, b, x, report);
+    steps = report.steps;
+    call.statistics->backward_error = report.backward_error;
+    if (error != Error::kDone) return error;
+    deliver(x, columns, target + offset);
   }
   return Error::kDone;
 }
@@ -253,7 +294,7 @@ Error TypedSolver<T>::iterate(const Call& call, const SolutionOptions& options, 
     return end.fault == IterationFault::kNone ? Error::kDone : Error::kNumericFailed;
   };
   if (find(call.slot)->results.perturbed > 0) return end_with({0, IterationFault::kPerturbed});
-  Solution solution(*this, *find(call.slot), options);
+  Solution solution(*this, *find(call.slot), options, true);
   constexpr std::size_t kVectors = 7;
   base::Workspace<T> storage, work(base::saturating_product(n, kVectors)),
       x(base::saturating_product(n, static_cast<std::size_t>(call.nrhs)));

@@ -43,7 +43,7 @@ class TypedSolver final : public Solver {
     sparse::Factor<T> factor;
     FactorizationResults results;
     base::Workspace<T> diagonal;  // of A, if the host may ask for it
-    base::Workspace<T> values;    // of A, if solutions need refinement though no pivot was perturbed
+    base::Workspace<T> values;    // of A, if solutions want refinement and the host need not have them any more
     sparse::SchurFactor<T> schur;
     bool has_schur = false;  // whether that could be factored
   };
@@ -76,10 +76,13 @@ class TypedSolver final : public Solver {
   Error choose_store(Slot& slot, const FactorizationOptions& options);
   Error keep_files(Slot& slot);
   Error assess(Slot& slot, const T* values);
+  Error keep_values(Slot& slot, const T* values);
   bool refines(const Slot& slot, const SolutionOptions& options) const;
   static bool refines_by_itself(const Slot& slot, const SolutionOptions& options) {
-    return options.is_refined_if_needed && slot.results.perturbed == 0;
+    return options.is_refined_if_needed && slot.values;
   }
+  const T* mask(const T* b, int columns, base::Workspace<T>& storage) const;
+  void deliver(const T* x, int columns, T* target) const;
   Error keep_diagonal(Slot& slot, const T* values);
   Error keep_schur(Slot& slot, T* S) const;
   Error factor_schur(Slot& slot, const T* S) const;

@@ -135,7 +135,7 @@ enum {
       positive; 0: none */
   QUORIN_PARDISO_IPARM_PARTIAL = 31, /* partial solution. perm flags equations with 1, and analysis puts the order of
       elimination there, flagged ones last. 1: b is zero and x is wanted only where flagged; 2: b is zero elsewhere, all
-      of x is wanted; 3: all of b counts, x is wanted only where flagged */
+      of x is wanted; 3: all of b counts, x is wanted only where flagged. Refined as iparm(8) = 0 says, or not at all */
   QUORIN_PARDISO_IPARM_REPRODUCIBLE = 34, /* threads for results that are the same in each run, which they always are;
       of no effect */
   QUORIN_PARDISO_IPARM_ZERO_BASED = 35, /* 1: ia, ja and perm count from 0; 0: from 1 */

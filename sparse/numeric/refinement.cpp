@@ -85,7 +85,8 @@ void for_each_entry(const LinearSystem<T>& system, const Use& use) noexcept {
       const int row = system.by_rows ? j : i, column = system.by_rows ? i : j;
       if ((system.read == Triangle::kLower && row < column) || (system.read == Triangle::kUpper && row > column))
         continue;
-      const T value = is_conjugated ? conjugate(A.values[k]) : A.values[k];
+      T value = is_conjugated ? conjugate(A.values[k]) : A.values[k];
+      if (row == column && system.symmetry == Symmetry::kHermitian) value = real_part(value);
       use(is_transposed ? column : row, is_transposed ? row : column, value);
       if (!is_mirrored || row == column) continue;
       const T mirrored = system.symmetry == Symmetry::kHermitian ? conjugate(value) : value;

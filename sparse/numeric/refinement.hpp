@@ -16,7 +16,7 @@
 namespace quorin::sparse {
 
 // op(A) of a square A, as residuals are taken of it; without any scaling or permutation of the factorization. The
-// matrix is borrowed.
+// matrix is borrowed. On the diagonal of a Hermitian matrix imaginary parts are left out, as they are in elimination.
 template <Scalar T>
 struct LinearSystem {
   ColumnMatrix<T> A;

@@ -2,6 +2,8 @@
 // variables out.
 #include "tests/boundary/counting_allocator.hpp"
 
+#include <malloc.h>
+
 #include <cstdlib>
 
 #if defined(_WIN32)
@@ -42,8 +44,24 @@ bool is_due_to_fail() {
   return false;
 }
 
+std::size_t size_of(void* memory) {
+#if defined(_WIN32)
+  return _msize(memory);
+#else
+  return malloc_usable_size(memory);
+#endif
+}
+
+void add_bytes(std::size_t bytes) {
+  const std::size_t now = imalloc_state.bytes += bytes;
+  std::size_t most = imalloc_state.most_bytes;
+  while (now > most && !imalloc_state.most_bytes.compare_exchange_weak(most, now)) continue;
+}
+
 void* counted(void* memory) {
-  if (memory != nullptr) ++imalloc_state.live;
+  if (memory == nullptr) return nullptr;
+  ++imalloc_state.live;
+  add_bytes(size_of(memory));
   return memory;
 }
 
@@ -60,12 +78,21 @@ void* counted(void* memory) {
 [[maybe_unused]] void* counted_realloc(void* memory, std::size_t bytes) {
   ++imalloc_state.reallocate;
   if (is_due_to_fail()) return nullptr;
-  return memory == nullptr ? counted(std::malloc(bytes)) : std::realloc(memory, bytes);
+  if (memory == nullptr) return counted(std::malloc(bytes));
+  const std::size_t before = size_of(memory);
+  void* const moved = std::realloc(memory, bytes);
+  if (moved == nullptr) return nullptr;
+  imalloc_state.bytes -= before;
+  add_bytes(size_of(moved));
+  return moved;
 }
 
 [[maybe_unused]] void counted_free(void* memory) {
   ++imalloc_state.release;
-  if (memory != nullptr) --imalloc_state.live;
+  if (memory != nullptr) {
+    --imalloc_state.live;
+    imalloc_state.bytes -= size_of(memory);
+  }
   std::free(memory);
 }
 

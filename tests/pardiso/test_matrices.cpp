@@ -1,9 +1,9 @@
 // Families of matrices that are hard in one way or another, and matrices from applications. Backward errors are below
 // 1e-14 in double and 1e-6 in single precision, by norms with the defaults, and by rows with a few steps of refinement.
 // A hundred times that where A is singular, which perturbed pivots tell.
-#include <filesystem>
 #include <random>
 
+#include "tests/pardiso/applications.hpp"
 #include "tests/pardiso/systems.hpp"
 
 namespace pardiso_test {
@@ -119,8 +119,7 @@ TEST(Matrices, BadScales) {
   for (auto& entry : S.entries) {
     entry.value *= rows[static_cast<std::size_t>(entry.row)] * columns[static_cast<std::size_t>(entry.column)];
   }
-  expect_solved<double>(matrix_of(S, 11), "bad scales");
-  expect_solved<std::complex<double>>(matrix_of(S, 13), "bad scales");
+  expect_solved_in_all_types(S, "bad scales", {11, 13});
 }
 
 SparseMatrix helmholtz(int side, double wave_number) {
@@ -143,44 +142,29 @@ TEST(Matrices, Helmholtz) {
   }
 }
 
-TEST(Matrices, NumericallySingular) {
-  // Rows 17 and 18 are equal, and so are their right-hand sides.
-  SparseMatrix S = quorin::test::convection_diffusion(12, 10.0);
+// Rows 17 and 18 are equal, and so are their right-hand sides; or they have entries in the same column only.
+TEST(Matrices, Singular) {
+  SparseMatrix S = quorin::test::convection_diffusion(12, 10.0), T = S;
   std::erase_if(S.entries, [](const auto& entry) { return entry.row == 18; });
   const auto entries = S.entries;
   for (const auto& entry : entries) {
     if (entry.row == 17) S.add(18, entry.column, entry.value);
   }
-  const Matrix A = matrix_of(S, 11);
-  Host<double> host(A);
-  ASSERT_EQ(host.call(13), 0);
-  EXPECT_LT(backward_error(A, host, host.b, host.x), 1e-14);
-}
-
-bool is_symmetric(const SparseMatrix& S) {
-  const auto rows = quorin::test::compressed_rows(S), columns = quorin::test::compressed_columns(S);
-  return rows.starts == columns.starts && rows.indices == columns.indices && rows.re == columns.re &&
-         rows.im == columns.im;
-}
-
-// Square ones: triplets from 0 and from 1, and Harwell-Boeing files, of which patterns get values that are made up.
-std::vector<SparseMatrix> from_applications() {
-  std::vector<SparseMatrix> all;
-  for (const std::string folder : {"cxsparse", "klu", "umfpack"}) {
-    for (const auto& file : std::filesystem::directory_iterator(std::string(QUORIN_MATRICES_DIR) + "/" + folder)) {
-      const std::string path = file.path().string();
-      std::string type = "RUA";
-      SparseMatrix S = folder == "umfpack" ? quorin::test::read_harwell_boeing(path, &type)
-                                           : quorin::test::read_triplets(path, folder == "klu" ? 1 : 0);
-      if (type[0] == 'P') {
-        for (auto& e : S.entries) e.value = e.row == e.column ? 9.5 : 1.0 / (1 + e.row + 2 * e.column);
-        S.mirror();
-      }
-      S.name = folder + "/" + S.name;
-      if (S.rows == S.columns && S.rows > 1) all.push_back(std::move(S));
-    }
+  std::erase_if(T.entries, [](const auto& e) { return (e.row == 17 || e.row == 18) && e.column != 18; });
+  T.add(17, 18, 2.0);
+  for (const int mtype : {11, 13}) {
+    in_both_precisions(mtype, [&]<class Number> {
+      SCOPED_TRACE(testing::Message() << "mtype " << mtype << ", single " << kIsSingle<Number>);
+      const Matrix A = matrix_of(S, mtype);
+      Host<Number> numerically(A), structurally(matrix_of(T, mtype));
+      ASSERT_EQ(numerically.call(13), 0);
+      EXPECT_LT(backward_error(A, numerically, numerically.b, numerically.x), kIsSingle<Number> ? 1e-6 : 1e-14);
+      EXPECT_EQ(structurally.call(11), -6);
+      structurally.cell(11) = structurally.cell(13) = 0;
+      EXPECT_EQ(structurally.call(12), 0);
+      EXPECT_GT(structurally.cell(14), 0);
+    });
   }
-  return all;
 }
 
 TEST(Matrices, FromApplications) {
@@ -206,24 +190,6 @@ TEST(Matrices, FromApplications) {
   }
   EXPECT_GT(count, 20);
   EXPECT_LT(singular, count / 2);
-}
-
-// Entries of the factors grow, though no pivot is small: solutions are refined with what the handle knows of A.
-TEST(Matrices, GrowthOfFactors) {
-  const Matrix A = matrix_of(quorin::test::read_triplets(QUORIN_MATRICES_DIR "/cxsparse/young1c", 0), 13);
-  Host<Complex> host(A);
-  ASSERT_EQ(host.call(12), 0);
-  EXPECT_EQ(host.cell(14), 0);
-  const auto values = host.a;
-  host.a.assign(1, Complex(std::nan("")));
-  for (const int operation : {0, 1, 2}) {
-    host.cell(12) = operation;
-    ASSERT_EQ(host.call(33), 0);
-    EXPECT_GE(host.cell(7), 1);
-    const auto dummy = std::exchange(host.a, values);
-    EXPECT_LT(backward_error(A, host, host.b, host.x, operation), 1e-15);
-    host.a = dummy;
-  }
 }
 
 }  // namespace

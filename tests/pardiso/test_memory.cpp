@@ -105,5 +105,40 @@ TEST(WithoutMemory, EveryPhaseSaysSo) {
   expect_no_memory(host, unsorted, 0, 13, defaults);
 }
 
+// iparm(15), (16), (17) beside what the allocator is asked for, of orderings on graphs with few and with many edges.
+// The buffers of the kernels are not counted: they are the library's, and there from the first call on.
+TEST(Memory, IsWhatTheAnalysisSays) {
+  const quorin::test::FailingHost host;
+  const auto dominant = [](quorin::test::SparseMatrix S) {
+    for (auto& entry : S.entries) entry.value = entry.row == entry.column ? 30.0 : -1.0;
+    S.mirror();
+    return S;
+  };
+  for (const auto& S : {dominant(quorin::test::grid(60, 60, 1)), dominant(quorin::test::grid(14, 14, 14, true))}) {
+    for (const int mtype : {2, -2, 11, 1}) {
+      for (const int ordering : {0, 2}) {
+        SCOPED_TRACE(testing::Message() << "n " << S.rows << ", mtype " << mtype << ", iparm(2) = " << ordering);
+        const Matrix A = matrix_of(S, mtype);
+        Steps steps(host, A);
+        steps.iparm[1] = ordering;
+        EXPECT_EQ(steps.call(13), 0);
+        EXPECT_EQ(steps.call(-1), 0);
+        const auto run = [&](int phase) { return host.measure([&] { EXPECT_EQ(steps.call(phase), 0); }); };
+        const auto analysis = run(11), factorization = run(22), solution = run(33);
+        const double numeric = std::max(factorization.most, factorization.kept + solution.most);
+        const auto expect_cell = [&](std::size_t number, double bytes, double least, double most) {
+          const double said = 1024.0 * steps.iparm[number - 1];
+          EXPECT_GE(said, least * bytes) << "iparm(" << number << ")";
+          EXPECT_LE(said, most * bytes + 1024) << "iparm(" << number << ")";
+        };
+        expect_cell(15, analysis.most, 0.85, 1.3);
+        expect_cell(16, analysis.kept, 0.95, 1.05);
+        expect_cell(17, numeric, 0.9, 1.3);
+        EXPECT_EQ(steps.call(-1), 0);
+      }
+    }
+  }
+}
+
 }  // namespace
 }  // namespace pardiso_test

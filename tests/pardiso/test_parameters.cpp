@@ -3,6 +3,8 @@
 
 #include "tests/pardiso/systems.hpp"
 #include "tests/support/capture_output.hpp"
+#include "tests/support/environment.hpp"
+#include "tests/support/temporary_folder.hpp"
 
 namespace pardiso_test {
 namespace {
@@ -212,6 +214,53 @@ TEST(Refinement, OnlyWhereItWasAskedFor) {
   }
 }
 
+// Entries of the factors grow, though no pivot is small: a handle refines by what it knows of A, whatever became of the
+// host's, with factors in files or in memory, by way of a Schur complement, and for parts of solutions.
+TEST(Refinement, NeedsNoValuesOfTheHost) {
+  const Matrix A = matrix_of(quorin::test::read_triplets(QUORIN_MATRICES_DIR "/cxsparse/young1c", 0), 13);
+  const quorin::test::TemporaryFolder folder;
+  quorin::test::set_environment("MKL_PARDISO_OOC_PATH", folder.file("factor").c_str());
+  for (const auto& [cell, value] :
+       {std::pair(60, 0), std::pair(60, 2), std::pair(36, 2), std::pair(31, 1), std::pair(31, 2), std::pair(31, 3)}) {
+    SCOPED_TRACE(testing::Message() << "iparm(" << cell << ") = " << value);
+    Host<Complex> host(A);
+    host.cell(static_cast<std::size_t>(cell)) = value;
+    for (const std::size_t i : {40, 41, 300}) host.perm[i] = 1;
+    const auto flags = host.perm;
+    ASSERT_EQ(host.call(12), 0);
+    EXPECT_EQ(host.cell(14), 0);
+    const auto values = host.a;
+    host.a.assign(1, Complex(std::nan("")));
+    const bool gives_all = cell != 31 || value == 3, wants_all = cell != 31 || value == 2;
+    for (const int operation : {0, 1, 2}) {
+      host.cell(12) = operation;
+      for (std::size_t i = 0; i < host.b.size(); ++i) {
+        host.b[i] = gives_all || flags[i] == 1 ? std::sin(1.0 + static_cast<double>(i)) : value == 1 ? 99.0 : 0.0;
+      }
+      host.x.assign(host.x.size(), -7.0);
+      ASSERT_EQ(host.call(33), 0);
+      EXPECT_GE(host.cell(7), 1);
+      Host<Complex> whole(A);
+      whole.cell(12) = operation;
+      whole.cell(8) = -5;
+      for (std::size_t i = 0; i < host.b.size(); ++i) whole.b[i] = gives_all || flags[i] == 1 ? host.b[i] : 0.0;
+      ASSERT_EQ(whole.call(13), 0);
+      double size = 0.0;
+      for (const Complex x : whole.x) size = std::max(size, std::abs(x));
+      for (std::size_t i = 0; i < host.x.size(); ++i) {
+        const bool is_wanted = wants_all || flags[i] == 1;
+        ASSERT_LE(std::abs(host.x[i] - (is_wanted ? whole.x[i] : -7.0)), is_wanted ? 1e-11 * size : 0.0) << i;
+      }
+      if (wants_all) {
+        const auto dummy = std::exchange(host.a, values);
+        EXPECT_LT(backward_error(A, host, whole.b, host.x, operation, Measure::kRows), 2e-16);
+        host.a = dummy;
+      }
+    }
+  }
+  quorin::test::set_environment("MKL_PARDISO_OOC_PATH", nullptr);
+}
+
 // iparm(8) < 0: an ill-conditioned system, of whose solution ordinary residuals leave only a few digits.
 TEST(Refinement, WithResidualsOfTwiceThePrecision) {
   const int n = 12;
@@ -225,17 +274,23 @@ TEST(Refinement, WithResidualsOfTwiceThePrecision) {
     }
     A.ia.push_back(static_cast<int>(A.ja.size()) + 1);
   }
-  Host<float> host(A);
-  host.cell(8) = -10;
-  // b = A (1, -1, 1, ...) exactly, as floats hold these sums of few powers of two.
-  for (std::size_t i = 0; i < n; ++i) {
-    double sum = 0.0;
-    for (std::size_t j = 0; j < n; ++j) sum += (j % 2 == 0 ? 1.0 : -1.0) * static_cast<double>(host.a[i * n + j]);
-    host.b[i] = static_cast<float>(sum);
-  }
-  ASSERT_EQ(host.call(13), 0);
-  EXPECT_GE(host.cell(7), 1);
-  EXPECT_LT(backward_error(A, host, host.b, host.x), 1e-7);
+  const auto error_with = [&A](int limit) {
+    Host<float> host(A);
+    host.cell(8) = limit;
+    // b = A (1, -1, 1, ...) exactly, as floats hold these sums of few powers of two.
+    for (std::size_t i = 0; i < n; ++i) {
+      double sum = 0.0;
+      for (std::size_t j = 0; j < n; ++j) sum += (j % 2 == 0 ? 1.0 : -1.0) * static_cast<double>(host.a[i * n + j]);
+      host.b[i] = static_cast<float>(sum);
+    }
+    EXPECT_EQ(host.call(13), 0);
+    EXPECT_LT(backward_error(A, host, host.b, host.x), 1e-7);
+    double error = 0.0;
+    for (std::size_t i = 0; i < n; ++i) error = std::max(error, std::abs(host.x[i] - (i % 2 == 0 ? 1.0 : -1.0)));
+    return error;
+  };
+  EXPECT_LT(error_with(-10), 2e-7);
+  EXPECT_GT(error_with(10), 1e-6);
 }
 
 // iparm(11), (13): without a matching, zeros on the diagonal stand in the way of pivots.
@@ -254,6 +309,39 @@ TEST(Parameters, MatchingAndScaling) {
   ASSERT_EQ(scaled.call(12), 0);  // with so many perturbed pivots that refinement may diverge
   EXPECT_GT(plain.cell(14), 0);
   EXPECT_GT(scaled.cell(14), 0);
+}
+
+// iparm(11): the diagonal of U tells that entries were scaled; of symmetric kinds only together with iparm(13).
+TEST(Parameters, ScalingShowsInTheFactors) {
+  const auto first_pivot = [](int mtype, int scaling, int matching) {
+    Host<double> host(Matrix{mtype, {1, 3, 4 + (mtype == 11 ? 1 : 0)}, {1, 2, 1, 2}, {400, 1, 1, 500}});
+    if (mtype != 11) host.ja[2] = 2, host.a[2] = 500;
+    host.cell(11) = scaling;
+    host.cell(13) = matching;
+    host.cell(56) = 1;
+    EXPECT_EQ(host.call(12), 0);
+    std::array<double, 2> df{};
+    std::int32_t error = 7;
+    pardiso_getdiag(host.pt.data(), df.data(), nullptr, &host.mnum, &error);
+    EXPECT_EQ(error, 0);
+    return std::abs(df[0]);
+  };
+  for (const int mtype : {11, -2}) {
+    EXPECT_NEAR(first_pivot(mtype, 1, 1), 1.0, 1e-12) << mtype;
+    EXPECT_GE(first_pivot(mtype, 0, 1), 400.0) << mtype;
+  }
+  EXPECT_NEAR(first_pivot(11, 1, 0), 1.0, 0.5);
+  EXPECT_GE(first_pivot(-2, 1, 0), 400.0);
+}
+
+// iparm(21): without pivots of order 2 zeros on the diagonal are perturbed.
+TEST(Parameters, PivotsOfOrderTwo) {
+  Host<double> host(Matrix{-2, {1, 3, 4}, {1, 2, 2}, {0, 1, 0}});
+  for (const auto& [pivoting, perturbed] : {std::pair(0, 2), std::pair(1, 0), std::pair(2, 2), std::pair(3, 0)}) {
+    host.cell(21) = pivoting;
+    ASSERT_EQ(host.call(12), 0);
+    EXPECT_EQ(host.cell(14) > 0, perturbed > 0) << pivoting;
+  }
 }
 
 TEST(Parameters, MatchingOfSaddlePoints) {
@@ -349,11 +437,13 @@ TEST(Parameters, ExactPreconditionersNeedOneStep) {
     Host<std::complex<double>> host(complex5());
     host.cell(12) = operation;
     ASSERT_EQ(host.call(13), 0);
-    host.cell(4) = 101;
-    ASSERT_EQ(host.call(33), 0);
-    EXPECT_GE(host.cell(20), 1);
-    EXPECT_LE(host.cell(20), 2);
-    EXPECT_LT(backward_error(complex5(), host, host.b, host.x, operation), 1e-12);
+    for (const int digits : {10, 0}) {
+      host.cell(4) = 10 * digits + 1;
+      ASSERT_EQ(host.call(33), 0);
+      EXPECT_GE(host.cell(20), 1);
+      EXPECT_LE(host.cell(20), 2);
+      EXPECT_LT(backward_error(complex5(), host, host.b, host.x, operation), 1e-12);
+    }
   }
 }
 
@@ -419,9 +509,10 @@ TEST(Parameters, StatisticsOnRequest) {
   EXPECT_EQ(quorin::test::captured([&] { EXPECT_EQ(host.call(33), -1); }), "");
   host.cell(12) = 0;
   host.msglvl = 1;
+  host.cell(8) = 1;
   const std::string text = quorin::test::captured([&] { EXPECT_EQ(host.call(13), 0); });
-  for (const char* what : {"analysis", "factorization", "solution", "symmetric indefinite", "mtype -2", "18 (",
-                           "5 positive, 3 negative", "nested dissection", "total", "perturbed"}) {
+  for (const char* what : {"backward error", "analysis", "factorization", "solution", "symmetric indefinite",
+                           "mtype -2", "18 (", "5 positive, 3 negative", "nested dissection", "total", "perturbed"}) {
     EXPECT_NE(text.find(what), std::string::npos) << what << " is not in:\n" << text;
   }
   host.nrhs = 0;

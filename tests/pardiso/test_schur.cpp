@@ -163,8 +163,10 @@ TEST(SchurComplement, OfNoEquationIsNone) {
 
 class PartialSolution : public testing::Test {
  protected:
-  void expect_partial(const Matrix& A, int mode, int operation) {
-    SCOPED_TRACE(testing::Message() << "mtype " << A.mtype << ", iparm(31) = " << mode << ", (12) = " << operation);
+  // `perturbs`: equation 10 stands alone, with a pivot that is replaced by a larger one.
+  static void expect_partial(const Matrix& A, int mode, int operation, bool perturbs = false) {
+    SCOPED_TRACE(testing::Message() << "mtype " << A.mtype << ", iparm(31) = " << mode << ", (12) = " << operation
+                                    << (perturbs ? ", perturbed" : ""));
     const auto n = static_cast<std::size_t>(A.n());
     Host<double> whole(A), part(A);
     std::vector<std::int32_t> flags(n);
@@ -182,6 +184,20 @@ class PartialSolution : public testing::Test {
     }
     part.perm = flags;
     part.cell(31) = mode;
+    if (perturbs) {
+      for (Host<double>* host : {&whole, &part}) {
+        host->cell(10) = 2;
+        std::vector<double> sums(n);
+        host->for_each_entry([&](int i, int j, std::size_t k) {
+          if ((i == 10) != (j == 10)) host->a[k] = 0.0;
+          sums[static_cast<std::size_t>(i)] += std::abs(host->a[k]);
+        });
+        const double norm = *std::max_element(sums.begin(), sums.end());
+        host->for_each_entry([&](int i, int j, std::size_t k) {
+          if (i == 10 && j == 10) host->a[k] = 0.009 * norm;
+        });
+      }
+    }
     ASSERT_EQ(whole.call(13), 0);
     ASSERT_EQ(part.call(11), 0);
     // The order of elimination, flagged equations last.
@@ -191,6 +207,10 @@ class PartialSolution : public testing::Test {
     std::sort(order.begin(), order.end());
     for (std::size_t i = 0; i < n; ++i) EXPECT_EQ(order[i], static_cast<std::int32_t>(i + 1));
     ASSERT_EQ(part.call(23), 0);
+    for (Host<double>* host : {&whole, &part}) {
+      EXPECT_EQ(host->cell(14), perturbs ? 1 : 0);
+      EXPECT_EQ(host->cell(7), perturbs ? 2 : 0);
+    }
     for (std::size_t i = 0; i < n; ++i) {
       if (mode == 2 || flags[i] == 1) {
         EXPECT_NEAR(part.x[i], whole.x[i], 1e-12) << i;
@@ -205,7 +225,9 @@ TEST_F(PartialSolution, EqualsTheWholeOne) {
   const auto grid = quorin::test::convection_diffusion(8, 10.0);
   for (const int mode : {1, 2, 3}) {
     for (const int mtype : {11, 1}) {
-      for (const int operation : {0, 2}) expect_partial(matrix_of(grid, mtype), mode, operation);
+      for (const int operation : {0, 2}) {
+        for (const bool perturbs : {false, true}) expect_partial(matrix_of(grid, mtype), mode, operation, perturbs);
+      }
     }
     std::mt19937 random(7);
     const auto definite = quorin::test::random_dominant(60, 0.05, 1.0, true, random);

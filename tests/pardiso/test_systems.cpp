@@ -95,6 +95,27 @@ TEST(Systems, ByIndexForms) {
   solve_by_index_form<std::complex<double>>("complex unsymmetric 5", sPARDISO_64fc_Idx);
 }
 
+// Which Hermitian matrices do not have.
+TEST(Systems, IgnoreImaginaryPartsOfHermitianDiagonals) {
+  for (const System& system : systems()) {
+    if (!is_hermitian(system.matrix.mtype)) continue;
+    SCOPED_TRACE(system.name);
+    Host<Complex> host(system.matrix);
+    host.for_each_entry([&](int i, int j, std::size_t k) {
+      if (i == j) host.a[k] += Complex(0.0, 3.0 + i);
+    });
+    set_right_hand_side(host, system.cases[0].b);
+    for (const int limit : {0, 3, -3}) {
+      host.cell(8) = limit;
+      ASSERT_EQ(host.call(13), 0);
+      EXPECT_LT(distance(host.column(host.x, 0), system.cases[0].x), 1e-13);
+    }
+    host.cell(4) = host.mtype == 4 ? 102 : 101;
+    ASSERT_EQ(host.call(33), 0);
+    EXPECT_LT(distance(host.column(host.x, 0), system.cases[0].x), 1e-9);
+  }
+}
+
 // All nine kinds, one handle each, alive at the same time.
 TEST(Systems, SideBySide) {
   const auto all = systems();

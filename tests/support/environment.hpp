@@ -1,10 +1,7 @@
 // Variables of the environment, for this process and those that it starts; and a second process that finds one.
 #pragma once
 
-#include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <string>
+#include "tests/support/test.hpp"
 
 namespace quorin::test {
 

@@ -18,6 +18,18 @@ class FailingHost {
   // Blocks that the library holds.
   int live_blocks() const { return state().live; }
 
+  // How many bytes the action takes, at most at a time and in the end.
+  struct Bytes {
+    double most, kept;
+  };
+  template <class Action>
+  Bytes measure(const Action& action) const {
+    const std::size_t before = state().bytes;
+    state().most_bytes = before;
+    action();
+    return {static_cast<double>(state().most_bytes - before), static_cast<double>(state().bytes - before)};
+  }
+
   // Runs the action while its k-th allocation, from 1 on, and the `failures` - 1 after it fail. False when it did not
   // ask for so many.
   template <class Action>

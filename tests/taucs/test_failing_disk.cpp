@@ -1,16 +1,11 @@
 // Disks that are full or break while factors go to files and come from there: whatever operation fails, the driver says
 // so, the factor object can be used or released, and no set of files is left that looks whole and is not.
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cmath>
 #include <filesystem>
-#include <string>
-#include <vector>
 
 #include "families/taucs/solvers/linsolve.hpp"
 #include "families/taucs/solvers/out_of_core.hpp"
 #include "tests/sparse/files.hpp"
+#include "tests/support/test.hpp"
 
 namespace quorin::taucs {
 namespace {
