@@ -142,8 +142,8 @@ TEST(HandleTable, EachOfAThousandHandlesFindsItsOwn) {
 TEST(HandleTable, WhatIsNoHandleFindsNothing) {
   HandleTable<Numbered> table;
   void* const handle = table.create(1);
-  const auto near = reinterpret_cast<std::uintptr_t>(handle);
-  for (const std::uintptr_t wrong : {std::uintptr_t{0}, near - 1, near + 1, near - 128, near + 128, ~std::uintptr_t{0},
+  const auto word = reinterpret_cast<std::uintptr_t>(handle);
+  for (const std::uintptr_t wrong : {std::uintptr_t{0}, word - 1, word + 1, word - 128, word + 128, ~std::uintptr_t{0},
                                      reinterpret_cast<std::uintptr_t>(&table)}) {
     EXPECT_EQ(table.find(reinterpret_cast<void*>(wrong)), nullptr);
     EXPECT_FALSE(table.erase(reinterpret_cast<void*>(wrong)));
