@@ -5,6 +5,8 @@
 #include <limits>
 #include <random>
 
+#include "base/parallel.hpp"
+
 namespace quorin::feast {
 
 using sparse::Factorization;
@@ -51,6 +53,15 @@ void spread(const sparse::Pattern& lower, int* next, const Put& put) {
   }
 }
 
+// Large and of about as many neighbours everywhere: dissection is hardly ever worse than minimum degree there.
+bool is_mesh(const sparse::Graph& graph) {
+  constexpr int kLarge = 10'000, kTimes = 4;
+  const int n = graph.size();
+  int most = 0;
+  for (int v = 0; v < n; ++v) most = std::max(most, graph.degree(v));
+  return n >= kLarge && most <= kTimes * (graph.directed_edges() / n + 1);
+}
+
 }  // namespace
 
 // ---- Analysis -------------------------------------------------------------------------------------------------------
@@ -70,14 +81,21 @@ template <Scalar T>
 sparse::Outcome DirectSolver<T>::order(const sparse::Graph& graph, OrderingMethod method,
                                        const sparse::Ordering& ordering) {
   using sparse::Outcome;
-  if (method == OrderingMethod::kNestedDissection) return sparse::order_metis(graph, ordering);
-  const Outcome outcome = sparse::order_minimum_degree(graph, ordering);
-  if (outcome != Outcome::kDone || method == OrderingMethod::kMinimumDegree) return outcome;
+  if (method == OrderingMethod::kMinimumDegree) return sparse::order_minimum_degree(graph, ordering);
+  if (method == OrderingMethod::kNestedDissection || is_mesh(graph)) return sparse::order_metis(graph, ordering);
   const int n = graph.size();
   base::Workspace<int> memory(2 * static_cast<std::size_t>(n));
   if (!memory) return Outcome::kOutOfMemory;
   const sparse::Ordering other = {memory.data(), memory.data() + n};
-  if (const Outcome of_other = sparse::order_metis(graph, other); of_other != Outcome::kDone) return of_other;
+  Outcome outcome = Outcome::kDone, of_other = Outcome::kDone;
+  base::parallel_for(2, threads_, [&](int which) {
+    if (which == 0) {
+      outcome = sparse::order_minimum_degree(graph, ordering);
+    } else {
+      of_other = sparse::order_metis(graph, other);
+    }
+  });
+  if (outcome != Outcome::kDone || of_other != Outcome::kDone) return outcome != Outcome::kDone ? outcome : of_other;
   const std::int64_t fill = sparse::factor_entries(graph, ordering), other_fill = sparse::factor_entries(graph, other);
   if (fill < 0 || other_fill < 0) return Outcome::kOutOfMemory;
   if (other_fill < fill) {

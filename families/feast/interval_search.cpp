@@ -64,10 +64,9 @@ OrderingMethod IntervalSearch<Host>::ordering_method() const {
 // The number of eigenvalues below a point at a distance of about `margin` from an end, if it can be trusted at one of
 // several such points.
 template <Scalar Host>
-Status IntervalSearch<Host>::count_beside(double end, double margin, int threads, Count& there,
-                                          bool& is_counted) const {
+Status IntervalSearch<Host>::count_beside(double end, double margin, int threads, sparse::Factor<T>& factor,
+                                          Count& there, bool& is_counted) const {
   is_counted = false;
-  sparse::Factor<T> factor;
   for (const double times : {1.0, 1.375, 0.75, 1.75}) {
     there.where = end + times * margin;
     std::optional<int> below;
@@ -94,13 +93,15 @@ Status IntervalSearch<Host>::count_within(double margin, std::optional<int>& cou
   const auto count_both = [&](int together) {
     base::parallel_for(kEnds, together, [&](int end) {
       const auto place = static_cast<std::size_t>(end);
-      statuses[place] = count_beside(end == 0 ? bounds_.low : bounds_.high, end == 0 ? -margin : margin,
-                                     together == 1 ? threads_ : 1, ends_[place], are_counted[place]);
+      statuses[place] =
+          count_beside(end == 0 ? bounds_.low : bounds_.high, end == 0 ? -margin : margin, together == 1 ? threads_ : 1,
+                       factors_[together == 1 ? 0 : place], ends_[place], are_counted[place]);
     });
     return statuses[0] != Status::kDone ? statuses[0] : statuses[1];
   };
   const int together = kEnds * solver_.real_factor_bytes() <= budget ? std::min(threads_, kEnds) : 1;
   Status status = count_both(together);
+  factors_[1].clear();
   if (status == Status::kNoMemory && together > 1) status = count_both(1);
   count.reset();
   if (status == Status::kDone && are_counted[0] && are_counted[1]) count = std::max(0, ends_[1].below - ends_[0].below);
@@ -166,7 +167,7 @@ Status IntervalSearch<Host>::start(std::optional<Tally>& found) {
   const double tolerance = std::pow(10.0, -arguments_.parameter(kFpmTolerance));
   for (const double part : kParts) {
     Slices<T> slices(pencil_, solver_, part * tolerance_of_runs(), threads_);
-    const Status status = slices.run(ends_[0], ends_[1], X_);
+    const Status status = slices.run(ends_[0], ends_[1], factors_[0], X_);
     found.reset();
     if (status == Status::kNoMemory || X_.size() == 0) return Status::kDone;
     if (status != Status::kDone) return status;
@@ -209,6 +210,7 @@ Status IntervalSearch<Host>::load_subspace() {
     if (const Status status = count_passing(passing); status != Status::kDone) return status;
     size = working_size(passing);
   }
+  factors_[0].clear();
   Subspace<T> found = std::move(X_);
   X_ = {};
   contour_ = Contour(bounds_, arguments_.parameter(kFpmNodes));

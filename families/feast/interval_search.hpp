@@ -54,7 +54,8 @@ class IntervalSearch {
   Status prepare();
   Status take_census();
   Status count_within(double margin, std::optional<int>& count);
-  Status count_beside(double end, double margin, int threads, Count& there, bool& is_counted) const;
+  Status count_beside(double end, double margin, int threads, sparse::Factor<T>& factor, Count& there,
+                      bool& is_counted) const;
   Status count_passing(int& passing);
   OrderingMethod ordering_method() const;
   void randomize(int first);
@@ -97,7 +98,8 @@ class IntervalSearch {
   Interval bounds_{};  // the part of the interval in which the spectrum lies
   Contour contour_;
   Census census_{};
-  std::array<Count, 2> ends_;  // where eigenvalues were counted last
+  std::array<Count, 2> ends_;                 // where eigenvalues were counted last
+  std::array<sparse::Factor<T>, 2> factors_;  // whose memory the next count, or run, may use
   base::Workspace<Pair> pairs_;
   base::Workspace<int> order_;
 

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <complex>
 
+#include "base/parallel.hpp"
 #include "dense/dense.hpp"
 
 namespace quorin::feast {
@@ -14,6 +15,8 @@ constexpr double kDependent = 1e-11;
 // The Cholesky factor of a Gram matrix with a pivot so small, relative to its diagonal, would not make columns
 // orthogonal to half of the digits.
 constexpr double kSmallPivot = 1e-8;
+// With pivots from here on it makes them orthogonal to nearly all digits.
+constexpr double kGoodPivot = 1e-3;
 
 template <Scalar T>
 T dot(int n, const T* x, const T* y) {
@@ -27,9 +30,11 @@ void subtract_multiple(int n, T factor, const T* x, T* y) {
   for (int i = 0; i < n; ++i) y[i] -= product(factor, x[i]);
 }
 
-// Cholesky: the upper triangle of R with R^H R = gram, in place; false where a pivot is small.
+// Cholesky: the upper triangle of R with R^H R = gram, in place. The least pivot, relative to its diagonal element; 0
+// where one is too small.
 template <Scalar T>
-bool factor_upper(int width, T* gram, int ld) {
+double factor_upper(int width, T* gram, int ld) {
+  double least = 1;
   const auto g = [&](int i, int j) -> T& { return gram[i + static_cast<std::ptrdiff_t>(j) * ld]; };
   for (int j = 0; j < width; ++j) {
     const double square = real_part(g(j, j));
@@ -39,52 +44,66 @@ bool factor_upper(int width, T* gram, int ld) {
     }
     double pivot = square;
     for (int k = 0; k < j; ++k) pivot -= std::norm(g(k, j));
-    if (!(pivot > kSmallPivot * square)) return false;
+    if (!(pivot > kSmallPivot * square)) return 0;
+    least = std::min(least, pivot / square);
     g(j, j) = std::sqrt(pivot);
     std::fill(&g(j, j) + 1, &g(0, j) + width, T{});
   }
-  return true;
+  return least;
 }
 
 }  // namespace
 
 template <Scalar T>
-bool Lanczos<T>::reserve(int n, int capacity) {
+bool Lanczos<T>::reserve(int n, int capacity, int threads) {
   n_ = n;
   capacity_ = capacity;
+  threads_ = threads;
   const auto length = static_cast<std::size_t>(n), k = static_cast<std::size_t>(capacity);
   constexpr std::size_t kWidth = kBlock;
   V_ = base::Workspace<T>(base::saturating_product(length, k + kWidth));
   Y_ = base::Workspace<T>(base::saturating_product(length, kWidth));
+  Z_ = base::Workspace<T>(base::saturating_product(length, kWidth));
   projected_ = base::Workspace<T>(base::saturating_product(k, k));
   S_ = base::Workspace<T>(base::saturating_product(k, k));
-  coupling_ = base::Workspace<T>(kWidth * kWidth);
+  coupling_ = base::Workspace<T>(kWidth * (k + kWidth));
   coefficients_ = base::Workspace<T>(base::saturating_product(k + kWidth, kWidth));
+  rows_ = base::Workspace<T>(base::saturating_product(static_cast<std::size_t>(threads) * kRows, k));
   theta_ = base::Workspace<double>(k);
   residuals_ = base::Workspace<double>(k);
   lengths_ = base::Workspace<double>(kWidth);
-  return V_ && Y_ && projected_ && S_ && coupling_ && coefficients_ && theta_ && residuals_ && lengths_ &&
-         eigensolver_.reserve(capacity);
+  return V_ && Y_ && Z_ && projected_ && S_ && coupling_ && coefficients_ && rows_ && theta_ && residuals_ &&
+         lengths_ && eigensolver_.reserve(capacity);
 }
 
 template <Scalar T>
-Status Lanczos<T>::run(const Pencil<T>& pencil, const sparse::Factor<T>& factor, const Goal& goal, int threads) {
+Status Lanczos<T>::run(const Pencil<T>& pencil, const sparse::Factor<T>& factor, const Goal& goal) {
+  constexpr int kPatience = 2;  // restarts without another pair
   pencil_ = &pencil;
   factor_ = &factor;
   goal_ = goal;
-  threads_ = threads;
-  size_ = width_ = 0;
+  size_ = 0;
+  converged_ = {};
   random_.seed(std::mt19937_64::default_seed);
   std::fill_n(projected_.data(), projected_.size(), T{});
-  Status status = start();
-  for (int check = 2 * kBlock; status == Status::kDone;) {
+  Status status = begin();
+  for (int check = 2 * kBlock, found = 0, idle = 0; status == Status::kDone;) {
     status = expand();
     if (status != Status::kDone) break;
     const bool is_full = next_ == 0 || size_ + next_ > capacity_;
     if (size_ < check && !is_full) continue;
     if (!examine()) return Status::kReducedFailed;
-    if (is_full || (is_reached(Side::kBelow, goal_.below) && is_reached(Side::kAbove, goal_.above))) break;
-    check = size_ + size_ / 8;
+    const bool is_reached = this->is_reached(Side::kBelow, goal_.below) && this->is_reached(Side::kAbove, goal_.above);
+    if (next_ == 0 || (is_reached && !lacks(Side::kBelow, goal_.below) && !lacks(Side::kAbove, goal_.above))) break;
+    if (is_reached || is_full) {
+      const int now = converged(Side::kBelow) + converged(Side::kAbove);
+      idle = now > found ? 0 : idle + 1;
+      found = now;
+      if (idle == kPatience || !contract(is_reached)) break;
+      if (is_reached) status = begin();
+    }
+    // Of the small matrix, which takes longer with each look, as of the long vectors.
+    check = size_ + std::clamp(static_cast<int>(5.0 * size_ * size_ / n_), kBlock, std::max(kBlock, size_ / 8));
   }
   return status;
 }
@@ -110,7 +129,7 @@ void Lanczos<T>::randomize(T* x) {
 template <Scalar T>
 const T* Lanczos<T>::times_b(const T* W, int width) {
   if (pencil_->is_standard()) return W;
-  pencil_->multiply_by_b(width, W, Y_.data());
+  base::parallel_for(width, threads_, [&](int j) { pencil_->multiply_by_b(1, W + offset(j), Y_.data() + offset(j)); });
   return Y_.data();
 }
 
@@ -118,27 +137,80 @@ const T* Lanczos<T>::times_b(const T* W, int width) {
 template <Scalar T>
 Status Lanczos<T>::apply(const T* from, int count, T* to) {
   const int* const permutation = factor_->plan().permutation();
+  T* const z = Z_.data();
   const T* const y = times_b(from, count);
-  T* const z = to == y ? Y_.data() : to;
-  for (int j = 0; j < count; ++j) sparse::permute(n_, permutation, y + offset(j), z + offset(j));
+  base::parallel_for(count, threads_, [&](int j) { sparse::permute(n_, permutation, y + offset(j), z + offset(j)); });
   const auto outcome = sparse::solve(*factor_, sparse::Operation::kPlain, sparse::Stage::kAll, count, z, n_, threads_);
   if (outcome != sparse::FactorOutcome::kDone) return status_of(outcome);
-  T* const scratch = z == to ? Y_.data() : z;
-  if (z == to) std::copy_n(z, offset(count), scratch);
-  for (int j = 0; j < count; ++j) sparse::permute_back(n_, permutation, scratch + offset(j), to + offset(j));
+  base::parallel_for(count, threads_,
+                     [&](int j) { sparse::permute_back(n_, permutation, z + offset(j), to + offset(j)); });
   return Status::kDone;
 }
 
-// The first block: M times random vectors.
+// Another first block, not coupled with what is there: M times random vectors.
 template <Scalar T>
-Status Lanczos<T>::start() {
-  next_ = std::min(kBlock, n_);
-  for (int j = 0; j < next_; ++j) randomize(column(j));
-  const Status status = apply(column(0), next_, column(0));
+Status Lanczos<T>::begin() {
+  width_ = 0;
+  next_ = std::min(kBlock, n_ - size_);
+  T* const W = column(size_);
+  for (int j = 0; j < next_; ++j) randomize(W + offset(j));
+  if (size_ > 0) project_out(0, size_, W, times_b(W, next_), next_);
+  const Status status = apply(W, next_, W);
   if (status != Status::kDone) return status;
-  measure(column(0), next_);
-  for (int pass = 0; pass < 2; ++pass) next_ = orthonormalize(column(0), next_, next_, coupling_.data());
+  measure(W, times_b(W, next_), next_);
+  bool is_good = false;
+  for (int pass = 0; pass < 2; ++pass) {
+    if (size_ > 0) project_out(0, size_, W, times_b(W, next_), next_);
+    next_ = orthonormalize(W, next_, next_, coupling_.data(), is_good);
+  }
   return next_ > 0 ? Status::kDone : Status::kReducedFailed;
+}
+
+// The pairs that matter most take the place of the basis, and leave room for more. What of M times them lies outside of
+// their space is in the direction of the next block still (K. Wu, H. Simon, Thick-restart Lanczos method for large
+// symmetric eigenvalue problems, SIAM J. Matrix Anal. Appl. 22 (2000) 602). Of converged pairs that is nothing. False
+// if there is no room.
+template <Scalar T>
+bool Lanczos<T>::contract(bool keeps_converged_only) {
+  constexpr int kLeastRoom = 4 * kBlock;
+  const int found = converged(Side::kBelow) + converged(Side::kAbove), spare = std::max(0, capacity_ - found) / 3;
+  int below = converged(Side::kBelow), above = converged(Side::kAbove);
+  for (int k = found; !keeps_converged_only && k < found + spare && below + above < size_; ++k) {
+    const double next_below = theta_[place(Side::kBelow, below)], next_above = theta_[place(Side::kAbove, above)];
+    ++(std::fabs(next_below) > std::fabs(next_above) ? below : above);
+  }
+  const int kept = below + above, carried = keeps_converged_only ? 0 : next_;
+  if (kept + carried > size_ || kept + kLeastRoom > capacity_) return false;
+  T *const S = S_.data(), *const coupling = coefficients_.data();
+  for (int j = 0; j < kept; ++j) {
+    const int k = j < below ? j : size_ - kept + j;
+    for (int i = 0; i < carried; ++i) coupling[i + j * kBlock] = next_component(i, static_cast<std::size_t>(k));
+    if (k != j) std::copy_n(S + std::ptrdiff_t{k} * size_, size_, S + std::ptrdiff_t{j} * size_);
+    theta_.data()[j] = theta_.data()[k];
+  }
+  combine(S, kept);
+  for (int j = 0; j < carried; ++j) std::copy_n(column(size_ + j), n_, column(kept + j));
+  std::copy_n(coupling, kept * kBlock, coupling_.data());
+  std::fill_n(projected_.data(), projected_.size(), T{});
+  for (int j = 0; j < kept; ++j) projected(j, j) = theta_.data()[j];
+  size_ = width_ = kept;
+  return true;
+}
+
+// V <- V C, where C has `count` columns, some rows of V after the other.
+template <Scalar T>
+void Lanczos<T>::combine(const T* C, int count) {
+  const int parts = (n_ + kRows - 1) / kRows, together = std::min(threads_, parts);
+  base::parallel_for(together, together, [&](int thread) {
+    T* const product = rows_.data() + static_cast<std::ptrdiff_t>(thread) * kRows * capacity_;
+    for (int part = thread; part < parts; part += together) {
+      const int first = part * kRows, rows = std::min(kRows, n_ - first);
+      T* const V = V_.data() + first;
+      dense::blocked::gemm('N', 'N', rows, count, size_, T{1}, V, n_, C, size_, T{}, product, kRows);
+      for (int j = 0; j < count; ++j)
+        std::copy_n(product + static_cast<std::ptrdiff_t>(j) * kRows, rows, V + offset(j));
+    }
+  });
 }
 
 // M times the latest block, without what lies in the space of that and the one before, gives the next; what rounding
@@ -152,8 +224,9 @@ Status Lanczos<T>::expand() {
   T* const W = column(first + count);
   const Status status = apply(column(first), count, W);
   if (status != Status::kDone) return status;
-  measure(W, count);
-  project_out(first - before, before + count, W, count);
+  const T* const bw = times_b(W, count);
+  measure(W, bw, count);
+  project_out(first - before, before + count, W, bw, count);
   for (int j = 0; j < count; ++j) {
     for (int i = j; i < count; ++i) {
       projected(first + i, first + j) = coefficients_.data()[j * (before + count) + before + i];
@@ -161,44 +234,45 @@ Status Lanczos<T>::expand() {
   }
   size_ += count;
   width_ = count;
-  next_ = orthonormalize(W, count, std::min(kBlock, n_ - size_), coupling_.data());
+  bool is_good = false;
+  next_ = orthonormalize(W, count, std::min(kBlock, n_ - size_), coupling_.data(), is_good);
   if (next_ == 0) return status;
+  project_out(0, size_, W, times_b(W, next_), next_);
   T ignored[kBlock * kBlock];  // nearly I
-  project_out(0, size_, W, next_);
-  next_ = orthonormalize(W, next_, next_, ignored);
+  if (!is_good) next_ = orthonormalize(W, next_, next_, ignored, is_good);
   return status;
 }
 
 // The columns' lengths in the norm of B.
 template <Scalar T>
-void Lanczos<T>::measure(const T* W, int width) {
-  const T* const bw = times_b(W, width);
-  for (int j = 0; j < width; ++j) {
+void Lanczos<T>::measure(const T* W, const T* bw, int width) {
+  base::parallel_for(width, threads_, [&](int j) {
     lengths_.data()[j] = std::sqrt(std::max(0.0, real_part(dot(n_, W + offset(j), bw + offset(j)))));
-  }
+  });
 }
 
 // W <- W - V V^H B W for columns first, ..., first + count - 1 of V. The coefficients are kept, count x width.
 template <Scalar T>
-void Lanczos<T>::project_out(int first, int count, T* W, int width) {
+void Lanczos<T>::project_out(int first, int count, T* W, const T* bw, int width) {
   T* const C = coefficients_.data();
-  dense::blocked::gemm('C', 'N', count, width, n_, T{1}, column(first), n_, times_b(W, width), n_, T{}, C, count,
-                       threads_);
+  dense::blocked::gemm('C', 'N', count, width, n_, T{1}, column(first), n_, bw, n_, T{}, C, count, threads_);
   dense::blocked::gemm('N', 'N', n_, width, count, T{-1}, column(first), n_, C, count, T{1}, W, n_, threads_);
 }
 
 // W, behind the basis, becomes orthonormal in the inner product of B, `wanted` columns or fewer: W = W' R, of which the
 // leading dimension is kBlock. Returns how many. Columns that are short by what lengths_ say are dependent; lengths_
-// become 1.
+// become 1. If it is good, W has all its digits, and will not gain by being orthonormalized again.
 template <Scalar T>
-int Lanczos<T>::orthonormalize(T* W, int width, int wanted, T* R) {
+int Lanczos<T>::orthonormalize(T* W, int width, int wanted, T* R, bool& is_good) {
   dense::blocked::gemm('C', 'N', width, width, n_, T{1}, W, n_, times_b(W, width), n_, T{}, R, kBlock, threads_);
   bool is_independent = width == wanted;
   for (int j = 0; j < width; ++j) {
     const double least = kDependent * lengths_.data()[j];
     is_independent = is_independent && real_part(R[j * (kBlock + 1)]) > least * least;
   }
-  if (is_independent && factor_upper(width, R, kBlock)) {
+  const double pivot = is_independent ? factor_upper(width, R, kBlock) : 0;
+  is_good = pivot >= kGoodPivot;
+  if (pivot > 0) {
     dense::blocked::trsm('R', 'U', 'N', 'N', n_, width, T{1}, R, kBlock, W, n_, threads_);
   } else {
     width = mend(W, width, wanted, R);
@@ -242,7 +316,7 @@ int Lanczos<T>::mend(T* W, int width, int wanted, T* R) {
     T* const w = W + offset(count);
     randomize(w);
     for (int pass = 0; pass < 2; ++pass) {
-      if (size_ > 0) project_out(0, size_, w, 1);
+      if (size_ > 0) project_out(0, size_, w, times_b(w, 1), 1);
       project_column_out(w, factors);
     }
     if (normalize(w, kExhausted / std::sqrt(n_)) == 0) break;
@@ -292,6 +366,14 @@ bool Lanczos<T>::is_reached(Side side, const Wanted& wanted) const {
   if (wanted.reach <= 0 || count >= wanted.count || next_ == 0) return true;
   return is_on(side, count) && std::fabs(value(side, count) - goal_.shift) > wanted.reach &&
          residuals_[place(side, count)] <= kLoosely * goal_.tolerance;
+}
+
+// Whether there are more eigenvalues than pairs, though what is beyond them is there.
+template <Scalar T>
+bool Lanczos<T>::lacks(Side side, const Wanted& wanted) const {
+  const int count = converged(side);
+  return wanted.reach > 0 && count < wanted.count &&
+         (!is_on(side, count) || std::fabs(value(side, count) - goal_.shift) > wanted.within);
 }
 
 template <Scalar T>

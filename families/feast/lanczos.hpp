@@ -29,12 +29,14 @@ template <Scalar T>
 class Lanczos {
  public:
   // Vectors that are solved for together.
-  static constexpr int kBlock = 16;
+  static constexpr int kBlock = 8;
 
-  // What is wanted on a side of the shift: all that is no farther away than `reach`, which are at most `count`.
+  // What is wanted on a side of the shift: all that is no farther away than `reach`. There are `count` eigenvalues no
+  // farther away than `within`.
   struct Wanted {
     double reach = 0;
     int count = 0;
+    double within = 0;
   };
   struct Goal {
     double shift;
@@ -42,12 +44,13 @@ class Lanczos {
     Wanted below, above;
   };
 
-  // Work space for `capacity` basis vectors of length n, capacity <= n; false without memory.
-  [[nodiscard]] bool reserve(int n, int capacity);
+  // Work space for `capacity` basis vectors of length n, capacity <= n, and for `threads` threads; false without
+  // memory.
+  [[nodiscard]] bool reserve(int n, int capacity, int threads);
 
-  // Ends when all that is wanted has converged, or there is no more room. `factor` is that of A - shift B. kNoMemory,
-  // kReducedFailed. The calling thread holds packing buffers for `threads` threads; any number gives the same bits.
-  [[nodiscard]] Status run(const Pencil<T>& pencil, const sparse::Factor<T>& factor, const Goal& goal, int threads);
+  // Ends when all that is wanted has converged, or nothing more does. `factor` is that of A - shift B. kNoMemory,
+  // kReducedFailed. The calling thread holds packing buffers for all threads; any number gives the same bits.
+  [[nodiscard]] Status run(const Pencil<T>& pencil, const sparse::Factor<T>& factor, const Goal& goal);
 
   // Pairs on a side of the shift, the nearest first: how many have converged before the first that has not, their
   // eigenvalues, and the Ritz value of that first one, if there is one.
@@ -58,6 +61,8 @@ class Lanczos {
   [[nodiscard]] bool vectors(Side side, int count, T* X) const;
 
  private:
+  static constexpr int kRows = 256;  // of the basis that are changed together
+
   T* column(int j) { return V_.data() + offset(j); }
   std::ptrdiff_t offset(int j) const { return static_cast<std::ptrdiff_t>(j) * n_; }
   T& projected(int i, int j) { return projected_.data()[i + static_cast<std::ptrdiff_t>(j) * capacity_]; }
@@ -75,25 +80,28 @@ class Lanczos {
   void randomize(T* x);
   const T* times_b(const T* W, int width);
   Status apply(const T* from, int count, T* to);
-  Status start();
+  Status begin();
   Status expand();
-  void measure(const T* W, int width);
-  void project_out(int first, int count, T* W, int width);
-  int orthonormalize(T* W, int width, int wanted, T* R);
+  bool contract(bool keeps_converged_only);
+  void combine(const T* C, int count);
+  void measure(const T* W, const T* bw, int width);
+  void project_out(int first, int count, T* W, const T* bw, int width);
+  int orthonormalize(T* W, int width, int wanted, T* R, bool& is_good);
   int mend(T* W, int width, int wanted, T* R);
   bool examine();
   T next_component(int i, std::size_t k) const;
   bool is_reached(Side side, const Wanted& wanted) const;
+  bool lacks(Side side, const Wanted& wanted) const;
 
   const Pencil<T>* pencil_ = nullptr;
   const sparse::Factor<T>* factor_ = nullptr;
   Goal goal_{};
   int n_ = 0, capacity_ = 0, threads_ = 1;
-  // V: `size_` vectors that M was applied to, of which the last `width_` are the latest, and `next_` more. V^H B M V,
-  // lower triangle, and the coupling of the latest with the next, next_ x width_.
+  // V: `size_` vectors that M was applied to, and `next_` more, to which M leads from the last `width_` of these. V^H B
+  // M V, lower triangle, and the coupling of these last with the next, next_ x width_.
   int size_ = 0, width_ = 0, next_ = 0;
   std::array<int, 2> converged_{};
-  base::Workspace<T> V_, projected_, coupling_, Y_, coefficients_, S_;
+  base::Workspace<T> V_, projected_, coupling_, Y_, Z_, coefficients_, S_, rows_;
   base::Workspace<double> theta_, residuals_, lengths_;
   HermitianEigensolver<T> eigensolver_;
   std::mt19937_64 random_;

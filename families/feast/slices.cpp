@@ -11,13 +11,13 @@
 namespace quorin::feast {
 
 template <Scalar T>
-Status Slices<T>::run(const Count& low, const Count& high, Subspace<T>& X) {
+Status Slices<T>::run(const Count& low, const Count& high, sparse::Factor<T>& spare, Subspace<T>& X) {
   constexpr int kPatience = 8;  // rounds that do not find a quarter of what is missing
   X.resize(0);
   if (!plan_first(low, high)) return Status::kDone;
   int missing = high.below - low.below;
   for (int idle = 0; idle < kPatience;) {
-    if (const Status status = run_points(); status != Status::kDone) return status;
+    if (const Status status = run_points(spare); status != Status::kDone) return status;
     const int before = missing;
     if (!plan_more(missing)) break;
     if (missing >= before - before / 4) ++idle;
@@ -31,8 +31,7 @@ Status Slices<T>::run(const Count& low, const Count& high, Subspace<T>& X) {
 // that is too little.
 template <Scalar T>
 bool Slices<T>::plan_first(const Count& low, const Count& high) {
-  constexpr int kPerSlice = 64, kSpare = 6 * Lanczos::kBlock, kLeast = 4 * Lanczos::kBlock,
-                kMostSlices = kMostPoints / 2;
+  constexpr int kPerSlice = 64, kSpare = 96, kLeast = 64, kMostSlices = kMostPoints / 2;
   constexpr double kBasisPerPair = 3;
   constexpr int kPart = 8;
   const int n = pencil_.size(), wanted = high.below - low.below;
@@ -91,15 +90,18 @@ bool Slices<T>::plan_more(int& missing) {
     }
     const int wanted = std::min(std::max(1, (lacking + per_slice_ - 1) / per_slice_), kMostPoints - count_);
     const double step = (to - from) / (wanted + 1), least = low.shift, most = high.shift;
+    // All between two shifts is counted, so that a run for that is told what it has not found yet.
+    const bool is_whole = wanted == 1 && *high.below - *low.below <= 2 * per_slice_;
     std::move_backward(points_.begin() + i + 1, points_.begin() + count_, points_.begin() + count_ + wanted);
     count_ += wanted;
     for (int k = 1; k <= wanted; ++k) {
       Point& point = at(i + k);
       point = {};
       point.shift = from + k * step;
-      point.reach_below = point.reach_above = step;
       point.least = least;
       point.most = most;
+      point.reach_below = is_whole ? point.shift - least : step;
+      point.reach_above = is_whole ? most - point.shift : step;
     }
     i += wanted;
   }
@@ -109,17 +111,18 @@ bool Slices<T>::plan_more(int& missing) {
 // ---- Runs -----------------------------------------------------------------------------------------------------------
 
 template <Scalar T>
-Status Slices<T>::run_points() {
+Status Slices<T>::run_points(sparse::Factor<T>& spare) {
   std::array<Point*, kMostPoints> waiting;
   int count = 0;
   for (int i = 0; i < count_; ++i) {
     Point& point = at(i);
     if (point.is_done) continue;
     // What is known by now of the eigenvalues around does not depend on the order in which runs end.
-    for (int k = i - 1; k >= 0 && !point.below_least; --k) point.below_least = at(k).below;
-    for (int k = i + 1; k < count_ && !point.below_most; ++k) point.below_most = at(k).below;
+    for (int k = i - 1; k >= 0 && !point.before; --k) point.before = at(k).count();
+    for (int k = i + 1; k < count_ && !point.behind; ++k) point.behind = at(k).count();
     waiting[static_cast<std::size_t>(count++)] = &point;
   }
+  if (count > 1) spare.clear();
   const platform::MemoryStatus memory = platform::memory_status();
   const double budget = std::min(memory.total_physical, memory.available_virtual) / 2;
   const double bytes = solver_.real_factor_bytes() + static_cast<double>(pencil_.size()) * sizeof(T) * capacity_;
@@ -127,7 +130,8 @@ Status Slices<T>::run_points() {
   std::array<Status, kMostPoints> statuses;
   base::parallel_for(count, together, [&](int i) {
     const auto place = static_cast<std::size_t>(i);
-    statuses[place] = run_point(*waiting[place], together == 1 ? threads_ : 1);
+    sparse::Factor<T> factor;
+    statuses[place] = run_point(*waiting[place], together == 1 ? threads_ : 1, count == 1 ? spare : factor);
   });
   for (int i = 0; i < count; ++i) {
     if (statuses[static_cast<std::size_t>(i)] != Status::kDone) return statuses[static_cast<std::size_t>(i)];
@@ -138,16 +142,16 @@ Status Slices<T>::run_points() {
 }
 
 template <Scalar T>
-Status Slices<T>::run_point(Point& point, int threads) const {
-  sparse::Factor<T> factor;
+Status Slices<T>::run_point(Point& point, int threads, sparse::Factor<T>& factor) const {
   point.is_done = true;
   if (const Status status = find_shift(point, factor, threads); status != Status::kDone || !point.below) return status;
   Lanczos lanczos;
-  if (!lanczos.reserve(pencil_.size(), capacity_)) return Status::kNoMemory;
+  if (!lanczos.reserve(pencil_.size(), capacity_, threads)) return Status::kNoMemory;
+  const Count &before = *point.before, &behind = *point.behind;
   typename Lanczos::Goal goal{point.shift, tolerance_, {}, {}};
-  goal.below = {point.reach_below, *point.below - point.below_least.value_or(0)};
-  goal.above = {point.reach_above, point.below_most.value_or(pencil_.size()) - *point.below};
-  const Status status = lanczos.run(pencil_, factor, goal, threads);
+  goal.below = {point.reach_below, *point.below - before.below, point.shift - before.where};
+  goal.above = {point.reach_above, behind.below - *point.below, behind.where - point.shift};
+  const Status status = lanczos.run(pencil_, factor, goal);
   factor.clear();
   if (status == Status::kNoMemory) return status;
   const bool is_kept = status != Status::kDone || (keep(lanczos, Side::kBelow, point.least, point.lower) &&

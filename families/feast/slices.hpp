@@ -33,8 +33,8 @@ class Slices {
       : pencil_(pencil), solver_(solver), tolerance_(tolerance), threads_(threads) {}
 
   // Finds what is between `low` and `high`, whose counts differ. Whatever was found in the end, with a few neighbours,
-  // becomes the basis X. kNoMemory, kSolverFailed.
-  [[nodiscard]] Status run(const Count& low, const Count& high, Subspace<T>& X);
+  // becomes the basis X. kNoMemory, kSolverFailed. The memory of `spare` is used, or given back.
+  [[nodiscard]] Status run(const Count& low, const Count& high, sparse::Factor<T>& spare, Subspace<T>& X);
 
  private:
   static constexpr int kMostPoints = 64;
@@ -49,11 +49,13 @@ class Slices {
   };
   struct Point {
     double shift = 0, reach_below = 0, reach_above = 0;
-    double least = 0, most = 0;                  // what is beyond is found from elsewhere
-    std::optional<int> below;                    // eigenvalues below the shift
-    std::optional<int> below_least, below_most;  // the next such numbers that are known when the run begins
-    bool is_done = false;                        // there has been a run; none begins at an end of the interval
+    double least = 0, most = 0;           // what is beyond is found from elsewhere
+    std::optional<int> below;             // eigenvalues below the shift
+    std::optional<Count> before, behind;  // the next counts that are known when the run begins
+    bool is_done = false;                 // there has been a run; none begins at an end of the interval
     Branch lower, upper;
+
+    std::optional<Count> count() const { return below ? std::optional(Count{shift, *below}) : std::nullopt; }
   };
   // Of a slice, so many from the run from below, the others from above.
   struct Split {
@@ -66,8 +68,8 @@ class Slices {
 
   bool plan_first(const Count& low, const Count& high);
   bool plan_more(int& missing);
-  Status run_points();
-  Status run_point(Point& point, int threads) const;
+  Status run_points(sparse::Factor<T>& spare);
+  Status run_point(Point& point, int threads, sparse::Factor<T>& factor) const;
   Status find_shift(Point& point, sparse::Factor<T>& factor, int threads) const;
   bool keep(const Lanczos& lanczos, Side side, double end, Branch& branch) const;
   Split split(const Point& low, const Point& high) const;

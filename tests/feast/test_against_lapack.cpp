@@ -112,17 +112,44 @@ INSTANTIATE_TEST_SUITE_P(All, Structures, testing::ValuesIn(kStructures));
 
 // Many eigenvalues next to an end, which pass the filter, too, and little room.
 TEST(Crowds, NextToAnEnd) {
-  for (const auto& [crowd, last] : {std::pair(200, 0.9), std::pair(200, 0.999), std::pair(700, 0.9)}) {
+  struct Case {
+    int crowd;
+    double width, last;
+  };
+  for (const auto& [crowd, width, last] :
+       {Case{200, 0.01, 0.999}, Case{700, 0.01, 0.9}, Case{700, 0.01, 0.999}, Case{700, 1e-3, 0.99999}}) {
     std::vector<double> values = {-0.9, -0.3, 0.1, 0.6, last};
-    for (int i = 1; i <= crowd; ++i) values.push_back(1 + 0.01 * i / crowd);
+    for (int i = 1; i <= crowd; ++i) values.push_back(1 + width * i / crowd);
     for (int i = 0; i < 50; ++i) values.push_back(2 + i);
     const Problem problem = make_problem("crowd", diagonal(values));
     Call call(-1, 1, 6);
     solve(problem, call);
     EXPECT_EQ(call.info, 0) << last << " beside " << crowd;
     EXPECT_EQ(call.m, 5);
+    EXPECT_EQ(call.loop, 0) << "contours were needed";
     expect_right(problem, call, values);
   }
+}
+
+// Many more of the same than a block has vectors, among others, and all there are.
+TEST(Multiplicity, BeyondTheWidthOfABlock) {
+  const auto expect_all = [](const std::vector<double>& values, double low, double high, int inside) {
+    const Problem problem = make_problem("multiple", diagonal(values));
+    for (const int room : {inside - 1, inside}) {
+      Call call(low, high, room);
+      solve(problem, call);
+      EXPECT_EQ(call.info, room == inside ? 0 : 3) << inside << " of " << values.size();
+      EXPECT_EQ(call.m, room);
+      EXPECT_EQ(call.loop, 0) << "contours were needed";
+      if (room == inside) expect_right(problem, call, values);
+    }
+  };
+  std::vector<double> values(40, 1.5);
+  for (int i = 0; i < 30; ++i) values.push_back(1.5 + 0.01 * (i - 15.5));
+  for (int i = 0; i < 150; ++i) values.push_back(3 + 0.1 * i);
+  std::sort(values.begin(), values.end());
+  expect_all(values, 0.5, 2.5, 70);
+  expect_all(std::vector<double>(120, 3), 2, 4, 120);
 }
 
 // More eigenvalues than one shift is for, some of them ten times, and most in a part of the interval.
