@@ -371,6 +371,7 @@ void IntervalSearch<Host>::remember(const Tally& now) {
 
 template <Scalar Host>
 auto IntervalSearch<Host>::tally() const -> Tally {
+  constexpr double kSafety = 256;  // the diagonal of B stands for B in residuals
   Tally result;
   const double precise = kFloatPrecision * largest_magnitude(bounds_);
   const Interval others = surroundings();
@@ -381,7 +382,7 @@ auto IntervalSearch<Host>::tally() const -> Tally {
     const double to_end = std::min(std::fabs(value - interval_.low), std::fabs(value - interval_.high));
     ++result.candidates;
     result.largest_residual = std::max(result.largest_residual, pair.residual / scale_);
-    const bool is_right = error_of_value <= std::max(pair.rounding, std::min(precise, to_end));
+    const bool is_right = error_of_value <= std::max(pair.rounding, std::min(precise, to_end / kSafety));
     if (!is_right && !rests(result.candidates - 1, value, pair.rounding)) result.is_resolved = false;
     if (!is_inside(j)) continue;
     ++result.inside;

@@ -200,8 +200,13 @@ TEST(RandomProblems, NoneMissedAndNoneTooMany) {
   const int problems = text == nullptr ? 60 : std::atoi(text);
   std::uniform_int_distribution<int> any_size(1, 60), any_kind(0, 3), coin(0, 1);
   std::uniform_real_distribution<double> any_degree(0, 6), any_scale(-6, 6), any_decades(0, 8);
-  for (int k = 0; k < problems && !testing::Test::HasFailure(); ++k) {
-    std::mt19937 random(static_cast<unsigned>(k));
+  // The last has an eigenvalue next to an end, by 2e-12 of the largest one, and an ill-conditioned B.
+  std::vector<unsigned> seeds(static_cast<std::size_t>(problems));
+  std::iota(seeds.begin(), seeds.end(), 0U);
+  seeds.push_back(5579);
+  for (const unsigned k : seeds) {
+    if (testing::Test::HasFailure()) break;
+    std::mt19937 random(k);
     const int n = any_size(random);
     const bool is_complex = coin(random) == 1;
     const double degree = any_degree(random), scale = std::pow(10.0, any_scale(random));
