@@ -1,5 +1,7 @@
 #include "base/sums.hpp"
 
+#include <emmintrin.h>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -10,11 +12,13 @@ double dot(std::size_t n, const double* x, const double* y) {
   return sum_over(n, [=](std::size_t i, auto access) { return access.get(x + i) * access.get(y + i); });
 }
 
-double sum_of_squares(std::size_t n, const float* x) {
+namespace {
+
+// Inlined: 32-bit code returns a double by way of memory and the x87.
+[[gnu::always_inline]] inline double squares(std::size_t n, const float* x) {
   Lanes<double> sum0{}, sum1{}, sum2{}, sum3{};  // an array would not stay in registers
   const auto add_squares = [](Lanes<float> four, Lanes<double>& low, Lanes<double>& high) {
-    const auto first = __builtin_convertvector(__builtin_shufflevector(four, four, 0, 1), Lanes<double>);
-    const auto last = __builtin_convertvector(__builtin_shufflevector(four, four, 2, 3), Lanes<double>);
+    const Lanes<double> first = _mm_cvtps_pd(four), last = _mm_cvtps_pd(_mm_movehl_ps(four, four));
     low += first * first;
     high += last * last;
   };
@@ -23,10 +27,20 @@ double sum_of_squares(std::size_t n, const float* x) {
     add_squares(load(x + i), sum0, sum1);
     add_squares(load(x + i + 4), sum2, sum3);
   }
+  if (i + 4 <= n) {
+    add_squares(load(x + i), sum0, sum1);
+    i += 4;
+  }
   double rest = 0;
   for (; i < n; ++i) rest += static_cast<double>(x[i]) * x[i];
   return sum_of_lanes<double>((sum0 + sum2) + (sum1 + sum3)) + rest;
 }
+
+}  // namespace
+
+double sum_of_squares(std::size_t n, const float* x) { return squares(n, x); }
+
+float norm(std::size_t n, const float* x) { return static_cast<float>(std::sqrt(squares(n, x))); }
 
 double norm(std::size_t n, const double* x) {
   constexpr double kLeast = std::numeric_limits<double>::min() / std::numeric_limits<double>::epsilon();

@@ -19,6 +19,7 @@ namespace quorin::base {
 
 // ||x||, without overflow or harmful underflow.
 [[nodiscard]] double norm(std::size_t n, const double* x);
+[[nodiscard]] float norm(std::size_t n, const float* x);
 
 // How the body of a sweep reaches memory: by whole lanes, and entry by entry for the rest.
 struct ByLanes {

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <type_traits>
 
+#include "bench/limits.hpp"
 #include "bench/operands.hpp"
 #include "bench/suite.hpp"
 #include "dense/blocked.hpp"
@@ -107,6 +108,35 @@ void add_engine_row(Suite& suite, const char* operation, int n, int threads, dou
   suite.add_limit(row);
 }
 
+// Our library on two threads, beside itself on one.
+template <class Prepare>
+void add_thread_row(Suite& suite, const char* operation, int n, double flops, Prepare prepare) {
+  const Row row{"threads", operation, n, 2, flops};
+  for (const int threads : {2, 1}) {
+    suite.measure(row, threads == 2 ? "quorin" : "one-thread",
+                  [&product = suite.libraries().product, prepare, threads] {
+                    product.set_threads(threads);
+                    return prepare(product);
+                  });
+  }
+}
+
+// A loop of the host's own, with SSE's instructions, after a call of sgemm and where there was none: a library that
+// leaves wide registers in use makes it slower.
+void add_host_loop_row(Suite& suite, int n) {
+  constexpr int kRounds = 1 << 12;
+  const Row row{"host-loop", "sse-loop", n, 1, sse_arithmetic_flops(kRounds)};
+  const auto loop = [] { sse_arithmetic(kRounds); };
+  suite.compare(row, [n, loop](const Library& blas) {
+    gemm_call<float>(blas.sgemm, n)();
+    return loop;
+  });
+  suite.measure(row, "no-call", [loop] {
+    const LeaveWideRegisters as_at_the_start;
+    return loop;
+  });
+}
+
 }  // namespace
 
 void add_blas_rows(Suite& suite) {
@@ -137,6 +167,15 @@ void add_blas_rows(Suite& suite) {
       suite.compare(reading_row("sdot", n, threads, 2.0 * n), [n](const Library& blas) { return dot_call(blas, n); });
     }
   }
+  for (const int n : orders) {
+    const double cube = static_cast<double>(n) * n * n;
+    add_thread_row(suite, "sgemm", n, 2 * cube, [n](const Library& blas) { return gemm_call<float>(blas.sgemm, n); });
+    add_thread_row(suite, "cgemm", n, 8 * cube,
+                   [n](const Library& blas) { return gemm_call<quorin_complex>(blas.cgemm, n); });
+    add_thread_row(suite, "strsm", n, cube, [n](const Library& blas) { return triangular_call(blas.strsm, n); });
+    add_thread_row(suite, "ssyrk", n, cube, [n](const Library& blas) { return syrk_call(blas, n); });
+  }
+  for (const int n : suite.sizes({8, 20, 256}, {8, 256})) add_host_loop_row(suite, n);
 }
 
 }  // namespace quorin::bench

@@ -23,7 +23,7 @@ PRODUCT, INDEX, LIMIT = "quorin", "index", "limit"
 SETS = ["sse2", "avx2", "avx512"]
 TITLES = {
     "openblas": "OpenBLAS", "lapack": "LAPACK", "eigen": "Eigen", "boost": "Boost.Math", "gsl": "GSL", "umfpack": "UMFPACK",
-    "loop": "a loop", "amd": "AMD", "ic0": "IC(0)",
+    "loop": "a loop", "amd": "AMD", "ic0": "IC(0)", "one-thread": "one thread", "no-call": "no call",
 }
 
 # What a section of the results answers. A section without an entry here is shown under its own name.
@@ -32,6 +32,15 @@ SECTIONS = {
     "blas": (
         "BLAS on square matrices of order n, and on vectors of length n",
         "dgemm and zgemm are not exported: UMFPACK and the sparse engine compute with them. Their limit is that of doubles. The peer has none.",
+    ),
+    "threads": (
+        "Two threads over one",
+        "The same call on two threads and on one. The work decides whether it takes the second.",
+    ),
+    "host-loop": (
+        "SSE code after a call",
+        "A loop of SSE multiplications and additions of the host's own, after a call of sgemm of order n, beside the same loop where there was no call."
+        " A ratio of 1 shows that no wide register is left in use.",
     ),
     "lapack": (
         "LAPACK on square matrices of order n",

@@ -85,17 +85,16 @@ template <Scalar T>
 RealOf<T> nrm2(int n, const T* x, int incx) {
   constexpr int kParts = kIsComplex<T> ? 2 : 1;
   if (n <= 0) return 0;
+  if (incx == 1) {
+    return base::norm(std::size_t{kParts} * static_cast<std::size_t>(n), reinterpret_cast<const float*>(x));
+  }
   double sum = 0;
-  if (incx == 1 && !is_short(n)) {
-    sum = base::sum_of_squares(std::size_t{kParts} * static_cast<std::size_t>(n), reinterpret_cast<const float*>(x));
-  } else {
-    // The same elements from the other end for a negative stride.
-    const std::ptrdiff_t first = incx < 0 ? static_cast<std::ptrdiff_t>(1 - n) * incx : 0;
-    for (int i = 0; i < n; ++i) {
-      const T value = x[first + static_cast<std::ptrdiff_t>(i) * incx];
-      const double re = real_part(value), im = imaginary_part(value);
-      sum += re * re + im * im;
-    }
+  // The same elements from the other end for a negative stride.
+  const std::ptrdiff_t first = incx < 0 ? static_cast<std::ptrdiff_t>(1 - n) * incx : 0;
+  for (int i = 0; i < n; ++i) {
+    const T value = x[first + static_cast<std::ptrdiff_t>(i) * incx];
+    const double re = real_part(value), im = imaginary_part(value);
+    sum += re * re + im * im;
   }
   return static_cast<RealOf<T>>(std::sqrt(sum));
 }

@@ -213,6 +213,7 @@ class Routine:
     never_none: tuple[str, str] | None = None  # a count that the published routine does not stand to be 0, and its array
     # A work array behind whose published end the published routine writes, and what it needs beyond its published length.
     spare: tuple[str, str] | None = None
+    only_moves: bool = False  # it computes nothing, so that the host's floating-point settings do not matter
 
     def argument(self, name: str) -> Argument | None:
         return next((argument for argument in self.arguments if argument.name == name), None)
@@ -285,6 +286,9 @@ class Family:
 
     def finite(self, routine: Routine) -> FiniteCheck | None:
         return next((source.finite for source in self.sources(routine) if source.finite), None)
+
+    def only_moves(self, routine: Routine) -> bool:
+        return any(source.only_moves for source in self.sources(routine))
 
     def sound(self, routine: Routine) -> list[tuple[str, str, list[str]]]:
         return next((source.sound for source in self.sources(routine) if source.sound), [])

@@ -30,6 +30,7 @@ TEST(Sums, CoverAllLengthsAndPlaces) {
       }
       EXPECT_EQ(base::dot(n, x.data() + place, y.data() + place), product) << n;
       EXPECT_EQ(base::sum_of_squares(n, floats.data()), squares) << n;
+      EXPECT_EQ(base::norm(n, floats.data()), static_cast<float>(std::sqrt(squares))) << n;
 
       std::vector<double> sums = y;
       base::add_multiple(n, 2.0, x.data() + place, sums.data() + place);
@@ -53,7 +54,7 @@ TEST(Sums, NormsStayInRange) {
     x[0] = std::nan("");
     EXPECT_TRUE(std::isnan(base::norm(x.size(), x.data())));
   }
-  EXPECT_EQ(base::norm(0, nullptr), 0.0);
+  EXPECT_EQ(base::norm(0, static_cast<const double*>(nullptr)), 0.0);
   // All digits at every scale, where squares are subnormal too.
   const std::vector<double> x = {1.0 / 3, 1.0 / 7, -0.1};
   for (int exponent = -1000; exponent <= 1020; ++exponent) {
