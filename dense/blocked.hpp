@@ -3,6 +3,7 @@
 
 #include "dense/blocked/buffers.hpp"
 #include "dense/blocked/level3.hpp"
+#include "dense/blocked/places.hpp"
 #include "dense/matrix.hpp"
 
 namespace quorin::dense {

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <functional>
+#include <optional>
 #include <random>
 #include <stdexcept>
 #include <string>
@@ -58,60 +60,66 @@ struct Run {
     options.perturbation = problem.factorization == Factorization::kLLT ? 0 : 1e-10;
     const Pattern pattern{problem.matrix.rows, problem.matrix.columns, arrays.starts.data(), arrays.indices.data()};
     const bool is_lu = problem.factorization == Factorization::kLU;
-    analysis = seconds_of(3, [&] {
+    analyze = [this, &graph, ordering, pattern, is_lu] {
       require(plan.build(graph, ordering));
       require(assembly.build(plan, pattern,
-                             {.panels = panel_kind(problem.factorization),
+                             {.panels = is_lu ? PanelKind::kUnsymmetric : PanelKind::kSymmetric,
                               .symmetry = is_lu ? Symmetry::kGeneral : Symmetry::kSymmetric}));
-    });
+    };
+    analyze();
   }
-  double factor_time(int threads, int repetitions) {
+  void compute(int threads) {
     options.threads = threads;
-    return seconds_of(repetitions, [&] { require(factor.compute(plan, assembly, {values.data()}, options)); });
+    require(factor.compute(plan, assembly, {values.data()}, options));
   }
-  double solve_time(int nrhs, int threads, int repetitions) {
+  void solve_for(int nrhs, int threads) {
     const int n = plan.size();
-    std::vector<T> x(static_cast<std::size_t>(n) * static_cast<std::size_t>(nrhs));
-    return seconds_of(repetitions, [&] {
-      std::fill(x.begin(), x.end(), T{1});
-      require(solve(factor, Operation::kPlain, Stage::kAll, nrhs, x.data(), n, threads));
-    });
+    x.assign(static_cast<std::size_t>(n) * static_cast<std::size_t>(nrhs), T{1});
+    require(solve(factor, Operation::kPlain, Stage::kAll, nrhs, x.data(), n, threads));
   }
 
-  std::vector<T> values;
+  std::vector<T> values, x;
   Plan plan;
   Assembly assembly;
   Factor<T> factor;
   FactorOptions options;
-  double analysis = 0;
+  std::function<void()> analyze;
 };
 
-struct Umfpack {
-  double factor = 0, solve = 0;
-};
+// UMFPACK with the ordering as given.
+class Umfpack {
+ public:
+  Umfpack(const test::CompressedArrays& matrix, int n, const int* permutation)
+      : a_(matrix), b_(static_cast<std::size_t>(n), 1.0), x_(b_) {
+    umfpack_di_defaults(control_);
+    control_[UMFPACK_FIXQ] = 1;
+    control_[UMFPACK_IRSTEP] = 0;
+    control_[UMFPACK_STRATEGY] = UMFPACK_STRATEGY_SYMMETRIC;
+    umfpack_di_qsymbolic(n, n, a_.starts.data(), a_.indices.data(), a_.re.data(), permutation, &symbolic_, control_,
+                         nullptr);
+  }
+  ~Umfpack() {
+    umfpack_di_free_numeric(&numeric_);
+    umfpack_di_free_symbolic(&symbolic_);
+  }
+  Umfpack(const Umfpack&) = delete;
+  Umfpack& operator=(const Umfpack&) = delete;
 
-Umfpack umfpack(const test::CompressedArrays& a, int n, const int* permutation, int repetitions) {
-  std::vector<double> b(static_cast<std::size_t>(n), 1.0), x(b);
-  double control[UMFPACK_CONTROL];
-  umfpack_di_defaults(control);
-  control[UMFPACK_FIXQ] = 1;
-  control[UMFPACK_IRSTEP] = 0;
-  control[UMFPACK_STRATEGY] = UMFPACK_STRATEGY_SYMMETRIC;
-  void *symbolic = nullptr, *numeric = nullptr;
-  umfpack_di_qsymbolic(n, n, a.starts.data(), a.indices.data(), a.re.data(), permutation, &symbolic, control, nullptr);
-  Umfpack times;
-  times.factor = seconds_of(repetitions, [&] {
-    umfpack_di_free_numeric(&numeric);
-    umfpack_di_numeric(a.starts.data(), a.indices.data(), a.re.data(), symbolic, &numeric, control, nullptr);
-  });
-  times.solve = seconds_of(repetitions, [&] {
-    umfpack_di_solve(UMFPACK_A, a.starts.data(), a.indices.data(), a.re.data(), x.data(), b.data(), numeric, control,
-                     nullptr);
-  });
-  umfpack_di_free_numeric(&numeric);
-  umfpack_di_free_symbolic(&symbolic);
-  return times;
-}
+  void factorize() {
+    umfpack_di_free_numeric(&numeric_);
+    umfpack_di_numeric(a_.starts.data(), a_.indices.data(), a_.re.data(), symbolic_, &numeric_, control_, nullptr);
+  }
+  void solve() {
+    umfpack_di_solve(UMFPACK_A, a_.starts.data(), a_.indices.data(), a_.re.data(), x_.data(), b_.data(), numeric_,
+                     control_, nullptr);
+  }
+
+ private:
+  const test::CompressedArrays& a_;
+  std::vector<double> b_, x_;
+  double control_[UMFPACK_CONTROL];
+  void *symbolic_ = nullptr, *numeric_ = nullptr;
+};
 
 void measure(const Problem& problem, double gemm) {
   const test::CompressedArrays arrays = compressed_columns(problem.matrix);
@@ -124,29 +132,44 @@ void measure(const Problem& problem, double gemm) {
 
   Run<double> run(problem, graph, ordering, arrays);
   Run<float> single(problem, graph, ordering, arrays);
-  const double operations = run.plan.operations() * (problem.factorization == Factorization::kLU ? 2 : 1);
-  const int repetitions = operations > 2e9 ? 3 : 7;
-  const double one = run.factor_time(1, repetitions);
-  const double solve_one = run.solve_time(1, 1, 7), solve_many = run.solve_time(kRightHandSides, 1, 5);
-  const double two = run.factor_time(2, repetitions), solve_two = run.solve_time(1, 2, 7);
-  const double solve_many_two = run.solve_time(kRightHandSides, 2, 5);
-  const double single_one = single.factor_time(1, repetitions);
+  const bool is_lu = problem.factorization == Factorization::kLU;
+  const bool has_cholmod = problem.factorization == Factorization::kLLT && CholmodPeer::is_there();
+  std::optional<Umfpack> umfpack;
+  std::optional<CholmodPeer> cholmod;
+  if (is_lu) umfpack.emplace(arrays, n, permutation.data());
+  if (has_cholmod) cholmod.emplace(arrays, n, permutation.data());
+  const auto peer_factorizes = [&] {
+    if (umfpack) umfpack->factorize();
+    if (cholmod) cholmod->factorize();
+  };
+  const auto peer_solves = [&](int nrhs) {
+    if (umfpack && nrhs == 1) umfpack->solve();
+    if (cholmod) cholmod->solve(nrhs);
+  };
+
+  const double operations = run.plan.operations() * (is_lu ? 2 : 1);
+  const auto [analysis, peer_analysis] = least_by_turns(
+      0.5, [&] { run.analyze(); },
+      [&] {
+        if (cholmod) cholmod->analyze();
+      });
+  const auto [one, single_one, peer_factor, two] = least_by_turns(
+      2, [&] { run.compute(1); }, [&] { single.compute(1); }, peer_factorizes, [&] { run.compute(2); });
+  const auto [solve_one, peer_solve, solve_two] = least_by_turns(
+      0.5, [&] { run.solve_for(1, 1); }, [&] { peer_solves(1); }, [&] { run.solve_for(1, 2); });
+  const auto [solve_many, peer_solve_many, solve_many_two] = least_by_turns(
+      1, [&] { run.solve_for(kRightHandSides, 1); }, [&] { peer_solves(kRightHandSides); },
+      [&] { run.solve_for(kRightHandSides, 2); });
   const double rate = 1e-9 * operations / one;
   std::printf("| %s | %d | %.2f | %.2f | %.1f | %.1f | %.2f | %.0f %% | %.2f | %.2f | %.1f | %.1f | %.2f | %.2f |",
               problem.name.c_str(), n, 1e-6 * static_cast<double>(run.plan.entries()), 1e-9 * operations,
-              1e3 * run.analysis, 1e3 * one, rate, 100 * rate / gemm, one / two, one / single_one, 1e3 * solve_one,
+              1e3 * analysis, 1e3 * one, rate, 100 * rate / gemm, one / two, one / single_one, 1e3 * solve_one,
               1e3 * solve_many, solve_one / solve_two, solve_many / solve_many_two);
-  if (problem.factorization == Factorization::kLU) {
-    const Umfpack peer = umfpack(arrays, n, permutation.data(), repetitions);
-    std::printf(" | %.2f | %.2f | |\n", peer.factor / one, peer.solve / solve_one);
-  } else if (problem.factorization == Factorization::kLLT && CholmodPeer::is_there()) {
-    CholmodPeer peer(arrays, n, permutation.data());
-    const double peer_analysis = seconds_of(3, [&] { peer.analyze(); });
-    const double peer_factor = seconds_of(repetitions, [&] { peer.factorize(); });
-    const double peer_solve = seconds_of(7, [&] { peer.solve(1); });
-    const double peer_solve_many = seconds_of(5, [&] { peer.solve(kRightHandSides); });
-    std::printf(" %.2f | %.2f | %.2f | %.2f |\n", peer_analysis / run.analysis, peer_factor / one,
-                peer_solve / solve_one, peer_solve_many / solve_many);
+  if (is_lu) {
+    std::printf(" | %.2f | %.2f | |\n", peer_factor / one, peer_solve / solve_one);
+  } else if (has_cholmod) {
+    std::printf(" %.2f | %.2f | %.2f | %.2f |\n", peer_analysis / analysis, peer_factor / one, peer_solve / solve_one,
+                peer_solve_many / solve_many);
   } else {
     std::printf(" | | | |\n");
   }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cstddef>
 #include <vector>
@@ -19,6 +20,30 @@ double seconds_of(int repetitions, const Call& call) {
   }
   std::nth_element(times.begin(), times.begin() + repetitions / 2, times.end());
   return times[static_cast<std::size_t>(repetitions / 2)];
+}
+
+// The least time of each call. They take turns, so that what else the machine does meets all of them alike: three
+// rounds at the least, and more until so many seconds have passed.
+template <class... Calls>
+std::array<double, sizeof...(Calls)> least_by_turns(double seconds, const Calls&... calls) {
+  using Clock = std::chrono::steady_clock;
+  const auto since = [](Clock::time_point start) {
+    return std::chrono::duration<double>(Clock::now() - start).count();
+  };
+  std::array<double, sizeof...(Calls)> least;
+  least.fill(seconds + 1e9);
+  const auto begin = Clock::now();
+  for (int round = 0; round < 3 || since(begin) < seconds; ++round) {
+    std::size_t which = 0;
+    const auto time = [&](const auto& call) {
+      const auto start = Clock::now();
+      call();
+      least[which] = std::min(least[which], since(start));
+      ++which;
+    };
+    (time(calls), ...);
+  }
+  return least;
 }
 
 }  // namespace quorin::bench

@@ -9,6 +9,7 @@
 #include "base/parallel.hpp"
 #include "dense/blas/partition.hpp"
 #include "dense/blocked/buffers.hpp"
+#include "dense/blocked/places.hpp"
 #include "dense/kernels/kernel_set.hpp"
 
 namespace quorin::dense::blocked {
@@ -296,6 +297,14 @@ void gemm(char transa, char transb, int m, int n, int k, T alpha, const T* a, in
 }
 
 template <Scalar T>
+void subtract_at_places(bool is_conjugated, bool is_lower, int m, int n, int k, const T* a, int lda, const T* b,
+                        int ldb, T* c, int ldc, const int* rows, const int* columns) noexcept {
+  Workshop<T>(kernels::is_small<T>(m, n, k))
+      .multiply(Product<T>{view_of('N', a, lda), view_of(is_conjugated ? 'C' : 'T', b, ldb), k, T{-1}, T{1}, c, ldc, 0,
+                           m, 0, n, is_lower ? Part::kLower : Part::kAll, rows, columns});
+}
+
+template <Scalar T>
 void symm(char side, char uplo, int m, int n, T alpha, const T* a, int lda, const T* b, int ldb, T beta, T* c, int ldc,
           int threads) noexcept {
   const View<T> symmetric = symmetric_view(uplo, false, a, lda), general = view_of('N', b, ldb);
@@ -366,6 +375,8 @@ void trsm(char side, char uplo, char transa, char diag, int m, int n, T alpha, c
 
 template void gemm<float>(char, char, int, int, int, float, const float*, int, const float*, int, float, float*, int,
                           int) noexcept;
+template void subtract_at_places<float>(bool, bool, int, int, int, const float*, int, const float*, int, float*, int,
+                                        const int*, const int*) noexcept;
 template void symm<float>(char, char, int, int, float, const float*, int, const float*, int, float, float*, int,
                           int) noexcept;
 template void hemm<float>(char, char, int, int, float, const float*, int, const float*, int, float, float*, int,
@@ -383,6 +394,8 @@ template void trsm<float>(char, char, char, char, int, int, float, const float*,
 
 template void gemm<double>(char, char, int, int, int, double, const double*, int, const double*, int, double, double*,
                            int, int) noexcept;
+template void subtract_at_places<double>(bool, bool, int, int, int, const double*, int, const double*, int, double*,
+                                         int, const int*, const int*) noexcept;
 template void symm<double>(char, char, int, int, double, const double*, int, const double*, int, double, double*, int,
                            int) noexcept;
 template void hemm<double>(char, char, int, int, double, const double*, int, const double*, int, double, double*, int,
@@ -401,6 +414,9 @@ template void trsm<double>(char, char, char, char, int, int, double, const doubl
 template void gemm<std::complex<float>>(char, char, int, int, int, std::complex<float>, const std::complex<float>*, int,
                                         const std::complex<float>*, int, std::complex<float>, std::complex<float>*, int,
                                         int) noexcept;
+template void subtract_at_places<std::complex<float>>(bool, bool, int, int, int, const std::complex<float>*, int,
+                                                      const std::complex<float>*, int, std::complex<float>*, int,
+                                                      const int*, const int*) noexcept;
 template void symm<std::complex<float>>(char, char, int, int, std::complex<float>, const std::complex<float>*, int,
                                         const std::complex<float>*, int, std::complex<float>, std::complex<float>*, int,
                                         int) noexcept;
@@ -428,6 +444,9 @@ template void trsm<std::complex<float>>(char, char, char, char, int, int, std::c
 template void gemm<std::complex<double>>(char, char, int, int, int, std::complex<double>, const std::complex<double>*,
                                          int, const std::complex<double>*, int, std::complex<double>,
                                          std::complex<double>*, int, int) noexcept;
+template void subtract_at_places<std::complex<double>>(bool, bool, int, int, int, const std::complex<double>*, int,
+                                                       const std::complex<double>*, int, std::complex<double>*, int,
+                                                       const int*, const int*) noexcept;
 template void symm<std::complex<double>>(char, char, int, int, std::complex<double>, const std::complex<double>*, int,
                                          const std::complex<double>*, int, std::complex<double>, std::complex<double>*,
                                          int, int) noexcept;

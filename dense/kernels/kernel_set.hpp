@@ -32,6 +32,9 @@ enum class Part : unsigned char { kAll, kUpper, kLower };
 // read for beta = 0.
 //
 // An element's bits depend on its row of A, its column of B and k, not on the rows and columns that are made with it.
+//
+// Row i and column j of the result may stand elsewhere in C: in row row_place[i] and column column_place[j], both
+// ascending. `part` goes by i and j.
 template <Scalar T>
 struct Product {
   View<T> a, b;
@@ -42,6 +45,8 @@ struct Product {
   int first_row, rows;
   int first_column, columns;
   Part part = Part::kAll;
+  const int* row_place = nullptr;  // both or neither
+  const int* column_place = nullptr;
 };
 
 // `count` vectors x of `order` elements each, all at once: x <- L x or x <- L^-1 x, with a lower triangle

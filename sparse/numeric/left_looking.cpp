@@ -18,15 +18,14 @@ namespace {
 
 std::size_t to_size(std::int64_t n) noexcept { return static_cast<std::size_t>(n); }
 
-// Scalars that an update is made in before it is scattered. An update that does not fit is made in slices of columns.
+// Scalars that panels are eliminated with, and that L D is made in for some rows at a time.
 template <Scalar T>
 std::size_t buffer_size(const Plan& plan, PanelKind kind, int threads) noexcept {
   constexpr std::int64_t kEnough = 512 * 1024 / sizeof(T);
-  const std::int64_t most_columns = std::min(plan.most_columns(), plan.most_below());
-  const std::int64_t largest = (plan.most_below() + std::int64_t{plan.most_columns()}) * most_columns;
+  const std::int64_t largest = std::int64_t{plan.most_below()} * plan.most_columns();
   const std::int64_t share = plan.panel_elements(kind) / (40 * threads);
-  const std::size_t one_column = to_size(plan.most_below()) + to_size(plan.most_columns());
-  return std::max({one_column, elimination_scratch(plan.most_columns()), to_size(std::min({largest, kEnough, share}))});
+  return std::max({to_size(plan.most_columns()), elimination_scratch(plan.most_columns()),
+                   to_size(std::min({largest, kEnough, share}))});
 }
 
 // The memory of one thread.
@@ -205,33 +204,26 @@ class LeftLooking {
 
     const int k = plan_.columns(d), height = plan_.height(kind_, d);
     const T* const l = source + k;
-    T* const buffer = worker.buffer.data();
-    const std::size_t size = worker.buffer.size();
-    if (task_.has_diagonal) return update_symmetric(d, source, l, height, k, span, target, worker);
-    if (kind_ == PanelKind::kSymmetric) {
-      return subtract(l, l, height, height, k, span, span.first, target, 0, buffer, size, places);
-    }
+    if (task_.has_diagonal) return update_symmetric(d, source, l, height, k, span, places, target, worker);
+    if (kind_ == PanelKind::kSymmetric) return subtract(l, l, height, height, k, span, span.first, target, 0, places);
     const T* const u = l + span.m;
-    subtract(l, u, height, height, k, span, span.first, target, 0, buffer, size, places);
-    subtract(u, l, height, height, k, span, span.last, target, target.u_offset, buffer, size, places);
+    subtract(l, u, height, height, k, span, span.first, target, 0, places);
+    subtract(u, l, height, height, k, span, span.last, target, target.u_offset, places);
   }
 
   // - L D L': with W = L D for the rows [p, q), some of them at a time.
-  void update_symmetric(int d, const T* panel, const T* l, int height, int k, const Span& span, const Target<T>& target,
-                        Worker<T>& worker) noexcept {
+  void update_symmetric(int d, const T* panel, const T* l, int height, int k, const Span& span, const int* places,
+                        const Target<T>& target, Worker<T>& worker) noexcept {
     T* const w = worker.buffer.data();
-    const std::size_t each = to_size(k) + to_size(span.m - span.p);
     const int most =
-        static_cast<int>(std::clamp<std::size_t>(worker.buffer.size() / each, 1, to_size(span.q - span.p)));
+        static_cast<int>(std::clamp<std::size_t>(worker.buffer.size() / to_size(k), 1, to_size(span.q - span.p)));
     for (int p = span.p; p < span.q; p += most) {
       Span slice = span;
       slice.p = p;
       slice.q = std::min(p + most, span.q);
       const int count = slice.q - p;
       task_.multiply_by_diagonal(d, panel, l + p, count, w);
-      const std::size_t used = to_size(count) * to_size(k);
-      subtract(l, w - p, height, count, k, slice, span.first, target, 0, w + used, worker.buffer.size() - used,
-               worker.places.data());
+      subtract(l, w - p, height, count, k, slice, span.first, target, 0, places);
     }
   }
 
@@ -240,13 +232,13 @@ class LeftLooking {
   // added to places of rows. How it is done depends on all of the target's columns, so that each element's bits do not
   // depend on how they were cut.
   void subtract(const T* x, const T* y, int ldx, int ldy, int k, const Span& span, int from, const Target<T>& target,
-                int offset, T* buffer, std::size_t size, const int* places) noexcept {
+                int offset, const int* places) noexcept {
     const int p = span.p, q = span.q, m = span.m;
     if (from == m) return;
     const bool is_triangle = kind_ == PanelKind::kSymmetric;
     const auto column = [&](int c) { return target.panel + target.height * places[c] + offset; };
-    const bool is_contiguous = places[m - 1] - places[from] == m - 1 - from;
     if (k <= kFewTerms || static_cast<double>(m - from) * (span.last - span.first) * k <= kFewProducts) {
+      const bool is_contiguous = places[m - 1] - places[from] == m - 1 - from;
       T row[kFewTerms];
       for (int c = p; c < q; ++c) {
         const int begin = is_triangle ? c : from;
@@ -265,36 +257,10 @@ class LeftLooking {
       }
       return;
     }
-    if (is_contiguous && places[span.last - 1] - places[span.first] == span.last - 1 - span.first) {
-      const int begin = is_triangle ? p : from;
-      return multiply(x, y, ldx, ldy, k, p, q, m, begin, T{1}, column(p) + places[begin],
-                      static_cast<int>(target.height));
-    }
-    const int most =
-        static_cast<int>(std::min<std::size_t>(size / to_size(m - (is_triangle ? p : from)), to_size(q - p)));
-    for (int c = p; c < q; c += most) {
-      const int end = std::min(c + most, q), begin = is_triangle ? c : from, rows = m - begin;
-      multiply(x, y, ldx, ldy, k, c, end, m, begin, T{}, buffer, rows);
-      for (int j = c; j < end; ++j) {
-        const T* const made = buffer + static_cast<std::ptrdiff_t>(j - c) * rows;
-        T* const y_j = column(j);
-        for (int i = is_triangle ? j : from; i < m; ++i) y_j[places[i]] += made[i - begin];
-      }
-    }
-  }
-
-  // C <- beta C - X Y', X the rows [from, m), Y the rows [p, q). Of symmetric panels the lower trapezoid.
-  void multiply(const T* x, const T* y, int ldx, int ldy, int k, int p, int q, int m, int from, T beta, T* c,
-                int ldc) const noexcept {
-    const char prime = task_.is_conjugated ? 'C' : 'T';
-    const int square = kind_ == PanelKind::kSymmetric ? q - p : 0;
-    if (square > 0) {
-      dense::blocked::gemmt('L', 'N', prime, square, k, T{-1}, x + p, ldx, y + p, ldy, beta, c, ldc);
-    }
-    if (m - from > square) {
-      dense::blocked::gemm('N', prime, m - from - square, q - p, k, T{-1}, x + from + square, ldx, y + p, ldy, beta,
-                           c + square, ldc);
-    }
+    const int begin = is_triangle ? p : from;
+    dense::blocked::subtract_at_places(task_.is_conjugated, is_triangle, m - begin, q - p, k, x + begin, ldx, y + p,
+                                       ldy, target.panel + offset, static_cast<int>(target.height), places + begin,
+                                       places + p);
   }
 
   FactorTask<T>& task_;

@@ -4,6 +4,7 @@
 #include <limits>
 #include <numeric>
 
+#include "sparse/symbolic/column_order.hpp"
 #include "sparse/symbolic/elimination_tree.hpp"
 #include "sparse/symbolic/supernodes.hpp"
 
@@ -255,6 +256,9 @@ Outcome Plan::build(const Graph& graph, const Ordering& ordering, const PlanOpti
     }
   }
 
+  const SupernodeRows lists{count, plan.first_.data(), plan.supernode_of_.data(), plan.row_starts_.data(),
+                            plan.rows_.data()};
+  if (!order_columns(lists, plan.eliminated(), n, steps)) return Outcome::kOutOfMemory;
   plan.measure();
   *this = std::move(plan);
   return Outcome::kDone;

@@ -1,9 +1,9 @@
 // What is known of a factorization before any number is: the order of elimination, the supernodes, the rows of each,
 // their tree, sizes and work.
 //
-// Steps of elimination are the plan's own, 0, ..., n - 1: those of the given ordering, rearranged without more fill so
-// that each supernode's columns follow each other, each subtree's supernodes do, too, and the subtrees of a supernode
-// come in the order that needs the smallest stack.
+// Steps of elimination are the plan's own, 0, ..., n - 1: those of the given ordering, rearranged so that supernodes'
+// columns follow each other, subtrees' supernodes do, too, subtrees of a supernode come in the order that needs the
+// smallest stack, and the rows that a descendant has within a supernode lie together. No panel grows by that.
 //
 // A supernode s eliminates the columns first(s), ..., first(s) + columns(s) - 1. All of them are stored with the same
 // rows: these columns themselves (the diagonal block), and below(s).
@@ -88,7 +88,7 @@ class Plan {
   int most_columns() const noexcept { return most_columns_; }
   int most_below() const noexcept { return most_below_; }
 
-  // Entries of L with its diagonal, without the zeros that the panels store, and the height of the elimination tree.
+  // Entries of L in the given order, without the zeros that the panels store, and the height of the elimination tree.
   std::int64_t entries() const noexcept { return entries_; }
   int depth() const noexcept { return depth_; }
   // Multiplications, additions and divisions of scalars for L L^H or L D L^T of these panels; LU takes twice as many.

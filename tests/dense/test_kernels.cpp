@@ -2,6 +2,7 @@
 // precision. Operands lie flush against inaccessible pages; sizes cross the edges of tiles, panels and blocks.
 #include "base/parallel.hpp"
 #include "dense/blocked.hpp"
+#include "dense/blocked/places.hpp"
 #include "dense/dense.hpp"
 #include "dense/kernels/kernel_set.hpp"
 #include "tests/support/guarded_pages.hpp"
@@ -365,6 +366,44 @@ TEST_P(Kernels, UpdateOfOneTriangle) {
       if constexpr (kIsComplex<T>) {
         for (int j = 0; j < n && hermitian; ++j) ASSERT_EQ(c(j, j).imag(), 0) << "a Hermitian diagonal";
       }
+    }
+  });
+}
+
+// The bits are those of the product in a matrix of its own, and nothing else in C changes.
+TEST_P(Kernels, ProductAtPlaces) {
+  for_all_types([]<Scalar T>() {
+    Random random(6);
+    const KernelBuffer buffer(1);
+    const auto places = [&](int count) {
+      std::vector<int> chosen;
+      for (int k = 0, place = random.below(3); k < count; ++k, ++place) {
+        if (random.below(12) == 0) place += 1 + random.below(4);
+        chosen.push_back(place);
+      }
+      return chosen;
+    };
+    for (int round = 0; round < 40; ++round) {
+      const int m = 1 + size(random), n = 1 + size(random), k = terms(random);
+      const bool is_conjugated = random.below(2) == 0, is_lower = random.below(2) == 0;
+      const std::vector<int> rows = places(m), columns = places(n);
+      const auto a = matrix<T>(m, k, random), b = matrix<T>(n, k, random);
+      const auto c = matrix<T>(rows.back() + 1, columns.back() + 1, random), alone = matrix<T>(m, n, random);
+      std::vector<T> expected = copy_of(c);
+      for (int j = 0; j < n; ++j) {
+        for (int i = 0; i < m; ++i) alone(i, j) = c(rows[i], columns[j]);
+      }
+      blocked::gemm('N', is_conjugated ? 'C' : 'T', m, n, k, T{-1}, a.data(), a.ld, b.data(), b.ld, T{1}, alone.data(),
+                    alone.ld);
+      for (int j = 0; j < n; ++j) {
+        for (int i = is_lower ? j : 0; i < m; ++i) {
+          expected[static_cast<std::size_t>(&c(rows[i], columns[j]) - c.data())] = alone(i, j);
+        }
+      }
+      blocked::subtract_at_places(is_conjugated, is_lower, m, n, k, a.data(), a.ld, b.data(), b.ld, c.data(), c.ld,
+                                  rows.data(), columns.data());
+      ASSERT_EQ(std::memcmp(c.data(), expected.data(), expected.size() * sizeof(T)), 0)
+          << m << ' ' << n << ' ' << k << (is_lower ? " lower" : "");
     }
   });
 }

@@ -68,23 +68,31 @@ void check_tree(const Plan& plan) {
   }
 }
 
-// Every entry of L stands in the panels, and all that stands there beside L are the zeros of merged supernodes.
-void check_rows(const Plan& plan, const Dense& L, double most_zeros) {
+double entries_of(const Dense& L) {
+  double entries = 0;
+  for (std::size_t i = 0; i < L.size(); ++i) entries += 1 + std::accumulate(L[i].begin(), L[i].begin() + i, 0);
+  return entries;
+}
+
+// The plan counts the entries of L in the given order. Those in its own, where the columns of a supernode may change
+// places, stand in the panels; what stands there beside them are the zeros of merged supernodes.
+void check_rows(const Plan& plan, const Graph& graph, const int* given, double most_zeros) {
   const int n = plan.size();
-  double entries = n, stored = 0;
+  const Dense L = dense_factor(graph, plan.permutation(), plan.schur_size());
+  const double entries = entries_of(dense_factor(graph, given, plan.schur_size()));
+  EXPECT_EQ(static_cast<double>(plan.entries()), entries);
+  double stored = 0;
   for (int k = 0; k < n; ++k) {
     const int s = plan.supernode_of(k);
     const auto below = plan.below(s);
     const std::set<int> rows(below.begin(), below.end());
     stored += plan.first(s + 1) - k + static_cast<double>(below.size());
     for (int i = k + 1; i < n; ++i) {
-      entries += L[i][k];
       if (L[i][k] != 0) {
         EXPECT_TRUE(i < plan.first(s + 1) || rows.count(i) == 1) << "entry " << i << ", " << k;
       }
     }
   }
-  EXPECT_EQ(static_cast<double>(plan.entries()), entries);
   EXPECT_LE(stored, most_zeros * entries);
 }
 
@@ -118,7 +126,7 @@ TEST(Plan, IsTheFactorOfDenseElimination) {
       std::copy_n(plan.inverse(), n, arrays.inverse.begin());
       EXPECT_TRUE(arrays.is_valid());
       EXPECT_EQ(plan.entries(), factor_entries(graph_of(A), given.ordering()));
-      check_rows(plan, dense_factor(graph_of(A), plan.permutation(), 0), 2.5);
+      check_rows(plan, graph_of(A), given.permutation.data(), 2.5);
       check_tree(plan);
     }
   }
@@ -137,7 +145,7 @@ TEST(Plan, LeavesASchurComplementAtTheEnd) {
       EXPECT_EQ(plan.columns(plan.eliminated()), schur_size);
       EXPECT_EQ(plan.below_count(plan.eliminated()), 0);
       for (int k = n - schur_size; k < n; ++k) EXPECT_EQ(plan.permutation()[k], given.permutation[k]);
-      check_rows(plan, dense_factor(graph_of(A), plan.permutation(), schur_size), 3.5);
+      check_rows(plan, graph_of(A), given.permutation.data(), 3.5);
       check_tree(plan);
     }
   }
@@ -166,7 +174,41 @@ TEST(Plan, NeverCutsPairsApart) {
     if (pair_of[v] == kNone) continue;
     EXPECT_EQ(plan.supernode_of(plan.inverse()[v]), plan.supernode_of(plan.inverse()[pair_of[v]]));
   }
-  check_rows(plan, dense_factor(graph, plan.permutation(), 0), 3);
+  check_rows(plan, graph, given.permutation.data(), 3);
+}
+
+// Cliques of six that hang on parts of one large clique, each part within the next or beside it: in any numbering of
+// the large clique's vertices each part's rows become neighbours.
+TEST(Plan, PutsTheRowsOfDescendantsTogether) {
+  constexpr int kParts = 7, kWidth = 6, kCommon = 40, n = kParts * kWidth + kCommon;
+  const int parts[kParts][2] = {{3, 6}, {0, 8}, {22, 24}, {20, 28}, {28, 33}, {0, 12}, {20, 40}};
+  std::vector<int> shuffled(kCommon);
+  std::iota(shuffled.begin(), shuffled.end(), kParts * kWidth);
+  std::shuffle(shuffled.begin(), shuffled.end(), std::mt19937(4));
+  Edges edges(n);
+  const auto join_all = [&](const std::vector<int>& clique) {
+    for (const int v : clique) {
+      for (const int w : clique) {
+        if (v < w) edges.add(v, w);
+      }
+    }
+  };
+  join_all(shuffled);
+  for (int p = 0; p < kParts; ++p) {
+    std::vector<int> clique(shuffled.begin() + parts[p][0], shuffled.begin() + parts[p][1]);
+    for (int k = 0; k < kWidth; ++k) clique.push_back(p * kWidth + k);
+    join_all(clique);
+  }
+  Arrays given(n);
+  for (int k = 0; k < n; ++k) given.ordering().place(k, k);
+  const Plan plan = plan_of(edges.matrix("parts of a clique"), given.ordering());
+  int found = 0;
+  for (int s = 0; s + 1 < plan.supernodes(); ++s) {
+    const auto below = plan.below(s);
+    EXPECT_EQ(below.back() - below.front(), static_cast<int>(below.size()) - 1) << "supernode " << s;
+    ++found;
+  }
+  EXPECT_EQ(found, kParts);
 }
 
 // Cliques above cliques: one branch needs a large stack and leaves little, which is least if it comes first.

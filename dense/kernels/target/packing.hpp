@@ -87,6 +87,42 @@ struct Square {
   }
 };
 
+// to <- factor * from, or from itself. What stands behind `from` is fetched: a matrix is packed in strips that are cut
+// out of its columns, one after the other, and the next strip has no line of memory in common with the columns beside
+// it.
+template <class Isa, bool kScales, class Real>
+[[gnu::always_inline]] inline void copy_run(const Real* from, int count, Real factor, Real* to) noexcept {
+  constexpr int kWidth = kLanes<Isa, Real>, kCacheLine = 64 / static_cast<int>(sizeof(Real));
+  using Element [[gnu::may_alias, gnu::aligned(4)]] = Real;  // complex numbers of half the size are moved as one
+  const auto copy = [&]<class Part>(const Part&, int i) __attribute__((always_inline)) {
+    const Vector<Part, Real> values = load<Part>(from + i);
+    store<Part, Real>(to + i, kScales ? values * factor : values);
+  };
+  for (int i = 0; i < count; i += kCacheLine) __builtin_prefetch(from + count + i);
+  int i = 0;
+  for (; i + kWidth <= count; i += kWidth) copy(Isa{}, i);
+  const int rest = count - i;
+  if (rest == 0) return;
+  // The rest in two registers of half the width, which may overlap.
+  const auto copy_rest = [&]<class Part>(const Part& part) __attribute__((always_inline)) {
+    constexpr int kLanesOfPart = kLanes<Part, Real>;
+    if (rest < kLanesOfPart) return false;
+    copy(part, i);
+    copy(part, count - kLanesOfPart);
+    return true;
+  };
+  if constexpr (kHasNarrower<Isa>) {
+    using Half = typename Isa::Narrower;
+    if (copy_rest(Half{})) return;
+    if constexpr (kHasNarrower<Half>) {
+      if (copy_rest(typename Half::Narrower{})) return;
+    }
+  }
+  const auto* const source = reinterpret_cast<const Element*>(from);
+  auto* const target = reinterpret_cast<Element*>(to);
+  for (; i < count; ++i) target[i] = kScales ? factor * source[i] : source[i];
+}
+
 // to[i * to_step + l * to_term_step] <- factor * source(i, l), or the element itself, for real numbers.
 template <class Isa, bool kScales, class Real>
 void copy_rectangle(const Source<Real>& from, int count, int terms, Real factor, Real* to, std::ptrdiff_t to_step,
@@ -108,17 +144,7 @@ void copy_rectangle(const Source<Real>& from, int count, int terms, Real factor,
   // Now the inner dimension stands together in the source, unless neither does.
   if (inner_from == 1 && inner_to == 1) {
     for (int o = 0; o < outer; ++o) {
-      const std::ptrdiff_t x = o * outer_from, y = o * outer_to;
-      int i = 0;
-      for (; i + kLanes<Isa, Real> <= inner; i += kLanes<Isa, Real>) {
-        const Vector<Isa, Real> values = load<Isa>(from.data + x + i);
-        store<Isa, Real>(to + y + i, kScales ? values * factor : values);
-      }
-      for (; i + kSize <= inner; i += kSize) {
-        const auto values = Square<Isa, Real>::get(from.data + x + i);
-        Square<Isa, Real>::put(to + y + i, kScales ? values * factor : values);
-      }
-      for (; i < inner; ++i) copy(x + i, y + i);
+      copy_run<Isa, kScales>(from.data + o * outer_from, inner, factor, to + o * outer_to);
     }
     return;
   }

@@ -15,6 +15,36 @@ struct Tiles {
   static constexpr int kMostTile = 7 * kWidth;  // reals, whatever its shape
 };
 
+// Where row i and column j of the result stand in C.
+template <class Isa, Scalar T>
+T* place(const Product<T>& p, int i, int j) noexcept {
+  if (p.row_place == nullptr) return p.c + i + j * p.ldc;
+  return p.c + p.row_place[i] + p.column_place[j] * p.ldc;
+}
+
+// Whether rows or columns first, ..., first + count - 1, count > 0, follow each other in C.
+template <class Isa>
+bool are_adjacent(const int* places, int first, int count) noexcept {
+  return places == nullptr || places[first + count - 1] - places[first] == count - 1;
+}
+
+// The same as put for `count` elements of kParts reals that belong to the given rows of a column.
+template <class Isa, int kParts, class Real>
+[[gnu::always_inline]] inline void scatter(const Real* from, int count, bool adds, const int* rows,
+                                           Real* column) noexcept {
+  const auto move = [&](bool is_sum) __attribute__((always_inline)) {
+    for (int i = 0; i < count; ++i) {
+      Real* const to = column + std::ptrdiff_t{kParts} * rows[i];
+      for (int part = 0; part < kParts; ++part) to[part] = (is_sum ? to[part] : 0) + from[kParts * i + part];
+    }
+  };
+  if (adds) {
+    move(true);
+  } else {
+    move(false);
+  }
+}
+
 // How many vectors the next panel has if `vectors` are left: shapes that keep many sums going.
 template <class Isa>
 constexpr int panel_vectors(int vectors) noexcept {
@@ -75,8 +105,14 @@ void make_part_of_tile(const Product<T>& p, const Panel<Isa, T>& whole, const Ti
     int first = panel.first_row, end = panel.first_row + panel.rows;
     if (p.part == Part::kLower) first = std::max(first, column + j);
     if (p.part == Part::kUpper) end = std::min(end, column + j + 1);
-    put<Isa>(copy + j * height + kParts * (first - panel.first_row), kParts * (end - first), row.adds,
-             reinterpret_cast<Real*>(p.c + first + (column + j) * p.ldc));
+    if (first >= end) continue;
+    const Real* const made = copy + j * height + kParts * (first - panel.first_row);
+    if (are_adjacent<Isa>(p.row_place, first, end - first)) {
+      put<Isa>(made, kParts * (end - first), row.adds, reinterpret_cast<Real*>(place<Isa>(p, first, column + j)));
+    } else {
+      Real* const c = reinterpret_cast<Real*>(p.c + p.column_place[column + j] * p.ldc);
+      scatter<Isa, kParts>(made, end - first, row.adds, p.row_place + first, c);
+    }
   }
 }
 
@@ -86,6 +122,7 @@ void make_tiles(const Product<T>& p, const Panel<Isa, T>& panel, const BlockOfB<
   using Real = RealOf<T>;
   constexpr int kParts = Tiles<Isa, T>::kParts;
   const int last_row = panel.first_row + panel.rows - 1;
+  const bool is_adjacent = are_adjacent<Isa>(p.row_place, panel.first_row, panel.rows);
   const int most = block.sliver > 1 ? block.sliver : tile_columns<Isa>(panel.vectors);
   const bool has_slivers = block.sliver > 1;
   TileRow<Real> row{panel.terms,
@@ -114,13 +151,17 @@ void make_tiles(const Product<T>& p, const Panel<Isa, T>& panel, const BlockOfB<
     }
     const bool is_inside =
         p.part == Part::kAll || (p.part == Part::kLower ? column + count - 1 <= panel.first_row : column >= last_row);
-    if (is_inside) {
-      TileKernel<Real>* const kernel = tile_kernel<Isa, Real>(panel.vectors, count);
-      // The tiles of this shape from here on that are inside, too.
+    int tiles = 0;
+    if (is_inside && is_adjacent) {
+      // The tiles of this shape from here on that are inside, too, and whose columns follow each other.
       const int columns =
           p.part == Part::kLower ? std::min(block.columns - j, panel.first_row - column + 1) : block.columns - j;
-      const int tiles = columns / count;
-      row.c = reinterpret_cast<Real*>(p.c + panel.first_row + column * p.ldc);
+      tiles = p.column_place == nullptr ? columns / count : 0;
+      while (tiles < columns / count && are_adjacent<Isa>(p.column_place, column, (tiles + 1) * count)) ++tiles;
+    }
+    if (tiles > 0) {
+      TileKernel<Real>* const kernel = tile_kernel<Isa, Real>(panel.vectors, count);
+      row.c = reinterpret_cast<Real*>(place<Isa>(p, panel.first_row, column));
       kernel(row, tiles);
       count *= tiles;
     } else {
@@ -169,8 +210,10 @@ void scale(const Product<T>& p) noexcept {
     int first = p.first_row, end = p.first_row + p.rows;
     if (p.part == Part::kLower) first = std::max(first, j);
     if (p.part == Part::kUpper) end = std::min(end, j + 1);
-    T* const c = p.c + j * p.ldc;
-    for (int i = first; i < end; ++i) c[i] = p.beta == T{} ? T{} : plain_product<Isa>(p.beta, c[i]);
+    for (int i = first; i < end; ++i) {
+      T& c = *place<Isa>(p, i, j);
+      c = p.beta == T{} ? T{} : plain_product<Isa>(p.beta, c);
+    }
   }
 }
 
