@@ -3,7 +3,6 @@
 
 #include "dense/blocked/buffers.hpp"
 #include "dense/blocked/level3.hpp"
-#include "dense/blocked/places.hpp"
 #include "dense/matrix.hpp"
 
 namespace quorin::dense {

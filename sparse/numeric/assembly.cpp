@@ -34,10 +34,9 @@ void for_each_element(const Plan& plan, const Pattern& pattern, const AssemblyOp
       if (options.panels == PanelKind::kUnsymmetric) {
         take(k, step, false);
         if (is_mirrored && i != j) take(k, mirrored, is_hermitian);
-      } else if (step.row >= step.column) {
-        take(k, step, false);
-      } else {
-        take(k, mirrored, is_hermitian);
+      } else {  // without a branch that nothing foretells
+        const bool is_above = step.row < step.column;
+        take(k, {std::max(step.row, step.column), std::min(step.row, step.column)}, is_hermitian && is_above);
       }
     }
   }

@@ -23,8 +23,9 @@ std::size_t to_size(std::int64_t n) noexcept { return static_cast<std::size_t>(n
 
 // So many right-hand sides are solved for together at the least, and at the most.
 constexpr int kFewestTogether = 4, kMostTogether = 32;
-// Supernodes with so many columns, and rows below, are worth a call of the dense kernels.
-constexpr int kManyColumns = 12;
+// Triangles of so many columns, and with so many columns and elements what stands below them, are worth a call of the
+// dense kernels.
+constexpr int kManyColumns = 8, kFewestColumns = 3, kManyProducts = 96;
 // The subtrees that go to threads are so many parts of the factor, whatever the number of threads, because their sums
 // are added up. Of a small factor there are none.
 constexpr int kParts = 16;
@@ -94,23 +95,82 @@ void solve_by_products(Triangle triangle, int n, const T* block, std::ptrdiff_t 
   }
 }
 
-// w vectors whose elements of a row stand side by side, Z = X^T, w x n: X <- op(L)^-1 X or op(U)^-1 X, where op is
-// transposition if so said.
-template <Scalar T>
-void solve_together(Triangle triangle, bool is_transposed, int n, const T* block, std::ptrdiff_t ld, T* z,
-                    int w) noexcept {
-  if (n >= kManyColumns) {
-    return dense::blocked::trsm('R', triangle.is_upper ? 'U' : 'L', is_transposed ? 'N' : 'T',
-                                triangle.has_unit_diagonal ? 'U' : 'N', w, n, T{1}, block, static_cast<int>(ld), z, w);
+// ---- w vectors whose elements of a row stand side by side: Z = X^T, w x n -------------------------------------------
+//
+// Products with a part P of a panel, which is much larger than what it multiplies. P is never copied to be transposed:
+// either its rows lie across the lanes of a vector, and the sums are transposed, or its elements are broadcast, and P
+// is cut into pieces that stay in a cache while all vectors are multiplied by them. How it is cut does not depend on w.
+
+template <class Pointer>
+Pointer row(Pointer z, int k, int w) noexcept {
+  return z + std::ptrdiff_t{k} * w;
+}
+
+// X_i <- X_i - P X_k: row_of(i) is the i-th of the m rows X_i in Z, and X_k are n rows that follow each other.
+// `buffer`: min(m, kRowsAtOnce) w.
+template <Scalar T, class RowOf>
+void subtract_product(int m, int n, const T* P, int ldp, const T* zk, int w, T* buffer, const RowOf& row_of) noexcept {
+  constexpr int kRowsAtOnce = 256;
+  for (int first = 0; first < m; first += kRowsAtOnce) {
+    const int count = std::min(kRowsAtOnce, m - first);
+    dense::blocked::gemm('N', 'T', count, w, n, T{-1}, P + first, ldp, zk, w, T{}, buffer, count);
+    for (int i = 0; i < count; ++i) {
+      T* const zi = row_of(first + i);
+      for (int r = 0; r < w; ++r) zi[r] += buffer[i + std::ptrdiff_t{r} * count];
+    }
   }
-  T row[kManyColumns];
+}
+
+// X_i <- X_i - P^T X_k, where P is m x n, X_k are m rows and X_i n rows.
+template <Scalar T>
+void subtract_transposed_product(int m, int n, const T* P, int ldp, const T* zk, int w, T* zi) noexcept {
+  constexpr int kTerms = 256, kColumns = 42;
+  for (int j = 0; j < n; j += kColumns) {
+    const int columns = std::min(kColumns, n - j);
+    for (int l = 0; l < m; l += kTerms) {
+      const int terms = std::min(kTerms, m - l);
+      dense::blocked::gemm('N', 'N', w, columns, terms, T{-1}, row(zk, l, w), w, P + l + std::ptrdiff_t{j} * ldp, ldp,
+                           T{1}, row(zi, j, w), w);
+    }
+  }
+}
+
+// X <- op(L)^-1 X or op(U)^-1 X, where op is transposition if so said. `buffer` as above.
+template <Scalar T>
+void solve_together(Triangle triangle, bool is_transposed, int n, const T* block, std::ptrdiff_t ld, T* z, int w,
+                    T* buffer) noexcept {
   const bool is_ascending = triangle.is_upper == is_transposed;
-  for (int step = 0; step < n; ++step) {
-    const int k = is_ascending ? step : n - 1 - step, first = is_ascending ? 0 : k + 1;
-    for (int j = 0; j < step; ++j) row[j] = is_transposed ? block[first + j + k * ld] : block[k + (first + j) * ld];
-    T* const zk = z + std::ptrdiff_t{k} * w;
-    subtract_multiples(w, step, row, z + std::ptrdiff_t{first} * w, w, zk);
-    if (!triangle.has_unit_diagonal) scale_column(w, T{1} / block[k + k * ld], zk);
+  if (n < kManyColumns) {
+    T factors[kManyColumns];
+    for (int step = 0; step < n; ++step) {
+      const int k = is_ascending ? step : n - 1 - step, first = is_ascending ? 0 : k + 1;
+      for (int j = 0; j < step; ++j) {
+        factors[j] = is_transposed ? block[first + j + k * ld] : block[k + (first + j) * ld];
+      }
+      T* const zk = row(z, k, w);
+      subtract_multiples(w, step, factors, row(z, first, w), w, zk);
+      if (!triangle.has_unit_diagonal) scale_column(w, T{1} / block[k + k * ld], zk);
+    }
+    return;
+  }
+  constexpr int kBlock = 64;
+  const int height = static_cast<int>(ld), blocks = (n + kBlock - 1) / kBlock;
+  const auto a = [&](int i, int j) { return block + i + j * ld; };
+  for (int step = 0; step < blocks; ++step) {
+    const int first = (is_ascending ? step : blocks - 1 - step) * kBlock, end = std::min(first + kBlock, n);
+    const int columns = end - first;
+    T* const zb = row(z, first, w);
+    if (is_transposed && is_ascending) {
+      subtract_transposed_product(first, columns, a(0, first), height, z, w, zb);
+    } else if (is_transposed) {
+      subtract_transposed_product(n - end, columns, a(end, first), height, row(z, end, w), w, zb);
+    }
+    dense::blocked::trsm('R', triangle.is_upper ? 'U' : 'L', is_transposed ? 'N' : 'T',
+                         triangle.has_unit_diagonal ? 'U' : 'N', w, columns, T{1}, a(first, first), height, zb, w);
+    if (is_transposed) continue;
+    const int other = is_ascending ? end : 0, count = is_ascending ? n - end : first;
+    subtract_product(count, columns, a(other, first), height, zb, w, buffer,
+                     [&](int i) { return row(z, other + i, w); });
   }
 }
 
@@ -207,15 +267,11 @@ class Solver {
     const int* const rows = plan_.below(s).data();
     T* const zs = row(z, plan_.first(s), w);
     take_order(s, w, zs, buffer);
-    solve_together(down_, down_.is_upper, shape.columns, panel.data(), shape.height, zs, w);
+    solve_together(down_, down_.is_upper, shape.columns, panel.data(), shape.height, zs, w, buffer);
     const T* const b = panel.data() + shape.offset;
     if (is_large(shape)) {
-      dense::blocked::gemm('N', 'T', w, shape.below, shape.columns, T{-1}, zs, w, b, shape.height, T{}, buffer, w);
-      for (int i = 0; i < shape.below; ++i) {
-        const T* const made = row(buffer, i, w);
-        T* const zi = row(z, rows[i], w);
-        for (int r = 0; r < w; ++r) zi[r] += made[r];
-      }
+      subtract_product(shape.below, shape.columns, b, shape.height, zs, w, buffer,
+                       [&](int i) { return row(z, rows[i], w); });
       return true;
     }
     constexpr int kAtOnce = 32;
@@ -239,13 +295,13 @@ class Solver {
     for (int i = 0; i < shape.below; ++i) std::copy_n(row(z, rows[i], w), w, row(buffer, i, w));
     const T* const b = panel.data() + shape.offset;
     if (is_large(shape)) {
-      dense::blocked::gemm('N', 'N', w, shape.columns, shape.below, T{-1}, buffer, w, b, shape.height, T{1}, zs, w);
+      subtract_transposed_product(shape.below, shape.columns, b, shape.height, buffer, w, zs);
     } else {
       for (int k = 0; k < shape.columns; ++k) {
         subtract_multiples(w, shape.below, b + std::ptrdiff_t{k} * shape.height, buffer, w, row(zs, k, w));
       }
     }
-    solve_together(up_, !up_.is_upper, shape.columns, panel.data(), shape.height, zs, w);
+    solve_together(up_, !up_.is_upper, shape.columns, panel.data(), shape.height, zs, w, buffer);
     give_order(s, w, zs, buffer);
     return true;
   }
@@ -280,11 +336,7 @@ class Solver {
     return {columns, below, plan_.height(kind_, s), columns + (triangle.is_upper ? below : 0)};
   }
   static bool is_large(const Shape& shape) noexcept {
-    return shape.columns >= kManyColumns && shape.below >= kManyColumns;
-  }
-  template <class Pointer>
-  static Pointer row(Pointer z, int k, int w) noexcept {
-    return z + std::ptrdiff_t{k} * w;
+    return shape.columns >= kFewestColumns && shape.columns * std::int64_t{shape.below} >= kManyProducts;
   }
 
   // The unknowns of supernode s in the order of its pivots, and back.
@@ -501,28 +553,39 @@ class BlockSolve {
 
   // Z <- X^T, or the given rows of it and zeros; and back, or the wanted rows.
   void load(const T* columns, int ldx, int w, T* z) const noexcept {
-    const auto row = [&](int k, int r) { return columns[k + std::ptrdiff_t{r} * ldx]; };
-    if (paths_ != nullptr) {
-      std::fill_n(z, to_size(plan_.size()) * to_size(w), T{});
-      for (const int k : paths_->given()) {
-        for (int r = 0; r < w; ++r) z[to_size(k) * to_size(w) + to_size(r)] = row(k, r);
-      }
-      return;
+    if (paths_ == nullptr) {
+      return for_each_line(columns, ldx, w, [&](const T* line, int first, int count, int r) {
+        for (int k = 0; k < count; ++k) row(z, first + k, w)[r] = line[k];
+      });
     }
-    for (int r = 0; r < w; ++r) {
-      for (int k = 0; k < plan_.size(); ++k) z[to_size(k) * to_size(w) + to_size(r)] = row(k, r);
+    std::fill_n(z, to_size(plan_.size()) * to_size(w), T{});
+    for (const int k : paths_->given()) {
+      for (int r = 0; r < w; ++r) row(z, k, w)[r] = columns[k + std::ptrdiff_t{r} * ldx];
     }
   }
   void store(const T* z, int w, T* columns, int ldx) const noexcept {
-    const auto row = [&](int k, int r) -> T& { return columns[k + std::ptrdiff_t{r} * ldx]; };
-    if (paths_ != nullptr) {
-      for (const int k : paths_->wanted()) {
-        for (int r = 0; r < w; ++r) row(k, r) = z[to_size(k) * to_size(w) + to_size(r)];
-      }
-      return;
+    if (paths_ == nullptr) {
+      return for_each_line(columns, ldx, w, [&](T* line, int first, int count, int r) {
+        for (int k = 0; k < count; ++k) line[k] = row(z, first + k, w)[r];
+      });
     }
-    for (int r = 0; r < w; ++r) {
-      for (int k = 0; k < plan_.size(); ++k) row(k, r) = z[to_size(k) * to_size(w) + to_size(r)];
+    for (const int k : paths_->wanted()) {
+      for (int r = 0; r < w; ++r) columns[k + std::ptrdiff_t{r} * ldx] = row(z, k, w)[r];
+    }
+  }
+
+  // Calls body(line, first, count, r) for the elements of vector r from `first` on, cache line by cache line, all
+  // vectors in turn. That is more vectors than a processor fetches ahead of by itself.
+  template <class Pointer, class Body>
+  void for_each_line(Pointer columns, int ldx, int w, const Body& body) const noexcept {
+    constexpr int kLine = 64 / static_cast<int>(sizeof(T));
+    for (int first = 0; first < plan_.size(); first += kLine) {
+      const int count = std::min(kLine, plan_.size() - first);
+      for (int r = 0; r < w; ++r) {
+        const Pointer line = columns + first + std::ptrdiff_t{r} * ldx;
+        __builtin_prefetch(line + 2 * kLine);
+        body(line, first, count, r);
+      }
     }
   }
 

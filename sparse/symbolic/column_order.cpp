@@ -35,9 +35,6 @@ class Partition {
   }
 
   int place(int step) const noexcept { return place_[step]; }
-  // Whether all of a supernode's columns are one class still, which has the supernode's number.
-  bool is_whole(int supernode, int columns) const noexcept { return end_[supernode] - begin_[supernode] == columns; }
-
   // Splits the classes of the supernode of steps first, ..., end - 1 so that each has all of the set's steps or none.
   // What is split off a class moves to the side where its neighbour has steps of the set, too.
   void refine(const int* set, int size, int end) noexcept {
@@ -108,27 +105,29 @@ bool order_columns(const SupernodeRows& supernodes, int movable, int n, const Or
   base::Workspace<int> vertices(static_cast<std::size_t>(n));
   if (!vertices || !partition.create(supernodes, n)) return false;
   // Supernodes that come last have the largest updates: their rows are put together first. Those of few columns have
-  // little to add.
-  constexpr int kFewColumns = 4;
+  // little to add, and of a narrow panel little is scattered.
+  constexpr int kFewAdded = 8, kFewColumns = 16;
   for (int d = supernodes.supernodes - 1; d >= 0; --d) {
-    if (supernodes.first[d + 1] - supernodes.first[d] <= kFewColumns) continue;
+    if (supernodes.first[d + 1] - supernodes.first[d] <= kFewAdded) continue;
     for_each_block(supernodes, d, [&](const int* rows, int count, int s) {
-      const int end = supernodes.first[s + 1];
-      if (count > 1 && count < end - supernodes.first[s] && s < movable) partition.refine(rows, count, end);
+      const int end = supernodes.first[s + 1], columns = end - supernodes.first[s];
+      if (count > 1 && count < columns && columns > kFewColumns && s < movable) partition.refine(rows, count, end);
     });
   }
   for (int d = 0; d < supernodes.supernodes; ++d) {
-    for_each_block(supernodes, d, [&](int* rows, int count, int s) {
-      const int columns = supernodes.first[s + 1] - supernodes.first[s];
-      if (count == columns || partition.is_whole(s, columns)) return;
-      int least = n, most = 0;
-      for (int i = 0; i < count; ++i) {
-        rows[i] = partition.place(rows[i]);
-        least = std::min(least, rows[i]);
-        most = std::max(most, rows[i]);
-      }
-      if (most - least == count - 1) {
-        std::iota(rows, rows + count, least);
+    bool is_ascending = true;
+    int before = 0;
+    for (int k = supernodes.row_starts[d]; k < supernodes.row_starts[d + 1]; ++k) {
+      supernodes.rows[k] = partition.place(supernodes.rows[k]);
+      is_ascending = is_ascending && supernodes.rows[k] >= before;
+      before = supernodes.rows[k];
+    }
+    // Rows stay in their supernodes' places.
+    if (is_ascending) continue;
+    for_each_block(supernodes, d, [&](int* rows, int count, int) {
+      const auto [least, most] = std::minmax_element(rows, rows + count);
+      if (*most - *least == count - 1) {
+        std::iota(rows, rows + count, int{*least});
       } else {
         std::sort(rows, rows + count);
       }

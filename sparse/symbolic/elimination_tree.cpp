@@ -5,13 +5,39 @@
 
 namespace quorin::sparse {
 
-void elimination_tree(const Graph& graph, const Ordering& ordering, int* parent, int* scratch) noexcept {
+bool StepNeighbours::build(const Graph& graph, const Ordering& ordering) noexcept {
+  const int n = graph.size();
+  const auto size = static_cast<std::size_t>(n);
+  size_ = n;
+  starts_ = base::Workspace<int>(size + 1);
+  later_ = base::Workspace<int>(size);
+  steps_ = base::Workspace<int>(static_cast<std::size_t>(graph.directed_edges()));
+  if (!starts_ || !later_ || !steps_) return false;
+  starts_[0] = 0;
+  for (int k = 0; k < n; ++k) {
+    const auto list = graph.neighbours(ordering.permutation[k]);
+    starts_[k + 1] = starts_[k] + static_cast<int>(list.size());
+    // From both ends, without a branch that nothing foretells: each step is written to either place, and one advances.
+    int *front = steps_.data() + starts_[k], *back = steps_.data() + starts_[k + 1] - 1;
+    for (const int neighbour : list) {
+      const int i = ordering.inverse[neighbour];
+      const bool is_earlier = i < k;
+      *front = *back = i;
+      front += is_earlier ? 1 : 0;
+      back -= is_earlier ? 0 : 1;
+    }
+    later_[k] = static_cast<int>(front - steps_.data());
+  }
+  return true;
+}
+
+void elimination_tree(const StepNeighbours& neighbours, int* parent, int* scratch) noexcept {
   int* const ancestor = scratch;
-  for (int k = 0; k < graph.size(); ++k) {
+  for (int k = 0; k < neighbours.size(); ++k) {
     parent[k] = ancestor[k] = kNone;
-    for (const int neighbour : graph.neighbours(ordering.permutation[k])) {
+    for (int i : neighbours.earlier(k)) {
       // From a_ki up to the root of the tree so far, whose parent is k; the path is shortened to k.
-      for (int i = ordering.inverse[neighbour]; i != kNone && i < k;) {
+      while (i != kNone && i != k) {
         const int next = ancestor[i];
         ancestor[i] = k;
         if (next == kNone) parent[i] = k;
@@ -85,9 +111,9 @@ class RowSubtrees {
 
 }  // namespace
 
-void column_counts(const Graph& graph, const Ordering& ordering, const int* parent, const int* order, int* counts,
+void column_counts(const StepNeighbours& neighbours, const int* parent, const int* order, int* counts,
                    int* scratch) noexcept {
-  const int n = graph.size();
+  const int n = neighbours.size();
   int* const first_descendant = scratch;
   std::fill_n(first_descendant, n, kNone);
   // A node without children begins with the diagonal; the others with what their children bring.
@@ -99,10 +125,9 @@ void column_counts(const Graph& graph, const Ordering& ordering, const int* pare
   for (int k = 0; k < n; ++k) {
     const int j = order[k];
     if (parent[j] != kNone) --counts[parent[j]];
-    for (const int neighbour : graph.neighbours(ordering.permutation[j])) {
-      const int i = ordering.inverse[neighbour];
+    for (const int i : neighbours.later(j)) {
       int overlap = kNone;
-      if (i > j && rows.is_leaf(i, j, first_descendant[j], overlap)) {
+      if (rows.is_leaf(i, j, first_descendant[j], overlap)) {
         ++counts[j];
         if (overlap != kNone) --counts[overlap];
       }
@@ -118,14 +143,15 @@ void column_counts(const Graph& graph, const Ordering& ordering, const int* pare
 std::int64_t factor_entries(const Graph& graph, const Ordering& ordering) noexcept {
   const int n = graph.size();
   base::Workspace<int> work(base::saturating_product(static_cast<std::size_t>(n), 7));
-  if (!work) return -1;
+  StepNeighbours neighbours;
+  if (!work || !neighbours.build(graph, ordering)) return -1;
   int* const parent = work.data();
   int* const order = parent + n;
   int* const counts = order + n;
   int* const scratch = counts + n;
-  elimination_tree(graph, ordering, parent, scratch);
+  elimination_tree(neighbours, parent, scratch);
   postorder(n, parent, order, scratch);
-  column_counts(graph, ordering, parent, order, counts, scratch);
+  column_counts(neighbours, parent, order, counts, scratch);
   return std::accumulate(counts, counts + n, std::int64_t{0});
 }
 

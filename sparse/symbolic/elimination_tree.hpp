@@ -2,15 +2,36 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 
+#include "base/workspace.hpp"
 #include "sparse/pattern/graph.hpp"
 
 namespace quorin::sparse {
 
-// The tree of P A P^T, where the graph is A's: parent[k] is the row of the first entry below the diagonal in column k
-// of the factor, kNone at a root. Nodes are steps of the ordering. `scratch`: n. Time: O(edges log n), near linear in
-// practice. Liu, ACM TOMS 12 (1986).
-void elimination_tree(const Graph& graph, const Ordering& ordering, int* parent, int* scratch) noexcept;
+// The neighbours of each step of an ordering, as steps. Which of two neighbours comes first is the same in all orders
+// with the same elimination tree, so that these lists serve for its postorders, too.
+class StepNeighbours {
+ public:
+  // False without memory. Neither argument is kept. Time: O(n + edges).
+  [[nodiscard]] bool build(const Graph& graph, const Ordering& ordering) noexcept;
+
+  int size() const noexcept { return size_; }
+  std::span<const int> earlier(int k) const noexcept { return {steps_.data() + starts_[k], steps_.data() + later_[k]}; }
+  std::span<const int> later(int k) const noexcept {
+    return {steps_.data() + later_[k], steps_.data() + starts_[k + 1]};
+  }
+
+ private:
+  int size_ = 0;
+  base::Workspace<int> starts_, later_;  // where the lists, and where their later steps begin
+  base::Workspace<int> steps_;
+};
+
+// The tree of P A P^T: parent[k] is the row of the first entry below the diagonal in column k of the factor, kNone at a
+// root. Nodes are steps of the ordering. `scratch`: n. Time: O(edges log n), near linear in practice. Liu, ACM TOMS 12
+// (1986).
+void elimination_tree(const StepNeighbours& neighbours, int* parent, int* scratch) noexcept;
 
 // Nodes in an order in which children come before their parents and every subtree is contiguous: order[k] is the k-th.
 // `scratch`: 2 n. No recursion: trees may be as deep as they have nodes.
@@ -18,7 +39,7 @@ void postorder(int n, const int* parent, int* order, int* scratch) noexcept;
 
 // The entries of each column of the factor, diagonal included. `order` is a postorder of the tree; `scratch`: 4 n.
 // Time: as the tree's. Gilbert, Ng & Peyton, SIAM J. Matrix Anal. Appl. 15 (1994).
-void column_counts(const Graph& graph, const Ordering& ordering, const int* parent, const int* order, int* counts,
+void column_counts(const StepNeighbours& neighbours, const int* parent, const int* order, int* counts,
                    int* scratch) noexcept;
 
 // The entries of the factor, diagonal included, or -1 if there is no memory.

@@ -19,41 +19,37 @@ std::size_t to_size(int n) noexcept { return static_cast<std::size_t>(n); }
 // The elimination tree with the steps in postorder.
 struct OrderedTree {
   explicit OrderedTree(int n) noexcept
-      : memory(base::saturating_product(to_size(n), 8)),
-        steps{memory.data(), memory.data() + n},
-        parent(steps.inverse + n),
+      : memory(base::saturating_product(to_size(n), 7)),
+        given(memory.data()),
+        parent(given + n),
         counts(parent + n),
         scratch(counts + n) {}
 
   Workspace<int> memory;
-  Ordering steps;
+  int* given;  // steps of the given ordering
   int *parent, *counts;
   int* scratch;  // 4 n
 };
 
-// Rearranges the ordering into a postorder of its tree. The last `schur_size` steps are taken for a clique, so that
-// they remain the last: each is the parent of the one before, and comes after all of its other children.
-void order_tree_by_depth(const Graph& graph, const Ordering& ordering, int schur_size, OrderedTree& tree) noexcept {
-  const int n = graph.size();
-  int* const given_parent = tree.counts;  // which is not in use yet
-  elimination_tree(graph, ordering, given_parent, tree.scratch);
-  for (int k = n - schur_size; k < n; ++k) given_parent[k] = k + 1 < n ? k + 1 : kNone;
-  int* const order = tree.scratch;
-  int* const place = order + n;
-  postorder(n, given_parent, order, place);
-  for (int k = 0; k < n; ++k) place[order[k]] = k;
+// Rearranges the ordering into a postorder of its tree, and counts the entries of the factor's columns. The last
+// `schur_size` steps are taken for a clique, so that they remain the last: each is the parent of the one before, and
+// comes after all of its other children. False without memory.
+bool order_tree_by_depth(const StepNeighbours& neighbours, int schur_size, OrderedTree& tree) noexcept {
+  const int n = neighbours.size();
+  Workspace<int> given(base::saturating_product(to_size(n), 2));
+  if (!given) return false;
+  int *const parent = given.data(), *const counts = parent + n, *const place = counts;  // one after the other
+  elimination_tree(neighbours, parent, tree.scratch);
+  for (int k = n - schur_size; k < n; ++k) parent[k] = k + 1 < n ? k + 1 : kNone;
+  postorder(n, parent, tree.given, tree.scratch);
+  for (int k = 0; k < n; ++k) place[tree.given[k]] = k;
   for (int k = 0; k < n; ++k) {
-    const int given = order[k];
-    tree.steps.place(ordering.permutation[given], k);
-    tree.parent[k] = given_parent[given] == kNone ? kNone : place[given_parent[given]];
+    const int above = parent[tree.given[k]];
+    tree.parent[k] = above == kNone ? kNone : place[above];
   }
-}
-
-void count_entries(const Graph& graph, int schur_size, OrderedTree& tree, int* identity) noexcept {
-  const int n = graph.size();
-  std::iota(identity, identity + n, 0);
-  column_counts(graph, tree.steps, tree.parent, identity, tree.counts, tree.scratch);
-  for (int k = n - schur_size; k < n; ++k) tree.counts[k] = n - k;
+  column_counts(neighbours, parent, tree.given, counts, tree.scratch);
+  for (int k = 0; k < n; ++k) tree.counts[k] = k < n - schur_size ? counts[tree.given[k]] : n - k;
+  return true;
 }
 
 // The remaining supernodes in postorder, the children of each arranged so that a stack of update matrices is smallest.
@@ -176,11 +172,11 @@ Outcome Plan::build(const Graph& graph, const Ordering& ordering, const PlanOpti
   plan.supernode_of_ = Workspace<int>(to_size(n));
   OrderedTree tree(n);
   Supernodes supernodes(n);
-  if (!plan.permutation_ || !plan.inverse_ || !plan.supernode_of_ || !tree.memory || !supernodes.memory) {
+  StepNeighbours neighbours;
+  if (!plan.permutation_ || !plan.inverse_ || !plan.supernode_of_ || !tree.memory || !supernodes.memory ||
+      !neighbours.build(graph, ordering) || !order_tree_by_depth(neighbours, options.schur_size, tree)) {
     return Outcome::kOutOfMemory;
   }
-  order_tree_by_depth(graph, ordering, options.schur_size, tree);
-  count_entries(graph, options.schur_size, tree, plan.permutation_.data());
   plan.entries_ = std::accumulate(tree.counts, tree.counts + n, std::int64_t{0});
   int* const height = tree.scratch;
   std::fill_n(height, n, 1);
@@ -196,10 +192,11 @@ Outcome Plan::build(const Graph& graph, const Ordering& ordering, const PlanOpti
   if (options.pair_of != nullptr) {
     must_merge = tree.scratch + n;
     std::fill_n(must_merge, fundamental, 0);
+    const auto vertex = [&](int k) { return ordering.permutation[tree.given[k]]; };
     for (int k = 0; k < n; ++k) {
       const int p = tree.parent[k];
       if (p == kNone || supernodes.of[p] == supernodes.of[k]) continue;
-      must_merge[supernodes.of[k]] = options.pair_of[tree.steps.permutation[k]] == tree.steps.permutation[p];
+      must_merge[supernodes.of[k]] = options.pair_of[vertex(k)] == vertex(p);
     }
   }
   const int fixed = options.schur_size > 0 ? fundamental - 1 : fundamental;
@@ -229,13 +226,14 @@ Outcome Plan::build(const Graph& graph, const Ordering& ordering, const PlanOpti
     plan.parent_[i] = parent[old] == kNone ? kNone : arranged.place[parent[old]];
   }
   // The steps of a supernode in their old order, which is one of elimination.
-  int* const next = tree.scratch + 2 * n;
+  int *const next = tree.scratch + 2 * n, *const given_step = tree.parent, *const supernode_of_given = tree.counts;
   std::copy_n(plan.first_.data(), count, next);
   const Ordering steps{plan.permutation_.data(), plan.inverse_.data()};
   for (int k = 0; k < n; ++k) {
-    const int s = arranged.place[merged_into[supernodes.of[k]]];
-    plan.supernode_of_[to_size(next[s])] = s;
-    steps.place(tree.steps.permutation[k], next[s]++);
+    const int s = arranged.place[merged_into[supernodes.of[k]]], step = next[s]++, given = tree.given[k];
+    plan.supernode_of_[to_size(step)] = supernode_of_given[given] = s;
+    steps.place(ordering.permutation[given], step);
+    given_step[step] = given;
   }
 
   // Row k of the factor: each entry a_ki, i < k, makes entries in all supernodes on the way from i's up to k's.
@@ -245,11 +243,9 @@ Outcome Plan::build(const Graph& graph, const Ordering& ordering, const PlanOpti
   std::fill_n(visited, count, kNone);
   std::copy_n(plan.row_starts_.data(), count, next);
   for (int k = 0; k < n; ++k) {
-    const int own = plan.supernode_of(k);
-    for (const int neighbour : graph.neighbours(plan.permutation()[k])) {
-      const int i = plan.inverse()[neighbour];
-      if (i > k) continue;
-      for (int s = plan.supernode_of(i); s != own && visited[s] != k; s = plan.parent(s)) {
+    visited[plan.supernode_of(k)] = k;
+    for (const int i : neighbours.earlier(given_step[k])) {
+      for (int s = supernode_of_given[i]; visited[s] != k; s = plan.parent(s)) {
         visited[s] = k;
         plan.rows_[to_size(next[s]++)] = k;
       }

@@ -151,10 +151,12 @@ TEST(EliminationTree, AndCountsAreThoseOfElimination) {
     const Factor expected = eliminate(A, arrays);
 
     std::vector<int> parent(n), order(n), counts(n), scratch(4 * n);
-    elimination_tree(graph, arrays.ordering(), parent.data(), scratch.data());
+    StepNeighbours neighbours;
+    ASSERT_TRUE(neighbours.build(graph, arrays.ordering()));
+    elimination_tree(neighbours, parent.data(), scratch.data());
     EXPECT_EQ(parent, expected.parent) << A.name;
     postorder(n, parent.data(), order.data(), scratch.data());
-    column_counts(graph, arrays.ordering(), parent.data(), order.data(), counts.data(), scratch.data());
+    column_counts(neighbours, parent.data(), order.data(), counts.data(), scratch.data());
     EXPECT_EQ(counts, expected.counts) << A.name;
     EXPECT_EQ(factor_entries(graph, arrays.ordering()), std::accumulate(counts.begin(), counts.end(), std::int64_t{0}));
 

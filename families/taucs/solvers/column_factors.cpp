@@ -32,7 +32,9 @@ std::int64_t analyze(const CcsMatrix& A, int& depth) {
   const sparse::Ordering identity{arrays.data(), arrays.data() + n};
   int *const parent = identity.inverse + n, *const level = parent + n;
   sparse::order_identity(n, identity);
-  sparse::elimination_tree(graph, identity, parent, level);
+  sparse::StepNeighbours neighbours;
+  if (!neighbours.build(graph, identity)) return -1;
+  sparse::elimination_tree(neighbours, parent, level);
   depth = 0;
   for (int j = n - 1; j >= 0; --j) {  // parents come after their children
     level[j] = parent[j] == sparse::kNone ? 1 : level[parent[j]] + 1;
