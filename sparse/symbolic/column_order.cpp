@@ -35,6 +35,7 @@ class Partition {
   }
 
   int place(int step) const noexcept { return place_[step]; }
+
   // Splits the classes of the supernode of steps first, ..., end - 1 so that each has all of the set's steps or none.
   // What is split off a class moves to the side where its neighbour has steps of the set, too.
   void refine(const int* set, int size, int end) noexcept {
