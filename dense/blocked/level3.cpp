@@ -9,8 +9,8 @@
 #include "base/parallel.hpp"
 #include "dense/blas/partition.hpp"
 #include "dense/blocked/buffers.hpp"
-#include "dense/blocked/places.hpp"
 #include "dense/kernels/kernel_set.hpp"
+#include "dense/places.hpp"
 
 namespace quorin::dense::blocked {
 namespace {

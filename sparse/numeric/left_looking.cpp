@@ -6,7 +6,7 @@
 #include "base/parallel.hpp"
 #include "base/thread_settings.hpp"
 #include "dense/blocked.hpp"
-#include "dense/blocked/places.hpp"
+#include "dense/places.hpp"
 #include "sparse/numeric/factor_task.hpp"
 #include "sparse/numeric/loops.hpp"
 #include "sparse/numeric/thread_slots.hpp"

@@ -2,9 +2,9 @@
 // precision. Operands lie flush against inaccessible pages; sizes cross the edges of tiles, panels and blocks.
 #include "base/parallel.hpp"
 #include "dense/blocked.hpp"
-#include "dense/blocked/places.hpp"
 #include "dense/dense.hpp"
 #include "dense/kernels/kernel_set.hpp"
+#include "dense/places.hpp"
 #include "tests/support/guarded_pages.hpp"
 #include "tests/support/test.hpp"
 
