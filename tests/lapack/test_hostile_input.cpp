@@ -146,26 +146,6 @@ TEST(Exchanges, ThatLeadOutsideAreRefused) {
   expect({1, 2, -3}, -6, -6);
 }
 
-// Each block of a tridiagonal matrix ends below the one before it, and inside of the matrix.
-TEST(Exchanges, EndsOfBlocksAscend) {
-  const std::int32_t n = 4, m = 4;
-  const std::vector<float> d = {1, 2, 3, 4}, e(3, 0), w = {1, 2, 3, 4};
-  const auto expect = [&](const std::vector<std::int32_t>& isplit, std::int32_t expected) {
-    std::vector<float> z(16), work(20);
-    std::vector<std::int32_t> iblock = {1, 1, 2, 3}, iwork(4), ifail(4);
-    std::int32_t info = -99;
-    quorin::test::captured([&] {
-      sstein(&n, d.data(), e.data(), &m, w.data(), iblock.data(), isplit.data(), z.data(), &n, work.data(),
-             iwork.data(), ifail.data(), &info);
-    });
-    EXPECT_EQ(info, expected) << testing::PrintToString(isplit);
-  };
-  expect({2, 3, 4, 0}, 0);
-  for (const std::vector<std::int32_t>& wrong : {std::vector{2, 2, 4, 0}, {0, 3, 4, 0}, {3, 2, 4, 0}, {2, 3, 5, 0}}) {
-    expect(wrong, -7);
-  }
-}
-
 TEST(Exchanges, OfBalancingAreTheHostsToo) {
   const std::int32_t n = 3, m = 1, ilo = 2, ihi = 2;
   for (const float row : {0.0F, 4.0F, -1.0F, 3e38F, kNan}) {
@@ -174,6 +154,29 @@ TEST(Exchanges, OfBalancingAreTheHostsToo) {
     quorin::test::captured([&] { sgebak("P", "R", &n, &ilo, &ihi, scale.data(), &m, v.data(), &n, &info); });
     EXPECT_EQ(info, -6);
     EXPECT_EQ(v, (std::vector<float>{1, 2, 3}));
+  }
+}
+
+// Squares of larger elements overflow.
+TEST(NotFiniteInput, OfBisectionIsWhatHasNoSquares) {
+  const std::int32_t n = 2, il = 0, iu = 0;
+  const float abstol = 0;
+  const auto bisect = [&](const std::vector<float>& d, float e, float bound, const char* range) {
+    std::vector<float> w(2), work(8);
+    std::vector<std::int32_t> iblock(2), isplit(2), iwork(6);
+    std::int32_t m = -1, nsplit = -1, info = -1;
+    sstebz(range, "E", &n, &bound, &bound, &il, &iu, &abstol, d.data(), &e, &m, &nsplit, w.data(), iblock.data(),
+           isplit.data(), work.data(), iwork.data(), &info);
+    EXPECT_EQ(m, 2);
+    EXPECT_EQ(are_nan(w), info != 0);
+    return info;
+  };
+  EXPECT_EQ(bisect({1, 2}, 0.5F, kNan, "A"), 0) << "bounds that nobody reads";
+  EXPECT_EQ(bisect({1, 9e17F}, 9e17F, 0, "A"), 0);
+  for (const float large : {1.1e18F, kInfinity, kNan}) {
+    EXPECT_EQ(bisect({1, large}, 0.5F, 0, "A"), 1) << large;
+    EXPECT_EQ(bisect({-large, 1}, 0.5F, 0, "A"), 1) << large;
+    EXPECT_EQ(bisect({1, 2}, large, 0, "A"), 1) << large;
   }
 }
 

@@ -42,6 +42,25 @@ State next_state(State state, int phase) {
   return kFactored;
 }
 
+// The smallest systems are systems; another one than was analysed is none.
+TEST(Misuse, OrdersFromOneOn) {
+  for (const int mtype : {1, 2, -2, 3, 4, -4, 6, 11, 13}) {
+    in_both_precisions(mtype, [mtype]<class T>() {
+      Host<T> host(Matrix{mtype, {1, 2}, {1}, {4}});
+      EXPECT_EQ(host.call(13), 0) << mtype;
+      EXPECT_EQ(host.x[0], from<T>(0.25)) << mtype;
+    });
+  }
+  Host<double> host(unsymmetric8());
+  ASSERT_EQ(host.call(12), 0);
+  for (const int n : {7, 9, 0, -8}) {
+    host.n = n;
+    for (const int phase : {22, 33}) EXPECT_EQ(host.call(phase), -1) << n;
+  }
+  host.n = 8;
+  EXPECT_EQ(host.call(33), 0);
+}
+
 // Every sequence of three phases.
 TEST(Misuse, PhasesInAnyOrder) {
   for (const int first : kPhases) {

@@ -433,16 +433,20 @@ TEST(Parameters, IterationInThePlaceOfFactorization) {
 }
 
 TEST(Parameters, ExactPreconditionersNeedOneStep) {
-  for (const int operation : {0, 1, 2}) {
-    Host<std::complex<double>> host(complex5());
-    host.cell(12) = operation;
-    ASSERT_EQ(host.call(13), 0);
-    for (const int digits : {10, 0}) {
-      host.cell(4) = 10 * digits + 1;
-      ASSERT_EQ(host.call(33), 0);
-      EXPECT_GE(host.cell(20), 1);
-      EXPECT_LE(host.cell(20), 2);
-      EXPECT_LT(backward_error(complex5(), host, host.b, host.x, operation), 1e-12);
+  const Matrix hermitian{4, {1, 3, 5, 6}, {1, 2, 2, 3, 3}, {4, {1, 2}, 5, {-1, 1}, 6}};
+  for (const auto& [A, method] : {std::pair(complex5(), 1), {hermitian, 2}}) {
+    for (const int operation : {0, 1, 2}) {
+      Host<Complex> host(A);
+      host.b[0] = {1, -2};
+      host.cell(12) = operation;
+      ASSERT_EQ(host.call(13), 0);
+      for (const int digits : {10, 0}) {
+        host.cell(4) = 10 * digits + method;
+        ASSERT_EQ(host.call(33), 0);
+        EXPECT_GE(host.cell(20), 1);
+        EXPECT_LE(host.cell(20), 2);
+        EXPECT_LT(backward_error(A, host, host.b, host.x, operation), 1e-12);
+      }
     }
   }
 }
@@ -498,7 +502,7 @@ TEST(Parameters, BlockRows) {
   EXPECT_EQ(entries.call(13), 0);
 }
 
-// msglvl.
+// msglvl: the lines of a report, by what was done and asked for.
 TEST(Parameters, StatisticsOnRequest) {
   Host<double> host(indefinite8());
   for (const int silent : {0, -1, 2}) {
@@ -508,15 +512,82 @@ TEST(Parameters, StatisticsOnRequest) {
   host.cell(12) = 77;
   EXPECT_EQ(quorin::test::captured([&] { EXPECT_EQ(host.call(33), -1); }), "");
   host.cell(12) = 0;
-  host.msglvl = 1;
   host.cell(8) = 1;
-  const std::string text = quorin::test::captured([&] { EXPECT_EQ(host.call(13), 0); });
-  for (const char* what : {"backward error", "analysis", "factorization", "solution", "symmetric indefinite",
-                           "mtype -2", "18 (", "5 positive, 3 negative", "nested dissection", "total", "perturbed"}) {
-    EXPECT_NE(text.find(what), std::string::npos) << what << " is not in:\n" << text;
+  const auto line = [](const char* what, const std::string& value) {
+    char text[100];
+    std::snprintf(text, sizeof text, "\n  %-26s ", what);
+    return text + value;
+  };
+  const auto expect_report = [&line](auto& reported, int phase, int expected, const std::string& head,
+                                     const std::vector<std::pair<const char*, std::string>>& lines) {
+    reported.msglvl = 1;
+    const std::string text = quorin::test::captured([&] { EXPECT_EQ(reported.call(phase), expected); });
+    EXPECT_TRUE(text.starts_with("\nPARDISO, phase " + head + "\n")) << text;
+    for (const auto& [what, value] : lines) {
+      EXPECT_NE(text.find(line(what, value)), std::string::npos) << what << ' ' << value << " is not in:\n" << text;
+    }
+    return text;
+  };
+  expect_report(host, 13, 0, "13, analysis, factorization, solution, factorization 1",
+                {{"matrix", "real, symmetric indefinite (mtype -2), double precision\n"},
+                 {"equations", "8\n"},
+                 {"entries", "18 (28.1 % of all), one-based\n"},
+                 {"ordering", "nested dissection\n"},
+                 {"matching, scaling, checker", "off, off, off\n"},
+                 {"supernodes", ""},
+                 {"depth of the tree", ""},
+                 {"factors", "in memory, "},
+                 {"perturbed pivots", "0\n"},
+                 {"inertia", "5 positive, 3 negative\n"},
+                 {"right-hand sides", "1\n"},
+                 {"refinement steps", ""},
+                 {"backward error", ""},
+                 {"threads", ""},
+                 {"total", ""},
+                 {"error", "0: done\n"}});
+  const std::string solved = expect_report(host, 33, 0, "33, solution, factorization 1", {{"error", "0: done\n"}});
+  for (const char* const what : {"ordering", "inertia", "perturbed"}) {
+    EXPECT_EQ(solved.find(what), std::string::npos) << what << " belongs to other phases";
   }
   host.nrhs = 0;
-  EXPECT_NE(quorin::test::captured([&] { EXPECT_EQ(host.call(33), -1); }).find("-1"), std::string::npos);
+  expect_report(host, 33, -1, "33, solution, factorization 1",
+                {{"error", "-1: an argument is wrong or does not agree with an earlier phase\n"}});
+  // Everything else that a host may ask for.
+  Host<float> other(Matrix{11, {1, 3, 5}, {1, 2, 1, 2}, {10, 1, 2, 12, 3, 0, 4, 1, 0, 1, 2, 0, 9, 3, 1, 8}}, 0);
+  other.b.assign(4, 1);
+  other.x = other.b;
+  other.cell(2) = 0;
+  other.cell(11) = other.cell(13) = 0;
+  other.cell(27) = 1;
+  other.cell(37) = 2;
+  expect_report(other, 13, 0, "13, analysis, factorization, solution, factorization 1",
+                {{"matrix", "real, unsymmetric (mtype 11), single precision\n"},
+                 {"entries", ""},
+                 {"blocks", "of order 2\n"},
+                 {"ordering", "minimum degree\n"},
+                 {"matching, scaling, checker", "off, off, on\n"}});
+  Host<double> general(Matrix{11, {1, 3, 5}, {1, 2, 1, 2}, {1, 2, 3, 4}});
+  general.cell(5) = 1;
+  general.perm = {2, 1};
+  expect_report(general, 12, 0, "12, analysis, factorization, factorization 1",
+                {{"ordering", "given\n"}, {"matching, scaling, checker", "on, on, off\n"}});
+  const std::pair<int, const char*> kinds[] = {{1, "real, structurally symmetric"},
+                                               {2, "real, symmetric positive definite"},
+                                               {3, "complex, structurally symmetric"},
+                                               {4, "complex, Hermitian positive definite"},
+                                               {-4, "complex, Hermitian indefinite"},
+                                               {6, "complex, symmetric"},
+                                               {13, "complex, unsymmetric"}};
+  for (const auto& [mtype, name] : kinds) {
+    in_double(mtype, [&, kind = mtype, text = name]<class T>() {
+      Host<T> diagonal(Matrix{kind, {1, 2, 3}, {1, 2}, {1, 4}});
+      expect_report(diagonal, 11, 0, "11, analysis, factorization 1",
+                    {{"matrix", std::string(text) + " (mtype " + std::to_string(kind) + "), double precision\n"},
+                     {"entries", "2 (50 % of all), one-based\n"}});
+    });
+  }
+  Host<double> singular(Matrix{11, {1, 2, 3}, {1, 1}, {1, 1}});
+  expect_report(singular, 11, -6, "11, analysis, factorization 1", {{"error", "-6: structurally singular\n"}});
 }
 
 }  // namespace

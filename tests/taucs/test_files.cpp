@@ -183,6 +183,12 @@ TEST(HarwellBoeing, TypesAndStructures) {
   expect_record(hb("pUa", pattern, TAUCS_DCOMPLEX), record(TAUCS_DCOMPLEX, {1, 0, 1, 0, 1, 0}));
   expect_record(hb("CHA", complex, TAUCS_DCOMPLEX), record(TAUCS_DCOMPLEX | kHermitianLower, {1, 0, -20, 1, 300, 5}));
   expect_record(hb("czA", complex, TAUCS_DCOMPLEX), record(TAUCS_DCOMPLEX, {1, 0, -20, 1, 300, 5}));
+  expect_record(hb("CSA", complex, TAUCS_DCOMPLEX), record(TAUCS_DCOMPLEX | kSymmetricLower, {1, 0, -20, 1, 300, 5}));
+  EXPECT_EQ(read(taucs_ccs_read_hb,
+                 harwell_boeing("CHA", "             3             2             3             0", formats, complex),
+                 TAUCS_DCOMPLEX),
+            nullptr)
+      << "Hermitian must be square";
   for (const char* const type : {"RSE", "XUA", "R  ", "R", ""})
     EXPECT_EQ(hb(type, real, TAUCS_DOUBLE), nullptr) << type;
   for (const char* const body :
@@ -201,6 +207,15 @@ TEST(HarwellBoeing, TypesAndStructures) {
     expect_record(read(taucs_ccs_read_hb, harwell_boeing("RUA", sizes, any, body), TAUCS_DOUBLE),
                   record(TAUCS_DOUBLE, {1, -20, 300}));
   }
+  // Lines that end in two characters; a fifth line of the header tells of right-hand sides.
+  std::string lines = harwell_boeing("RSA", sizes, formats, real);
+  const std::size_t count = lines.find("             0\n") + 13, body = lines.find(pattern);
+  lines[count] = '1';
+  lines.insert(body, "F                          1             0\n");
+  expect_record(read(taucs_ccs_read_hb, lines, TAUCS_DOUBLE), record(TAUCS_DOUBLE | kSymmetricLower, {1, -20, 300}));
+  for (std::size_t at = lines.find('\n'); at != std::string::npos; at = lines.find('\n', at + 2))
+    lines.insert(at, "\r");
+  expect_record(read(taucs_ccs_read_hb, lines, TAUCS_DOUBLE), record(TAUCS_DOUBLE | kSymmetricLower, {1, -20, 300}));
   // Symmetric must be square, and a file cannot hold more than it is long.
   for (const char* const wrong :
        {"             2             3             3", "             2    2000000000             3",
