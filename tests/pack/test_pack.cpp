@@ -156,8 +156,11 @@ TEST(Pack, ReportsWhatIsWrongAndTouchesNothing) {
   EXPECT_EQ(captured([&] {
               vspacki(&none, nullptr, &none, nullptr);
               vsunpackm(&none, nullptr, nullptr, nullptr);
+              vspacki(&n, y, &step, y);  // nothing is wrong
+              vsunpackm(&n, y, y, index);
             }),
             "");
+  EXPECT_EQ(y[1], 9);
   // Each argument of each routine; n comes first, an increment must be positive.
   const auto n_or = [&](int wrong) { return wrong == 1 ? &negative : wrong == 5 ? nullptr : &n; };
   const auto or_null = [](int wrong, int position, auto* good) { return wrong == position ? nullptr : good; };
