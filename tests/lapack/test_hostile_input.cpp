@@ -50,11 +50,11 @@ constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
 constexpr float kInfinity = std::numeric_limits<float>::infinity();
 constexpr std::int32_t kOrder = 4;
 
-// A positive definite matrix with `value` in the first row's last element.
-std::vector<float> matrix_with(float value) {
+// A positive definite matrix with `value` in place of one element, mostly the first row's last.
+std::vector<float> matrix_with(float value, std::size_t place = (kOrder - 1) * kOrder) {
   std::vector<float> a(kOrder * kOrder, 0.5F);
   for (std::size_t i = 0; i < kOrder; ++i) a[i * kOrder + i] = 4;
-  a[(kOrder - 1) * kOrder] = value;
+  a[place] = value;
   return a;
 }
 
@@ -76,9 +76,13 @@ std::int32_t syevr(const char* uplo, std::int32_t ldz, std::vector<float>& a, st
 
 TEST(NotFiniteInput, GivesNanAndAStatus) {
   for (const float value : {kNan, kInfinity, -kInfinity}) {
-    std::vector<float> a = matrix_with(value), w(kOrder);
-    EXPECT_EQ(syevr("U", kOrder, a, w), kOrder);
-    EXPECT_TRUE(are_nan(w));
+    for (std::size_t i = 0; i < kOrder; ++i) {
+      for (std::size_t j = 0; j < kOrder; ++j) {
+        std::vector<float> a = matrix_with(value, i + j * kOrder), w(kOrder);
+        EXPECT_EQ(syevr(i < j ? "U" : "l", kOrder, a, w), kOrder);
+        EXPECT_TRUE(are_nan(w)) << i << ", " << j;
+      }
+    }
 
     const std::int32_t n = kOrder, nrhs = 1, lwork = 200;
     std::vector<float> general = matrix_with(value), b(kOrder, 1), s(kOrder), work(200);
@@ -151,7 +155,8 @@ TEST(Exchanges, OfBalancingAreTheHostsToo) {
   for (const float row : {0.0F, 4.0F, -1.0F, 3e38F, kNan}) {
     std::vector<float> v = {1, 2, 3}, scale = {row, 1, 3};
     std::int32_t info = -99;
-    quorin::test::captured([&] { sgebak("P", "R", &n, &ilo, &ihi, scale.data(), &m, v.data(), &n, &info); });
+    quorin::test::captured(
+        [&] { sgebak(row < 0 ? "b" : "p", "R", &n, &ilo, &ihi, scale.data(), &m, v.data(), &n, &info); });
     EXPECT_EQ(info, -6);
     EXPECT_EQ(v, (std::vector<float>{1, 2, 3}));
   }
