@@ -164,7 +164,9 @@ void TypedSolver<T>::set_results(const sparse::Graph& graph) {
   const std::int64_t in_ordering = pattern + scales + matching_bytes + (kind_.stores_upper ? 0 : edges * kInt) +
                                    n * ordering.of_vertex + edges * ordering.of_edge +
                                    std::min(ordering.own, n * ordering.of_vertex);
-  const std::int64_t in_plan = results.kept_bytes + matching_bytes + graph_bytes + kWorkArrays * n * kInt;
+  const std::int64_t neighbour_bytes = (edges + 2 * n) * kInt;
+  const std::int64_t in_plan =
+      results.kept_bytes + matching_bytes + graph_bytes + neighbour_bytes + kWorkArrays * n * kInt;
   results.peak_bytes = std::max(in_ordering, in_plan);
   const std::int64_t vectors = 3 * n * kScalar;
   results.factor_bytes = sparse::peak_bytes<T>(plan_, factor_options({})) + vectors;
