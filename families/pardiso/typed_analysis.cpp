@@ -134,7 +134,7 @@ struct OrderingBytes {
 OrderingBytes bytes_of_ordering(const AnalysisOptions& options) {
   if (options.takes_permutation) return {};
   constexpr std::int64_t kDissectionItself = 175'000;
-  return options.ordering == sparse::OrderingMethod::kMinimumDegree ? OrderingBytes{248, 22, 0}
+  return options.ordering == sparse::OrderingMethod::kMinimumDegree ? OrderingBytes{192, 14, 0}
                                                                     : OrderingBytes{88, 18, kDissectionItself};
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <span>
 
 #include "base/parallel.hpp"
@@ -424,20 +425,21 @@ void MinimumDegree::write(const Ordering& ordering) noexcept {
 Outcome order_minimum_degree(const Graph& graph, const Ordering& ordering) noexcept {
   const int n = graph.size();
   if (n > std::numeric_limits<int>::max() / 8) return Outcome::kTooLarge;
-  MinimumDegree of_many(graph), of_one(graph);
+  std::optional<MinimumDegree> of_many(std::in_place, graph), of_one(std::in_place, graph);
   Workspace<int> arrays(base::saturating_product(static_cast<std::size_t>(n), 2));
-  if (!of_many || !of_one || !arrays) return Outcome::kOutOfMemory;
+  if (!*of_many || !*of_one || !arrays) return Outcome::kOutOfMemory;
   const Ordering second{arrays.data(), arrays.data() + n};
   std::int64_t entries[2];
   const int threads = n < kLeastForThreads ? 1 : base::region_threads(base::Domain::kSparseDirect);
+  // What the elimination gives back is more than what counting takes: whichever trial ends first, memory does not grow.
+  const auto entries_of = [&graph](std::optional<MinimumDegree>& elimination, Passes passes, const Ordering& order) {
+    elimination->run(passes, order);
+    elimination.reset();
+    return factor_entries(graph, order);
+  };
   base::parallel_for(2, threads, [&](int trial) {
-    if (trial == 0) {
-      of_many.run(Passes::kOfMany, ordering);
-      entries[0] = factor_entries(graph, ordering);
-    } else {
-      of_one.run(Passes::kOfOne, second);
-      entries[1] = factor_entries(graph, second);
-    }
+    entries[trial] =
+        trial == 0 ? entries_of(of_many, Passes::kOfMany, ordering) : entries_of(of_one, Passes::kOfOne, second);
   });
   if (entries[0] < 0 || entries[1] < 0) return Outcome::kOutOfMemory;
   if (entries[1] < entries[0]) {

@@ -8,7 +8,7 @@ namespace quorin::sparse {
 // Passes over the graph: one eliminates all vertices of least degree that are not neighbours of each other, then brings
 // degrees up to date. Ties are broken in two ways, which differ by up to a fifth either way on regular grids: by these
 // passes, and by passes of one elimination each, at the same time where there are threads; of the two orders, the one
-// with less fill is returned. kOutOfMemory, kTooLarge. Deterministic. Memory: 2.4 times the adjacency and 58 n
+// with less fill is returned. kOutOfMemory, kTooLarge. Deterministic. Memory: 2.4 times the adjacency and 44 n
 // integers.
 //
 // Liu, Modification of the minimum-degree algorithm by multiple elimination, ACM TOMS 11 (1985); George & Liu, The

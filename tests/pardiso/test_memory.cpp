@@ -131,8 +131,7 @@ TEST(Memory, IsWhatTheAnalysisSays) {
           EXPECT_GE(said, least * bytes) << "iparm(" << number << ")";
           EXPECT_LE(said, most * bytes + 1024) << "iparm(" << number << ")";
         };
-        // Two trials of minimum degree run on two threads, and stand in memory together or one after the other.
-        expect_cell(15, analysis.most, 0.85, ordering == 0 ? 1.8 : 1.3);
+        expect_cell(15, analysis.most, 0.85, 1.3);
         expect_cell(16, analysis.kept, 0.95, 1.05);
         expect_cell(17, numeric, 0.9, 1.3);
         EXPECT_EQ(steps.call(-1), 0);
