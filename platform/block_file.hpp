@@ -39,6 +39,8 @@ class BlockFile {
 // Takes the place of a file of the new name, in one step: there is always one or the other.
 [[nodiscard]] bool rename_file(const char* from, const char* to);
 bool remove_file(const char* name);
+// Whether there is one of that name, whoever has it.
+[[nodiscard]] bool file_exists(const char* name);
 
 // The operations above, but for closing and removing, can be made to fail as on a full or broken disk: by a function
 // that is asked before each. Tests set it; null otherwise.

@@ -70,12 +70,14 @@ std::int64_t OutOfCoreSettings::budget() const {
 }
 
 Error begin_files(sparse::PanelFiles& files, const OutOfCoreSettings& settings) {
-  constexpr int kMostNames = 64;
+  // Names that nobody has and that cannot be taken: its owner has just given one back, or nothing can be made there.
+  constexpr int kMostRefused = 8;
   std::array<char, kPathSize + 16> name{};
   sparse::FactorOutcome outcome = sparse::FactorOutcome::kCannotOpen;
-  for (int k = 0; k < kMostNames && outcome == sparse::FactorOutcome::kCannotOpen; ++k) {
+  for (int k = 0, refused = 0; outcome == sparse::FactorOutcome::kCannotOpen && refused < kMostRefused; ++k) {
     std::snprintf(name.data(), name.size(), "%s-%d", settings.path.data(), k);
     outcome = files.begin(name.data(), static_cast<std::uint64_t>(settings.budget()));
+    if (!sparse::PanelFiles::exists(name.data())) ++refused;
   }
   return error_of(outcome);
 }

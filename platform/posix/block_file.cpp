@@ -37,6 +37,8 @@ std::intptr_t create_native_file(const char* name) {
   return -1;
 }
 
+bool file_exists(const char* name) { return access(name, F_OK) == 0; }
+
 std::intptr_t open_native_file(const char* name) { return open_locked(name, O_RDONLY, LOCK_SH); }
 
 void BlockFile::close() {

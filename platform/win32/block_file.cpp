@@ -37,6 +37,8 @@ std::intptr_t create_native_file(const char* name) {
   return open_on_disk(name, GENERIC_READ | GENERIC_WRITE, 0, CREATE_ALWAYS);
 }
 
+bool file_exists(const char* name) { return GetFileAttributesA(name) != INVALID_FILE_ATTRIBUTES; }
+
 std::intptr_t open_native_file(const char* name) {
   return open_on_disk(name, GENERIC_READ, FILE_SHARE_READ, OPEN_EXISTING);
 }

@@ -158,6 +158,11 @@ FactorOutcome PanelFiles::complete_opening() noexcept {
   return reader_.complete();
 }
 
+bool PanelFiles::exists(const char* base_name) noexcept {
+  const base::Workspace<char> index = index_name(base_name);
+  return index && platform::file_exists(index.data());
+}
+
 void PanelFiles::close() noexcept {
   drop_panels();
   // The index last: it keeps others from the name.

@@ -45,6 +45,9 @@ class PanelFiles final : public PanelStore {
   FileReader& index_reader() noexcept { return reader_; }
   FactorOutcome complete_opening() noexcept;
 
+  // Whether there is a set of that name, complete or not, here or in another process.
+  static bool exists(const char* base_name) noexcept;
+
   // Lets go of the files and of all memory.
   void close() noexcept;
   // Removes the files of a set that nobody has open. kCannotOpen, kWrongFormat, kOutOfMemory.

@@ -135,6 +135,12 @@ TEST_F(OutOfCore, SeveralHandlesAtOnce) {
   }
   second.cell(60) = 2;
   ASSERT_EQ(second.call(13), 0);
+  std::vector<std::unique_ptr<Host<double>>> more;
+  for (int k = 0; k < 70; ++k) {
+    more.push_back(std::make_unique<Host<double>>(matrix_of(quorin::test::convection_diffusion(2, 0.0), 2)));
+    more.back()->cell(60) = 2;
+    ASSERT_EQ(more.back()->call(12), 0) << k;
+  }
   first.mnum = 1;
   ASSERT_EQ(first.call(33), 0);
   EXPECT_LT(backward_error(grid(11), first, first.b, first.x), 1e-14);
