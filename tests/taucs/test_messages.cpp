@@ -20,6 +20,7 @@ TEST(Messages, TellWhyARoutineRefused) {
   const TemporaryFile hb(
       "title\n\nRUA                        1             1             1\n(I8)            (2(A8))         (E10.3)\n"),
       log;
+  const std::string missing(700, 'x');
   const auto refused = [&] {
     order(general, "camd");
     order(general, "metis");
@@ -30,7 +31,7 @@ TEST(Messages, TellWhyARoutineRefused) {
     order(general, "colamd");
     general->flags = TAUCS_DOUBLE;
     EXPECT_EQ(taucs_ccs_augment_nonpositive_offdiagonals(general.get()), nullptr);
-    EXPECT_EQ(taucs_ccs_read_ijv("no-such-file", TAUCS_DOUBLE), nullptr);
+    EXPECT_EQ(taucs_ccs_read_ijv(missing.c_str(), TAUCS_DOUBLE), nullptr);
     EXPECT_EQ(taucs_ccs_read_hb(hb.name(), TAUCS_DOUBLE), nullptr);
   };
   set_log(log.name());
@@ -46,9 +47,11 @@ TEST(Messages, TellWhyARoutineRefused) {
             "taucs_ccs_metis: the lower part of the matrix must be represented.\n"
             "taucs_ccs_colamd: not applicable for symmetric or hermitian matrices\n"
             "taucs_ccs_augment_nonpositive_offdiagonal: matrix not symmetric or not lower\n"
-            "taucs_ccs_read_ijv: could not open ijv file no-such-file\n"
-            "taucs_ccs_read_hb: unknown formats (I8)            (2(A8))         (E10.3)\n"
-            "taucs_ccs_read_hb: wrong header\n");
+            "taucs_ccs_read_ijv: could not open ijv file " +
+                missing +
+                "\n"
+                "taucs_ccs_read_hb: unknown formats (I8)            (2(A8))         (E10.3)\n"
+                "taucs_ccs_read_hb: wrong header\n");
   for (const char* const none : {"", "no-such-folder/log"}) {
     set_log(none);
     EXPECT_EQ(quorin::test::captured(refused), "");
