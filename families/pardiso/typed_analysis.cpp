@@ -89,8 +89,13 @@ Error TypedSolver<T>::analyze_values(const Call& call, const T* values) {
   }
   const Statistics::Timer timer = call.time(Step::kSymbolic);
   sparse::Plan plan;
-  Error error = error_of(plan.build(prepared.graph, prepared.ordering(),
-                                    {.schur_size = schur_size(), .pair_of = prepared.pair_of.data()}));
+  sparse::PlanOptions options{.schur_size = schur_size(), .pair_of = prepared.pair_of.data()};
+  if (!options_.is_in_memory) {
+    options.panels = sparse::panel_kind(factorization());
+    options.most_elements =
+        sparse::most_elements_within(static_cast<std::uint64_t>(read_out_of_core_settings().budget()), sizeof(T));
+  }
+  Error error = error_of(plan.build(prepared.graph, prepared.ordering(), options));
   if (error != Error::kDone) return error;
   const auto exchange = [&] {
     row_position_.swap(prepared.row_position);

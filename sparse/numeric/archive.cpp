@@ -57,7 +57,7 @@ FactorOutcome Archive::put(FileWriter& file, const Plan& plan) {
   for (const int count : {plan.size_, plan.schur_size_, plan.supernodes_, plan.depth_}) file.put(std::int32_t{count});
   file.put(plan.entries_);
   file.put(static_cast<std::int32_t>(plan.rows_.size()));
-  for (const auto* values : {&plan.permutation_, &plan.first_, &plan.row_starts_, &plan.rows_}) {
+  for (const auto* values : {&plan.permutation_, &plan.first_, &plan.row_starts_, &plan.rows_, &plan.parent_}) {
     put_integers(file, *values);
   }
   return file.outcome();
@@ -76,7 +76,8 @@ FactorOutcome Archive::get(FileReader& file, Plan& plan) {
     file.reject();
   }
   if (!file.get(read.permutation_, to_size(n)) || !file.get(read.first_, to_size(count) + 1) ||
-      !file.get(read.row_starts_, to_size(count) + 1) || !file.get(read.rows_, to_size(row_count))) {
+      !file.get(read.row_starts_, to_size(count) + 1) || !file.get(read.rows_, to_size(row_count)) ||
+      !file.get(read.parent_, to_size(count))) {
     return file.outcome();
   }
   read.inverse_ = Workspace<int>(to_size(n));

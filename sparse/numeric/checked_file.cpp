@@ -13,7 +13,7 @@ constexpr std::size_t kBuffer = std::size_t{1} << 16;
 struct Header {
   // A file that was carried as text would have lost one of the line's ends.
   std::array<char, 8> magic = {'Q', 'u', 'o', 'r', 'i', 'n', '\r', '\n'};
-  std::uint32_t version = 1;
+  std::uint32_t version = 2;
   std::uint32_t kind = 0;
   std::uint64_t length = 0;  // of what follows
   std::uint32_t check = 0;   // of what follows

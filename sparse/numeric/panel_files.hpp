@@ -15,6 +15,13 @@
 
 namespace quorin::sparse {
 
+// The most elements that a panel should have for a factorization within a budget of bytes: it and one that updates it
+// are in memory at a time, beside others that need not be read again soon.
+constexpr std::int64_t most_elements_within(std::uint64_t budget, std::size_t scalar_size) noexcept {
+  const std::uint64_t most = budget / (4 * scalar_size);
+  return most > 0 ? static_cast<std::int64_t>(most) : 1;
+}
+
 // What was pinned stays in memory, up to a budget; then goes what was not used for the longest time, to the files if it
 // has changed. Small panels that follow each other come and go together.
 //
@@ -67,6 +74,8 @@ class PanelFiles final : public PanelStore {
     std::uint64_t read = 0, written = 0, most_in_memory = 0;
   };
   Traffic traffic() const noexcept { return traffic_; }
+  // Bytes of panels that may be in memory at a time.
+  std::uint64_t budget() const noexcept { return budget_; }
 
  private:
   // Panels that come and go together.

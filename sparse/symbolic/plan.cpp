@@ -213,7 +213,8 @@ Outcome Plan::build(const Graph& graph, const Ordering& ordering, const PlanOpti
   plan.supernodes_ = count;
   plan.first_ = Workspace<int>(to_size(count) + 1);
   plan.row_starts_ = Workspace<int>(to_size(count) + 1);
-  if (!plan.first_ || !plan.row_starts_ || !plan.allocate_tree()) return Outcome::kOutOfMemory;
+  plan.parent_ = Workspace<int>(to_size(count));
+  if (!plan.first_ || !plan.row_starts_ || !plan.parent_) return Outcome::kOutOfMemory;
   std::int64_t row_count = 0;
   plan.first_[0] = plan.row_starts_[0] = 0;
   for (int s = 0; s < count; ++s) {
@@ -255,18 +256,77 @@ Outcome Plan::build(const Graph& graph, const Ordering& ordering, const PlanOpti
   const SupernodeRows lists{count, plan.first_.data(), plan.supernode_of_.data(), plan.row_starts_.data(),
                             plan.rows_.data()};
   if (!order_columns(lists, plan.eliminated(), n, steps)) return Outcome::kOutOfMemory;
+  if (options.most_elements > 0) {
+    const Outcome outcome = plan.cut_supernodes(options.panels, options.most_elements);
+    if (outcome != Outcome::kDone) return outcome;
+  }
+  if (!plan.allocate_tree()) return Outcome::kOutOfMemory;
   plan.measure();
   *this = std::move(plan);
   return Outcome::kDone;
 }
 
+// The parts of a supernode are a chain. Who had it for a parent gets the first of them, even if its own rows begin
+// within a later one: so subtrees stay ranges of supernodes.
+Outcome Plan::cut_supernodes(PanelKind kind, std::int64_t most_elements) noexcept {
+  constexpr int kFewestColumns = 8;  // or the lists of rows would be as long as the factor
+  // Calls take(s, column, width, below) for the parts of each supernode: so many columns from that one on, and the rows
+  // below them, first of all the supernode's later columns.
+  const auto for_each_part = [&](const auto& take) {
+    for (int s = 0; s < supernodes_; ++s) {
+      for (int column = 0, width = 0; column < columns(s); column += width) {
+        const int left = columns(s) - column, length = rows(s) - column;
+        const std::int64_t height = (kind == PanelKind::kSymmetric ? 1 : 2) * std::int64_t{length};
+        width = s >= eliminated() ? left
+                                  : static_cast<int>(std::clamp<std::int64_t>(most_elements / height,
+                                                                              std::min(kFewestColumns, left), left));
+        take(s, column, width, length - width);
+      }
+    }
+  };
+  int parts = 0;
+  std::int64_t row_count = 0;
+  for_each_part([&](int, int, int, int below_part) {
+    ++parts;
+    row_count += below_part;
+  });
+  if (parts == supernodes_) return Outcome::kDone;
+  if (row_count > std::numeric_limits<int>::max()) return Outcome::kTooLarge;
+  Workspace<int> firsts(to_size(parts) + 1), starts(to_size(parts) + 1), parents(to_size(parts)),
+      lists(to_size(static_cast<int>(row_count))), first_part(to_size(supernodes_) + 1);
+  if (!firsts || !starts || !parents || !lists || !first_part) return Outcome::kOutOfMemory;
+  int part = 0, *next = lists.data();
+  for_each_part([&](int s, int column, int width, int below_part) {
+    const int begin = first(s) + column, later = below_part - below_count(s);
+    const std::size_t i = to_size(part);
+    if (column == 0) first_part[to_size(s)] = part;
+    std::fill_n(&supernode_of_[to_size(begin)], width, part);
+    firsts[i] = begin;
+    starts[i] = static_cast<int>(next - lists.data());
+    parents[i] = ++part;
+    std::iota(next, next + later, begin + width);
+    next = std::copy(below(s).begin(), below(s).end(), next + later);
+  });
+  firsts[to_size(parts)] = size_;
+  starts[to_size(parts)] = static_cast<int>(row_count);
+  first_part[to_size(supernodes_)] = parts;
+  for (int s = 0; s < supernodes_; ++s) {
+    parents[to_size(first_part[to_size(s) + 1] - 1)] = parent(s) == kNone ? kNone : first_part[to_size(parent(s))];
+  }
+  supernodes_ = parts;
+  first_.swap(firsts);
+  row_starts_.swap(starts);
+  rows_.swap(lists);
+  parent_.swap(parents);
+  return Outcome::kDone;
+}
+
 bool Plan::allocate_tree() noexcept {
   const std::size_t count = to_size(supernodes_);
-  parent_ = Workspace<int>(count);
   first_descendant_ = Workspace<int>(count);
   work_ = Workspace<double>(count + 1);
   elements_ = Workspace<double>(count + 1);
-  return parent_ && first_descendant_ && work_ && elements_;
+  return first_descendant_ && work_ && elements_;
 }
 
 void Plan::measure() noexcept {
@@ -309,7 +369,8 @@ bool Plan::complete_from_lists() noexcept {
     for (std::size_t i = 0; i < own.size(); ++i) {
       if (own[i] < (i == 0 ? first_[to_size(s) + 1] : own[i - 1] + 1) || own[i] >= size_) return false;
     }
-    parent_[to_size(s)] = own.empty() ? kNone : supernode_of(own[0]);
+    const int p = parent(s);
+    if (own.empty() ? p != kNone : p <= s || p > supernode_of(own[0])) return false;
   }
   // A supernode's rows are in its parent's front.
   for (int s = 0; s < supernodes_; ++s) {

@@ -35,6 +35,11 @@ struct PlanOptions {
   // Of n vertices the one that each should share a supernode with, or kNone: 2x2 pivots that a matching proposes. It is
   // heeded for neighbours in the graph of which one's step comes right after the other's. May be null.
   const int* pair_of = nullptr;
+  // Elements that no panel of this kind shall have more of, for panels that are not all in memory; 0: no bound. Wide
+  // supernodes are cut into several, which each hold eight of the columns or more and may part 2x2 pivots; the Schur
+  // complement's supernode stays whole.
+  std::int64_t most_elements = 0;
+  PanelKind panels = PanelKind::kSymmetric;
 };
 
 // Supernodes first, ..., end - 1 with all their descendants.
@@ -68,7 +73,7 @@ class Plan {
   }
   int below_count(int s) const noexcept { return row_starts_[s + 1] - row_starts_[s]; }
   int rows(int s) const noexcept { return columns(s) + below_count(s); }
-  // The supernode with the first of the rows below, kNone at a root.
+  // The supernode with the first of the rows below, or the first part of one that was cut; kNone at a root.
   int parent(int s) const noexcept { return parent_[s]; }
   // The first supernode of the subtree whose root is s: it consists of first_descendant(s), ..., s.
   int first_descendant(int s) const noexcept { return first_descendant_[s]; }
@@ -119,11 +124,13 @@ class Plan {
 
  private:
   friend class Archive;
-  // Room for what is made of the number of supernodes and the lists of their columns and rows.
+  // Cuts supernodes whose panels have more elements than that. kOutOfMemory, kTooLarge.
+  Outcome cut_supernodes(PanelKind kind, std::int64_t most_elements) noexcept;
+  // Room for what measure() finds.
   bool allocate_tree() noexcept;
   // What follows from these, from the permutation and from the parents: subtrees, sizes and work.
   void measure() noexcept;
-  // The same, and the inverse and parents, from lists that may be anything. False if no plan has them.
+  // The same, and the inverse, from lists and parents that may be anything. False if no plan has them.
   bool complete_from_lists() noexcept;
 
   int size_ = 0, schur_size_ = 0, supernodes_ = 0, depth_ = 0, most_columns_ = 0, most_below_ = 0;

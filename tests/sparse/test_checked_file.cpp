@@ -112,10 +112,9 @@ TEST(CheckedFile, ThatIsNotWholeIsRefused) {
     }
   }
   EXPECT_EQ(outcome_of("%%MatrixMarket matrix coordinate real general\n1 1 1\n1 1 1\n"), FactorOutcome::kWrongFormat);
-  // A later version's, with the right check of its first 28 bytes.
+  // The next version's, with the right check of its first 28 bytes.
   std::string later = whole;
-  const std::uint32_t version = 2;
-  std::memcpy(later.data() + 8, &version, sizeof version);
+  ++later[8];
   const std::uint32_t check = crc32(later.data(), 28);
   std::memcpy(later.data() + 28, &check, sizeof check);
   EXPECT_EQ(outcome_of(later), FactorOutcome::kWrongFormat);

@@ -108,6 +108,31 @@ TYPED_TEST(OutOfCore, HasTheBitsOfMemoryWithinAnyBudget) {
   }
 }
 
+TYPED_TEST(OutOfCore, HoldsLessThanAWideSupernodeIfThePlanCutsIt) {
+  using T = TypeParam;
+  for (const Kind& kind : kStored) {
+    const System<T> A = dominant_system<T>(random_matrix(150, 3000, 3), kind.symmetry, kind.is_definite(), 1.1, 6);
+    const PanelKind panels = panel_kind(kind.factorization);
+    Solved<T> whole(A);
+    const std::uint64_t budget = static_cast<std::uint64_t>(whole.plan.largest_panel(panels)) * sizeof(T) / 2;
+    Solved<T> cut(A, {.most_elements = most_elements_within(budget, sizeof(T)), .panels = panels});
+    for (const Method method : {Method::kLeftLooking, Method::kMultifrontal}) {
+      FactorOptions options = kind.options(method);
+      for (Solved<T>* const solved : {&whole, &cut}) {
+        PanelFiles files;
+        ASSERT_EQ(files.begin(this->folder_.file("factor").c_str(), budget), FactorOutcome::kDone);
+        options.store = &files;
+        ASSERT_EQ(solved->compute(options), solved == &cut ? FactorOutcome::kDone : FactorOutcome::kBudgetTooSmall);
+        EXPECT_LE(files.traffic().most_in_memory, budget);
+        if (solved == &cut) {
+          EXPECT_LE(solved->error(Operation::kPlain, 5), tolerance<T>(A.n));
+        }
+        solved->factor.clear();
+      }
+    }
+  }
+}
+
 TYPED_TEST(OutOfCore, OpensAgainWithTheSameBits) {
   using T = TypeParam;
   for (const Kind& kind : kStored) {
@@ -117,7 +142,7 @@ TYPED_TEST(OutOfCore, OpensAgainWithTheSameBits) {
     std::vector<T> expected;
     std::vector<std::int64_t> told;
     {
-      Solved<T> solved(A);
+      Solved<T> solved(A, {.most_elements = kind.is_definite() ? 0 : 400});
       PanelFiles files;
       ASSERT_EQ(files.begin(name.c_str(), kPlenty), FactorOutcome::kDone);
       FactorOptions options = kind.options();

@@ -31,13 +31,17 @@ Plan plan_of(const Matrix& A, const Ordering& ordering, const PlanOptions& optio
   return plan;
 }
 
-void check_tree(const Plan& plan) {
+void check_tree(const Plan& plan, bool is_cut = false) {
   for (int s = 0; s < plan.supernodes(); ++s) {
     const auto below = plan.below(s);
     EXPECT_TRUE(std::is_sorted(below.begin(), below.end()));
     EXPECT_TRUE(below.empty() || below[0] >= plan.first(s + 1));
-    if (!below.empty()) {
-      EXPECT_EQ(plan.parent(s), plan.supernode_of(below[0]));
+    // The supernode of the first row; of one that was cut the first part, which has all of its rows, too.
+    const int p = plan.parent(s), above = below.empty() ? kNone : plan.supernode_of(below[0]);
+    EXPECT_TRUE(p == above || (is_cut && p > s && p < above)) << s;
+    for (const int k : below) {
+      const auto rows = plan.below(p);
+      EXPECT_TRUE(plan.supernode_of(k) == p || std::binary_search(rows.begin(), rows.end(), k));
     }
     for (int d = plan.first_descendant(s); d < s; ++d) {
       EXPECT_LE(plan.parent(d), s);
@@ -128,6 +132,14 @@ TEST(Plan, IsTheFactorOfDenseElimination) {
       EXPECT_EQ(plan.entries(), factor_entries(graph_of(A), given.ordering()));
       check_rows(plan, graph_of(A), given.permutation.data(), 2.5);
       check_tree(plan);
+
+      // Wide supernodes in parts, which hold no zeros more.
+      for (const PanelKind kind : {PanelKind::kSymmetric, PanelKind::kUnsymmetric}) {
+        const Plan cut = plan_of(A, given.ordering(), {.most_elements = 150, .panels = kind});
+        check_rows(cut, graph_of(A), given.permutation.data(), 2.5);
+        check_tree(cut, true);
+        for (int s = 0; s < cut.supernodes(); ++s) EXPECT_TRUE(cut.panel_size(kind, s) <= 150 || cut.columns(s) <= 8);
+      }
     }
   }
 }
@@ -147,6 +159,10 @@ TEST(Plan, LeavesASchurComplementAtTheEnd) {
       for (int k = n - schur_size; k < n; ++k) EXPECT_EQ(plan.permutation()[k], given.permutation[k]);
       check_rows(plan, graph_of(A), given.permutation.data(), 3.5);
       check_tree(plan);
+      const Plan cut = plan_of(A, given.ordering(), {.schur_size = schur_size, .most_elements = 1});
+      EXPECT_EQ(cut.columns(cut.eliminated()), schur_size);
+      check_rows(cut, graph_of(A), given.permutation.data(), 3.5);
+      check_tree(cut, true);
     }
   }
 }

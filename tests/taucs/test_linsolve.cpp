@@ -417,7 +417,8 @@ TYPED_TEST(Linsolve, FactorsIntoFiles) {
     SCOPED_TRACE(is_indefinite);
     const Matrix& M = is_indefinite ? Q : A;
     const FileSet set;
-    const Options files = {"taucs.ooc=true", set.option(), "taucs.ooc.memory=300000"},
+    // Less than the widest supernode.
+    const Options files = {"taucs.ooc=true", set.option(), "taucs.ooc.memory=60000"},
                   factor = (is_indefinite ? kLdlt : kLlt) + files, open = kSolveOnly + files;
     const auto created = "taucs_linsolve: ooc file created?=1 opened?=0\n",
                reopened = "taucs_linsolve: ooc file created?=0 opened?=1\n";
@@ -453,7 +454,7 @@ TYPED_TEST(Linsolve, FactorsIntoFiles) {
       void* iohandle = handle->factor;
       EXPECT_EQ(call(M.get(), &handle.F, 1, X.data(), B.data(),
                      (is_indefinite ? kLdlt : kLlt) +
-                         Options{"taucs.ooc=true", "taucs.ooc.iohandle=#0", "taucs.ooc.memory=300000"},
+                         Options{"taucs.ooc=true", "taucs.ooc.iohandle=#0", "taucs.ooc.memory=60000"},
                      {is_indefinite ? iohandle : &iohandle}),
                 TAUCS_SUCCESS);
       expect_solved(*M, 1, X, B, 1e-15);

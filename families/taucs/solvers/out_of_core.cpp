@@ -1,6 +1,7 @@
 #include "families/taucs/solvers/out_of_core.hpp"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 
 #include "base/handle_table.hpp"
@@ -50,7 +51,10 @@ void* create(const char* base_name, const Make& make) {
 template <Element T>
 Status compute_into_files(const CcsMatrix& A, FactorKind kind, const int* permutation, int maxdepth,
                           OutOfCoreFactor& factor) {
-  if (!can_be_factored<T>(&A, kind) || !analyze<T>(A, kind, permutation, maxdepth, factor.plan)) return Status::kError;
+  const std::int64_t most_elements = sparse::most_elements_within(factor.files.budget(), sizeof(T));
+  if (!can_be_factored<T>(&A, kind) || !analyze<T>(A, kind, permutation, maxdepth, factor.plan, most_elements)) {
+    return Status::kError;
+  }
   sparse::Factor<T>& numbers = factor.numbers.of<T>();
   const Status status = compute(A, kind, FactorMethod::kLeftLooking, factor.plan, &factor.files, numbers);
   if (status != Status::kSuccess) return status;

@@ -84,11 +84,13 @@ void place_all(int n, const int* permutation, const int* partner, const sparse::
 }
 
 template <Element T>
-sparse::Outcome build_plan(const CcsMatrix& A, FactorKind kind, const int* permutation, sparse::Plan& plan) {
+sparse::Outcome build_plan(const CcsMatrix& A, FactorKind kind, const int* permutation, std::int64_t most_elements,
+                           sparse::Plan& plan) {
   const int n = A.n;
   sparse::Graph graph;
   sparse::Outcome outcome = sparse::build_graph(columns_of<T>(A, n), graph);
   sparse::PlanOptions options;
+  options.most_elements = most_elements;
   sparse::SymmetricMatching<double> matching;
   if (outcome == sparse::Outcome::kDone && kind == FactorKind::kLdlt) {
     options.pair_of = find_partners<T>(A, matching, outcome);
@@ -183,8 +185,9 @@ void order_for_ldlt(const CcsMatrix& A, std::int32_t** perm, std::int32_t** invp
 }
 
 template <Element T>
-bool analyze(const CcsMatrix& A, FactorKind kind, const int* permutation, int maxdepth, sparse::Plan& plan) {
-  if (build_plan<T>(A, kind, permutation, plan) != sparse::Outcome::kDone) {
+bool analyze(const CcsMatrix& A, FactorKind kind, const int* permutation, int maxdepth, sparse::Plan& plan,
+             std::int64_t most_elements) {
+  if (build_plan<T>(A, kind, permutation, most_elements, plan) != sparse::Outcome::kDone) {
     message("taucs_ccs_factor: out of memory in the symbolic phase\n");
     return false;
   }
@@ -248,8 +251,8 @@ bool FactorNumbers::get_inertia(std::int32_t* inertia) const {
 
 template void order_for_ldlt<double>(const CcsMatrix&, std::int32_t**, std::int32_t**, const char*);
 template void order_for_ldlt<Complex>(const CcsMatrix&, std::int32_t**, std::int32_t**, const char*);
-template bool analyze<double>(const CcsMatrix&, FactorKind, const int*, int, sparse::Plan&);
-template bool analyze<Complex>(const CcsMatrix&, FactorKind, const int*, int, sparse::Plan&);
+template bool analyze<double>(const CcsMatrix&, FactorKind, const int*, int, sparse::Plan&, std::int64_t);
+template bool analyze<Complex>(const CcsMatrix&, FactorKind, const int*, int, sparse::Plan&, std::int64_t);
 template Status compute(const CcsMatrix&, FactorKind, FactorMethod, const sparse::Plan&, sparse::PanelStore*,
                         sparse::Factor<double>&);
 template Status compute(const CcsMatrix&, FactorKind, FactorMethod, const sparse::Plan&, sparse::PanelStore*,

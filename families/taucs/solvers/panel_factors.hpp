@@ -2,6 +2,8 @@
 // lower triangle is stored, by the engine of sparse/.
 #pragma once
 
+#include <cstdint>
+
 #include "families/taucs/engine_view.hpp"
 
 namespace quorin::taucs {
@@ -22,9 +24,11 @@ void order_for_ldlt(const CcsMatrix& A, std::int32_t** perm, std::int32_t** invp
 
 // The plan of A's elimination in the order of the n integers `permutation`, or 0, ..., n - 1 if that is null. Rows
 // whose diagonal entries are too small for pivots are brought next to the ones that a matching finds for them (kLdlt).
+// Supernodes are cut so that panels have at most so many elements, unless that is 0.
 // False without memory, and if the elimination tree has more than `maxdepth` levels, unless that is 0.
 template <Element T>
-bool analyze(const CcsMatrix& A, FactorKind kind, const int* permutation, int maxdepth, sparse::Plan& plan);
+bool analyze(const CcsMatrix& A, FactorKind kind, const int* permutation, int maxdepth, sparse::Plan& plan,
+             std::int64_t most_elements = 0);
 
 // The numbers, into panels in memory or in a store. Where a pivot is zero, L D L^T is done again with small pivots
 // replaced. kError: not positive definite, singular, not finite, an entry where the plan has none, or what the store
