@@ -1,22 +1,27 @@
 // The sparse direct engine by itself: analysis, factorizations and solves on model problems, beside the dense product
-// of the same run; for LU UMFPACK, and for L L^H CHOLMOD if it is there, over the same dense kernels and with the same
-// ordering. Prints a table; a peer's columns are its times over the engine's. Usage:
+// of the same run, and beside peers with the same ordering: CHOLMOD for L L^H, MUMPS for L D L^T and LU, as far as they
+// are there, and UMFPACK for LU. The peers compute with the product's dense kernels in bench_direct, and with a stock
+// OpenBLAS in bench_direct_stock. Prints two tables; in that of the peers ratios are their times over the engine's.
+// Usage:
 //
 //   bench_direct [--quick] [NAME]     only problems whose name contains NAME
 #include <umfpack_double.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <cstring>
 #include <functional>
-#include <optional>
-#include <random>
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "base/parallel.hpp"
+#include "base/thread_settings.hpp"
 #include "bench/direct/cholmod_peer.hpp"
+#include "bench/direct/mumps_peer.hpp"
+#include "bench/direct/problems.hpp"
 #include "bench/direct/timing.hpp"
 #include "dense/dense.hpp"
 #include "sparse/sparse.hpp"
@@ -87,41 +92,84 @@ struct Run {
 };
 
 // UMFPACK with the ordering as given.
-class Umfpack {
+class UmfpackPeer final : public Peer {
  public:
-  Umfpack(const test::CompressedArrays& matrix, int n, const int* permutation)
-      : a_(matrix), b_(static_cast<std::size_t>(n), 1.0), x_(b_) {
+  explicit UmfpackPeer(const GivenSystem& system)
+      : system_(system), b_(static_cast<std::size_t>(system.n), 1.0), x_(b_) {
     umfpack_di_defaults(control_);
     control_[UMFPACK_FIXQ] = 1;
     control_[UMFPACK_IRSTEP] = 0;
     control_[UMFPACK_STRATEGY] = UMFPACK_STRATEGY_SYMMETRIC;
-    umfpack_di_qsymbolic(n, n, a_.starts.data(), a_.indices.data(), a_.re.data(), permutation, &symbolic_, control_,
-                         nullptr);
   }
-  ~Umfpack() {
+  ~UmfpackPeer() override {
     umfpack_di_free_numeric(&numeric_);
     umfpack_di_free_symbolic(&symbolic_);
   }
-  Umfpack(const Umfpack&) = delete;
-  Umfpack& operator=(const Umfpack&) = delete;
 
-  void factorize() {
-    umfpack_di_free_numeric(&numeric_);
-    umfpack_di_numeric(a_.starts.data(), a_.indices.data(), a_.re.data(), symbolic_, &numeric_, control_, nullptr);
+  const char* name() const override { return "UMFPACK"; }
+  void analyze() override {
+    umfpack_di_free_symbolic(&symbolic_);
+    umfpack_di_qsymbolic(system_.n, system_.n, starts(), indices(), values(), system_.permutation, &symbolic_, control_,
+                         nullptr);
   }
-  void solve() {
-    umfpack_di_solve(UMFPACK_A, a_.starts.data(), a_.indices.data(), a_.re.data(), x_.data(), b_.data(), numeric_,
-                     control_, nullptr);
+  void factorize() override {
+    umfpack_di_free_numeric(&numeric_);
+    umfpack_di_numeric(starts(), indices(), values(), symbolic_, &numeric_, control_, nullptr);
+  }
+  const double* solve(int nrhs) override {
+    for (int k = 0; k < nrhs; ++k) {
+      umfpack_di_solve(UMFPACK_A, starts(), indices(), values(), x_.data(), b_.data(), numeric_, control_, nullptr);
+    }
+    return x_.data();
   }
 
  private:
-  const test::CompressedArrays& a_;
+  const int* starts() const { return system_.matrix.starts.data(); }
+  const int* indices() const { return system_.matrix.indices.data(); }
+  const double* values() const { return system_.matrix.re.data(); }
+
+  const GivenSystem system_;
   std::vector<double> b_, x_;
   double control_[UMFPACK_CONTROL];
   void *symbolic_ = nullptr, *numeric_ = nullptr;
 };
 
-void measure(const Problem& problem, double gemm) {
+std::vector<std::unique_ptr<Peer>> peers_of(Factorization factorization, const GivenSystem& system) {
+  std::vector<std::unique_ptr<Peer>> peers;
+  if (factorization == Factorization::kLLT) {
+    if (CholmodPeer::is_there()) {
+      peers.push_back(std::make_unique<CholmodPeer>(system.matrix, system.n, system.permutation));
+    }
+    return peers;
+  }
+  if (factorization == Factorization::kLU) peers.push_back(std::make_unique<UmfpackPeer>(system));
+  if (MumpsPeer::is_there()) peers.push_back(std::make_unique<MumpsPeer>(system));
+  return peers;
+}
+
+// ||b - A x|| / (||A|| ||x|| + ||b||) in the maximum norm, of b = 1.
+double backward_error(const GivenSystem& system, const double* x) {
+  std::vector<double> residual(static_cast<std::size_t>(system.n), 1.0), sums(residual.size());
+  const auto take = [&](int row, int column, double value) {
+    residual[row] -= value * x[column];
+    sums[row] += std::fabs(value);
+  };
+  for (int j = 0; j < system.n; ++j) {
+    for (int k = system.matrix.starts[j]; k < system.matrix.starts[j + 1]; ++k) {
+      const int i = system.matrix.indices[k];
+      take(i, j, system.matrix.re[k]);
+      if (system.is_symmetric && i != j) take(j, i, system.matrix.re[k]);
+    }
+  }
+  const auto largest = [](const double* begin, int n) {
+    return std::fabs(
+        *std::max_element(begin, begin + n, [](double a, double b) { return std::fabs(a) < std::fabs(b); }));
+  };
+  return largest(residual.data(), system.n) / (largest(sums.data(), system.n) * largest(x, system.n) + 1);
+}
+
+// Prints the engine's row. Returns those of its peers.
+std::string measure(const Problem& problem, double gemm) {
   const test::CompressedArrays arrays = compressed_columns(problem.matrix);
   const int n = problem.matrix.rows;
   Graph graph;
@@ -133,74 +181,44 @@ void measure(const Problem& problem, double gemm) {
   Run<double> run(problem, graph, ordering, arrays);
   Run<float> single(problem, graph, ordering, arrays);
   const bool is_lu = problem.factorization == Factorization::kLU;
-  const bool has_cholmod = problem.factorization == Factorization::kLLT && CholmodPeer::is_there();
-  std::optional<Umfpack> umfpack;
-  std::optional<CholmodPeer> cholmod;
-  if (is_lu) umfpack.emplace(arrays, n, permutation.data());
-  if (has_cholmod) cholmod.emplace(arrays, n, permutation.data());
-  const auto peer_factorizes = [&] {
-    if (umfpack) umfpack->factorize();
-    if (cholmod) cholmod->factorize();
-  };
-  const auto peer_solves = [&](int nrhs) {
-    if (umfpack && nrhs == 1) umfpack->solve();
-    if (cholmod) cholmod->solve(nrhs);
+  const GivenSystem system{arrays, n, permutation.data(), !is_lu};
+  const std::vector<std::unique_ptr<Peer>> peers = peers_of(problem.factorization, system);
+  // The engine's times, and then those of the peers.
+  using Calls = std::vector<std::function<void()>>;
+  const auto times = [&](double seconds, Calls calls, const std::function<void(Peer&)>& of_peer) {
+    for (const auto& peer : peers) calls.emplace_back([&of_peer, &peer] { of_peer(*peer); });
+    return least_by_turns(seconds, calls);
   };
 
   const double operations = run.plan.operations() * (is_lu ? 2 : 1);
-  const auto [analysis, peer_analysis] = least_by_turns(
-      0.5, [&] { run.analyze(); },
-      [&] {
-        if (cholmod) cholmod->analyze();
-      });
-  const auto [one, single_one, peer_factor, two] = least_by_turns(
-      2, [&] { run.compute(1); }, [&] { single.compute(1); }, peer_factorizes, [&] { run.compute(2); });
-  const auto [solve_one, peer_solve, solve_two] = least_by_turns(
-      0.5, [&] { run.solve_for(1, 1); }, [&] { peer_solves(1); }, [&] { run.solve_for(1, 2); });
-  const auto [solve_many, peer_solve_many, solve_many_two] = least_by_turns(
-      1, [&] { run.solve_for(kRightHandSides, 1); }, [&] { peer_solves(kRightHandSides); },
-      [&] { run.solve_for(kRightHandSides, 2); });
-  const double rate = 1e-9 * operations / one;
-  std::printf("| %s | %d | %.2f | %.2f | %.1f | %.1f | %.2f | %.0f %% | %.2f | %.2f | %.1f | %.1f | %.2f | %.2f |",
+  const auto analysis = times(0.5, {[&] { run.analyze(); }}, [](Peer& peer) { peer.analyze(); });
+  const auto factor = times(2, {[&] { run.compute(1); }, [&] { single.compute(1); }, [&] { run.compute(2); }},
+                            [](Peer& peer) { peer.factorize(); });
+  const auto solve_one =
+      times(0.5, {[&] { run.solve_for(1, 1); }, [&] { run.solve_for(1, 2); }}, [](Peer& peer) { peer.solve(1); });
+  const auto solve_many =
+      times(1, {[&] { run.solve_for(kRightHandSides, 1); }, [&] { run.solve_for(kRightHandSides, 2); }},
+            [](Peer& peer) { peer.solve(kRightHandSides); });
+  const double rate = 1e-9 * operations / factor[0];
+  std::printf("| %s | %d | %.2f | %.2f | %.1f | %.1f | %.2f | %.0f %% | %.2f | %.2f | %.1f | %.1f | %.2f | %.2f |\n",
               problem.name.c_str(), n, 1e-6 * static_cast<double>(run.plan.entries()), 1e-9 * operations,
-              1e3 * analysis, 1e3 * one, rate, 100 * rate / gemm, one / two, one / single_one, 1e3 * solve_one,
-              1e3 * solve_many, solve_one / solve_two, solve_many / solve_many_two);
-  if (is_lu) {
-    std::printf(" | %.2f | %.2f | |\n", peer_factor / one, peer_solve / solve_one);
-  } else if (has_cholmod) {
-    std::printf(" %.2f | %.2f | %.2f | %.2f |\n", peer_analysis / analysis, peer_factor / one, peer_solve / solve_one,
-                peer_solve_many / solve_many);
-  } else {
-    std::printf(" | | | |\n");
-  }
+              1e3 * analysis[0], 1e3 * factor[0], rate, 100 * rate / gemm, factor[0] / factor[2], factor[0] / factor[1],
+              1e3 * solve_one[0], 1e3 * solve_many[0], solve_one[0] / solve_one[1], solve_many[0] / solve_many[1]);
   std::fflush(stdout);
-}
 
-test::SparseMatrix laplace(int a, int b, int c, bool corners) {
-  test::SparseMatrix A = test::grid(a, b, c, corners);
-  for (test::Entry& e : A.entries) e.value = e.row == e.column ? 27.0 : -1.0;
-  return A;
-}
-
-test::SparseMatrix saddle_point(int side, int depth) {
-  test::SparseMatrix A = laplace(side, side, depth, false);
-  const int m = A.rows;
-  for (int k = 0; k + 1 < m; k += 4) {
-    A.add(m + k / 4, k, 1.0);
-    A.add(m + k / 4, k + 1, -1.0);
-    A.add(m + k / 4, m + k / 4, 0.0);
+  run.solve_for(1, 1);
+  std::vector<double> x(static_cast<std::size_t>(n));
+  permute_back(n, run.plan.permutation(), run.x.data(), x.data());
+  std::string rows;
+  for (std::size_t k = 0; k < peers.size(); ++k) {
+    char text[200];
+    std::snprintf(text, sizeof text, "| %s | %s | %.2f | %.2f | %.2f | %.2f | %.1e | %.1e |\n", problem.name.c_str(),
+                  peers[k]->name(), analysis[1 + k] / analysis[0], factor[3 + k] / factor[0],
+                  solve_one[2 + k] / solve_one[0], solve_many[2 + k] / solve_many[0], backward_error(system, x.data()),
+                  backward_error(system, peers[k]->solve(1)));
+    rows += text;
   }
-  return A;
-}
-
-// Convection along one axis of a box.
-test::SparseMatrix convection(int a, int b, int c) {
-  test::SparseMatrix A = laplace(a, b, c, false);
-  A.mirror();
-  for (test::Entry& e : A.entries) {
-    if (e.row > e.column) e.value *= 1.5;
-  }
-  return A;
+  return rows;
 }
 
 void run(bool is_quick, const char* wanted) {
@@ -210,9 +228,8 @@ void run(bool is_quick, const char* wanted) {
   std::printf(
       "| problem | n | 10^6 entries | GFLOP | analysis ms | factor ms | GFLOP/s | of gemm | two threads | float | "
       "solve 1 "
-      "ms | solve 32 ms | solve 1, two threads | solve 32, two threads | peer's analysis | peer's factor | peer's "
-      "solve 1 | peer's solve 32 |\n"
-      "|---|---|---|---|---|---|---|---|---|---|---|---|---|---|---|---|---|---|\n");
+      "ms | solve 32 ms | solve 1, two threads | solve 32, two threads |\n"
+      "|---|---|---|---|---|---|---|---|---|---|---|---|---|---|\n");
   const auto llt = [](const std::string& name, test::SparseMatrix A) {
     return Problem{"LLT " + name, Factorization::kLLT, Pivoting::kInOrder, std::move(A)};
   };
@@ -223,8 +240,11 @@ void run(bool is_quick, const char* wanted) {
     return Problem{"LU " + name, Factorization::kLU, Pivoting::kPartial, std::move(A)};
   };
   std::vector<Problem> problems = {llt("100 x 100", laplace(100, 100, 1, false)),
-                                   llt("15^3", laplace(15, 15, 15, false)), ldlt("saddle 60 x 60", saddle_point(60, 1)),
-                                   lu("100 x 100", convection(100, 100, 1)), lu("15^3", convection(15, 15, 15))};
+                                   llt("15^3", laplace(15, 15, 15, false)),
+                                   ldlt("saddle 60 x 60", saddle_point(60, 1)),
+                                   lu("100 x 100", convection(100, 100, 1)),
+                                   lu("15^3", convection(15, 15, 15)),
+                                   lu("circuit 10000", circuit(10000))};
   if (!is_quick) {
     problems.push_back(llt("300 x 300", laplace(300, 300, 1, false)));
     problems.push_back(llt("30^3", laplace(30, 30, 30, false)));
@@ -233,10 +253,16 @@ void run(bool is_quick, const char* wanted) {
     problems.push_back(ldlt("saddle 20^3", saddle_point(20, 20)));
     problems.push_back(lu("200 x 200", convection(200, 200, 1)));
     problems.push_back(lu("25^3", convection(25, 25, 25)));
+    problems.push_back(lu("circuit 100000", circuit(100000)));
   }
+  std::string peers;
   for (const Problem& problem : problems) {
-    if (problem.name.find(wanted) != std::string::npos) measure(problem, gemm);
+    if (problem.name.find(wanted) != std::string::npos) peers += measure(problem, gemm);
   }
+  std::printf(
+      "\n| problem | peer | analysis | factor | solve 1 | solve 32 | backward error | peer's |\n"
+      "|---|---|---|---|---|---|---|---|\n%s",
+      peers.c_str());
 }
 
 }  // namespace
@@ -245,6 +271,8 @@ void run(bool is_quick, const char* wanted) {
 int main(int argc, char** argv) {
   quorin::base::start_parallel();
   quorin::dense::start();
+  // Peers call the product's BLAS on one thread; the engine is told how many.
+  quorin::base::set_thread_count(quorin::base::Domain::kBlas, 1);
   const bool is_quick = argc > 1 && std::strcmp(argv[1], "--quick") == 0;
   quorin::bench::run(is_quick, argc > 1 + is_quick ? argv[argc - 1] : "");
 }

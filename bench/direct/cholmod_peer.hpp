@@ -3,25 +3,23 @@
 
 #include <memory>
 
-#include "tests/support/sparse.hpp"
+#include "bench/direct/peer.hpp"
 
 namespace quorin::bench {
 
-class CholmodPeer {
+class CholmodPeer final : public Peer {
  public:
   // Whether the functions below may be called.
   static bool is_there();
 
   // A symmetric n x n matrix of which the lower triangle is given, and an ordering.
   CholmodPeer(const test::CompressedArrays& lower, int n, const int* permutation);
-  ~CholmodPeer();
-  CholmodPeer(const CholmodPeer&) = delete;
-  CholmodPeer& operator=(const CholmodPeer&) = delete;
+  ~CholmodPeer() override;
 
-  void analyze();
-  void factorize();
-  // For `nrhs` vectors of ones.
-  void solve(int nrhs);
+  const char* name() const override { return "CHOLMOD"; }
+  void analyze() override;
+  void factorize() override;
+  const double* solve(int nrhs) override;
 
  private:
   struct State;

@@ -2,9 +2,10 @@
 #pragma once
 
 #include <algorithm>
-#include <array>
 #include <chrono>
 #include <cstddef>
+#include <functional>
+#include <limits>
 #include <vector>
 
 namespace quorin::bench {
@@ -24,24 +25,19 @@ double seconds_of(int repetitions, const Call& call) {
 
 // The least time of each call. They take turns, so that what else the machine does meets all of them alike: three
 // rounds at the least, and more until so many seconds have passed.
-template <class... Calls>
-std::array<double, sizeof...(Calls)> least_by_turns(double seconds, const Calls&... calls) {
+inline std::vector<double> least_by_turns(double seconds, const std::vector<std::function<void()>>& calls) {
   using Clock = std::chrono::steady_clock;
   const auto since = [](Clock::time_point start) {
     return std::chrono::duration<double>(Clock::now() - start).count();
   };
-  std::array<double, sizeof...(Calls)> least;
-  least.fill(seconds + 1e9);
+  std::vector<double> least(calls.size(), std::numeric_limits<double>::infinity());
   const auto begin = Clock::now();
   for (int round = 0; round < 3 || since(begin) < seconds; ++round) {
-    std::size_t which = 0;
-    const auto time = [&](const auto& call) {
+    for (std::size_t k = 0; k < calls.size(); ++k) {
       const auto start = Clock::now();
-      call();
-      least[which] = std::min(least[which], since(start));
-      ++which;
-    };
-    (time(calls), ...);
+      calls[k]();
+      least[k] = std::min(least[k], since(start));
+    }
   }
   return least;
 }
