@@ -58,15 +58,15 @@ struct Problem {
 
 template <Scalar T>
 struct Run {
-  Run(const Problem& problem, const Graph& graph, const Ordering& ordering, const test::CompressedArrays& arrays)
+  Run(const Problem& problem, Preprocessing<double>& prepared, const test::CompressedArrays& arrays)
       : values(arrays.re.begin(), arrays.re.end()) {
     options.factorization = problem.factorization;
     options.pivoting = problem.pivoting;
     options.perturbation = problem.factorization == Factorization::kLLT ? 0 : 1e-10;
     const Pattern pattern{problem.matrix.rows, problem.matrix.columns, arrays.starts.data(), arrays.indices.data()};
     const bool is_lu = problem.factorization == Factorization::kLU;
-    analyze = [this, &graph, ordering, pattern, is_lu] {
-      require(plan.build(graph, ordering));
+    analyze = [this, &prepared, pattern, is_lu] {
+      require(plan.build(prepared.graph, prepared.ordering(), {.pair_of = prepared.pair_of.data()}));
       require(assembly.build(plan, pattern,
                              {.panels = is_lu ? PanelKind::kUnsymmetric : PanelKind::kSymmetric,
                               .symmetry = is_lu ? Symmetry::kGeneral : Symmetry::kSymmetric}));
@@ -172,16 +172,18 @@ double backward_error(const GivenSystem& system, const double* x) {
 std::string measure(const Problem& problem, double gemm) {
   const test::CompressedArrays arrays = compressed_columns(problem.matrix);
   const int n = problem.matrix.rows;
-  Graph graph;
-  require(build_graph({n, n, arrays.starts.data(), arrays.indices.data()}, graph));
-  std::vector<int> permutation(static_cast<std::size_t>(n)), inverse(permutation);
-  const Ordering ordering{permutation.data(), inverse.data()};
-  require(order_metis(graph, ordering));
-
-  Run<double> run(problem, graph, ordering, arrays);
-  Run<float> single(problem, graph, ordering, arrays);
   const bool is_lu = problem.factorization == Factorization::kLU;
-  const GivenSystem system{arrays, n, permutation.data(), !is_lu};
+  // Zeros on the diagonal need partners: pivots of order 2.
+  Preprocessing<double> prepared;
+  const ColumnMatrix<double> matrix{{n, n, arrays.starts.data(), arrays.indices.data()}, arrays.re.data()};
+  require(preprocess(matrix,
+                     {.symmetry = is_lu ? Symmetry::kGeneral : Symmetry::kSymmetric,
+                      .matches = problem.factorization == Factorization::kLDLT},
+                     prepared));
+
+  Run<double> run(problem, prepared, arrays);
+  Run<float> single(problem, prepared, arrays);
+  const GivenSystem system{arrays, n, prepared.permutation.data(), !is_lu};
   const std::vector<std::unique_ptr<Peer>> peers = peers_of(problem.factorization, system);
   // The engine's times, and then those of the peers.
   using Calls = std::vector<std::function<void()>>;
