@@ -116,30 +116,24 @@ TEST(Contents, EveryPartIsGivenAlone) {
   for (int missing = 0; missing < 11; ++missing) {
     SCOPED_TRACE(missing);
     Factors g = f;
+    g.do_recip = -9;
+    void* to[11] = {g.Lp.data(), g.Lj.data(), g.Lx.data(), g.Up.data(), g.Ui.data(), g.Ux.data(),
+                    g.P.data(),  g.Q.data(),  g.Dx.data(), &g.do_recip, g.Rs.data()};
     for (Integers* const v : {&g.Lp, &g.Lj, &g.Up, &g.Ui, &g.P, &g.Q}) std::fill(v->begin(), v->end(), -9);
     for (Floats* const v : {&g.Lx, &g.Ux, &g.Dx, &g.Rs}) std::fill(v->begin(), v->end(), -9.0F);
-    g.do_recip = -9;
-    int argument = 0;
-    const auto given = [&](auto* array) { return argument++ == missing ? nullptr : array; };
-    int *const Lp = given(g.Lp.data()), *const Lj = given(g.Lj.data());
-    float* const Lx = given(g.Lx.data());
-    int *const Up = given(g.Up.data()), *const Ui = given(g.Ui.data());
-    float* const Ux = given(g.Ux.data());
-    int *const P = given(g.P.data()), *const Q = given(g.Q.data());
-    float* const Dx = given(g.Dx.data());
-    int* const do_recip = given(&g.do_recip);
-    float* const Rs = given(g.Rs.data());
-    EXPECT_EQ(umfpack_di_get_numeric(Lp, Lj, Lx, Up, Ui, Ux, P, Q, Dx, do_recip, Rs, host.Numeric), 0);
+    to[missing] = nullptr;
+    const auto ints = [&](int k) { return static_cast<int*>(to[k]); };
+    const auto floats = [&](int k) { return static_cast<float*>(to[k]); };
+    EXPECT_EQ(umfpack_di_get_numeric(ints(0), ints(1), floats(2), ints(3), ints(4), floats(5), ints(6), ints(7),
+                                     floats(8), ints(9), floats(10), host.Numeric),
+              0);
     const auto expect = [](const auto& v, const auto& whole, bool is_given) {
       EXPECT_EQ(v, is_given ? whole : std::decay_t<decltype(whole)>(whole.size(), -9));
     };
-    for (Integers Factors::*const v : {&Factors::Lp, &Factors::Lj}) expect(g.*v, f.*v, missing > 2);
-    for (Integers Factors::*const v : {&Factors::Up, &Factors::Ui}) expect(g.*v, f.*v, missing < 3 || missing > 5);
-    expect(g.Lx, f.Lx, missing > 2);
-    expect(g.Ux, f.Ux, missing < 3 || missing > 5);
-    expect(g.P, f.P, missing != 6);
-    expect(g.Q, f.Q, missing != 7);
-    expect(g.Dx, f.Dx, missing != 8);
+    const bool has_l = missing > 2, has_u = missing < 3 || missing > 5;
+    expect(g.Lp, f.Lp, has_l), expect(g.Lj, f.Lj, has_l), expect(g.Lx, f.Lx, has_l);
+    expect(g.Up, f.Up, has_u), expect(g.Ui, f.Ui, has_u), expect(g.Ux, f.Ux, has_u);
+    expect(g.P, f.P, missing != 6), expect(g.Q, f.Q, missing != 7), expect(g.Dx, f.Dx, missing != 8);
     EXPECT_EQ(g.do_recip, missing != 9 ? f.do_recip : -9);
     expect(g.Rs, f.Rs, missing != 10);
   }
@@ -187,68 +181,53 @@ TEST(Contents, DeterminantAndScaling) {
   }
 }
 
-TEST(Contents, DeterminantsEndAtInfinityAndHaveMantissasBelowTen) {
-  const double infinity = std::numeric_limits<double>::infinity();
-  for (const float scaling : {0.0F, 1.0F, 2.0F}) {
-    Host host(Matrix(2, 2, {0, 1, 2}, {0, 1}, {1e5, 1e-5}));
-    host.Control[UMFPACK_SCALE] = scaling;
-    ASSERT_EQ(host.symbolic(), 0);
-    ASSERT_EQ(host.numeric(), 0);
-    float M = -1, Ex = -1;
-    EXPECT_EQ(umfpack_di_get_determinant(&M, &Ex, host.Numeric, nullptr), 0);
-    EXPECT_NEAR(M, 1, 1e-5);
-    EXPECT_EQ(Ex, 0);
-
-    Host infinite(Matrix(2, 2, {0, 1, 2}, {0, 1}, {infinity, 1}));
-    infinite.Control[UMFPACK_SCALE] = scaling;
-    ASSERT_EQ(infinite.symbolic(), 0);
-    ASSERT_GE(infinite.numeric(), 0);
-    EXPECT_EQ(umfpack_di_get_determinant(&M, &Ex, infinite.Numeric, nullptr), 1);
-
-    // Infinite in one part, in both, and large enough for the modulus to overflow alone.
-    const Doubles parts[] = {{infinity, 0}, {0, infinity}, {-infinity, infinity}, {3e38, 3e38}};
-    for (const Doubles& part : parts) {
-      Matrix A(2, 2, {0, 1, 2}, {0, 1}, {part[0], 1});
-      A.Az = {part[1], 1};
-      Host complex(A);
-      complex.Control[UMFPACK_SCALE] = scaling;
-      ASSERT_EQ(complex.symbolic(), 0);
-      ASSERT_GE(complex.numeric(), 0);
-      float Mz = -1;
-      const int status = umfpack_zi_get_determinant(&M, &Mz, &Ex, complex.Numeric, nullptr);
-      if (std::isinf(part[0]) || std::isinf(part[1])) {
-        EXPECT_EQ(status, 1);
-      } else {  // (1 + i) 3e38 (1 + i) = 6e38 i
-        EXPECT_EQ(status, 3);
-        EXPECT_NEAR(M, 0, 1e-5);
-        EXPECT_NEAR(Mz, 6, 1e-5);
-        EXPECT_EQ(Ex, 38);
-      }
-    }
-  }
-}
-
+// Of diagonal matrices: mantissas below ten, and what no float holds.
 TEST(Contents, DeterminantsBeyondFloatsAreReported) {
-  struct Case {
-    double diagonal;
+  const double infinity = std::numeric_limits<double>::infinity();
+  const struct {
+    std::vector<Complex> diagonal;
     int status;
+    Complex mantissa;
+    float exponent;
+  } cases[] = {
+      {{1e5, 1e-5}, 0, 1, 0},
+      {{2e10, 1e10, 1e10}, 0, 2, 30},
+      {{2e20, 1e20, 1e20}, 3, 2, 60},
+      {{2e-20, 1e-20, 1e-20}, 2, 2, -60},
+      {{0, 1}, 1, 0, 0},
+      {{infinity, 1}, 1, 0, 0},
+      {{Complex(0, infinity), 1}, 1, 0, 0},
+      {{Complex(-infinity, infinity), 1}, 1, 0, 0},
+      {{Complex(3e38, 3e38), Complex(1, 1)}, 3, Complex(0, 6), 38},  // the modulus of the first one overflows alone
   };
-  for (const Case c : {Case{1e20, 3}, Case{1e-20, 2}, Case{0, 1}, Case{1e10, 0}}) {
-    Host host(Matrix(3, 3, {0, 1, 2, 3}, {0, 1, 2}, Doubles(3, c.diagonal)));
-    ASSERT_EQ(host.symbolic(), 0);
-    ASSERT_GE(host.numeric(), 0);
-    float M = -1, Ex = -1;
-    EXPECT_EQ(umfpack_di_get_determinant(&M, &Ex, host.Numeric, host.Info.data()), c.status);
-    EXPECT_EQ(host.Info[0], static_cast<float>(c.status));
-    if (c.diagonal != 0) {
-      EXPECT_NEAR(std::log10(static_cast<double>(M)) + static_cast<double>(Ex), 3 * std::log10(c.diagonal), 1e-6);
+  for (const auto& c : cases) {
+    const bool is_complex = std::imag(c.diagonal[0]) != 0;
+    const int n = static_cast<int>(c.diagonal.size());
+    Matrix A(n, n, {0}, {}, {});
+    for (int i = 0; i < n; ++i) {
+      A.Ap.push_back(i + 1);
+      A.Ai.push_back(i);
+      A.Ax.push_back(c.diagonal[i].real());
+      if (is_complex) A.Az.push_back(c.diagonal[i].imag());
     }
-    EXPECT_EQ(umfpack_di_get_determinant(&M, nullptr, host.Numeric, nullptr), c.status);
-    if (c.status == 3) {
-      EXPECT_TRUE(std::isinf(M));
-    }
-    if (c.status == 1 || c.status == 2) {
-      EXPECT_EQ(M, 0);
+    for (const float scaling : {0.0F, 1.0F, 2.0F}) {
+      SCOPED_TRACE(testing::Message() << c.diagonal[0] << ", scaling " << scaling);
+      Host host(A);
+      host.Control[UMFPACK_SCALE] = scaling;
+      ASSERT_EQ(host.symbolic(), 0);
+      ASSERT_GE(host.numeric(), 0);
+      float M[2] = {}, Ex = -1;
+      float* const info = host.Info.data();
+      EXPECT_EQ(is_complex ? umfpack_zi_get_determinant(M, M + 1, &Ex, host.Numeric, info)
+                           : umfpack_di_get_determinant(M, &Ex, host.Numeric, info),
+                c.status);
+      EXPECT_EQ(host.Info[0], static_cast<float>(c.status));
+      if (c.status == 1) continue;
+      EXPECT_LE(std::abs(Complex(M[0], M[1]) - c.mantissa), 1e-5);
+      EXPECT_EQ(Ex, c.exponent);
+      if (is_complex) continue;
+      EXPECT_EQ(umfpack_di_get_determinant(M, nullptr, host.Numeric, nullptr), c.status);
+      EXPECT_TRUE(c.status == 0 || (c.status == 2 ? M[0] == 0 : std::isinf(M[0]))) << M[0];
     }
   }
 }

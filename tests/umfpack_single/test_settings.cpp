@@ -145,18 +145,6 @@ TEST(Settings, InfoTellsOfThisBuildAndKeepsWhatOtherCallsWrote) {
   EXPECT_EQ(host.Info[88], 7) << "not one of its entries";
 }
 
-// A float has 24 bits.
-TEST(Settings, CountsAreRoundedToFloats) {
-  Floats Info(90);
-  void* Symbolic = nullptr;
-  for (const int nz : {16777216, 16777217, 16777219, 2147483647}) {
-    const Integers Ap = {0, nz};
-    EXPECT_EQ(umfpack_di_symbolic(3, 1, Ap.data(), nullptr, nullptr, &Symbolic, nullptr, Info.data()), -5);
-    EXPECT_EQ(Info[2], static_cast<float>(nz));
-  }
-  EXPECT_EQ(Info[2], 2147483648.0F);
-}
-
 TEST(Settings, TimersCountProcessorTimeOnly) {
   double stats[4] = {-1, -1, -1, -1};
   umfpack_tic_32f_Idx(stats, 1);
