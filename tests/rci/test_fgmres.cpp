@@ -29,19 +29,6 @@ TEST(Fgmres, PublishedPlainExample) {
   }
 }
 
-TEST(Fgmres, NormsOfTheGeneratedVectors) {
-  const Csr A = nonsymmetric5();
-  FgmresHost host(A, A * kSolution5, Vector(5, 1.0));
-  Vector norms;
-  host.satisfied = [&] {
-    norms.push_back(host.dpar[6]);
-    return false;
-  };
-  host.run();
-  EXPECT_EQ(host.requests, "1124124124124124");
-  expect_history(norms, {1.967232, 1.470368, 1.230850, 0.1186402, 0}, 1e-14);
-}
-
 // Restart after two steps, host tests, a preconditioner that depends on the iteration.
 TEST(Fgmres, PublishedExampleOfAllFeatures) {
   const Csr A = nonsymmetric5();

@@ -8,13 +8,6 @@ namespace {
 
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 
-TEST(Ilu0, PublishedExample) {
-  const Ilu0 ilu(spd4(), Settings(1e-20, true, 1e-16));
-  EXPECT_EQ(ilu.ierr, 0);
-  expect_near(ilu.factors.a, {4, -1, -1, -0.25, 3.75, -1, -0.25, 3.75, -1, -4.0 / 15, -4.0 / 15, 52.0 / 15}, 1e-15);
-  EXPECT_NEAR(norm(ilu.factors.a), 7.772387, 5e-7);
-}
-
 // ILU(0) is the one factorization on the pattern of A whose product agrees with A there.
 TEST(Ilu0, AgreesWithTheMatrixOnItsPattern) {
   std::mt19937 random(17);
@@ -70,26 +63,6 @@ TEST(Ilu0, Verdicts) {
   EXPECT_EQ(replaced.factors.a[0], 1e-10);
 }
 
-TEST(Ilut, PublishedExample) {
-  const Csr A = spd4();
-  const Ilut ilu(A, 1e-6, 1, Settings(1e-5, true, 0.0));
-  EXPECT_EQ(ilu.ierr, 0);
-  EXPECT_TRUE(ilu.guarded);
-  EXPECT_EQ(ilu.factors.ia, (std::vector<int>{1, 3, 6, 9, 11}));
-  EXPECT_EQ(ilu.factors.ja, (std::vector<int>{1, 2, 1, 2, 4, 1, 3, 4, 2, 4}));
-  expect_near(ilu.factors.a, {4, -1, -0.25, 3.75, -1, -0.25, 4, -16.0 / 15, -4.0 / 15, 52.0 / 15}, 1e-14);
-  EXPECT_NEAR(norm(ilu.factors.a), 7.836719, 5e-7);
-
-  const Vector full{4,     -1,         -1,        -0.25,      3.75,       -0.25,      -1,
-                    -0.25, -0.0666667, 3.7333333, -1.0666667, -0.2666667, -0.2857143, 3.4285714};
-  for (const int fill : {2, 3}) {
-    for (const double tol : {0.0, 1e-6}) expect_near(Ilut(A, tol, fill).factors.a, full, 6e-8);
-    EXPECT_NEAR(norm(Ilut(A, 0.0, fill).factors.a), 7.761304, 5e-7);
-  }
-  for (const int fill : {0, 1, 3}) EXPECT_EQ(Ilut(A, 0.3, fill).factors.a, Vector(4, 4.0));
-  EXPECT_EQ(Ilut(A, 0.05, 2).factors.a.size(), 13u) << "the norm of a row is the Euclidean one";
-}
-
 TEST(Ilut, DropsWhatEqualsTheTolerance) {
   // The rows' norms are 5: 3 = 0.6 * 5 goes, in L (3 = 15 / 5) as in U.
   const Csr upper = sparse({{4, 3}, {0, 5}}), lower = sparse({{0.8, 0}, {3, 4}});
@@ -112,7 +85,7 @@ TEST(Ilut, EqualsTheFactorizationByMaps) {
       }
     }
     const double tol = trial % 4 == 0 ? 0.0 : std::pow(10.0, -3 - trial % 5);
-    const int fill = trial % 6;
+    const int fill = trial % 8 < 6 ? trial % 6 : n - 1;
     const Ilut ilu(A, tol, fill, Settings(10.0));
     ASSERT_EQ(ilu.ierr, fill >= n ? 101 : 0) << n;
     EXPECT_TRUE(ilu.guarded);
@@ -120,22 +93,6 @@ TEST(Ilut, EqualsTheFactorizationByMaps) {
     EXPECT_EQ(ilu.factors.ia, oracle.ia);
     EXPECT_EQ(ilu.factors.ja, oracle.ja);
     expect_near(ilu.factors.a, oracle.a, 1e-12);
-  }
-}
-
-// Without dropping, L U = A, for sizes on both sides of the words and levels of the column tree.
-TEST(Ilut, WithoutDroppingFactorsExactly) {
-  std::mt19937 random(29);
-  for (const int n : {1, 2, 31, 32, 33, 63, 64, 65, 129}) {
-    const Csr A = random_matrix(n, 0.1, 0.6, false, random);
-    const Ilut ilu(A, 0.0, n - 1);
-    ASSERT_EQ(ilu.ierr, 0);
-    const Dense m = dense(A);
-    Rows with_zeros(n);
-    for (int i = 0; i < n; ++i) {
-      for (int j = 0; j < n; ++j) with_zeros[i][j] = m[i][j];
-    }
-    EXPECT_LT(pattern_residual(from_rows(with_zeros), ilu.factors), 1e-13) << n;
   }
 }
 
@@ -189,51 +146,6 @@ TEST(Ilut, Verdicts) {
   const Ilut replaced(swap, 0.1, 1, replacing);
   EXPECT_EQ(replaced.ierr, 0);
   expect_near(replaced.factors.a, {1.5, 3, 1 / 1.5, -2}, 1e-15);
-}
-
-// FGMRES with the factors, as published.
-TEST(Ilu, PreconditionsFgmres) {
-  const Csr A = spd4();
-  const Csr ilu0 = Ilu0(A, Settings(1e-20, true, 1e-16)).factors, complete = Ilut(A, 0.0, 3).factors,
-            ilut = Ilut(A, 1e-6, 1, Settings(1e-5, true, 0.0)).factors;
-  const Vector far{100, 0, 0, 0}, zero(4, 0.0);
-  struct Case {
-    const char* name;
-    const Csr& factors;
-    const Vector& start;
-    int m;
-    bool automatic;
-    int iterations;
-    Vector history;  // where it was published
-  };
-  const Case cases[] = {
-      {"ILU0", ilu0, far, 2, false, 2, {423.3391076, 0.3069071796, 0}},
-      {"ILU0", ilu0, far, 2, true, 1, {}},
-      {"ILU0 from zero", ilu0, zero, 2, false, 2, {4, 0.2444402531, 0}},
-      {"ILU0 from zero", ilu0, zero, 2, true, 2, {}},
-      {"complete factors", complete, far, 2, false, 1, {}},
-      {"ILUT", ilut, far, 2, false, 4, {}},
-      {"ILUT", ilut, far, 2, true, 2, {}},
-      {"ILUT", ilut, far, 4, false, 3, {}},
-      {"ILUT", ilut, far, 4, true, 2, {}},
-      {"ILUT from zero", ilut, zero, 2, false, 4, {}},
-      {"ILUT from zero", ilut, zero, 2, true, 3, {}},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.name);
-    FgmresHost host(A, Vector(4, 2.0), c.start, c.m, true);
-    host.precondition = [&c](int, const double* in, double* out) { solve_lu(c.factors, in, out); };
-    host.ipar[7] = 0;
-    host.ipar[8] = c.automatic ? 1 : 0;
-    host.ipar[9] = c.automatic ? 0 : 1;
-    host.dpar[0] = 1e-3;
-    host.satisfied = [&host] { return host.true_residual() < 1e-3; };
-    host.run();
-    EXPECT_EQ(host.get(), 0);
-    expect_near(host.x, Vector(4, 1.0), c.automatic ? 0.2 : 1e-3);
-    EXPECT_EQ(host.itercount, c.iterations);
-    if (!c.history.empty()) expect_history(host.residuals, c.history, c.start == zero ? 1e-14 : 1e-12);
-  }
 }
 
 }  // namespace
