@@ -120,6 +120,11 @@ const Solver& solver(const std::string& name) {
 
 namespace {
 
+// Of the work arrays.
+struct Lengths {
+  int reals = 0, integers = 0;
+};
+
 #include "lengths.inc"
 
 struct Triangles {
@@ -142,38 +147,11 @@ Triangles count_triangles(const Triads& a) {
   return t;
 }
 
-}  // namespace
-
-Lengths documented_lengths(const Solver& s, const Triads& a, int nsave) {
+Lengths documented_lengths(const std::string& solver, const Triads& a, int nsave) {
+  if (a.n < 1 || a.nelt() < 1) return {};
   const auto [below, diagonal, above] = count_triangles(a);
-  return documented(s.name, a.n, a.nelt(), a.isym, nsave, below, above, diagonal);
+  return documented(solver, a.n, a.nelt(), a.isym, nsave, below, above, diagonal);
 }
-
-Lengths published_lengths(const Solver& s, const Triads& a, int nsave) {
-  const int n = a.n;
-  if (s.preconditioner == Preconditioner::kCholesky) {
-    const int nl = a.isym != 0 ? a.nelt() : (a.nelt() + n) / 2;
-    return {nl + 5 * n, nl + n + 11};
-  }
-  const auto [below, diagonal, above] = count_triangles(a);
-  if (s.preconditioner == Preconditioner::kLower) return {below + diagonal + 3 * n + 1, below + diagonal + n + 11};
-  const bool is_lu = s.preconditioner == Preconditioner::kLu;
-  const int fill = is_lu ? below + above : 0, integers = is_lu ? fill + 4 * n + 12 : 10;
-  switch (s.iteration) {
-    case Iteration::kCg:
-      return {5 * n, integers};
-    case Iteration::kGmres:
-      return {1 + n * (nsave + 6) + nsave * (nsave + 3) + fill, is_lu ? fill + 4 * n + 32 : 30};
-    case Iteration::kOrthomin:
-      return {(is_lu ? 4 : 7) * n + nsave * (3 * n + 1) + fill, integers};
-    case Iteration::kRefinement:
-      return {4 * n + fill, integers};
-    default:
-      return {8 * n + fill, integers};
-  }
-}
-
-namespace {
 
 template <class T>
 std::vector<T> copy(Guarded<T>& array) {
@@ -211,7 +189,7 @@ struct Call {
 }  // namespace
 
 Outcome run(const Solver& s, const Triads& a, const Floats& b, const Options& options, const Floats& start) {
-  Call c(a, options, start, a.n < 1 || a.nelt() < 1 ? Lengths{0, 0} : published_lengths(s, a, options.nsave));
+  Call c(a, options, start, documented_lengths(s.name, a, options.nsave));
   Triads& m = c.result.matrix;
   Outcome& r = c.result;
   const Options& o = c.options;
@@ -235,7 +213,7 @@ Outcome run(const Solver& s, const Triads& a, const Floats& b, const Options& op
 }
 
 Outcome run_reusing(const Triads& a, const Floats& b, const Options& options, const Outcome* earlier) {
-  Call c(a, options, {}, published_lengths(solver("SSICCG"), a, 0));
+  Call c(a, options, {}, documented_lengths("SSICCGC", a, 0));
   if (earlier != nullptr) {
     std::copy(earlier->rwork.begin(), earlier->rwork.end(), c.rwork.data());
     std::copy(earlier->iwork.begin(), earlier->iwork.end(), c.iwork.data());

@@ -1,5 +1,5 @@
 // A host of the SLAP solvers: matrices as triads, the sixteen solvers by name, and calls with work arrays of exactly
-// the published lengths between guard words.
+// the documented lengths between guard words.
 #pragma once
 
 #include "quorin/slap.h"
@@ -65,14 +65,6 @@ struct Solver {
 };
 const std::vector<Solver>& solvers();
 const Solver& solver(const std::string& name);
-
-// Of the work arrays: as published, and as the manual has it.
-struct Lengths {
-  int reals, integers;
-  bool operator==(const Lengths&) const = default;
-};
-Lengths published_lengths(const Solver& s, const Triads& a, int nsave);
-Lengths documented_lengths(const Solver& s, const Triads& a, int nsave);
 
 // What a call leaves. `matrix` has column starts in ja.
 struct Outcome {

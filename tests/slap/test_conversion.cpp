@@ -109,27 +109,6 @@ TEST(Conversion, LeavesTheOrderThatThePublishedStepsLeave) {
   }
 }
 
-// Followed by hand.
-TEST(Conversion, SmallColumns) {
-  Triads t;
-  t.n = 2;
-  t.add(1, 2, 10);
-  t.add(1, 1, 20);
-  t.add(1, 2, 30);
-  const Triads twice = t.converted();
-  EXPECT_EQ(twice.ja, (Integers{1, 2, 4, 0}));
-  EXPECT_EQ(twice.a, (Floats{20, 10, 30})) << "two entries, no diagonal: as they come";
-
-  Triads four;
-  four.n = 4;
-  for (const int i : {4, 3, 1, 2}) four.add(i, 3, 10 * i);
-  for (const int j : {1, 2, 4}) four.add(j, j, j);
-  const Triads columns = four.converted();
-  EXPECT_EQ(columns.ia, (Integers{1, 2, 3, 1, 2, 4, 4})) << "the diagonal, then rows in order";
-  EXPECT_EQ(columns.a, (Floats{1, 2, 30, 10, 20, 40, 4}));
-  EXPECT_EQ(Integers(columns.ja.begin(), columns.ja.begin() + 6), (Integers{1, 2, 3, 7, 8, 0}));
-}
-
 TEST(Conversion, ConvertedMatricesAreLeftAlone) {
   std::mt19937 random(5);
   const Triads columns = random_triads(50, random).converted();

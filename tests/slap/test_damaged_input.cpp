@@ -125,24 +125,6 @@ TEST(DamagedInput, ValuesThatAreNoNumbers) {
   EXPECT_EQ(o.iter, 6);
 }
 
-TEST(DamagedInput, ZeroAndAbsentDiagonals) {
-  for (const int isym : {0, 1}) {
-    Triads zero = isym != 0 ? grid(4, 0).lower() : grid(4, 0), absent = zero;
-    absent.ia.clear(), absent.ja.clear(), absent.a.clear();
-    for (int k = 0; k < zero.nelt(); ++k) {
-      const bool is_hit = zero.ia[k] == zero.ja[k] && zero.ia[k] % 5 == 2;
-      if (!is_hit) absent.add(zero.ia[k], zero.ja[k], zero.a[k]);
-      if (is_hit) zero.a[k] = 0;
-    }
-    expect_survival(zero, Floats(16, 1.0F), "zero diagonal");
-    expect_survival(absent, Floats(16, 1.0F), "absent diagonal");
-  }
-  Triads one;
-  one.n = 1;
-  one.add(1, 1, 0);
-  expect_survival(one, {1}, "zero of order 1");
-}
-
 // An unsymmetric pattern has more entries below the diagonal than the incomplete Cholesky's arrays hold: then the
 // factors leave some out.
 TEST(DamagedInput, CholeskyOfAnUnsymmetricPattern) {
