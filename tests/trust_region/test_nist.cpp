@@ -59,34 +59,5 @@ TEST(Nist, ParametersAgreeWithTheCertifiedOnes) {
   EXPECT_LE(evaluations, kMostEvaluations) << "as many as ever";
 }
 
-// With a box around the certified parameters that cuts one of them off, the others go where the fit is best.
-TEST(Nist, BoundsThatBindGiveAFitOnTheBound) {
-  for (const NistProblem& problem : nist_problems(QUORIN_NIST_DIR)) {
-    if (problem.name != "Misra1a" && problem.name != "Hahn1" && problem.name != "Kirby2") continue;
-    const Fit free = fit_of(problem, 1, 0.0F);
-    Fit run = free;
-    run.x = to_floats(problem.starts[1]);
-    run.lower.assign(problem.n(), -kInfinity);
-    run.upper.assign(problem.n(), kInfinity);
-    run.upper[0] = static_cast<float>(0.95 * problem.certified[0]);
-    run.requests[0] = 0;
-    run.go();
-    EXPECT_EQ(run.x[0], run.upper[0]) << problem.name;
-    EXPECT_GT(run.r2, free.r2);
-
-    // The same with that parameter held: nothing better is there.
-    Fit held = free;
-    held.m = problem.m();
-    held.x.assign(run.x.begin() + 1, run.x.end());
-    held.function = [&](const Reals& x, Reals& f) {
-      Reals all = {double{run.upper[0]}};
-      all.insert(all.end(), x.begin(), x.end());
-      free.function(all, f);
-    };
-    held.go();
-    EXPECT_NEAR(run.r2, held.r2, 1e-4F * held.r2) << problem.name;
-  }
-}
-
 }  // namespace
 }  // namespace trust_region_test

@@ -21,26 +21,6 @@ TEST(Powell, TakesThePublishedNumberOfStepsForAnyNumberOfBlocks) {
   }
 }
 
-TEST(Powell, TakesThePublishedNumberOfStepsWithSingleDifferences) {
-  Fit run = powell_run(1, 1e-3F);
-  const float step = 1e-3F;
-  const int n = 4;
-  ASSERT_EQ(run.begin(), kSuccess);
-  while (run.step()) {
-    if (run.request != 2) continue;
-    const auto in_floats = [](int* rows, int* columns, float* x, float* f) {
-      Reals values(static_cast<std::size_t>(*rows));
-      extended_powell(Reals(x, x + *columns), values);
-      for (std::size_t i = 0; i < values.size(); ++i) f[i] = static_cast<float>(values[i]);
-    };
-    ASSERT_EQ(sjacobi(in_floats, &n, &n, run.columns.data(), run.x.data(), &step), kSuccess);
-  }
-  run.finish();
-  EXPECT_EQ(run.iterations, 7);
-  EXPECT_EQ(run.criterion, 3);
-  EXPECT_NEAR(run.r2, 7.7e-4, 2.5e-4);
-}
-
 // Each row switches on one test, or limits the steps; the criterion is the one that it must end with.
 TEST(Stops, EachTestHasItsCode) {
   struct Row {
@@ -66,25 +46,10 @@ TEST(Stops, EachTestHasItsCode) {
   }
 }
 
-// The first region's size is at least 0.1.
-TEST(Setup, TheFirstRadiusIsLimited) {
-  const auto first_point = [](float rs) {
-    Fit run = powell_run(1, 1e-5F);
-    run.rs = rs;
-    EXPECT_EQ(run.begin(), kSuccess);
-    while (run.requests[0] < 2) EXPECT_TRUE(run.step());
-    run.finish();
-    return run.x;
-  };
-  for (const float rs : {1e-3F, 0.05F}) EXPECT_EQ(first_point(rs), first_point(0.1F)) << rs;
-  EXPECT_NE(first_point(0.2F), first_point(0.1F));
-  EXPECT_EQ(first_point(0), first_point(100));
-}
-
-// Whatever the units of F, and of x; and not longer than 100.
+// Whatever the units of F, and of x; and the region's size is at least 0.1 and at most 100.
 TEST(Setup, TheFirstStepIsNoLongerThanTheFirstRegion) {
   for (const double unit : {1e-6, 1.0, 1e6}) {
-    for (const float rs : {0.1F, 1.0F, 30.0F, 1e30F, 0.0F}) {
+    for (const float rs : {1e-3F, 0.1F, 1.0F, 30.0F, 1e30F, 0.0F}) {
       for (const bool is_bounded : {false, true}) {
         Fit run;
         run.m = 2;
@@ -95,7 +60,7 @@ TEST(Setup, TheFirstStepIsNoLongerThanTheFirstRegion) {
         EXPECT_EQ(run.begin(), kSuccess);
         while (run.requests[0] < 2) ASSERT_TRUE(run.step());
         const double length = std::hypot(run.x[0] - 50, run.x[1] - 1000);
-        if (const float most = std::min(rs, 100.0F); most > 0) {
+        if (const float most = std::clamp(rs, 0.1F, 100.0F); rs > 0) {
           EXPECT_LE(length, most * (1 + 1e-5)) << unit;
           EXPECT_GE(length, 0.4 * most) << unit;
         } else {
@@ -142,17 +107,19 @@ TEST(Stops, FrozenVariablesAreNotSingular) {
   }
 }
 
-// Of all minimisers along the valley of columns that depend on each other, the nearest is found.
+// Of all minimisers along the valley of columns that depend on each other, the nearest is found; a variable that F does
+// not depend on stays.
 TEST(Setup, DependentColumnsGiveTheShortestStep) {
   for (const double share : {1.0, 1.0 / 3}) {
     Fit run;
-    run.m = 3;
-    run.x = {0, 0, 0};
+    run.m = 4;
+    run.x = {0, 0, 0, 5};
     run.function = [share](const Reals& x, Reals& f) {
-      for (std::size_t i = 0; i < 3; ++i) f[i] = share * static_cast<double>(i + 1) * (x[0] + x[1] + x[2] - 3);
+      for (std::size_t i = 0; i < 4; ++i) f[i] = share * static_cast<double>(i + 1) * (x[0] + x[1] + x[2] - 3);
     };
     run.go();
-    for (const float x : run.x) EXPECT_NEAR(x, 1.0F, 1e-3F);
+    for (std::size_t j = 0; j < 3; ++j) EXPECT_NEAR(run.x[j], 1.0F, 1e-3F);
+    EXPECT_EQ(run.x[3], 5.0F);
   }
 }
 
@@ -174,13 +141,6 @@ TEST(Stops, RequestsRepeatAfterTheEnd) {
   }
   EXPECT_EQ(run.x, x);
   run.finish();
-}
-
-TEST(Stops, WithoutAnyTestARunEndsWhereFloatsEnd) {
-  Fit run = powell_run(2, 0.0F);
-  run.go();
-  EXPECT_EQ(run.criterion, 6);
-  EXPECT_LT(run.r2, 1e-5F);
 }
 
 TEST(Handles, WhatIsNoHandleIsRefused) {
@@ -256,23 +216,25 @@ TEST(Handles, InitRefusesWhatMakesNoSense) {
   const int n = 1, no = 0, many = std::numeric_limits<int>::max();
   float x = 1, eps[6] = {};
   const float rs = 1;
-  void* handle = &x;
+  void* handle = nullptr;
+  const auto init = [&](const int* order, float* start, const float* radius) {
+    handle = &x;
+    return strnlsp_init(&handle, order, &n, start, eps, &n, &n, radius);
+  };
   EXPECT_EQ(strnlsp_init(nullptr, &n, &n, &x, eps, &n, &n, &rs), kInvalid);
-  EXPECT_EQ(strnlsp_init(&handle, &no, &n, &x, eps, &n, &n, &rs), kInvalid);
-  EXPECT_EQ(strnlsp_init(&handle, nullptr, &n, &x, eps, &n, &n, &rs), kInvalid);
-  EXPECT_EQ(strnlsp_init(&handle, &n, &n, nullptr, eps, &n, &n, &rs), kInvalid);
-  EXPECT_EQ(strnlsp_init(&handle, &n, &n, &x, eps, &n, &n, nullptr), kInvalid);
-  handle = &x;
-  EXPECT_EQ(strnlspbc_init(&handle, &n, &n, &x, nullptr, &x, eps, &n, &n, &rs), kInvalid);
+  EXPECT_EQ(init(&no, &x, &rs), kInvalid);
+  EXPECT_EQ(init(nullptr, &x, &rs), kInvalid);
+  EXPECT_EQ(init(&n, nullptr, &rs), kInvalid);
+  EXPECT_EQ(init(&n, &x, nullptr), kInvalid);
   EXPECT_EQ(handle, nullptr);
-  handle = &x;
-  EXPECT_EQ(strnlspbc_init(&handle, &n, &n, &x, &x, nullptr, eps, &n, &n, &rs), kInvalid);
-  EXPECT_EQ(handle, nullptr);
-  EXPECT_EQ(strnlspbc_init(nullptr, &n, &n, &x, &x, nullptr, eps, &n, &n, &rs), kInvalid);
+  for (const auto& [lower, upper] : {std::pair<float*, float*>(nullptr, &x), {&x, nullptr}}) {
+    handle = &x;
+    EXPECT_EQ(strnlspbc_init(&handle, &n, &n, &x, lower, upper, eps, &n, &n, &rs), kInvalid);
+    EXPECT_EQ(handle, nullptr);
+  }
   if (sizeof(void*) == 4) {
     EXPECT_EQ(strnlsp_init(&handle, &n, &many, &x, eps, &n, &n, &rs), kOutOfMemory);
   }
-  EXPECT_EQ(handle, nullptr);
 }
 
 TEST(Handles, RunsDoNotDisturbEachOther) {
@@ -333,12 +295,6 @@ TEST(NotFinite, ResidualsShrinkTheRegion) {
   run.x = {100};
   run.go();
   EXPECT_FLOAT_EQ(run.x[0], 4.0F);
-
-  Fit overflowing = run;  // exp(x) - 1: the first step goes to about exp(40)
-  overflowing.function = [](const Reals& x, Reals& f) { f[0] = std::exp(x[0]) - 1; };
-  overflowing.x = {-6};
-  overflowing.go();
-  EXPECT_NEAR(overflowing.x[0], 0.0F, 1e-6F);
 }
 
 TEST(NotFinite, JacobiansAtATrialPointTakeTheStepBack) {
@@ -357,26 +313,6 @@ TEST(NotFinite, JacobiansAtATrialPointTakeTheStepBack) {
   run.finish();
   EXPECT_NE(refused, 0.0F);
   EXPECT_FLOAT_EQ(run.x[0], 2.0F);
-}
-
-// Good nowhere but at the start, whose neighbours in floats are tried at last.
-TEST(NotFinite, ARunThatCannotLeaveItsStartEnds) {
-  Fit run;
-  run.m = 1;
-  run.x = {1};
-  run.limit = std::numeric_limits<int>::max();
-  ASSERT_EQ(run.begin(), kSuccess);
-  int steps = 0;
-  for (; steps < 1000; ++steps) {
-    ASSERT_EQ(strnlsp_solve(&run.handle, run.f.data(), run.columns.data(), &run.request), kSuccess);
-    if (run.request < 0) break;
-    run.f[0] = steps == 0 ? 1.0F : kNaN;
-    run.columns[0] = 1;
-  }
-  EXPECT_EQ(run.request, -6);
-  EXPECT_EQ(run.x[0], 1);
-  EXPECT_EQ(run.f[0], 1);
-  run.finish();
 }
 
 TEST(NotFinite, ARunWithNothingButThemEnds) {
