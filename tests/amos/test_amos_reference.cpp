@@ -131,6 +131,7 @@ class Reference : public testing::Test {
     }
     s.errors.push_back(error);
     EXPECT_LE(error, allowed(c)) << "member " << r.j;
+    EXPECT_TRUE(value.imag() == 0 || r.m.imag() != 0 || c.z.real() < 0 || c.z.imag() != 0) << "real on the real axis";
     if (errors_.is_open()) {
       errors_ << c.function << ' ' << c.z.real() << ' ' << c.z.imag() << ' ' << c.nu + r.j << ' ' << error << '\n';
     }
