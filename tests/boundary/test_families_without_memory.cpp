@@ -69,6 +69,9 @@ TEST(SignalWithoutMemory, ToeplitzSystemsAreSolvedInTheWorkArrays) {
   solve(with);
   for (int i = 0; i < kOrder; ++i) EXPECT_NEAR(without[i], with[i], 1e-5F * std::fabs(with[i])) << i;
   EXPECT_EQ(host.live_blocks(), 0);
+  row[0] = 0;  // a singular leading minor
+  EXPECT_TRUE(host.run_failing(1, 1, [&] { solve(without); }));
+  EXPECT_TRUE(std::isnan(without[0]));
 }
 
 void twice(int32_t* m, int32_t*, float* x, float* f) {

@@ -1,19 +1,101 @@
-// TSLS1 and TSLC1 against dense elimination in double precision.
+// TSLS1 and TSLC1 against dense elimination.
 #include <cfenv>
 
 #include "quorin/signal.h"
-#include "tests/signal/toeplitz_systems.hpp"
 #include "tests/support/guarded.hpp"
 #include "tests/support/test.hpp"
 
 namespace {
 
-using namespace quorin::signal_tests;
 using quorin::test::Guarded;
 using Complex = std::complex<float>;
 
 // Half a unit in the last place of the largest element, and a little for the oracle.
 constexpr double kOneRounding = 1.01 / (1 << 24);
+
+template <class T>
+using Wide = std::conditional_t<std::is_same_v<T, float>, double, std::complex<double>>;
+
+template <class T>
+struct System {
+  std::vector<T> row, column, b;
+  int order() const { return static_cast<int>(row.size()); }
+  Wide<T> entry(int i, int j) const { return j >= i ? Wide<T>(row[j - i]) : Wide<T>(column[i - j - 1]); }
+};
+
+template <class T>
+T random_value(std::mt19937& engine) {
+  const auto one = [&] { return static_cast<float>(engine()) / 2147483648.0F - 1.0F; };
+  if constexpr (std::is_same_v<T, float>) {
+    return one();
+  } else {
+    const float re = one();
+    return {re, one()};
+  }
+}
+
+// Elements in [-1, 1) but for the diagonal.
+template <class T>
+System<T> random_system(int m, T diagonal, unsigned seed) {
+  std::mt19937 engine(seed);
+  System<T> s;
+  for (int i = 0; i < m; ++i) s.row.push_back(i == 0 ? diagonal : random_value<T>(engine));
+  for (int i = 1; i < m; ++i) s.column.push_back(random_value<T>(engine));
+  for (int i = 0; i < m; ++i) s.b.push_back(random_value<T>(engine));
+  return s;
+}
+
+// A symmetric (or, with a phase, Hermitian) system with T(i, j) = f(j - i).
+template <class T, class Function>
+System<T> hermitian_system(int m, const Function& f, unsigned seed) {
+  System<T> s = random_system<T>(m, T(1), seed);
+  for (int i = 0; i < m; ++i) s.row[i] = static_cast<T>(Wide<T>(f(i)));
+  for (int i = 1; i < m; ++i) {
+    s.column[i - 1] = s.row[i];
+    if constexpr (!std::is_same_v<T, float>) s.column[i - 1] = std::conj(s.row[i]);
+  }
+  return s;
+}
+
+// Gaussian elimination with partial pivoting, in the widest precision.
+template <class T>
+std::vector<Wide<T>> solve_densely(const System<T>& s) {
+  using W = std::conditional_t<std::is_same_v<T, float>, long double, std::complex<long double>>;
+  const int m = s.order();
+  std::vector<std::vector<W>> a(m, std::vector<W>(m + 1));
+  for (int i = 0; i < m; ++i) {
+    for (int j = 0; j < m; ++j) a[i][j] = W(s.entry(i, j));
+    a[i][m] = W(s.b[i]);
+  }
+  for (int k = 0; k < m; ++k) {
+    for (int i = k + 1; i < m; ++i) {
+      if (std::abs(a[i][k]) > std::abs(a[k][k])) std::swap(a[i], a[k]);
+    }
+    for (int i = k + 1; i < m; ++i) {
+      const W factor = a[i][k] / a[k][k];
+      for (int j = k; j <= m; ++j) a[i][j] -= factor * a[k][j];
+    }
+  }
+  std::vector<Wide<T>> x(m);
+  for (int k = m; k-- > 0;) {
+    for (int j = k + 1; j < m; ++j) a[k][m] -= a[k][j] * W(x[j]);
+    x[k] = Wide<T>(a[k][m] / a[k][k]);
+  }
+  return x;
+}
+
+// The largest error of an element, relative to the largest element.
+template <class T>
+double relative_error(const T* x, const std::vector<Wide<T>>& exact) {
+  double error = 0.0, size = 0.0;
+  for (std::size_t i = 0; i < exact.size(); ++i) {
+    const double difference = std::abs(Wide<T>(x[i]) - exact[i]);
+    if (std::isnan(difference)) return difference;
+    error = std::max(error, difference);
+    size = std::max(size, std::abs(exact[i]));
+  }
+  return error / size;
+}
 
 const quorin_complex* c(const Complex* p) { return reinterpret_cast<const quorin_complex*>(p); }
 quorin_complex* c(Complex* p) { return reinterpret_cast<quorin_complex*>(p); }
