@@ -4,8 +4,6 @@
 
 namespace {
 
-constexpr float kUnitRoundoff = 6e-8F;
-
 TEST(Query, StoresTheBestSizeWhereBaseAndIndexPoint) {
   const std::int32_t m = 300, n = 200, query = -1;
   std::vector<float> work(8, -7);
@@ -16,39 +14,6 @@ TEST(Query, StoresTheBestSizeWhereBaseAndIndexPoint) {
   EXPECT_EQ(info, 0);
   EXPECT_GE(work[3], 5.0F * static_cast<float>(n));
   for (const int i : {0, 1, 2, 4, 5, 6, 7}) EXPECT_EQ(work[static_cast<std::size_t>(i)], -7) << i;
-}
-
-TEST(Bisection, ReadsItsBoundsThroughTheirPairs) {
-  // Eigenvalues of the second-difference matrix: 2 - 2 cos(k pi / (n + 1)).
-  const std::int32_t n = 20, il = 0, iu = 0;
-  const float abstol = 0;
-  const std::vector<float> d(20, 2), e(19, -1);
-  std::vector<float> bounds = {-1, -1, 0.5F, 1.5F};  // vl = bounds[2], vu = bounds[3]
-  std::vector<float> w(20), work(80);
-  std::vector<std::int32_t> iblock(20), isplit(20), iwork(60);
-  std::int32_t m = 0, nsplit = 0, info = -1;
-  const auto bisect = [&] {
-    sstebz_Idx("V", "E", &n, bounds.data(), 2, bounds.data() + 1, 2, &il, &iu, &abstol, d.data(), 0, e.data(), 0, &m,
-               &nsplit, w.data(), 0, iblock.data(), 0, isplit.data(), 0, work.data(), 0, iwork.data(), 0, &info);
-  };
-  bisect();
-  ASSERT_EQ(info, 0);
-  std::vector<double> expected;
-  for (int k = 1; k <= n; ++k) {
-    const double value = 2 - 2 * std::cos(k * 3.14159265358979324 / (n + 1));
-    if (value > 0.5 && value <= 1.5) expected.push_back(value);
-  }
-  ASSERT_EQ(static_cast<std::size_t>(m), expected.size());
-  for (std::size_t i = 0; i < expected.size(); ++i) EXPECT_NEAR(w[i], expected[i], 40 * kUnitRoundoff);
-  // A bound that is no number makes no interval.
-  for (const std::size_t bound : {2, 3}) {
-    const float number = std::exchange(bounds[bound], std::numeric_limits<float>::quiet_NaN());
-    bisect();
-    EXPECT_EQ(info, 1);
-    EXPECT_EQ(m, 0);
-    EXPECT_TRUE(std::isnan(w[0]));
-    bounds[bound] = number;
-  }
 }
 
 // Upper triangular matrices are their own Schur form, with the eigenvalues 1, -2, 3, -4, ...
@@ -82,14 +47,6 @@ std::int32_t QUORIN_CDECL negative(const float* re, const float* im) {
   ++calls;
   return *re < 0 && *im == 0 ? truth : 0;
 }
-std::int32_t QUORIN_CDECL negative_complex(const quorin_complex* w) {
-  ++calls;
-  return w->re < 0 ? truth : 0;
-}
-std::int32_t QUORIN_CDECL negative_pair(const float* alpha_re, const float*, const float* beta) {
-  ++calls;
-  return *alpha_re / *beta < 0 ? truth : 0;
-}
 std::int32_t QUORIN_CDECL negative_complex_pair(const quorin_complex* alpha, const quorin_complex* beta) {
   ++calls;
   return alpha->re / beta->re < 0 ? truth : 0;
@@ -120,26 +77,6 @@ TEST_P(Selection, OfRealEigenvalues) {
   sgees_Idx("V", "S", negative, &n, a.data(), 0, &n, &sdim, wr.data(), 0, wi.data(), 0, vs.data(), 0, &n, work.data(),
             0, &lwork, bwork.data(), 0, &info);
   expect_selected(wr);
-}
-
-TEST_P(Selection, OfComplexEigenvalues) {
-  auto a = triangular(complex);
-  std::vector<quorin_complex> w(kOrder), vs(kOrder * kOrder), work(500);
-  std::vector<float> rwork(kOrder), re;
-  cgees_Idx("V", "S", negative_complex, &n, a.data(), 0, &n, &sdim, w.data(), 0, vs.data(), 0, &n, work.data(), 0,
-            &lwork, rwork.data(), 0, bwork.data(), 0, &info);
-  for (const quorin_complex& value : w) re.push_back(value.re);
-  expect_selected(re);
-}
-
-TEST_P(Selection, OfRealPairs) {
-  auto a = triangular(real);
-  std::vector<float> b(kOrder * kOrder), re(kOrder), im(kOrder), beta(kOrder), left(kOrder * kOrder), right = left;
-  for (int i = 0; i < kOrder; ++i) b[place(i, i)] = 2;
-  std::vector<float> work(500);
-  sgges_Idx("V", "V", "S", negative_pair, &n, a.data(), 0, &n, b.data(), 0, &n, &sdim, re.data(), 0, im.data(), 0,
-            beta.data(), 0, left.data(), 0, &n, right.data(), 0, &n, work.data(), 0, &lwork, bwork.data(), 0, &info);
-  expect_selected(re);
 }
 
 TEST_P(Selection, OfComplexPairs) {
