@@ -422,11 +422,12 @@ TEST_P(Blas, RefusesEveryOtherLetter) {
   }
 }
 
-// At sizes that are cut into parts: wider than high, and higher than wide.
+// At sizes that are cut into parts, wider than high and higher than wide, and with strided vectors that are copied in
+// several.
 TEST_P(Blas, DoesTheSameOnSeveralThreads) {
   const Routine& routine = *GetParam();
   if (!routine.has("lda")) GTEST_SKIP() << "runs on one thread";
-  constexpr Size kProducts[] = {{203, 150, 117}}, kMatrices[] = {{2100, 450, 0}, {400, 450, 0}};
+  constexpr Size kProducts[] = {{203, 150, 117}}, kMatrices[] = {{2100, 450, 0}, {400, 530, 0}};
   constexpr Strides kStrides[] = {{1, 1}, {2, -3}, {-2, 1}};
   const bool has_vectors = routine.has("incx");
   EveryRoutine calls(routine, std::size_t{has_vectors ? 8U : 1U} << 20);

@@ -63,14 +63,13 @@ TEST(Level1, ScalingKeepsNaNAndInfinity) {
 }
 
 TEST(Level1, ExtremesTakeTheFirstOfEqualsAndThePublishedNorm) {
-  const std::int32_t one = 1, two = 2;
-  const std::vector<float> x{1, -3, 3, 0, -0.0F, kNaN, 3};
-  const std::int32_t n = 7;
-  EXPECT_EQ(isamax(&n, x.data(), &one), 2);
-  EXPECT_EQ(isamin(&n, x.data(), &one), 4);
-  EXPECT_EQ(isamax_Idx(&n, x.data() + 3, -3, &one), 2);
+  const std::int32_t none = 0, one = 1, two = 2, four = 4, n = 7, count = 400;
+  const float x[] = {1, -3, 3, 0, -0.0F, kNaN, 3};
+  EXPECT_EQ(isamax(&n, x, &one), 2);
+  EXPECT_EQ(isamin(&n, x, &one), 4);
+  EXPECT_EQ(isamin(&none, x, &one), 0);
+  EXPECT_EQ(isamin(&n, x, &none), 0);
   // NaN within and in front of a vector that is looked at block by block.
-  const std::int32_t count = 400;
   std::vector<float> length(count, 2);
   length[140] = kNaN;
   length[261] = -3;
@@ -79,18 +78,11 @@ TEST(Level1, ExtremesTakeTheFirstOfEqualsAndThePublishedNorm) {
   EXPECT_EQ(isamin(&count, length.data(), &one), 267);
   length[0] = kNaN;
   EXPECT_EQ(isamax(&count, length.data(), &one), 1);
-  EXPECT_EQ(isamin_Idx(&n, x.data() + 9, -9, &one), 4);
   const quorin_complex pairs[] = {{3, 4}, {-5, 2.5F}, {0, 7.5F}, {0, 0}};
-  const std::int32_t four = 4, half = 2;
   EXPECT_EQ(icamax(&four, pairs, &one), 2);  // |Re| + |Im|: 7, 7.5, 7.5
   EXPECT_EQ(icamin(&four, pairs, &one), 4);
-  EXPECT_EQ(icamax(&half, pairs, &two), 2);
-  EXPECT_EQ(icamin(&half, pairs, &two), 1);
-  const float first_is_nan[] = {kNaN, 5};
-  EXPECT_EQ(isamax(&two, first_is_nan, &one), 1);
-  const std::int32_t none = 0;
-  EXPECT_EQ(isamin(&none, x.data(), &one), 0);
-  EXPECT_EQ(isamin(&n, x.data(), &none), 0);
+  EXPECT_EQ(icamax(&two, pairs, &two), 2);
+  EXPECT_EQ(icamin(&two, pairs, &two), 1);
 }
 
 TEST(Level1, NormsNeitherOverflowNorUnderflow) {
@@ -135,65 +127,38 @@ TEST(Level1, RotationsAtEveryScale) {
   }
 }
 
-std::vector<std::uint32_t> bits(const std::vector<float>& x) {
-  std::vector<std::uint32_t> words;
-  words.reserve(x.size());
-  for (const float value : x) words.push_back(std::bit_cast<std::uint32_t>(value));
-  return words;
-}
-
-TEST(Level1, AliasesGiveTheSameBits) {
-  const std::int32_t n = 37, one = 1;
-  const float a = 1.7F;
-  const auto x = random_vector(37), y = random_vector(37);
-  auto y1 = y, y2 = y;
-  saxpy(&n, &a, x.data(), &one, y1.data(), &one);
-  SAXPY(&n, &a, x.data(), &one, y2.data(), &one);
-  EXPECT_EQ(bits(y1), bits(y2));
-  EXPECT_EQ(sdot(&n, x.data(), &one, y.data(), &one), SDOT(&n, x.data(), &one, y.data(), &one));
-  EXPECT_EQ(snrm2(&n, x.data(), &one), SNRM2(&n, x.data(), &one));
-}
-
 TEST(SparseLevel1, FollowsTheDefinition) {
   const std::int32_t nz = 4, none = 0, indx[] = {7, 1, 10, 1};
-  const std::int32_t shifted_indx[] = {-99, 7, 1, 10, 1};
   const std::vector<float> x = random_vector(8), y = random_vector(20);
   const float a = 0.5F;
-  auto expected = y;
-  for (std::size_t k = 0; k < 4; ++k) expected[static_cast<std::size_t>(indx[k]) - 1] += a * x[k];
-  auto found = y;
-  saxpyi(&nz, &a, x.data(), indx, found.data());
-  expect_same(found, expected, 2 * kUnitRoundoff);
-  found = y;
-  saxpyi_Idx(&nz, &a, x.data() + 2, -2, shifted_indx, 1, found.data() - 3, 3);
-  expect_same(found, expected, 2 * kUnitRoundoff);
-  saxpyi(&none, &a, x.data(), indx, found.data());
-  expect_same(found, expected, 2 * kUnitRoundoff);
-
-  float real = 0;
-  std::complex<float> plain, conjugated;
   const auto element = [](const std::vector<float>& v, std::size_t i) { return Complex(v[2 * i], v[2 * i + 1]); };
+  auto expected = y, found = y;
+  float real = 0;
+  Complex plain, conjugated;
   for (std::size_t k = 0; k < 4; ++k) {
     const auto position = static_cast<std::size_t>(indx[k]) - 1;
+    expected[position] += a * x[k];
     real += x[k] * y[position];
     plain += element(x, k) * element(y, position);
     conjugated += std::conj(element(x, k)) * element(y, position);
   }
+  saxpyi(&nz, &a, x.data(), indx, found.data());
+  saxpyi(&none, &a, x.data(), indx, found.data());
+  expect_same(found, expected, 2 * kUnitRoundoff);
+  EXPECT_NEAR(sdoti(&nz, x.data(), indx, y.data()), real, 8 * kUnitRoundoff);
   const auto* const cx = reinterpret_cast<const quorin_complex*>(x.data());
   const auto* const cy = reinterpret_cast<const quorin_complex*>(y.data());
-  EXPECT_NEAR(sdoti_Idx(&nz, x.data(), 0, shifted_indx, 1, y.data() + 5, -5), real, 8 * kUnitRoundoff);
   quorin_complex result{};
-  cdotui_Idx(&result, &nz, cx - 1, 1, indx, 0, cy, 0);
+  cdotui(&result, &nz, cx, indx, cy);
   EXPECT_NEAR(std::abs(Complex(result.re, result.im) - plain), 0, 16 * kUnitRoundoff);
   cdotci(&result, &nz, cx, indx, cy);
   EXPECT_NEAR(std::abs(Complex(result.re, result.im) - conjugated), 0, 16 * kUnitRoundoff);
   cdotci(&result, &none, cx, indx, cy);
   EXPECT_EQ(result.re, 0);
 
-  std::vector<quorin_complex> gathered(4);
-  cgthr_Idx(&nz, cy + 4, -4, gathered.data(), 0, shifted_indx, 1);
-  std::vector<quorin_complex> scattered(10, {-1, -1});
-  csctr_Idx(&nz, gathered.data(), 0, indx, 0, scattered.data() - 2, 2);
+  std::vector<quorin_complex> gathered(4), scattered(10, {-1, -1});
+  cgthr(&nz, cy, gathered.data(), indx);
+  csctr(&nz, gathered.data(), indx, scattered.data());
   for (std::size_t i = 0; i < 10; ++i) {
     const bool listed = i == 0 || i == 6 || i == 9;
     EXPECT_EQ(scattered[i].re, listed ? cy[i].re : -1) << i;
