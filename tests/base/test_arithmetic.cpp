@@ -1,11 +1,10 @@
-// Sums, sweeps and lanes against plain loops over whole numbers so small that products and sums are exact, and the ends
+// Sums and lanes against plain loops over whole numbers so small that products and sums are exact, and the ends
 // of the range of doubles.
 //
 // Wide lanes are put together of narrow ones here; what that means for calls does not matter to functions that are
 // inlined.
 #pragma GCC diagnostic ignored "-Wpsabi"
 #include "base/lanes.hpp"
-#include "base/rotated_hessenberg.hpp"
 #include "base/sums.hpp"
 #include "tests/support/test.hpp"
 
@@ -64,27 +63,6 @@ TEST(Sums, NormsStayInRange) {
   }
   const std::vector<float> largest(5, std::numeric_limits<float>::max());
   EXPECT_TRUE(std::isfinite(base::sum_of_squares(5, largest.data())));
-}
-
-// min || 5 e1 - H y || for H = (3 1; 4 2; 0 2), whose solution follows from the normal equations (25 11; 11 9) y = (15;
-// 5): y = (80, -40) / 104 and ||5 e1 - H y||^2 = 25 - (15 y1 + 5 y2).
-TEST(RotatedHessenberg, SolvesTheLeastSquaresProblem) {
-  std::vector<double> memory(3 + 2 + 2 + 3);
-  const base::RotatedHessenberg<double> hessenberg(memory.data(), 2);
-  hessenberg.g()[0] = 5.0;
-  hessenberg.column(0)[0] = 3.0;
-  ASSERT_TRUE(hessenberg.take_step(0, 4.0, 0.0));
-  EXPECT_NEAR(hessenberg.residual_norm(1), 4.0, 1e-15);
-  hessenberg.column(1)[0] = 1.0;
-  hessenberg.column(1)[1] = 2.0;
-  ASSERT_TRUE(hessenberg.take_step(1, 2.0, 0.0));
-  double y[2];
-  hessenberg.solve(2, y);
-  EXPECT_NEAR(y[0], 80.0 / 104, 1e-15);
-  EXPECT_NEAR(y[1], -40.0 / 104, 1e-15);
-  EXPECT_NEAR(hessenberg.residual_norm(2), std::sqrt(25 - 15 * y[0] - 5 * y[1]), 1e-14);
-  hessenberg.solve(2, hessenberg.g());
-  EXPECT_EQ(hessenberg.g()[0], y[0]);
 }
 
 template <Scalar T>

@@ -163,23 +163,4 @@ TEST(Jacobi, RefusesWhatMakesNoSense) {
   EXPECT_EQ(column, 7);
 }
 
-TEST(Jacobi, ComputationsAreDeletedOneByOne) {
-  constexpr std::size_t kCount = 1000;
-  const int n = 1;
-  const float step = 1e-3F, value = 0;
-  Floats x(kCount, 1), columns(kCount);
-  std::vector<void*> handles(kCount);
-  for (std::size_t i = 0; i < kCount; ++i) {
-    ASSERT_EQ(sjacobi_init(&handles[i], &n, &n, &x[i], &columns[i], &step), kSuccess);
-  }
-  const std::vector<void*> all = handles;
-  for (std::size_t i = 0; i < kCount; i += 3) EXPECT_EQ(sjacobi_delete(&handles[i]), kSuccess);
-  for (std::size_t i = 0; i < kCount; ++i) {
-    void* handle = all[i];
-    int request = -1;
-    EXPECT_EQ(sjacobi_solve(&handle, &value, &value, &request), i % 3 == 0 ? kInvalid : kSuccess) << i;
-    EXPECT_EQ(sjacobi_delete(&handle), i % 3 == 0 ? kInvalid : kSuccess) << i;
-  }
-}
-
 }  // namespace
