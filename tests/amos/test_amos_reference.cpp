@@ -21,12 +21,7 @@ constexpr double kLogLargest = 709.782712893384;
 constexpr double kLn2 = 0.6931471805599453;
 constexpr double kMargin = 1.0e-9;  // of logarithms that are compared with kElim
 
-std::string table_path;
-std::string zeros_path;
-std::string random_path;
-std::string complex_zeros_path;
-std::string sequences_path;
-std::string error_path;
+std::vector<std::string> paths;  // in the order of the arguments, without the table that is not compared
 
 struct Member {
   int j = 0;
@@ -160,8 +155,15 @@ class Reference : public testing::Test {
     return rows;
   }
 
+  void expect_all_ranges(int rows) const {
+    EXPECT_GT(rows, 1000);
+    EXPECT_GT(overflows_, rows / 200);
+    EXPECT_GT(underflows_, rows / 200);
+    EXPECT_EQ(statistics_.size(), 7U);
+  }
+
   void SetUp() override {
-    if (!error_path.empty()) errors_.open(error_path, std::ios::app);
+    if (paths.size() > 5) errors_.open(paths[5], std::ios::app);
   }
 
   std::map<char, Statistics> statistics_;
@@ -171,41 +173,26 @@ class Reference : public testing::Test {
   int underflows_ = 0;
 };
 
-TEST_F(Reference, EveryValueOfTheTable) {
-  const int rows = compare_table(table_path);
-  EXPECT_GT(rows, 1000);
-  EXPECT_GT(overflows_, rows / 200);
-  EXPECT_GT(underflows_, rows / 200);
-  EXPECT_EQ(statistics_.size(), 7U);
-}
+TEST_F(Reference, EveryValueOfTheTable) { expect_all_ranges(compare_table(paths[0])); }
 
 // Real zeros of Ai, Ai', Bi, Bi', J, Y, and of I on the imaginary axis: rounded to a double, some units in the last
 // place away, on the axis and beside it.
 TEST_F(Reference, NextToZeros) {
-  EXPECT_GT(compare_table(zeros_path), 1000);
+  EXPECT_GT(compare_table(paths[1]), 1000);
   EXPECT_EQ(statistics_.size(), 5U);
   EXPECT_EQ(overflows_ + underflows_, 0);
 }
 
 // |z| up to 1e6, sequences of up to 1,000 orders, complex zeros of Y, K, H, Bi and Bi'.
-TEST_F(Reference, AnywhereAndNextToComplexZeros) {
-  const int rows = compare_table(random_path);
-  EXPECT_GT(rows, 1000);
-  EXPECT_GT(overflows_, rows / 200);
-  EXPECT_GT(underflows_, rows / 200);
-  EXPECT_EQ(statistics_.size(), 7U);
-}
+TEST_F(Reference, AnywhereAndNextToComplexZeros) { expect_all_ranges(compare_table(paths[2])); }
 
-// 2,000 points at relative distances of 1e-3 to 1e-15 from complex zeros, or at the zero rounded to a double.
-TEST_F(Reference, NextToComplexZeros) {
-  EXPECT_EQ(compare_table(complex_zeros_path), 2000);
+// 2,000 points at relative distances of 1e-3 to 1e-15 from complex zeros, or at the zero rounded to a double; and every
+// member of 250 sequences of up to 1,000 orders.
+TEST_F(Reference, NextToComplexZerosAndInSequences) {
+  EXPECT_EQ(compare_table(paths[3]), 2000);
   EXPECT_EQ(statistics_.size(), 4U);
   EXPECT_EQ(overflows_ + underflows_, 0);
-}
-
-// Every member of sequences of up to 1,000 orders.
-TEST_F(Reference, EveryMemberOfSequences) {
-  EXPECT_EQ(compare_table(sequences_path), 250);
+  EXPECT_EQ(compare_table(paths[4]), 250);
   EXPECT_EQ(statistics_.size(), 7U);
 }
 
@@ -216,11 +203,9 @@ int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   const char* full = std::getenv("QUORIN_FULL_TESTS");
   const bool wants_full = full != nullptr && std::string(full) == "true";
-  if (argc > 2) quorin_test::table_path = argv[wants_full ? 2 : 1];
-  if (argc > 3) quorin_test::zeros_path = argv[3];
-  if (argc > 4) quorin_test::random_path = argv[4];
-  if (argc > 5) quorin_test::complex_zeros_path = argv[5];
-  if (argc > 6) quorin_test::sequences_path = argv[6];
-  if (argc > 7) quorin_test::error_path = argv[7];
+  constexpr int kLeast = 7;
+  if (argc < kLeast) return 2;
+  quorin_test::paths.assign(argv + 1, argv + argc);
+  quorin_test::paths.erase(quorin_test::paths.begin() + (wants_full ? 0 : 1));
   return RUN_ALL_TESTS();
 }

@@ -76,12 +76,8 @@ class TextOutput : public testing::Test {
   void TearDown() override { set_text_output(nullptr); }
 };
 
-TEST_F(TextOutput, DropsTextWithoutACallback) {
-  EXPECT_EQ(print("%d", 12), 2);
-  EXPECT_TRUE(received.empty());
-}
-
 TEST_F(TextOutput, HandsOverOnePieceForEachFormatCall) {
+  EXPECT_EQ(print("%d", 12), 2) << "to nobody";
   set_text_output(receive);
   EXPECT_EQ(print("a%db", 7), 3);
   EXPECT_EQ(print("%s", ""), 0);

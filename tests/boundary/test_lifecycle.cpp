@@ -79,50 +79,6 @@ std::string growth(const Footprint& before, const Footprint& after) {
   return text;
 }
 
-// A leak of the smallest kind that a thousand cycles could leave, for each counter.
-TEST(Footprint, SeesWhatIsLeftBehind) {
-  // The first thread and the first count of slots take memory that the process keeps.
-  const int threads_alone = thread_count_alone();
-  static_cast<void>(Footprint());
-  const Footprint before;
-  ASSERT_EQ(growth(before, Footprint()), "");
-  const auto seen = [&before] { return growth(before, Footprint()); };
-  std::atomic<bool> goes_on{true};
-  std::thread thread([&] {
-    while (goes_on.load()) sleep_milliseconds(1);
-  });
-  EXPECT_NE(seen().find("threads"), std::string::npos);
-  goes_on = false;
-  thread.join();
-  EXPECT_TRUE(comes_true([=] { return thread_count() == threads_alone; }));
-  EXPECT_EQ(seen(), "");
-#if defined(_WIN32)
-  HANDLE events[5];
-  for (HANDLE& event : events) event = CreateEventA(nullptr, FALSE, FALSE, nullptr);
-  EXPECT_EQ(seen(), "handles ");
-  for (const HANDLE event : events) CloseHandle(event);
-  const DWORD slot = TlsAlloc();
-  EXPECT_EQ(seen(), "slots ");
-  TlsFree(slot);
-  const DWORD fiber_slot = FlsAlloc(nullptr);
-  EXPECT_EQ(seen(), "fibers ");
-  FlsFree(fiber_slot);
-  void* const pages = VirtualAlloc(nullptr, 300 << 10, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE);
-  EXPECT_EQ(seen(), "memory ");
-  VirtualFree(pages, 0, MEM_RELEASE);
-  std::vector<void*> blocks(1000);
-  for (void*& block : blocks) block = HeapAlloc(GetProcessHeap(), 0, 40);
-  EXPECT_NE(seen().find("heap"), std::string::npos);
-  for (void* const block : blocks) HeapFree(GetProcessHeap(), 0, block);
-#else
-  int files[5];
-  for (int& file : files) file = dup(1);
-  EXPECT_EQ(seen(), "handles ");
-  for (const int file : files) close(file);
-#endif
-  EXPECT_EQ(seen(), "");
-}
-
 // Workers are spinning, waiting, on their way or gone when the library is unloaded, and when it is loaded again.
 TEST(Lifecycle, CyclesOfAllFamiliesLeaveNothingBehind) {
 #if defined(_WIN32)

@@ -19,15 +19,6 @@ AnyFunction any(Function* function) {
   return reinterpret_cast<AnyFunction>(reinterpret_cast<void*>(function));
 }
 
-TEST(CallWithStack, PutsTheStackWhereItIsTold) {
-  const std::uintptr_t slots[4] = {};
-  for (std::uint32_t count = 0; count <= 4; ++count) {
-    for (const std::uint32_t residue : {0U, 4U, 8U, 12U}) {
-      EXPECT_EQ(call_with_stack(any(stack_residue), slots, count, residue), static_cast<std::int32_t>(residue));
-    }
-  }
-}
-
 class StackAlignment : public testing::TestWithParam<int> {
  protected:
   void SetUp() override {

@@ -35,16 +35,6 @@ bool take_and_return(int user) {
   return use_alone(buffer.data(), user);
 }
 
-TEST_F(Buffers, OneThreadGetsTheSameBufferAgain) {
-  std::set<void*> seen;
-  for (int i = 0; i < 3; ++i) {
-    const BufferReservation reservation(1);
-    ASSERT_EQ(reservation.granted(), 1);
-    for (int k = 0; k < 2; ++k) seen.insert(LentBuffer().data());
-  }
-  EXPECT_EQ(seen.size(), 1U);
-}
-
 TEST_F(Buffers, BuffersInUseAtTheSameTimeDiffer) {
   const BufferReservation outer(1);
   void* first_data = nullptr;

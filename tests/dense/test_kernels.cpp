@@ -14,23 +14,6 @@ namespace {
 using platform::InstructionSet;
 using test::Edge;
 
-// `size` elements, flush against a page that cannot be accessed.
-template <class T>
-class Guarded {
- public:
-  Guarded(std::size_t size, Edge edge)
-      : pages_(size * sizeof(T)), size_(size), first_(static_cast<T*>(pages_.place(size * sizeof(T), edge))) {}
-  T* data() const { return first_; }
-  std::size_t size() const { return size_; }
-  T* begin() const { return first_; }
-  T* end() const { return first_ + size_; }
-
- private:
-  test::GuardedPages pages_;
-  std::size_t size_;
-  T* first_;
-};
-
 template <Scalar T>
 using Wide = std::conditional_t<kIsComplex<T>, std::complex<long double>, long double>;
 
@@ -102,18 +85,23 @@ struct Matrix {
       : rows(row_count),
         columns(column_count),
         ld(std::max(1, row_count + spare)),
-        elements(row_count > 0 && column_count > 0
-                     ? static_cast<std::size_t>(ld) * static_cast<std::size_t>(column_count - 1) +
-                           static_cast<std::size_t>(row_count)
-                     : 0,
-                 flush) {
+        size(row_count > 0 && column_count > 0
+                 ? static_cast<std::size_t>(ld) * static_cast<std::size_t>(column_count - 1) +
+                       static_cast<std::size_t>(row_count)
+                 : 0),
+        pages(size * sizeof(T)),
+        elements(static_cast<T*>(pages.place(size * sizeof(T), flush)), size) {
     for (T& x : elements) x = random.value<T>();
   }
-  T& operator()(int i, int j) const { return elements.data()[static_cast<std::ptrdiff_t>(j) * ld + i]; }
+  T& operator()(int i, int j) const {
+    return elements[static_cast<std::size_t>(j) * static_cast<std::size_t>(ld) + static_cast<std::size_t>(i)];
+  }
   T* data() const { return elements.data(); }
 
   int rows, columns, ld;
-  Guarded<T> elements;
+  std::size_t size;
+  test::GuardedPages pages;
+  std::span<T> elements;
 };
 
 template <Scalar T>

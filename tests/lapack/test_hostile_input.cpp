@@ -99,18 +99,6 @@ TEST(NotFiniteInput, MayStandWhereNothingIsRead) {
   std::vector<float> a = matrix_with(kNan), w(kOrder);
   EXPECT_EQ(syevr("L", kOrder, a, w), 0);
   for (std::size_t i = 0; i < kOrder; ++i) EXPECT_NEAR(w[i], i + 1 < kOrder ? 3.5F : 5.5F, 1e-5F);
-
-  // Of a band, the corner that lies outside of the matrix.
-  const std::int32_t n = 3, kd = 1, ldab = 2, one = 1;
-  for (const bool is_upper : {true, false}) {
-    std::vector<float> band = {2, 0, 2, 0, 2, 0}, values(3), z(1), work(7);
-    if (is_upper) band = {kNan, 2, 0, 2, 0, 2};
-    if (!is_upper) band.back() = kNan;
-    std::int32_t info = -99;
-    ssbev("N", is_upper ? "U" : "L", &n, &kd, band.data(), &ldab, values.data(), z.data(), &one, work.data(), &info);
-    EXPECT_EQ(info, 0);
-    EXPECT_EQ(values, std::vector<float>(3, 2));
-  }
 }
 
 TEST(NotFiniteInput, DoesNotHideAWrongArgument) {
@@ -171,27 +159,6 @@ TEST(NotFiniteInput, MayAriseInside) {
          &ldz, work.data(), &lwork, iwork.data(), ifail.data(), &info);
   EXPECT_EQ(info, n);
   EXPECT_TRUE(are_nan(w));
-}
-
-// The right-hand sides may be none: rank and singular values are asked for.
-TEST(NoRightSides, StillGiveRankAndSingularValues) {
-  for (const bool by_halves : {false, true}) {
-    const std::int32_t m = 5, n = 3, nrhs = 0, lwork = by_halves ? 3 * 62 + 676 : 15;
-    std::vector<float> a(15), s(3), work(static_cast<std::size_t>(lwork));
-    for (std::size_t j = 0; j < 3; ++j) a[j * 5 + j] = static_cast<float>(j + 1);
-    std::vector<std::int32_t> iwork(33);
-    const float rcond = -1;
-    std::int32_t rank = -1, info = -99;
-    if (by_halves) {
-      sgelsd(&m, &n, &nrhs, a.data(), &m, nullptr, &m, s.data(), &rcond, &rank, work.data(), &lwork, iwork.data(),
-             &info);
-    } else {
-      sgelss(&m, &n, &nrhs, a.data(), &m, nullptr, &m, s.data(), &rcond, &rank, work.data(), &lwork, &info);
-    }
-    EXPECT_EQ(info, 0);
-    EXPECT_EQ(rank, 3);
-    for (std::size_t i = 0; i < 3; ++i) EXPECT_NEAR(s[i], static_cast<float>(3 - i), 1e-5F);
-  }
 }
 
 }  // namespace

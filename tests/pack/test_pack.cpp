@@ -75,35 +75,20 @@ TEST(Pack, MovesBitsAndNothingElse) {
 
 TEST(Pack, InPlace) {
   const int n = 50, inc = 3;
-  const Ints mask = [] {
-    Ints m(50);
-    for (std::size_t j = 0; j < 50; ++j) m[j] = j % 4 == 1 || j > 45 ? -1 : 0;
-    return m;
-  }();
+  Ints mask(50);
+  for (std::size_t j = 0; j < 50; ++j) mask[j] = j % 4 == 1 || j > 45 ? -1 : 0;
   const Bits original = payloads(148, 3);
-  Bits expected = original, y = original;
-  for (std::size_t j = 0; j < 50; ++j) expected[j] = original[3 * j];
-  vspacki(&n, floats(y), &inc, floats(y));
-  EXPECT_EQ(y, expected);
-  expected = y = original;
-  for (std::size_t j = 0; j < 50; ++j) expected[3 * j] = original[j];
-  vsunpacki(&n, floats(y), floats(y), &inc);
-  EXPECT_EQ(y, expected);
-
-  expected = y = original;
-  std::size_t k = 0;
-  for (std::size_t j = 0; j < 50; ++j) {
-    if (mask[j] != 0) expected[k++] = original[j];
-  }
-  vspackm(&n, floats(y), mask.data(), floats(y));
-  EXPECT_EQ(y, expected);
-  expected = y = original;
-  k = 0;
-  for (std::size_t j = 0; j < 50; ++j) {
-    if (mask[j] != 0) expected[j] = original[k++];
-  }
-  vsunpackm(&n, floats(y), floats(y), mask.data());
-  EXPECT_EQ(y, expected);
+  // The same as from a copy of the operand.
+  const auto expect_same = [&](const auto& call) {
+    Bits from = original, expected = original, y = original;
+    call(floats(from), floats(expected));
+    call(floats(y), floats(y));
+    EXPECT_EQ(y, expected);
+  };
+  expect_same([&](float* a, float* y) { vspacki(&n, a, &inc, y); });
+  expect_same([&](float* y, float* a) { vsunpacki(&n, y, a, &inc); });
+  expect_same([&](float* a, float* y) { vspackm(&n, a, mask.data(), y); });
+  expect_same([&](float* y, float* a) { vsunpackm(&n, y, a, mask.data()); });
 }
 
 TEST(Pack, OfRepeatedTargetsTheLastOneStays) {

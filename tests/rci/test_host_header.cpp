@@ -1,6 +1,6 @@
 // The header for C++ hosts, and the solvers on systems of a realistic size.
 #include "quorin/rci.hpp"
-#include "tests/rci/ilu_oracle.hpp"
+#include "tests/rci/ilu_host.hpp"
 #include "tests/rci/rci_host.hpp"
 #include "tests/support/test.hpp"
 
@@ -16,20 +16,6 @@ auto product(const Csr& A) {
 }
 
 auto ilu0(const Csr& A) { return rci::IncompleteLu::on_pattern(A.n, A.a.data(), A.ia.data(), A.ja.data()); }
-
-TEST(HostHeader, CgOnPoisson) {
-  const Csr A = grid(60, 0.0);
-  const Vector b(A.n, 1.0);
-  Vector x(A.n, 0.0), y(A.n, 0.0);
-  const rci::Result plain = rci::solve_cg(b, x, product(A));
-  EXPECT_TRUE(plain.converged());
-  EXPECT_LE(residual_norm(A, b.data(), x.data()), 1.01e-8 * norm(b));
-  EXPECT_NEAR(plain.residual, residual_norm(A, b.data(), x.data()), 1e-12 * norm(b));
-  const rci::Result helped = rci::solve_cg(b, y, product(A), ilu0(A));
-  EXPECT_TRUE(helped.converged());
-  EXPECT_LE(residual_norm(A, b.data(), y.data()), 1.01e-8 * norm(b));
-  EXPECT_LT(2 * helped.iterations, plain.iterations);
-}
 
 // Neither squares that leave the range nor FGMRES's absolute test for zero are the host's worry.
 TEST(HostHeader, EveryScale) {

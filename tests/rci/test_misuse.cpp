@@ -2,7 +2,7 @@
 #include <fstream>
 #include <regex>
 
-#include "tests/rci/ilu_oracle.hpp"
+#include "tests/rci/ilu_host.hpp"
 #include "tests/rci/rci_host.hpp"
 #include "tests/support/capture_output.hpp"
 #include "tests/support/temporary_folder.hpp"

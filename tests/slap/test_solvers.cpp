@@ -289,44 +289,6 @@ TEST(Solvers, ConvergenceIsWhatPassesTheTest) {
   }
 }
 
-// The incomplete factors are the whole ones here, so after a step there is only rounding to correct, and directions of
-// rounding are no guide.
-TEST(Solvers, RefinementByWholeFactorsStaysFinite) {
-  for (const int n : {20, 150, 400}) {
-    Triads a;
-    a.n = n;
-    for (int i = 1; i <= n; ++i) {
-      a.add(i, i, 2);
-      if (i > 1) a.add(i, i - 1, -1);
-      if (i < n) a.add(i, i + 1, -1);
-    }
-    for (const Solver& s : solvers()) {
-      if (s.preconditioner != Solver::Preconditioner::kLu) continue;
-      for (const float tol : {1e-4F, 0.0F}) {
-        const Outcome o = run(s, a, Floats(n, 1.0F), {.tol = tol, .itmax = 200});
-        EXPECT_LE(o.err, 3e-3F) << s.name << ", order " << n << ", IERR " << o.ierr;
-      }
-    }
-  }
-}
-
-// The pattern drops nothing of a full matrix, whether its entries are whole or come twice.
-TEST(Solvers, FactorsOfAFullMatrixAreWhole) {
-  std::mt19937 random(49);
-  const Triads full = random_dominant(25, 1.0, 1.0, true, random);
-  Triads twice = full;
-  for (int k = 0; k < full.nelt(); ++k) {
-    twice.a[k] /= 4;
-    twice.add(full.ia[k], full.ja[k], 3 * static_cast<double>(twice.a[k]));
-  }
-  const Floats b = right_hand_side(full, random_solution(25, random));
-  for (const Solver& s : solvers()) {
-    if (s.preconditioner != Solver::Preconditioner::kLu && s.preconditioner != Solver::Preconditioner::kCholesky)
-      continue;
-    for (const Triads& a : {full, full.lower(), twice, twice.lower()}) EXPECT_EQ(run(s, a, b).iter, 1) << s.name;
-  }
-}
-
 // Powers of two change no digit, and squares of what lies far from 1 must not be noticed.
 TEST_P(EverySolver, TakesEveryScale) {
   for_each_problem([&](const Problem& p, const Floats& b) {

@@ -23,11 +23,5 @@ _call_with_stack_for_float:
         popl    %esi
         popl    %ebp
         ret
-
-        .globl  _stack_residue
-_stack_residue:
-        leal    4(%esp), %eax
-        andl    $15, %eax
-        ret
 )");
 #endif

@@ -11,7 +11,5 @@ std::int32_t call_with_stack(void (*function)(), const std::uintptr_t* slots, st
                              std::uint32_t residue);
 float call_with_stack_for_float(void (*function)(), const std::uintptr_t* slots, std::uint32_t count,
                                 std::uint32_t residue);
-// esp mod 16 when this was called.
-std::int32_t stack_residue();
 }
 #endif

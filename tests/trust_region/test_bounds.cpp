@@ -6,15 +6,12 @@ namespace trust_region_test {
 namespace {
 
 TEST(BoundedPowell, ReachesTheMinimumOnTheBound) {
-  struct Row {
-    float eps, norm;
-  };
-  for (const Row& row : {Row{1e-3F, 0.013959F}, Row{1e-5F, 0.013709F}, Row{1e-7F, 0.013705F}}) {
+  for (const auto& [eps, norm] : {std::pair(1e-3F, 0.013959F), {1e-5F, 0.013709F}, {1e-7F, 0.013705F}}) {
     for (const float sign : {1.0F, -1.0F}) {
-      Fit run = bounded_powell_run(1, row.eps);
+      Fit run = bounded_powell_run(1, eps);
       run.eps[4] *= sign;
       run.go();
-      EXPECT_LE(run.r2, row.norm * 1.002F);
+      EXPECT_LE(run.r2, norm * 1.002F);
       EXPECT_GE(run.r2, 0.0137047F);
       EXPECT_EQ(run.criterion, 6);
       EXPECT_LE(run.iterations, 14);

@@ -23,26 +23,21 @@ TEST(Powell, TakesThePublishedNumberOfStepsForAnyNumberOfBlocks) {
 
 // Each row switches on one test, or limits the steps; the criterion is the one that it must end with.
 TEST(Stops, EachTestHasItsCode) {
-  struct Row {
-    int criterion, tolerance;
-    float value;
-    int limit;
-  };
-  for (const Row& row : {Row{1, 0, 0, 3}, Row{2, 0, 1, 1000}, Row{3, 1, 1e-2F, 1000}, Row{4, 2, 1e3F, 1000},
-                         Row{5, 3, 1e-2F, 1000}, Row{6, 4, 1e-2F, 1000}}) {
+  for (const auto& [criterion, tolerance, value, limit] : {std::tuple(1, 0U, 0.0F, 3),
+                                                           {2, 0U, 1.0F, 1000},
+                                                           {3, 1U, 1e-2F, 1000},
+                                                           {4, 2U, 1e3F, 1000},
+                                                           {5, 3U, 1e-2F, 1000},
+                                                           {6, 4U, 1e-2F, 1000}}) {
     Fit run = powell_run(1, 0.0F);
-    run.eps[static_cast<std::size_t>(row.tolerance)] = row.value;
-    run.limit = row.limit;
+    run.eps[tolerance] = value;
+    run.limit = limit;
     run.go();
-    EXPECT_EQ(run.criterion, row.criterion);
-    EXPECT_EQ(run.request, -row.criterion);
-    EXPECT_LE(run.iterations, row.limit);
-    if (row.criterion == 1) {
-      EXPECT_EQ(run.iterations, 3);
-    }
-    if (row.criterion == 4) {
-      EXPECT_EQ(run.iterations, 0);
-    }
+    EXPECT_EQ(run.criterion, criterion);
+    EXPECT_EQ(run.request, -criterion);
+    EXPECT_LE(run.iterations, limit);
+    EXPECT_TRUE(criterion != 1 || run.iterations == 3);
+    EXPECT_TRUE(criterion != 4 || run.iterations == 0);
   }
 }
 
@@ -234,22 +229,6 @@ TEST(Handles, InitRefusesWhatMakesNoSense) {
   }
   if (sizeof(void*) == 4) {
     EXPECT_EQ(strnlsp_init(&handle, &n, &many, &x, eps, &n, &n, &rs), kOutOfMemory);
-  }
-}
-
-TEST(Handles, RunsDoNotDisturbEachOther) {
-  std::vector<Fit> runs = {powell_run(1, 1e-5F), bounded_powell_run(2, 1e-5F), powell_run(3, 1e-5F)};
-  std::vector<Fit> alone = runs;
-  for (Fit& run : alone) run.go();
-  for (Fit& run : runs) ASSERT_EQ(run.begin(), kSuccess);
-  for (bool any = true; any;) {
-    any = false;
-    for (Fit& run : runs) any = run.step() || any;
-  }
-  for (std::size_t i = 0; i < runs.size(); ++i) {
-    runs[i].finish();
-    EXPECT_EQ(runs[i].x, alone[i].x);
-    EXPECT_EQ(runs[i].iterations, alone[i].iterations);
   }
 }
 

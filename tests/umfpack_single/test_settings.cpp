@@ -83,30 +83,6 @@ TEST(Settings, DenseRowsAndColumns) {
   EXPECT_EQ(info(3, 14, 30)[2], 0);
 }
 
-// Control[15] is the least pivot on the diagonal in the symmetric strategy, Control[3] that off it.
-TEST(Settings, DiagonalPivotTolerance) {
-  // The diagonal is a hundredth of the largest entry of its column: kept at 0.001, left at 0.5.
-  Matrix A(8, 8, {0}, {}, {});
-  for (int j = 0; j < 8; ++j) {
-    for (int i = std::max(0, j - 1); i <= std::min(7, j + 1); ++i) {
-      A.Ai.push_back(i);
-      A.Ax.push_back(i == j ? 0.01 : 1.0);
-    }
-    A.Ap.push_back(static_cast<int>(A.Ai.size()));
-  }
-  float off_diagonal[2] = {-1, -1};
-  for (const int strict : {0, 1}) {
-    Host host(A);
-    host.Control[5] = 3;
-    host.Control[16] = 0;
-    host.Control[15] = strict != 0 ? 0.5F : 0.001F;
-    host.factorize();
-    off_diagonal[strict] = host.Info[76];
-  }
-  EXPECT_EQ(off_diagonal[0], 0) << "off-diagonal pivots";
-  EXPECT_GT(off_diagonal[1], 0);
-}
-
 // Refinement steps, block size, print level and the others: all defaults at once.
 TEST(Settings, NaNStandsForTheDefault) {
   for (const bool is_complex : {false, true}) {

@@ -1,5 +1,4 @@
-// The incomplete factorizations called as a host does, through the index forms, and independent ones that keep their
-// rows in maps.
+// The incomplete factorizations called as a host does, through the index forms.
 #pragma once
 
 #include "tests/rci/rci_host.hpp"
@@ -28,16 +27,5 @@ struct Ilut {
   int ierr = 7;
   bool guarded = false;
 };
-
-using Rows = std::vector<std::map<int, double>>;
-
-Csr from_rows(const Rows& rows);
-
-// Saad's ILUT; of equal magnitudes the lower column stays. A pivot below tol times the norm of its row becomes
-// `multiplier` times that norm.
-Csr map_ilut(const Csr& A, double tol, int fill, double multiplier);
-
-// The largest of |(L U - A)(i,j)| over the pattern of A, each relative to the terms it is summed from.
-double pattern_residual(const Csr& A, const Csr& factors);
 
 }  // namespace rci_test
