@@ -50,14 +50,6 @@ Csr indefinite8() {
                  {0, 0, 5, 0, 0, 5, 0, 5}});
 }
 
-Dense dense(const Csr& s) {
-  Dense m(s.n, Vector(s.n, 0.0));
-  for (int i = 0; i < s.n; ++i) {
-    for (int k = s.ia[i] - 1; k < s.ia[i + 1] - 1; ++k) m[i][s.ja[k] - 1] += s.a[k];
-  }
-  return m;
-}
-
 void expect_near(const Vector& actual, const Vector& expected, double slack) {
   ASSERT_EQ(actual.size(), expected.size());
   for (std::size_t i = 0; i < actual.size(); ++i) EXPECT_NEAR(actual[i], expected[i], slack) << "entry " << i;
@@ -74,12 +66,6 @@ Vector joined(const Vector& first, const Vector& second) {
   Vector all = first;
   all.insert(all.end(), second.begin(), second.end());
   return all;
-}
-
-double dot(int n, const double* x, const double* y) {
-  double sum = 0.0;
-  for (int i = 0; i < n; ++i) sum += x[i] * y[i];
-  return sum;
 }
 
 double norm(const Vector& x) {
@@ -119,18 +105,6 @@ Preconditioner jacobi(const Csr& A) {
   return [diagonal](int, const double* in, double* out) {
     for (std::size_t i = 0; i < diagonal.size(); ++i) out[i] = in[i] / diagonal[i];
   };
-}
-
-void solve_lu(const Csr& lu, const double* in, double* out) {
-  for (int i = 0; i < lu.n; ++i) {
-    out[i] = in[i];
-    for (int k = lu.ia[i] - 1; lu.ja[k] - 1 < i; ++k) out[i] -= lu.a[k] * out[lu.ja[k] - 1];
-  }
-  for (int i = lu.n - 1; i >= 0; --i) {
-    int k = lu.ia[i + 1] - 2;
-    for (; lu.ja[k] - 1 > i; --k) out[i] -= lu.a[k] * out[lu.ja[k] - 1];
-    out[i] /= lu.a[k];
-  }
 }
 
 bool Host::serve() {

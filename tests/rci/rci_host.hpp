@@ -31,15 +31,12 @@ Csr nonsymmetric5();
 // Symmetric and indefinite; CG gets by.
 Csr indefinite8();
 
-Dense dense(const Csr& s);
-
 void expect_near(const Vector& actual, const Vector& expected, double slack);
 
 // Published values have 10 digits or fewer; a 0 stands for rounding errors of at most `zero`.
 void expect_history(const Vector& actual, const Vector& expected, double zero, double relative = 5e-7);
 Vector joined(const Vector& first, const Vector& second);
 
-double dot(int n, const double* x, const double* y);
 double norm(const Vector& x);
 double residual_norm(const Csr& A, const double* b, const double* x);
 Vector random_vector(int n, std::mt19937& random);
@@ -150,8 +147,5 @@ class FgmresHost : public Host {
   double* source() override { return tmp.data() + ipar[21] - 1; }
   double* target() override { return tmp.data() + ipar[22] - 1; }
 };
-
-// out <- U^-1 L^-1 in, with L (unit diagonal) and U stored in one pattern.
-void solve_lu(const Csr& lu, const double* in, double* out);
 
 }  // namespace rci_test

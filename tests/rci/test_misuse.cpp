@@ -192,26 +192,24 @@ TEST(Misuse, NoInfiniteResidualPasses) {
 
 TEST(CheckAndInit, Defaults) {
   const Csr A = spd4();
-  const auto expect_defaults = [](Host&& host) {
-    EXPECT_EQ(std::vector<int>(host.ipar.data(), host.ipar.data() + 5), (std::vector<int>{4, 6, 1, 0, 4}));
-    EXPECT_EQ(std::vector<int>(host.ipar.data() + 7, host.ipar.data() + 11), (std::vector<int>{1, 0, 1, 0}));
-    EXPECT_EQ(Vector(host.dpar.data(), host.dpar.data() + 6), (Vector{1e-6, 0, 0, 0, 0, 0}));
+  const auto expect = [](auto& array, std::size_t first, const auto& values) {
+    for (std::size_t k = 0; k < values.size(); ++k) EXPECT_EQ(array.data()[first + k], values[k]) << first + k;
   };
-  const auto expect_cg_defaults = [&](Host&& host) {
-    EXPECT_EQ(Vector(host.dpar.data() + 6, host.dpar.data() + 8), (Vector{0, 0}));
-    EXPECT_EQ(Vector(host.tmp.data(), host.tmp.data() + 4), kZeros);
-    expect_defaults(std::move(host));
-  };
-  expect_cg_defaults(CgHost(A, kRightHandSide, kZeros));
-  expect_cg_defaults(ManyHost(A, kRightHandSide, kZeros));
-  FgmresHost host(A, kRightHandSide, kZeros);
-  EXPECT_EQ(std::vector<int>(host.ipar.data() + 21, host.ipar.data() + 23), (std::vector<int>{1, 1}));
-  EXPECT_EQ(Vector(host.dpar.data() + 6, host.dpar.data() + 8), (Vector{0, 1e-12}));
-  EXPECT_EQ(std::vector<int>(host.ipar.data() + 11, host.ipar.data() + 15), (std::vector<int>{0, 0, 0, 4}));
-  EXPECT_EQ(Vector(host.dpar.data() + 30, host.dpar.data() + 32), (Vector{1e-16, 1e-10}));
-  ASSERT_EQ(host.init(4), 0);
-  EXPECT_EQ((std::vector<int>{host.ipar[5], host.ipar[6], host.ipar[30]}), (std::vector<int>{1, 1, 0}));
-  expect_defaults(std::move(host));
+  using Integers = std::vector<int>;
+  CgHost cg(A, kRightHandSide, kZeros);
+  ManyHost many(A, kRightHandSide, kZeros);
+  FgmresHost fgmres(A, kRightHandSide, kZeros);
+  for (Host* const host : std::initializer_list<Host*>{&cg, &many, &fgmres}) {
+    expect(host->ipar, 0, Integers{4, 6, 1, 0, 4});
+    expect(host->ipar, 7, Integers{1, 0, 1, 0});
+    expect(host->dpar, 0, Vector{1e-6, 0, 0, 0, 0, 0, 0, host == &fgmres ? 1e-12 : 0.0});
+    if (host != &fgmres) expect(host->tmp, 0, kZeros);
+  }
+  expect(fgmres.ipar, 21, Integers{1, 1});
+  expect(fgmres.ipar, 11, Integers{0, 0, 0, 4});
+  expect(fgmres.dpar, 30, Vector{1e-16, 1e-10});
+  ASSERT_EQ(fgmres.init(4), 0);
+  EXPECT_EQ((Integers{fgmres.ipar[5], fgmres.ipar[6], fgmres.ipar[30]}), (Integers{1, 1, 0}));
 }
 
 // A check in mid-run makes the positions suit the new length; the vectors in tmp still suit the old one.

@@ -57,13 +57,8 @@ inline double two_peaks(const double* b, double x) {
   return b[0] * std::exp(-b[1] * x) + peak(b + 2, x) + peak(b + 5, x);
 }
 
-struct Entry {
-  const char* name;
-  Misfit misfit;
-};
-
 /// In the order of NIST's levels of difficulty: eight lower, eleven average, eight higher.
-inline std::vector<Entry> models() {
+inline std::vector<std::pair<std::string, Misfit>> models() {
   using std::exp, std::pow;
   return {
       {"Misra1a", fit([](const double* b, double x) { return b[0] * (1 - exp(-b[1] * x)); })},
@@ -115,12 +110,12 @@ inline Reals read(std::istream& in, std::size_t count) {
 /// Reads the files of `directory`; an unreadable one gives a problem without observations.
 inline std::vector<NistProblem> nist_problems(const std::string& directory) {
   std::vector<NistProblem> problems;
-  for (const nist::Entry& entry : nist::models()) {
-    std::ifstream in(directory + "/" + entry.name + ".dat");
+  for (const auto& [name, misfit] : nist::models()) {
+    std::ifstream in(directory + "/" + name + ".dat");
     std::size_t n = 0, m = 0;
     NistProblem problem;
-    problem.name = entry.name;
-    problem.misfit = entry.misfit;
+    problem.name = name;
+    problem.misfit = misfit;
     in >> n >> m >> problem.width;
     for (Reals& start : problem.starts) start = nist::read(in, n);
     problem.certified = nist::read(in, n);

@@ -23,14 +23,13 @@ TEST(Settings, DefaultsAreThePublishedOnes) {
 TEST(Settings, AreObeyed) {
   const Matrix A = random_matrix(50, false);
   const Floats b(50, 1);
-  struct Case {
+  const float nan = std::numeric_limits<float>::quiet_NaN();
+  const struct {
     int control;
     float value;
     int info;
     float expected;
-  };
-  const float nan = std::numeric_limits<float>::quiet_NaN();
-  const Case cases[] = {
+  } cases[] = {
       {16, 0, 68, 0},    {16, 2, 68, 2},    {16, nan, 68, 1},   {16, 2.9F, 68, 2},  // scaling
       {5, 1, 18, 1},     {5, 3, 18, 3},     {5, 2, 18, 3},      {5, nan, 18, -7},   // strategy; 2 is taken as 3
       {13, 1, 31, 1},    {13, -1, 31, 0},                                           // order of the columns
@@ -38,7 +37,7 @@ TEST(Settings, AreObeyed) {
       {6, 0.9F, 73, -7}, {4, 1e30F, 0, 0},  {14, -1e30F, 0, 0}, {6, 1e30F, 0, -7},  // hostile sizes
       {0, 1e30F, 0, 0},  {0, -1e30F, 0, 0}, {17, -3e9F, 0, -7}, {1, 3e38F, 0, 0},
   };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     SCOPED_TRACE("Control[" + std::to_string(c.control) + "] = " + std::to_string(c.value));
     Host host(A);
     host.Control[c.control] = c.value;
@@ -122,22 +121,16 @@ TEST(Settings, InfoTellsOfThisBuildAndKeepsWhatOtherCallsWrote) {
 }
 
 TEST(Settings, TimersCountProcessorTimeOnly) {
-  double stats[4] = {-1, -1, -1, -1};
+  double stats[4] = {-1, -1, -1, -1}, future[2] = {5, 1e9};
   umfpack_tic_32f_Idx(stats, 1);
-  EXPECT_EQ(stats[0], -1);
-  EXPECT_EQ(stats[1], 0);
   const double begin = umfpack_timer();
   while (umfpack_timer() < begin + 0.02) {
   }
   umfpack_toc_32f_Idx(stats, 1);
-  EXPECT_EQ(stats[1], 0);
+  EXPECT_TRUE(stats[0] == -1 && stats[1] == 0 && stats[3] == -1);
   EXPECT_GE(stats[2], 0.015);
-  EXPECT_LT(stats[2], 20);
-  EXPECT_EQ(stats[3], -1);
-  double future[2] = {5, 1e9};
   umfpack_toc(future);
-  EXPECT_EQ(future[0], 0);
-  EXPECT_EQ(future[1], 0);
+  EXPECT_TRUE(future[0] == 0 && future[1] == 0);
 }
 
 }  // namespace
