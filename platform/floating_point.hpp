@@ -15,11 +15,13 @@ namespace quorin::platform {
 // MXCSR and the x87's words as they were found, and how they are to the library's.
 class FloatingPointState {
  public:
-  // Costs next to nothing but for MXCSR, whose flags wait for the instructions before: some 5 ns. So the x87's flags,
-  // which are as slow, are left for those who need them.
+  // What is not read counts as the library's own. MXCSR's flags wait for the instructions before: some 5 ns; the x87's
+  // control word costs 1 ns. The x87's flags, which are as slow as MXCSR, are left for those who need them.
+  void read_sse() noexcept { asm volatile("stmxcsr %0" : "=m"(sse_)::"memory"); }
+  void read_x87() noexcept { asm volatile("fnstcw %0" : "=m"(x87_control_)::"memory"); }
   void read() noexcept {
-    asm volatile("stmxcsr %0" : "=m"(sse_)::"memory");
-    asm volatile("fnstcw %0" : "=m"(x87_control_)::"memory");
+    read_sse();
+    read_x87();
   }
   bool is_own() const noexcept { return sse_is_own() && x87_is_own(); }
 
@@ -37,33 +39,39 @@ class FloatingPointState {
   bool x87_is_own() const noexcept { return ((x87_control_ ^ kOwnX87) & kX87Settings) == 0; }
   bool x87_traps() const noexcept;
 
-  std::uint32_t sse_;
-  std::uint16_t x87_control_;
+  std::uint32_t sse_ = kOwnSse;
+  std::uint16_t x87_control_ = kOwnX87;
   std::uint16_t x87_status_;  // only where the x87 traps
 };
 
 // Makes the library's settings those of the calling thread.
 void use_own_floating_point() noexcept;
 
-// Stands in every entry point: the thread has the library's settings while it lives, and then the host's again, with
-// the flags that the host had. Of a host with settings like the library's, the flags are left raised, as every
-// computation leaves them.
-class HostCall {
+// While it lives, the thread has the library's settings, and then the host's again, with the flags that the host had.
+// Of a host with settings like the library's, the flags are left raised, as every computation leaves them.
+template <void (FloatingPointState::*kRead)() noexcept>
+class OwnSettings {
  public:
-  HostCall() noexcept {
-    host_.read();
+  OwnSettings() noexcept {
+    (host_.*kRead)();
     if (!host_.is_own()) host_.set_own();
   }
-  ~HostCall() {
+  ~OwnSettings() {
     if (!host_.is_own()) host_.restore();
   }
-  HostCall(const HostCall&) = delete;
-  HostCall& operator=(const HostCall&) = delete;
+  OwnSettings(const OwnSettings&) = delete;
+  OwnSettings& operator=(const OwnSettings&) = delete;
 
  private:
   friend class HostSettings;
   FloatingPointState host_;
 };
+
+// Stands in every entry point but for those of short computations, which stand under the settings of one unit only. A
+// result of those has to be in memory before the object's end.
+using HostCall = OwnSettings<&FloatingPointState::read>;
+using SseSettings = OwnSettings<&FloatingPointState::read_sse>;
+using X87Settings = OwnSettings<&FloatingPointState::read_x87>;
 
 // The same for entry points that may call functions of the host.
 class HostCallWithCallbacks : public HostCall {

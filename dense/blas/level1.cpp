@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <type_traits>
 
 #include "base/sums.hpp"
 #include "dense/kernels/vector_kernels.hpp"
+#include "platform/floating_point.hpp"
 
 namespace quorin::dense {
 namespace {
@@ -14,21 +16,41 @@ using Complex = std::complex<float>;
 
 using kernels::magnitude;
 
-// The first position for which no other element is `better`; a NaN is better than nothing, as in the published loop.
-template <Scalar T, class Better>
-int first_extreme(int n, const T* x, int incx, Better better) {
-  if (n < 1 || incx < 1) return 0;
-  if (incx == 1) return static_cast<int>(kernels::first_extreme(n, x, better)) + 1;
-  int position = 0;
-  RealOf<T> extreme = magnitude(x[0]);
-  for (int i = 1; i < n; ++i) {
-    const RealOf<T> value = magnitude(x[static_cast<std::ptrdiff_t>(i) * incx]);
-    if (better(value, extreme)) {
-      position = i;
-      extreme = value;
-    }
+// Computes in SSE's registers, under the library's settings.
+template <class Compute>
+[[gnu::always_inline]] inline auto with_own_settings(const Compute& compute) {
+  const platform::SseSettings settings;
+  if constexpr (std::is_void_v<decltype(compute())>) {
+    compute();
+  } else {
+    auto result = compute();
+    asm volatile("" : "+m"(result));
+    return result;
   }
-  return position + 1;
+}
+
+// The first position for which no other element's magnitude is larger (smaller); a NaN is better than nothing, as in
+// the published loop.
+template <bool kLargest, Scalar T>
+int first_extreme(int n, const T* x, int incx) {
+  if (n < 1 || incx < 1) return 0;
+  const auto find = [=] {
+    if (incx == 1) return static_cast<int>(kernels::first_extreme<kLargest>(n, x)) + 1;
+    int position = 0, extreme = kernels::first_rank<kLargest>(x[0]);
+    for (int i = 1; i < n; ++i) {
+      const int rank = kernels::rank<kLargest>(x[static_cast<std::ptrdiff_t>(i) * incx]);
+      if (rank > extreme) {
+        position = i;
+        extreme = rank;
+      }
+    }
+    return position + 1;
+  };
+  if constexpr (kIsComplex<T>) {
+    return with_own_settings(find);
+  } else {
+    return find();  // magnitudes of floats are compared as integers
+  }
 }
 
 // For a few elements the loop is done before a kernel has begun.
@@ -48,10 +70,12 @@ void for_each_pair(int n, X* x, int incx, Y* y, int incy, const Body& body) {
 }  // namespace
 
 template <Scalar T>
-void axpy(int n, T a, const T* x, int incx, T* y, int incy) {
-  if (a == T{}) return;
-  if (are_contiguous(incx, incy) && !is_short(n)) return kernels::axpy(n, a, x, y);
-  for_each_pair(n, x, incx, y, incy, [a](const T& xi, T& yi) { yi += product(a, xi); });
+void in_sse::axpy(int n, T a, const T* x, int incx, T* y, int incy) {
+  with_own_settings([=] {
+    if (a == T{}) return;
+    if (are_contiguous(incx, incy) && !is_short(n)) return kernels::axpy(n, a, x, y);
+    for_each_pair(n, x, incx, y, incy, [a](const T& xi, T& yi) { yi += product(a, xi); });
+  });
 }
 
 template <Scalar T>
@@ -67,46 +91,54 @@ void swap(int n, T* x, int incx, T* y, int incy) {
 }
 
 template <Scalar T>
-T dotu(int n, const T* x, int incx, const T* y, int incy) {
-  if (are_contiguous(incx, incy) && !is_short(n)) return kernels::dot<false>(n, x, y);
-  T sum{};
-  for_each_pair(n, x, incx, y, incy, [&sum](T xi, T yi) { sum += product(xi, yi); });
-  return sum;
+T in_sse::dotu(int n, const T* x, int incx, const T* y, int incy) {
+  return with_own_settings([=] {
+    if (are_contiguous(incx, incy) && !is_short(n)) return kernels::dot<false>(n, x, y);
+    T sum{};
+    for_each_pair(n, x, incx, y, incy, [&sum](T xi, T yi) { sum += product(xi, yi); });
+    return sum;
+  });
 }
 
 Complex dotc(int n, const Complex* x, int incx, const Complex* y, int incy) {
-  if (are_contiguous(incx, incy) && !is_short(n)) return kernels::dot<true>(n, x, y);
-  Complex sum{};
-  for_each_pair(n, x, incx, y, incy, [&sum](Complex xi, Complex yi) { sum += product(std::conj(xi), yi); });
-  return sum;
+  return with_own_settings([=] {
+    if (are_contiguous(incx, incy) && !is_short(n)) return kernels::dot<true>(n, x, y);
+    Complex sum{};
+    for_each_pair(n, x, incx, y, incy, [&sum](Complex xi, Complex yi) { sum += product(std::conj(xi), yi); });
+    return sum;
+  });
 }
 
 template <Scalar T>
-RealOf<T> nrm2(int n, const T* x, int incx) {
-  constexpr int kParts = kIsComplex<T> ? 2 : 1;
+RealOf<T> in_sse::nrm2(int n, const T* x, int incx) {
+  constexpr std::size_t kParts = kIsComplex<T> ? 2 : 1;
   if (n <= 0) return 0;
-  if (incx == 1) {
-    return base::norm(std::size_t{kParts} * static_cast<std::size_t>(n), reinterpret_cast<const float*>(x));
-  }
-  double sum = 0;
-  // The same elements from the other end for a negative stride.
-  const std::ptrdiff_t first = incx < 0 ? static_cast<std::ptrdiff_t>(1 - n) * incx : 0;
-  for (int i = 0; i < n; ++i) {
-    const T value = x[first + static_cast<std::ptrdiff_t>(i) * incx];
-    const double re = real_part(value), im = imaginary_part(value);
-    sum += re * re + im * im;
-  }
-  return static_cast<RealOf<T>>(std::sqrt(sum));
+  return with_own_settings([=] {
+    if (incx == 1) {
+      return base::norm(kParts * static_cast<std::size_t>(n), reinterpret_cast<const float*>(x));
+    }
+    double sum = 0;
+    // The same elements from the other end for a negative stride.
+    const std::ptrdiff_t first = incx < 0 ? static_cast<std::ptrdiff_t>(1 - n) * incx : 0;
+    for (int i = 0; i < n; ++i) {
+      const T value = x[first + static_cast<std::ptrdiff_t>(i) * incx];
+      const double re = real_part(value), im = imaginary_part(value);
+      sum += re * re + im * im;
+    }
+    return static_cast<RealOf<T>>(std::sqrt(sum));
+  });
 }
 
 template <Scalar T>
-RealOf<T> asum(int n, const T* x, int incx) {
+RealOf<T> in_sse::asum(int n, const T* x, int incx) {
   if (n <= 0 || incx <= 0) return 0;
   constexpr std::ptrdiff_t kParts = kIsComplex<T> ? 2 : 1;
-  if (incx == 1) return kernels::sum_of_magnitudes(kParts * n, reinterpret_cast<const float*>(x));
-  double sum = 0;
-  for (int i = 0; i < n; ++i) sum += double{magnitude(x[static_cast<std::ptrdiff_t>(i) * incx])};
-  return static_cast<RealOf<T>>(sum);
+  return with_own_settings([=] {
+    if (incx == 1) return kernels::sum_of_magnitudes(kParts * n, reinterpret_cast<const float*>(x));
+    double sum = 0;
+    for (int i = 0; i < n; ++i) sum += double{magnitude(x[static_cast<std::ptrdiff_t>(i) * incx])};
+    return static_cast<RealOf<T>>(sum);
+  });
 }
 
 template <Scalar T, class Factor>
@@ -278,12 +310,12 @@ void rotmg(float* d1, float* d2, float* x1, float y1, float* param) {
 
 template <Scalar T>
 int iamax(int n, const T* x, int incx) {
-  return first_extreme(n, x, incx, [](auto value, auto extreme) { return value > extreme; });
+  return first_extreme<true>(n, x, incx);
 }
 
 template <Scalar T>
 int iamin(int n, const T* x, int incx) {
-  return first_extreme(n, x, incx, [](auto value, auto extreme) { return value < extreme; });
+  return first_extreme<false>(n, x, incx);
 }
 
 template <Scalar T>
@@ -318,12 +350,12 @@ template void scal(int, float, float*, int);
 template void scal(int, Complex, Complex*, int);
 template void scal(int, float, Complex*, int);
 
-template void axpy(int, float, const float*, int, float*, int);
+template void in_sse::axpy(int, float, const float*, int, float*, int);
 template void copy(int, const float*, int, float*, int);
 template void swap(int, float*, int, float*, int);
-template float dotu(int, const float*, int, const float*, int);
-template float nrm2(int, const float*, int);
-template float asum(int, const float*, int);
+template float in_sse::dotu(int, const float*, int, const float*, int);
+template float in_sse::nrm2(int, const float*, int);
+template float in_sse::asum(int, const float*, int);
 template void rot(int, float*, int, float*, int, float, float);
 template int iamax(int, const float*, int);
 template int iamin(int, const float*, int);
@@ -332,12 +364,12 @@ template float dotui(int, const float*, const int*, const float*);
 template void gthr(int, const float*, float*, const int*);
 template void sctr(int, const float*, const int*, float*);
 
-template void axpy(int, Complex, const Complex*, int, Complex*, int);
+template void in_sse::axpy(int, Complex, const Complex*, int, Complex*, int);
 template void copy(int, const Complex*, int, Complex*, int);
 template void swap(int, Complex*, int, Complex*, int);
-template Complex dotu(int, const Complex*, int, const Complex*, int);
-template float nrm2(int, const Complex*, int);
-template float asum(int, const Complex*, int);
+template Complex in_sse::dotu(int, const Complex*, int, const Complex*, int);
+template float in_sse::nrm2(int, const Complex*, int);
+template float in_sse::asum(int, const Complex*, int);
 template void rot(int, Complex*, int, Complex*, int, float, float);
 template int iamax(int, const Complex*, int);
 template int iamin(int, const Complex*, int);

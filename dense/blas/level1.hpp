@@ -11,25 +11,58 @@
 #include <complex>
 
 #include "base/scalar.hpp"
+#include "dense/kernels/few_floats.hpp"
 
 namespace quorin::dense {
 
+// The same for what is no short vector of floats, in SSE's registers.
+namespace in_sse {
 template <Scalar T>
 void axpy(int n, T a, const T* x, int incx, T* y, int incy);
+template <Scalar T>
+T dotu(int n, const T* x, int incx, const T* y, int incy);
+template <Scalar T>
+RealOf<T> nrm2(int n, const T* x, int incx);
+template <Scalar T>
+RealOf<T> asum(int n, const T* x, int incx);
+}  // namespace in_sse
+
+template <Scalar T>
+void axpy(int n, T a, const T* x, int incx, T* y, int incy) {
+  if constexpr (!kIsComplex<T>) {
+    if (n < kernels::kFewFloats && incx == 1 && incy == 1) return kernels::axpy_few(n, a, x, y);
+  }
+  in_sse::axpy(n, a, x, incx, y, incy);
+}
 template <Scalar T>
 void copy(int n, const T* x, int incx, T* y, int incy);
 template <Scalar T>
 void swap(int n, T* x, int incx, T* y, int incy);
 // x^T y, and for complex vectors also x^H y.
 template <Scalar T>
-T dotu(int n, const T* x, int incx, const T* y, int incy);
+T dotu(int n, const T* x, int incx, const T* y, int incy) {
+  if constexpr (!kIsComplex<T>) {
+    if (n < kernels::kFewFloats && incx == 1 && incy == 1) return kernels::dot_few(n, x, y);
+  }
+  return in_sse::dotu(n, x, incx, y, incy);
+}
 std::complex<float> dotc(int n, const std::complex<float>* x, int incx, const std::complex<float>* y, int incy);
 // Euclidean norm without overflow or underflow on the way.
 template <Scalar T>
-RealOf<T> nrm2(int n, const T* x, int incx);
+RealOf<T> nrm2(int n, const T* x, int incx) {
+  if constexpr (!kIsComplex<T>) {
+    if (n < kernels::kFewForNorm && incx == 1) return kernels::norm_of_few(n, x);
+  }
+  return in_sse::nrm2(n, x, incx);
+}
 // Sum of |Re x_i| + |Im x_i|.
 template <Scalar T>
-RealOf<T> asum(int n, const T* x, int incx);
+RealOf<T> asum(int n, const T* x, int incx) {
+  if constexpr (!kIsComplex<T>) {
+    if (n < kernels::kFewFloats && incx == 1) return kernels::sum_of_few_magnitudes(n, x);
+  }
+  return in_sse::asum(n, x, incx);
+}
 // x <- a x for a of the vector's type or real. Unless a is 1, every element is multiplied: 0 makes a NaN of an
 // infinity.
 template <Scalar T, class Factor>

@@ -26,7 +26,8 @@ constexpr Range part_range(int total, int parts, int i, int multiple) {
 
 // The number of threads that `work` pays for, when a thread should have at least `work_per_thread`.
 constexpr int threads_for(double work, double work_per_thread, int most) {
-  return static_cast<int>(std::clamp(work / work_per_thread, 1.0, static_cast<double>(std::max(1, most))));
+  if (most <= 1) return 1;
+  return static_cast<int>(std::clamp(work / work_per_thread, 1.0, static_cast<double>(most)));
 }
 
 // A thread should have this many multiplications of reals, some twenty microseconds, to be worth waking.

@@ -225,6 +225,7 @@ struct Triangular {
   }
 
   void solve(int first, int order) const noexcept {
+    if (order == whole.order && order <= kernels::kTriangleOrder) return workshop.solve_triangle(whole);
     if (order <= kernels::kTriangleOrder) return workshop.solve_triangle(diagonal_block(first, order));
     const int h = first_half(order);
     solve(first, h);
@@ -233,6 +234,7 @@ struct Triangular {
   }
 
   void apply(int first, int order) const noexcept {
+    if (order == whole.order && order <= kernels::kTriangleOrder) return workshop.multiply_triangle(whole);
     if (order <= kernels::kTriangleOrder) return workshop.multiply_triangle(diagonal_block(first, order));
     const int h = first_half(order);
     apply(first + h, order - h);

@@ -110,7 +110,7 @@ constexpr bool is_small(int m, int n, int k) noexcept {
   constexpr double kPanelBytes = (kIsComplex<T> ? 2 : 1) * 7 * 16;  // for a term
   constexpr int kPadding = 3;                                       // terms that fill up a column of B
   const double bytes = k * kPanelBytes + (k + kPadding) * (n * double{sizeof(T)});
-  return static_cast<double>(m) * n * k <= most_small_multiplications<T>(2048) && bytes <= kSmallBufferBytes;
+  return static_cast<double>(m) * n * k <= most_small_multiplications<T>(4096) && bytes <= kSmallBufferBytes;
 }
 
 // The same for a triangle and `count` vectors.

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
 #include <complex>
 #include <cstddef>
@@ -76,27 +77,53 @@ void swap(std::ptrdiff_t n, T* x, T* y) noexcept {
   for (; i < n; ++i) std::swap(x[i], y[i]);
 }
 
-// x^T y or x^H y. Inlined, for 32-bit code returns a float by way of memory and the x87.
+// The sum of the terms that terms(i) returns for lanes from i on and term(i) for one i, in sums that do not wait for
+// each other. Inlined, for 32-bit code returns a float by way of memory and the x87.
+template <class Real, class Terms, class Term>
+[[gnu::always_inline]] inline Real sum_of_reals(std::ptrdiff_t n, const Terms& terms, const Term& term) noexcept {
+  constexpr int kStep = kElements<Real>;
+  Lanes<Real> sum0{}, sum1{}, sum2{}, sum3{};  // an array would not stay in registers
+  std::ptrdiff_t i = 0;
+  if (n >= 4 * kStep) {  // what is added to nothing need not be added
+    sum0 = terms(0);
+    sum1 = terms(kStep);
+    sum2 = terms(2 * kStep);
+    sum3 = terms(3 * kStep);
+    i = 4 * kStep;
+  }
+  for (; i + 4 * kStep <= n; i += 4 * kStep) {
+    sum0 += terms(i);
+    sum1 += terms(i + kStep);
+    sum2 += terms(i + 2 * kStep);
+    sum3 += terms(i + 3 * kStep);
+  }
+  for (; i + kStep <= n; i += kStep) sum0 += terms(i);
+  Real total = sum_of_lanes<Real>((sum0 + sum1) + (sum2 + sum3));
+  for (; i < n; ++i) total += term(i);
+  return total;
+}
+
+// x^T y or x^H y
 template <bool kConjugate, Scalar T>
 [[gnu::always_inline]] inline T dot(std::ptrdiff_t n, const T* x, const T* y) noexcept {
-  constexpr int kStep = kElements<T>, kSums = kIsComplex<T> ? 2 : 4;  // so many that additions overlap
-  ProductSum<T> sum0, sum1, sum2, sum3;                               // an array would not stay in registers
-  std::ptrdiff_t i = 0;
-  for (; i + kSums * kStep <= n; i += kSums * kStep) {
-    sum0.add(load(x + i), load(y + i));
-    sum1.add(load(x + i + kStep), load(y + i + kStep));
-    if constexpr (kSums == 4) {
-      sum2.add(load(x + i + 2 * kStep), load(y + i + 2 * kStep));
-      sum3.add(load(x + i + 3 * kStep), load(y + i + 3 * kStep));
+  if constexpr (!kIsComplex<T>) {
+    return sum_of_reals<T>(
+        n, [=](std::ptrdiff_t i) __attribute__((always_inline)) { return load(x + i) * load(y + i); },
+        [=](std::ptrdiff_t i) { return x[i] * y[i]; });
+  } else {
+    constexpr int kStep = kElements<T>;
+    ProductSum<T> sum0, sum1;
+    std::ptrdiff_t i = 0;
+    for (; i + 2 * kStep <= n; i += 2 * kStep) {
+      sum0.add(load(x + i), load(y + i));
+      sum1.add(load(x + i + kStep), load(y + i + kStep));
     }
+    for (; i + kStep <= n; i += kStep) sum0.add(load(x + i), load(y + i));
+    sum0.add(sum1);
+    T total = sum0.template value<kConjugate>();
+    for (; i < n; ++i) total += product(maybe_conjugate<kConjugate>(x[i]), y[i]);
+    return total;
   }
-  for (; i + kStep <= n; i += kStep) sum0.add(load(x + i), load(y + i));
-  sum0.add(sum1);
-  sum2.add(sum3);
-  sum0.add(sum2);
-  T total = sum0.template value<kConjugate>();
-  for (; i < n; ++i) total += product(maybe_conjugate<kConjugate>(x[i]), y[i]);
-  return total;
 }
 
 template <Scalar T>
@@ -123,63 +150,71 @@ void rot(std::ptrdiff_t n, T* x, T* y, RealOf<T> c, RealOf<T> s) noexcept {
   }
 }
 
+// Bits of floats in four lanes.
+using Bits [[gnu::vector_size(16)]] = int;
+inline constexpr int kMagnitudeBits = 0x7FFFFFFF, kInfinityBits = 0x7F800000;
+
 inline float magnitude(float x) noexcept { return std::abs(x); }
 inline float magnitude(std::complex<float> x) noexcept { return std::abs(x.real()) + std::abs(x.imag()); }
 
-// The sum of |x_i|, in sums that do not wait for each other.
+// The sum of |x_i|.
 inline float sum_of_magnitudes(std::ptrdiff_t n, const float* x) noexcept {
-  constexpr int kStep = kElements<float>;
-  const auto at = [x](std::ptrdiff_t i) {
-    const auto value = load(x + i);
-    return value > -value ? value : -value;
+  const auto magnitudes = [x](std::ptrdiff_t i) __attribute__((always_inline)) {
+    return std::bit_cast<Lanes<float>>(std::bit_cast<Bits>(load(x + i)) & kMagnitudeBits);
   };
-  Lanes<float> sum0{}, sum1{}, sum2{}, sum3{};
-  std::ptrdiff_t i = 0;
-  for (; i + 4 * kStep <= n; i += 4 * kStep) {
-    sum0 += at(i);
-    sum1 += at(i + kStep);
-    sum2 += at(i + 2 * kStep);
-    sum3 += at(i + 3 * kStep);
-  }
-  for (; i + kStep <= n; i += kStep) sum0 += at(i);
-  float total = sum_of_lanes<float>((sum0 + sum1) + (sum2 + sum3));
-  for (; i < n; ++i) total += std::abs(x[i]);
-  return total;
+  return sum_of_reals<float>(n, magnitudes, [x](std::ptrdiff_t i) { return std::abs(x[i]); });
 }
 
-// The magnitudes of the elements in four lanes; those of complex numbers stand there twice.
-template <Scalar T>
-Lanes<RealOf<T>> magnitudes(Lanes<RealOf<T>> x) noexcept {
-  const auto positive = x > -x ? x : -x;
+// Magnitudes as integers, whose order is that of the numbers, or for the smallest first the other way round. A NaN
+// ranks behind all numbers. Floats are not computed with, so that settings of the host's do not matter.
+template <bool kLargest, Scalar T>
+int rank(T x) noexcept {
+  const int bits = std::bit_cast<int>(magnitude(x)) & kMagnitudeBits;
+  if (!kLargest) return -bits;
+  return bits > kInfinityBits ? -1 : bits;
+}
+
+// The first element's: it is the answer if it is a NaN.
+template <bool kLargest, Scalar T>
+int first_rank(T x) noexcept {
+  const int bits = std::bit_cast<int>(magnitude(x)) & kMagnitudeBits;
+  return bits > kInfinityBits ? kMagnitudeBits : rank<kLargest>(x);
+}
+
+// In four lanes; those of complex numbers stand there twice.
+template <bool kLargest, Scalar T>
+Bits ranks(Lanes<RealOf<T>> x) noexcept {
+  Bits bits = std::bit_cast<Bits>(x) & kMagnitudeBits;
   if constexpr (kIsComplex<T>) {
-    return positive + exchanged(positive);
-  } else {
-    return positive;
+    const auto positive = std::bit_cast<Lanes<RealOf<T>>>(bits);
+    bits = std::bit_cast<Bits>(positive + exchanged(positive)) & kMagnitudeBits;
   }
+  return kLargest ? bits | (bits > kInfinityBits) : -bits;
 }
 
-// The first position for which no other element's magnitude is `better`, as in the published loop: a NaN is passed
-// over, but as the first element it is the answer. Blocks without a better magnitude are not looked at twice.
-template <Scalar T, class Better>
-std::ptrdiff_t first_extreme(std::ptrdiff_t n, const T* x, const Better& better) noexcept {
+// The first position for which no other element ranks higher, as in the published loop. Blocks without a higher rank
+// are not looked at twice.
+template <bool kLargest, Scalar T>
+std::ptrdiff_t first_extreme(std::ptrdiff_t n, const T* x) noexcept {
   constexpr int kStep = kElements<T>, kBlock = 64;
-  float extreme = magnitude(x[0]);
-  std::ptrdiff_t position = 0, i = 0;
+  int extreme = first_rank<kLargest>(x[0]);
+  std::ptrdiff_t position = 0, i = 1;
   const auto scan = [&](std::ptrdiff_t end) {
     for (; i < end; ++i) {
-      if (!better(magnitude(x[i]), extreme)) continue;
-      extreme = magnitude(x[i]);
+      const int next = rank<kLargest>(x[i]);
+      if (next <= extreme) continue;
+      extreme = next;
       position = i;
     }
   };
   while (i + kBlock <= n) {
-    const auto known = Lanes<RealOf<T>>{} + extreme;
-    Lanes<RealOf<T>> best = known;
+    const Bits known = Bits{} + extreme;
+    Bits best = known;
     for (int k = 0; k < kBlock; k += kStep) {
-      const auto values = magnitudes<T>(load(x + i + k));
-      best = better(values, best) ? values : best;
+      const Bits next = ranks<kLargest, T>(load(x + i + k));
+      best = next > best ? next : best;
     }
-    const auto is_better = better(best, known);
+    const Bits is_better = best > known;
     if ((is_better[0] | is_better[1] | is_better[2] | is_better[3]) != 0) {
       scan(i + kBlock);
     } else {

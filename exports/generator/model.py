@@ -213,7 +213,7 @@ class Routine:
     never_none: tuple[str, str] | None = None  # a count that the published routine does not stand to be 0, and its array
     # A work array behind whose published end the published routine writes, and what it needs beyond its published length.
     spare: tuple[str, str] | None = None
-    only_moves: bool = False  # it computes nothing, so that the host's floating-point settings do not matter
+    keeps_host_settings: bool = False  # it sees to the floating-point settings itself, where they matter
 
     def argument(self, name: str) -> Argument | None:
         return next((argument for argument in self.arguments if argument.name == name), None)
@@ -287,8 +287,8 @@ class Family:
     def finite(self, routine: Routine) -> FiniteCheck | None:
         return next((source.finite for source in self.sources(routine) if source.finite), None)
 
-    def only_moves(self, routine: Routine) -> bool:
-        return any(source.only_moves for source in self.sources(routine))
+    def keeps_host_settings(self, routine: Routine) -> bool:
+        return any(source.keeps_host_settings for source in self.sources(routine))
 
     def sound(self, routine: Routine) -> list[tuple[str, str, list[str]]]:
         return next((source.sound for source in self.sources(routine) if source.sound), [])

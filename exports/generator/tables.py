@@ -256,8 +256,8 @@ class Reader:
             routine.has_plain = False
         elif word == "like" and NAME.match(rest):
             routine.like = rest
-        elif word == "only-moves" and not rest:
-            routine.only_moves = True
+        elif word == "host-settings" and not rest:
+            routine.keeps_host_settings = True
         elif word == "arg":
             words, text, _ = self.words_and_text(rest, 1)
             if words[0] in routine.notes:

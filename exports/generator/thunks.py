@@ -219,7 +219,7 @@ def plain_form(family: Family, routine: Routine) -> str:
         return FortranForm(family, routine).text(begin)
     arguments = ", ".join(call_argument(argument) for argument in routine.arguments)
     call = f"quorin::{routine.implementation}({arguments})"
-    lines = [statement(routine, call)] if family.only_moves(routine) else [begin, statement(routine, call)]
+    lines = [statement(routine, call)] if family.keeps_host_settings(routine) else [begin, statement(routine, call)]
     return definition(routine.name, routine, False, "\n  ".join(lines))
 
 

@@ -293,14 +293,20 @@ void pack(const View<T>& view, int first, int count, int term, int terms, const 
   if (before > term) target.put(source_at<Isa, kRows>(left, first, term), 0, count, 0, before - term);
   if (end > behind) target.put(source_at<Isa, kRows>(right, first, behind), 0, count, behind - term, end - behind);
   for (int l = before; l < behind; ++l) {
-    for (int i = first; i < first + count; ++i) {
-      const Source<T> element = source_at<Isa, kRows>(i > l ? left : right, i, l);
-      T value = maybe_conjugated<Isa>(element.is_conjugated, *element.data);
-      if constexpr (kIsComplex<T>) {
-        if (i == l && view.is_hermitian) value = T(value.real(), 0);
+    const auto put_rows = [&](const View<T>& triangle, int i, int end_row) __attribute__((always_inline)) {
+      const Source<T> from = source_at<Isa, kRows>(triangle, i, l);
+      const T* x = from.data;
+      for (; i < end_row; ++i, x += from.step) {
+        target.put_element(maybe_conjugated<Isa>(from.is_conjugated, *x), i - first, l - term);
       }
-      target.put_element(value, i - first, l - term);
+    };
+    put_rows(right, first, l);
+    T value = *source_at<Isa, kRows>(view, l, l).data;
+    if constexpr (kIsComplex<T>) {
+      if (view.is_hermitian) value = T(value.real(), 0);
     }
+    target.put_element(value, l - first, l - term);
+    put_rows(left, l + 1, first + count);
   }
 }
 

@@ -6,25 +6,64 @@
 
 namespace quorin::dense::kernels::target {
 
+// The triangle's element (p, q). Without a choice, which could keep the compiler from fusing a multiplication before it
+// with an addition behind it.
+template <class Isa, Scalar T>
+[[gnu::always_inline]] inline T element_of(const TriangleBlock<T>& block, RealOf<T> sign, int p, int q) noexcept {
+  const T& stored = block.triangle[p * block.row_step + q * block.column_step];
+  if constexpr (kIsComplex<T>) {
+    return T(stored.real(), sign * stored.imag());
+  } else {
+    return stored;
+  }
+}
+
+// Reciprocals of the diagonal, where one neither overflows nor loses digits; elsewhere each quotient is made by itself.
+template <class Isa, Scalar T>
+struct Pivots {
+  using Real = RealOf<T>;
+  T reciprocals[kTriangleOrder];
+  std::uint32_t have_reciprocal = 0;  // a bit for each
+
+  explicit Pivots(const TriangleBlock<T>& block) noexcept {
+    constexpr Real kLargest = static_cast<Real>(sizeof(Real) == 4 ? 0x1p60 : 0x1p500);
+    static_assert(kTriangleOrder == 32);
+    if (block.has_unit_diagonal) return;
+    const Real sign = block.is_conjugated ? Real{-1} : Real{1};
+    for (int p = 0; p < block.order; ++p) {
+      const T pivot = element_of<Isa>(block, sign, p, p);
+      const Real size = std::max(std::abs(std::real(pivot)), std::abs(std::imag(pivot)));
+      if (!(size >= 1 / kLargest && size <= kLargest)) continue;
+      have_reciprocal |= std::uint32_t{1} << p;
+      if constexpr (kIsComplex<T>) {
+        Real square = pivot.imag() * pivot.imag();
+        pin(square);  // the same bits for every set that fuses
+        square += pivot.real() * pivot.real();
+        reciprocals[p] = T(pivot.real() / square, -pivot.imag() / square);
+      } else {
+        reciprocals[p] = 1 / pivot;
+      }
+    }
+  }
+};
+
 // `kVectors` vectors of lanes: element p of all of them at x + p * kStep, and for complex numbers i times that behind.
-template <class Isa, Scalar T, int kVectors>
+template <class Isa, Scalar T, int kVectors, class Set = Isa>
 struct LaneBlock {
   using Real = RealOf<T>;
   using V = Vector<Isa, Real>;
   static constexpr int kParts = kIsComplex<T> ? 2 : 1, kWidth = kLanes<Isa, Real>;
   static constexpr int kReals = kVectors * kWidth, kVectorsOfT = kReals / kParts, kStep = kParts * kReals;
+  static constexpr auto kLaneNumbers = std::make_integer_sequence<int, kWidth>{};
   const TriangleBlock<T>& block;
   Real* x;
+  const Pivots<Set, T>* pivots;                          // of a triangle that divides
   Real sign = block.is_conjugated ? Real{-1} : Real{1};  // of imaginary parts
 
-  // Without a choice, which could keep the compiler from fusing a multiplication before it with an addition behind it.
-  T element(int p, int q) const noexcept {
-    const T& stored = block.triangle[p * block.row_step + q * block.column_step];
-    if constexpr (kIsComplex<T>) {
-      return T(stored.real(), sign * stored.imag());
-    } else {
-      return stored;
-    }
+  T element(int p, int q) const noexcept { return element_of<Isa>(block, sign, p, q); }
+
+  static V times_i(V z) noexcept {
+    return swapped_parts<Isa, Real>(z, kLaneNumbers) * alternating<Isa>(Real{-1}, Real{1}, kLaneNumbers);
   }
 
   void put(int p, const V (&value)[kVectors]) const noexcept {
@@ -32,11 +71,7 @@ struct LaneBlock {
     for (int v = 0; v < kVectors; ++v) {
       Real* const to = x + p * kStep + v * kWidth;
       store<Isa>(to, value[v]);
-      if constexpr (kIsComplex<T>) {  // i times it
-        constexpr auto kLaneNumbers = std::make_integer_sequence<int, kWidth>{};
-        store<Isa>(to + kReals, swapped_parts<Isa, Real>(value[v], kLaneNumbers) *
-                                    alternating<Isa>(Real{-1}, Real{1}, kLaneNumbers));
-      }
+      if constexpr (kIsComplex<T>) store<Isa>(to + kReals, times_i(value[v]));
     }
   }
 
@@ -62,28 +97,25 @@ struct LaneBlock {
     for (int v = 0; v < kVectors; ++v) value[v] = load<Isa>(x + p * kStep + v * kWidth);
   }
 
-  void divide(int p, T pivot, V (&value)[kVectors]) const noexcept {
-    // A reciprocal neither overflows nor loses digits in between; outside, each quotient is made by itself.
-    constexpr Real kLargest = static_cast<Real>(sizeof(Real) == 4 ? 0x1p60 : 0x1p500);
-    if constexpr (!kIsComplex<T>) {
-      const Real size = pivot < 0 ? -pivot : pivot;
-      if (size >= 1 / kLargest && size <= kLargest) {
-        const Real reciprocal = 1 / pivot;
-        for (V& vector : value) vector *= reciprocal;
-      } else {
-        for (V& vector : value) vector /= pivot;
+  void divide(int p, V (&value)[kVectors]) const noexcept {
+    if ((pivots->have_reciprocal >> p & 1) != 0) {
+      const T reciprocal = pivots->reciprocals[p];
+      const V re = all<Isa>(std::real(reciprocal));
+#pragma GCC unroll 8
+      for (V& vector : value) {
+        if constexpr (kIsComplex<T>) {
+          vector = re * vector + reciprocal.imag() * times_i(vector);
+        } else {
+          vector *= re;
+        }
       }
-    } else {
-      put(p, value);
-      const Real size = std::max(std::abs(pivot.real()), std::abs(pivot.imag()));
-      if (size >= 1 / kLargest && size <= kLargest) {
-        for (V& vector : value) vector = V{};
-        return add_multiple<false>(T{1} / pivot, p, value);
-      }
-      T* const numbers = reinterpret_cast<T*>(x + p * kStep);
-      for (int j = 0; j < kVectorsOfT; ++j) numbers[j] /= pivot;
-      get(p, value);
+      return;
     }
+    put(p, value);
+    const T pivot = element(p, p);
+    T* const numbers = reinterpret_cast<T*>(x + p * kStep);
+    for (int j = 0; j < kVectorsOfT; ++j) numbers[j] /= pivot;
+    get(p, value);
   }
 
   // The rows that are made at once, so that sums hide each other's latency.
@@ -110,7 +142,7 @@ struct LaneBlock {
     for (int row = 0; row < kCount; ++row) {
 #pragma GCC unroll 4
       for (int k = 0; k < row; ++k) add_multiple<true>(element(p + row, p + k), p + k, values[row]);
-      if (!block.has_unit_diagonal) divide(p + row, element(p + row, p + row), values[row]);
+      if (!block.has_unit_diagonal) divide(p + row, values[row]);
       put(p + row, values[row]);
     }
   }
@@ -157,6 +189,21 @@ struct LaneBlock {
 
   // Vectors first.. to their lanes or back; the lanes beyond `count` hold zeros.
   void exchange(int first, int count, bool is_result) const noexcept {
+    if (block.vector_step == 1 && count == kVectorsOfT) {
+      for (int p = 0; p < block.order; ++p) {
+        Real* const outside = reinterpret_cast<Real*>(block.x + p * block.x_step + first);
+        Real* const inside = x + p * kStep;
+#pragma GCC unroll 8
+        for (int v = 0; v < kReals; v += kWidth) {
+          if (is_result) {
+            store<Isa>(outside + v, load<Isa>(inside + v));
+          } else {
+            store<Isa>(inside + v, load<Isa>(outside + v));
+          }
+        }
+      }
+      return;
+    }
     // Steps upwards in memory, for which there are fast copies. A single-complex number moves as one double.
     using Unit = std::conditional_t<std::is_same_v<T, std::complex<float>>, double, Real>;
     constexpr int kUnits = kIsComplex<T> && std::is_same_v<Unit, Real> ? 2 : 1;
@@ -176,7 +223,7 @@ struct LaneBlock {
         copy_rectangle<Isa, false>(vectors, count, block.order, Unit{1}, inside + part, kUnits, direction * kInside);
       }
     }
-    if (is_result) return;
+    if (is_result || count == kVectorsOfT) return;
     for (int p = 0; p < block.order; ++p) {
       T* const numbers = reinterpret_cast<T*>(x + p * kStep);
       for (int j = count; j < kVectorsOfT; ++j) numbers[j] = T{};
@@ -202,39 +249,51 @@ struct LaneBlock {
 };
 
 // At most two vectors of lanes, which need not be wide if that leaves fewer lanes empty.
-template <class Isa, Scalar T, bool kSolves>
-void run_few(const TriangleBlock<T>& block, RealOf<T>* x, int first) noexcept {
+template <class Isa, Scalar T, bool kSolves, class Set>
+void run_few(const TriangleBlock<T>& block, RealOf<T>* x, const Pivots<Set, T>* pivots, int first) noexcept {
   constexpr int kLanesOfT = LaneBlock<Isa, T, 1>::kVectorsOfT;
   const int rest = block.count - first;
   if constexpr (kHasNarrower<Isa>) {
     using Narrower = typename Isa::Narrower;
-    if (2 * rest <= kLanesOfT) return run_few<Narrower, T, kSolves>(block, x, first);
+    if (2 * rest <= kLanesOfT) return run_few<Narrower, T, kSolves>(block, x, pivots, first);
     if (2 * rest <= 3 * kLanesOfT && rest > kLanesOfT) {
-      LaneBlock<Narrower, T, 3>{block, x}.template run<kSolves>(first, true);
+      LaneBlock<Narrower, T, 3, Set>{block, x, pivots}.template run<kSolves>(first, true);
       return;
     }
   }
   if (rest > kLanesOfT) {
-    LaneBlock<Isa, T, 2>{block, x}.template run<kSolves>(first, true);
+    LaneBlock<Isa, T, 2, Set>{block, x, pivots}.template run<kSolves>(first, true);
   } else {
-    LaneBlock<Isa, T, 1>{block, x}.template run<kSolves>(first, true);
+    LaneBlock<Isa, T, 1, Set>{block, x, pivots}.template run<kSolves>(first, true);
+  }
+}
+
+template <class Isa, Scalar T, bool kSolves>
+void run_lanes(const TriangleBlock<T>& block, RealOf<T>* x, const Pivots<Isa, T>* pivots) noexcept {
+  constexpr int kMost = 6, kLanesOfT = LaneBlock<Isa, T, 1>::kVectorsOfT;
+  const int first = LaneBlock<Isa, T, kMost>{block, x, pivots}.template run<kSolves>(0, false);
+  const int rest = block.count - first;
+  if (rest > 5 * kLanesOfT) {
+    LaneBlock<Isa, T, kMost>{block, x, pivots}.template run<kSolves>(first, true);
+  } else if (rest > 4 * kLanesOfT) {
+    LaneBlock<Isa, T, 5>{block, x, pivots}.template run<kSolves>(first, true);
+  } else if (rest > 3 * kLanesOfT) {
+    LaneBlock<Isa, T, 4>{block, x, pivots}.template run<kSolves>(first, true);
+  } else if (rest > 2 * kLanesOfT) {
+    LaneBlock<Isa, T, 3>{block, x, pivots}.template run<kSolves>(first, true);
+  } else if (rest > 0) {
+    run_few<Isa, T, kSolves>(block, x, pivots, first);
   }
 }
 
 template <class Isa, Scalar T, bool kSolves>
 void run_triangle(const TriangleBlock<T>& block, std::byte* buffer) noexcept {
   auto* const x = reinterpret_cast<RealOf<T>*>(buffer);
-  constexpr int kMost = 6, kLanesOfT = LaneBlock<Isa, T, 1>::kVectorsOfT;
-  const int first = LaneBlock<Isa, T, kMost>{block, x}.template run<kSolves>(0, false);
-  const int rest = block.count - first;
-  if (rest > 4 * kLanesOfT) {
-    LaneBlock<Isa, T, kMost>{block, x}.template run<kSolves>(first, true);
-  } else if (rest > 3 * kLanesOfT) {
-    LaneBlock<Isa, T, 4>{block, x}.template run<kSolves>(first, true);
-  } else if (rest > 2 * kLanesOfT) {
-    LaneBlock<Isa, T, 3>{block, x}.template run<kSolves>(first, true);
-  } else if (rest > 0) {
-    run_few<Isa, T, kSolves>(block, x, first);
+  if constexpr (kSolves) {
+    const Pivots<Isa, T> pivots(block);
+    run_lanes<Isa, T, true>(block, x, &pivots);
+  } else {
+    run_lanes<Isa, T, false>(block, x, static_cast<const Pivots<Isa, T>*>(nullptr));
   }
 }
 
