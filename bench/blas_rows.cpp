@@ -94,21 +94,24 @@ Row reading_row(const char* operation, int n, int threads, double floats) {
   return {"blas", operation, n, threads, floats * sizeof(float), Unit::kByte, Limit::kReading};
 }
 
-// C <- A B in double precision, which the library exports no BLAS for, but computes with itself. The peer has no
-// doubles.
+// C <- A B in double precision, which the library exports no BLAS for, but computes with itself.
+template <class T>
+auto engine_call(int n, int threads) {
+  return [n, threads, a = square_matrix<T>(n), b = square_matrix<T>(n), c = square_matrix<T>(n)] {
+    const dense::KernelBuffer buffers(threads);
+    dense::blocked::gemm('N', 'N', n, n, n, T{1}, a.data(), n, b.data(), n, T{0}, c.data(), n, threads);
+  };
+}
+
+// The peer has no doubles.
 template <class T>
 void add_engine_row(Suite& suite, const char* operation, int n, int threads, double flops) {
   const Row row{"blas", operation, n, threads, flops, Unit::kFlop, Limit::kDoubleArithmetic};
-  suite.measure(row, "quorin", [n, threads] {
-    return [n, threads, a = square_matrix<T>(n), b = square_matrix<T>(n), c = square_matrix<T>(n)] {
-      const dense::KernelBuffer buffers(threads);
-      dense::blocked::gemm('N', 'N', n, n, n, T{1}, a.data(), n, b.data(), n, T{0}, c.data(), n, threads);
-    };
-  });
+  suite.measure(row, "quorin", [n, threads] { return engine_call<T>(n, threads); });
   suite.add_limit(row);
 }
 
-// Our library on two threads, beside itself on one.
+// Our library on two threads, beside itself on one: prepare(product, threads) makes the operands and returns the call.
 template <class Prepare>
 void add_thread_row(Suite& suite, const char* operation, int n, double flops, Prepare prepare) {
   const Row row{"threads", operation, n, 2, flops};
@@ -116,7 +119,7 @@ void add_thread_row(Suite& suite, const char* operation, int n, double flops, Pr
     suite.measure(row, threads == 2 ? "quorin" : "one-thread",
                   [&product = suite.libraries().product, prepare, threads] {
                     product.set_threads(threads);
-                    return prepare(product);
+                    return prepare(product, threads);
                   });
   }
 }
@@ -169,11 +172,19 @@ void add_blas_rows(Suite& suite) {
   }
   for (const int n : orders) {
     const double cube = static_cast<double>(n) * n * n;
-    add_thread_row(suite, "sgemm", n, 2 * cube, [n](const Library& blas) { return gemm_call<float>(blas.sgemm, n); });
-    add_thread_row(suite, "cgemm", n, 8 * cube,
-                   [n](const Library& blas) { return gemm_call<quorin_complex>(blas.cgemm, n); });
-    add_thread_row(suite, "strsm", n, cube, [n](const Library& blas) { return triangular_call(blas.strsm, n); });
-    add_thread_row(suite, "ssyrk", n, cube, [n](const Library& blas) { return syrk_call(blas, n); });
+    const auto add = [&](const char* operation, double flops, auto prepare) {
+      add_thread_row(suite, operation, n, flops,
+                     [n, prepare](const Library& blas, int threads) { return prepare(blas, n, threads); });
+    };
+    add("sgemm", 2 * cube, [](const Library& blas, int m, int) { return gemm_call<float>(blas.sgemm, m); });
+    add("cgemm", 8 * cube, [](const Library& blas, int m, int) { return gemm_call<quorin_complex>(blas.cgemm, m); });
+    add("dgemm", 2 * cube, [](const Library&, int m, int threads) { return engine_call<double>(m, threads); });
+    add("zgemm", 8 * cube,
+        [](const Library&, int m, int threads) { return engine_call<std::complex<double>>(m, threads); });
+    add("strsm", cube, [](const Library& blas, int m, int) { return triangular_call(blas.strsm, m); });
+    add("strmm", cube, [](const Library& blas, int m, int) { return triangular_call(blas.strmm, m); });
+    add("ssyrk", cube, [](const Library& blas, int m, int) { return syrk_call(blas, m); });
+    add("ssymm", 2 * cube, [](const Library& blas, int m, int) { return symm_call(blas, m); });
   }
   for (const int n : suite.sizes({8, 20, 256}, {8, 256})) add_host_loop_row(suite, n);
 }

@@ -44,8 +44,9 @@ auto getrf_call(Getrf* getrf, int n) {
   };
 }
 
-auto potrf_call(const quorin_library& lapack, int n) {
-  return [potrf = lapack.spotrf, p = Problem<float>(n)] {
+template <class T, class Potrf>
+auto potrf_call(Potrf* potrf, int n) {
+  return [potrf, p = Problem<T>(n)] {
     std::int32_t info = 0;
     potrf("L", &p.n, p.fresh(), &p.n, &info);
   };
@@ -176,7 +177,9 @@ void add_lapack_rows(Suite& suite) {
       compare("sgetrf", 2.0 / 3 * cube, [](const quorin_library& l, int m) { return getrf_call<float>(l.sgetrf, m); });
       compare("cgetrf", 8.0 / 3 * cube,
               [](const quorin_library& l, int m) { return getrf_call<quorin_complex>(l.cgetrf, m); });
-      compare("spotrf", 1.0 / 3 * cube, potrf_call);
+      compare("spotrf", 1.0 / 3 * cube, [](const quorin_library& l, int m) { return potrf_call<float>(l.spotrf, m); });
+      compare("cpotrf", 4.0 / 3 * cube,
+              [](const quorin_library& l, int m) { return potrf_call<quorin_complex>(l.cpotrf, m); });
       compare("sgeqrf", 4.0 / 3 * cube, [](const quorin_library& l, int m) { return geqrf_call<float>(l.sgeqrf, m); });
       compare("cgeqrf", 16.0 / 3 * cube,
               [](const quorin_library& l, int m) { return geqrf_call<quorin_complex>(l.cgeqrf, m); });

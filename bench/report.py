@@ -45,7 +45,7 @@ SECTIONS = {
     "lapack": (
         "LAPACK on square matrices of order n",
         "The peer is the published LAPACK over the stock OpenBLAS, on as many threads. Singular values, symmetric eigenvalues and right"
-        " eigenvectors of general matrices, all with vectors. Operations are nominal, in n^3: sgetrf 2/3, cgetrf 8/3, spotrf 1/3,"
+        " eigenvectors of general matrices, all with vectors. Operations are nominal, in n^3: sgetrf 2/3, cgetrf 8/3, spotrf 1/3, cpotrf 4/3,"
         " sgeqrf 4/3, cgeqrf 16/3, sgetri 4/3, spotri 2/3, strtri and ssytrf 1/3, their complex twins four times as many, ssyevr 10/3, cheevr 40/3, sgesdd 20/3, sgeev 25.",
     ),
     "orderings": (
