@@ -20,7 +20,8 @@ using Counts = std::array<std::int32_t, kShifts>;
 using Lanes [[gnu::vector_size(16)]] = float;
 using CountLanes [[gnu::vector_size(16)]] = std::int32_t;
 
-// Four of the shifts on their way through the factorization L D L^T - s I = L+ D+ L+^T.
+// Four of the shifts on their way through the twisted factorization of L D L^T - s I: downwards as L+ D+ L+^T, upwards
+// as U- D- U-^T.
 struct Sequence {
   Lanes shift, t;
   CountLanes count{};
@@ -31,30 +32,38 @@ struct Sequence {
   }
   // 0 / 0 and its like count as 1 if kMendsNaN.
   template <bool kMendsNaN>
-  void step(float d, float lld) {
-    const Lanes pivot = d + t;
+  void step(float added, float factor) {
+    const Lanes pivot = added + t;
     count -= pivot < 0;
     Lanes quotient = t / pivot;
     if (kMendsNaN) quotient = quotient == quotient ? quotient : Lanes{} + 1;
-    t = quotient * lld - shift;
+    t = quotient * factor - shift;
   }
-  void finish(float d) { count -= (t + shift) + (d - shift) < 0; }
   bool has_nan() const {
     const CountLanes is_nan = t != t;
     return (is_nan[0] | is_nan[1] | is_nan[2] | is_nan[3]) != 0;
   }
 };
 
+// Returns false if a NaN came up that was not mended. `twist` is counted from 1.
 template <bool kMendsNaN>
-bool count_below(int n, const float* d, const float* lld, const Shifts& shifts, Counts& counts) {
+bool count_below(int n, const float* d, const float* lld, int twist, const Shifts& shifts, Counts& counts) {
   Sequence low(shifts.data()), high(shifts.data() + 4);
-  for (int j = 0; j < n - 1; ++j) {
+  for (int j = 0; j < twist - 1; ++j) {
     low.step<kMendsNaN>(d[j], lld[j]);
     high.step<kMendsNaN>(d[j], lld[j]);
   }
-  if (!kMendsNaN && (low.has_nan() || high.has_nan())) return false;  // once there, it stays
-  low.finish(d[n - 1]);
-  high.finish(d[n - 1]);
+  const Lanes low_above = low.t + low.shift, high_above = high.t + high.shift;
+  const bool is_lost = !kMendsNaN && (low.has_nan() || high.has_nan());  // once there, it stays
+  low.t = d[n - 1] - low.shift;
+  high.t = d[n - 1] - high.shift;
+  for (int j = n - 2; j >= twist - 1; --j) {
+    low.step<kMendsNaN>(lld[j], d[j]);
+    high.step<kMendsNaN>(lld[j], d[j]);
+  }
+  if (is_lost || (!kMendsNaN && (low.has_nan() || high.has_nan()))) return false;
+  low.count -= low_above + low.t < 0;
+  high.count -= high_above + high.t < 0;
   std::memcpy(counts.data(), &low.count, sizeof low.count);
   std::memcpy(counts.data() + 4, &high.count, sizeof high.count);
   return true;
@@ -64,10 +73,11 @@ bool count_below(int n, const float* d, const float* lld, const Shifts& shifts, 
 struct Representation {
   int n;
   const float *d, *lld;
+  int twist;
 
   Counts count(const Shifts& shifts) const {
     Counts counts;
-    if (!count_below<false>(n, d, lld, shifts, counts)) count_below<true>(n, d, lld, shifts, counts);
+    if (!count_below<false>(n, d, lld, twist, shifts, counts)) count_below<true>(n, d, lld, twist, shifts, counts);
     return counts;
   }
 };
@@ -93,14 +103,14 @@ extern "C" void slarrb_(const std::int32_t* order, const float* d, const float* 
                         float* w, float* wgap, float* werr, float* work, std::int32_t* iwork, const float* pivmin,
                         const float* spdiam, const std::int32_t* twist, std::int32_t* info) noexcept;
 
-// `twist` is the order wherever the routine is called, and not looked at.
 void slarrb_(const std::int32_t* order, const float* d, const float* lld, const std::int32_t* first,
              const std::int32_t* last, const float* rtol1, const float* rtol2, const std::int32_t* offset, float* w,
              float* wgap, float* werr, float* work, std::int32_t* iwork, const float* pivmin, const float* spdiam,
-             const std::int32_t* /*twist*/, std::int32_t* info) noexcept {
+             const std::int32_t* twist, std::int32_t* info) noexcept {
   *info = 0;
   if (*order <= 0) return;
-  const Representation representation{*order, d, lld};
+  const bool is_twisted = 1 <= *twist && *twist <= *order;
+  const Representation representation{*order, d, lld, is_twisted ? *twist : *order};
   const int count = *last - *first + 1, base = *first - *offset - 1;  // element base of w is the first eigenvalue's
   const int most_halvings = static_cast<int>((std::log(*spdiam + *pivmin) - std::log(*pivmin)) / std::log(2.0F)) + 2;
   const auto interval = [work](int i) -> Interval& { return reinterpret_cast<Interval*>(work)[i]; };
