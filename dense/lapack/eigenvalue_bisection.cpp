@@ -20,6 +20,8 @@ using Counts = std::array<std::int32_t, kShifts>;
 using Lanes [[gnu::vector_size(16)]] = float;
 using CountLanes [[gnu::vector_size(16)]] = std::int32_t;
 
+CountLanes is_number(Lanes x) { return (x <= 0) | (x > 0); }
+
 // Four of the shifts on their way through the twisted factorization of L D L^T - s I: downwards as L+ D+ L+^T, upwards
 // as U- D- U-^T.
 struct Sequence {
@@ -36,12 +38,12 @@ struct Sequence {
     const Lanes pivot = added + t;
     count -= pivot < 0;
     Lanes quotient = t / pivot;
-    if (kMendsNaN) quotient = quotient == quotient ? quotient : Lanes{} + 1;
+    if (kMendsNaN) quotient = is_number(quotient) ? quotient : Lanes{} + 1;
     t = quotient * factor - shift;
   }
   bool has_nan() const {
-    const CountLanes is_nan = t != t;
-    return (is_nan[0] | is_nan[1] | is_nan[2] | is_nan[3]) != 0;
+    const CountLanes are_numbers = is_number(t);
+    return (are_numbers[0] & are_numbers[1] & are_numbers[2] & are_numbers[3]) == 0;
   }
 };
 
