@@ -9,7 +9,7 @@
 
 namespace quorin::dense::kernels {
 
-// SSE's registers are faster for as many.
+// For as many, SSE's registers are faster.
 inline constexpr int kFewFloats = 16, kFewForNorm = 24;
 
 // The sum of term(0), ..., term(n - 1), or its square root, in sums that do not wait for each other.

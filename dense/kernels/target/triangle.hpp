@@ -104,7 +104,9 @@ struct LaneBlock {
 #pragma GCC unroll 8
       for (V& vector : value) {
         if constexpr (kIsComplex<T>) {
-          vector = re * vector + reciprocal.imag() * times_i(vector);
+          V straight = re * vector;
+          pin(straight);
+          vector = straight + reciprocal.imag() * times_i(vector);
         } else {
           vector *= re;
         }
