@@ -165,11 +165,11 @@ Results huge_numbers(const quorin_library& library, int) {
 }
 
 Results not_numbers(const quorin_library& library, int) {
-  const std::int32_t n = 9, one = 1;
+  const std::int32_t n = 9, six = 6, one = 1;
   const float x[] = {1, kNan, -std::numeric_limits<float>::infinity(), 3e38F, 3e38F, 1e-45F, 0, -2, 3};
   const float y[] = {0, 1, 0, 3e38F, 1, 1e-45F, kNan, 2, 3};
   return {static_cast<double>(library.isamax(&n, x, &one)), library.sdot(&n, x, &one, y, &one),
-          library.sasum(&n, x + 3, &one), library.snrm2(&one, x + 5, &one)};
+          library.sasum(&six, x + 3, &one), library.snrm2(&one, x + 5, &one)};
 }
 
 Results singular_system(const quorin_library& library, int) {

@@ -37,7 +37,7 @@ struct Line {
 };
 
 Results vectors(const quorin_library& library, int seed) {
-  const std::int32_t n = 1000 + 37 * seed, one = 1;
+  const std::int32_t n = 1000 + 37 * seed, few = 13, one = 1;
   std::vector<float> x(3000), y(3000);
   for (std::size_t i = 0; i < x.size(); ++i) {
     x[i] = std::sin(static_cast<float>(i) + static_cast<float>(seed));
@@ -47,8 +47,12 @@ Results vectors(const quorin_library& library, int seed) {
   const quorin_complex a{0.7F, -0.2F};
   const float c = 0.8F, s = 0.6F;
   quorin_complex sum{};
-  const Results sums = {library.sdot(&n, x.data(), &one, y.data(), &one), library.snrm2(&n, x.data(), &one),
-                        library.scasum(&n, complex(x), &one), static_cast<double>(library.isamax(&n, x.data(), &one))};
+  const Results sums = {library.sdot(&n, x.data(), &one, y.data(), &one),
+                        library.snrm2(&n, x.data(), &one),
+                        library.sdot(&few, x.data(), &one, y.data(), &one),
+                        library.snrm2(&few, x.data(), &one),
+                        library.scasum(&n, complex(x), &one),
+                        static_cast<double>(library.isamax(&n, x.data(), &one))};
   library.cdotc(&sum, &n, complex(x), &one, complex(y), &one);
   library.caxpy(&n, &a, complex(x), &one, complex(y), &one);
   library.srot(&n, x.data(), &one, y.data(), &one, &c, &s);
