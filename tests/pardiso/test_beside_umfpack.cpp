@@ -4,7 +4,7 @@
 #include "base/parallel.hpp"
 #include "dense/dense.hpp"
 #include "families/pardiso/pardiso.hpp"
-#include "tests/pardiso/applications.hpp"
+#include "tests/support/sparse.hpp"
 #include "tests/support/test.hpp"
 
 namespace quorin::pardiso {
@@ -106,23 +106,26 @@ int solve_by_umfpack(const System<Complex>& A, std::vector<Complex>& x) {
   return status;
 }
 
-struct Compared {
-  int compared = 0, singular = 0;  // kinds of matrices
-};
+bool is_symmetric(const test::SparseMatrix& S) {
+  const auto rows = compressed_rows(S), columns = compressed_columns(S);
+  return rows.starts == columns.starts && rows.indices == columns.indices && rows.re == columns.re &&
+         rows.im == columns.im;
+}
+
+int compared = 0, singular = 0;  // kinds of matrices
 
 // What is below half a unit of roundoff is no better than that. Of a singular matrix whose last pivot lies between
 // 1e-14 and 1e-13 of the norm, the default replaces it, which leaves as much where there is no solution.
 template <class T>
-Compared compare(const test::SparseMatrix& S, std::int32_t general, std::int32_t symmetric) {
+void compare(const test::SparseMatrix& S, std::int32_t general, std::int32_t symmetric) {
   constexpr int kDefault = 0;
   constexpr double kRoundoff = std::numeric_limits<double>::epsilon() / 2;
   const System<T> A(S);
   std::vector<T> x(A.b.size()), peer(x);
-  if (solve_by_umfpack(A, peer) != UMFPACK_OK) return {};
+  if (solve_by_umfpack(A, peer) != UMFPACK_OK) return;
   const double theirs = A.backward_error(peer);
-  int compared = 0, singular = 0;
   for (const std::int32_t mtype : {general, symmetric}) {
-    if (mtype == symmetric && !pardiso_test::is_symmetric(S)) continue;
+    if (mtype == symmetric && !is_symmetric(S)) continue;
     SCOPED_TRACE(testing::Message() << S.name << ", mtype " << mtype);
     const double most = 10 * std::max(theirs, kRoundoff);
     EXPECT_EQ(solve(A, mtype, kDefault, x), 0);
@@ -132,17 +135,13 @@ Compared compare(const test::SparseMatrix& S, std::int32_t general, std::int32_t
     EXPECT_LE(A.backward_error(x), most);
     ++singular;
   }
-  return {compared, singular};
 }
 
 TEST(BesideUmfpack, BackwardErrorsAreWithinTenTimes) {
   base::start_parallel();
   dense::start();
-  int compared = 0, singular = 0;
-  for (const test::SparseMatrix& S : pardiso_test::from_applications()) {
-    const Compared kinds = S.is_complex ? compare<Complex>(S, 13, 6) : compare<double>(S, 11, -2);
-    compared += kinds.compared;
-    singular += kinds.singular;
+  for (const test::SparseMatrix& S : test::from_applications(QUORIN_MATRICES_DIR)) {
+    S.is_complex ? compare<Complex>(S, 13, 6) : compare<double>(S, 11, -2);
   }
   EXPECT_GT(compared, 20);
   EXPECT_LE(singular, 1);

@@ -6,24 +6,6 @@
 namespace pardiso_test {
 namespace {
 
-// A call whose every argument may be replaced.
-struct Arguments {
-  int call(std::int32_t phase) const {
-    std::int32_t error = 77;
-    PARDISO(pt, maxfct, mnum, mtype, &phase, n, a, ia, ja, perm, nrhs, iparm, msglvl, b, x, &error);
-    return error;
-  }
-
-  explicit Arguments(Host<double>& h) : host(h) {}
-  Host<double>& host;
-  void** pt = host.pt.data();
-  const std::int32_t *maxfct = &host.maxfct, *mnum = &host.mnum, *mtype = &host.mtype, *n = &host.n;
-  const double* a = host.a.data();
-  const std::int32_t *ia = host.ia.data(), *ja = host.ja.data(), *nrhs = &host.nrhs, *msglvl = &host.msglvl;
-  std::int32_t *perm = host.perm.data(), *iparm = host.iparm.data();
-  double *b = host.b.data(), *x = host.x.data();
-};
-
 constexpr int kPhases[] = {11, 12, 13, 22, 23, 33, 331, 332, 333, 0, -1};
 
 // The state of a handle: what was done last that counts.
@@ -129,72 +111,32 @@ TEST(Misuse, WrongNumbers) {
   }
 }
 
-TEST(Misuse, NullWhereThePhaseDoesNotRead) {
-  Host<double> host(definite8());
-  {
-    Arguments call(host);
-    call.a = nullptr;
-    call.perm = nullptr;
-    call.nrhs = nullptr;
-    call.b = call.x = nullptr;
-    call.msglvl = nullptr;
-    EXPECT_EQ(call.call(11), 0);
-  }
-  {
-    Arguments call(host);
-    call.perm = nullptr;
-    call.nrhs = nullptr;
-    call.b = call.x = nullptr;
-    EXPECT_EQ(call.call(22), 0);
-  }
-  {
-    Arguments call(host);
-    call.a = nullptr;
-    call.ia = call.ja = nullptr;
-    call.perm = nullptr;
-    EXPECT_EQ(call.call(33), 0);
-    EXPECT_LT(backward_error(definite8(), host, host.b, host.x), 1e-14);
-  }
-  for (const int phase : {0, -1}) {
-    Arguments call(host);
-    call.maxfct = call.mtype = call.n = call.nrhs = call.msglvl = call.ia = call.ja = nullptr;
-    if (phase == -1) call.mnum = nullptr;
-    call.a = call.b = call.x = nullptr;
-    call.perm = call.iparm = nullptr;
-    EXPECT_EQ(call.call(phase), 0);
-  }
-}
-
 TEST(Misuse, NullWhereItReads) {
-  const auto without = [](int phase, auto remove) {
-    Host<double> host(unsymmetric8());
-    ASSERT_EQ(host.call(12), 0);
-    Arguments call(host);
-    remove(call);
-    EXPECT_EQ(call.call(phase), -1);
-    EXPECT_EQ(host.call(33), 0);  // the handle is as it was
-  };
-  for (const int phase : {11, 22, 33}) {
-    without(phase, [](Arguments& call) { call.maxfct = nullptr; });
-    without(phase, [](Arguments& call) { call.mnum = nullptr; });
-    without(phase, [](Arguments& call) { call.mtype = nullptr; });
-    without(phase, [](Arguments& call) { call.n = nullptr; });
-    without(phase, [](Arguments& call) { call.iparm = nullptr; });
-    without(phase, [](Arguments& call) { call.pt = nullptr; });
+  const std::pair<int, std::vector<int>> missing[] = {
+      {11, {1, 2, 3, 4, 6, 7, 8, 9, 12}},  // values for matching and scaling
+      {22, {1, 2, 3, 4, 6, 7, 12}},
+      {33, {1, 2, 3, 4, 6, 11, 12, 14, 15}},
+      {0, {3}}};
+  for (const auto& [phase, positions] : missing) {
+    for (const int position : positions) {
+      Host<double> host(unsymmetric8());
+      ASSERT_EQ(host.call(12), 0);
+      const auto at = [missed = position](int place, auto* argument) { return place == missed ? nullptr : argument; };
+      const std::int32_t wanted = phase;
+      std::int32_t error = 77;
+      PARDISO(at(1, host.pt.data()), at(2, &host.maxfct), at(3, &host.mnum), at(4, &host.mtype), &wanted,
+              at(6, &host.n), at(7, host.a.data()), at(8, host.ia.data()), at(9, host.ja.data()), host.perm.data(),
+              at(11, &host.nrhs), at(12, host.iparm.data()), &host.msglvl, at(14, host.b.data()), at(15, host.x.data()),
+              &error);
+      EXPECT_EQ(error, -1) << "phase " << phase << ", argument " << position;
+      EXPECT_EQ(host.call(33), 0) << "the handle is as it was";
+    }
   }
-  without(11, [](Arguments& call) { call.ia = nullptr; });
-  without(11, [](Arguments& call) { call.ja = nullptr; });
-  without(11, [](Arguments& call) { call.a = nullptr; });  // for matching and scaling
-  without(22, [](Arguments& call) { call.a = nullptr; });
-  without(33, [](Arguments& call) { call.b = nullptr; });
-  without(33, [](Arguments& call) { call.x = nullptr; });
-  without(33, [](Arguments& call) { call.nrhs = nullptr; });
-  without(0, [](Arguments& call) { call.mnum = nullptr; });
-  std::int32_t phase = -1;
-  PARDISO(nullptr, nullptr, nullptr, nullptr, &phase, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+  const std::int32_t release = -1;
+  PARDISO(nullptr, nullptr, nullptr, nullptr, &release, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
           nullptr, nullptr, nullptr, nullptr);
   sPARDISOINIT(nullptr, nullptr, nullptr);
-  pardiso_getdiag(nullptr, nullptr, nullptr, &phase, nullptr);
+  pardiso_getdiag(nullptr, nullptr, nullptr, &release, nullptr);
 }
 
 TEST(Misuse, ForeignHandles) {
@@ -333,14 +275,6 @@ TEST(Misuse, RowsThatWantToBePutRight) {
 }
 
 TEST(Misuse, SingularMatrices) {
-  // Rows 2 and 3 have entries in the same column only.
-  const Matrix structurally = {11, {1, 3, 4, 5}, {1, 2, 2, 2}, {1, 2, 3, 4}};
-  Host<double> host(structurally);
-  EXPECT_EQ(host.call(11), -6);
-  EXPECT_EQ(host.call(22), -1);
-  host.cell(13) = host.cell(11) = 0;
-  EXPECT_EQ(host.call(13), 0);
-  EXPECT_GT(host.cell(14), 0);
   // A diagonal matrix with a zero.
   for (const int mtype : {1, -2, 11}) {
     Host<double> diagonal(Matrix{mtype, {1, 2, 3, 4}, {1, 2, 3}, {1, 0, 3}});
@@ -355,11 +289,6 @@ TEST(Misuse, SingularMatrices) {
     zero.cell(11) = zero.cell(13) = 0;
     EXPECT_EQ(zero.call(12), -4) << mtype;
   }
-  // A symmetric one with a row of zeros: perturbed.
-  Host<double> zero_row(Matrix{-2, {1, 4, 5, 6}, {1, 2, 3, 2, 3}, {1, 0, 1, 0, 2}});
-  EXPECT_EQ(zero_row.call(13), 0);
-  EXPECT_GT(zero_row.cell(14), 0);
-  EXPECT_EQ(zero_row.cell(22) + zero_row.cell(23), 3);
 }
 
 TEST(Misuse, MatricesThatAreNotPositiveDefinite) {
@@ -369,7 +298,6 @@ TEST(Misuse, MatricesThatAreNotPositiveDefinite) {
   EXPECT_GE(host.cell(30), 1);
   EXPECT_LE(host.cell(30), 5);
   EXPECT_EQ(host.call(33), -1);
-  for (std::size_t k = 0; k < host.a.size(); ++k) host.a[k] = host.ja[k] == 1 ? 1.0 : 0.0;
   host.a = {9, -1, -3, 5, 9, 6, 4, 17, 5};
   EXPECT_EQ(host.call(23), 0);  // the analysis is still there
   EXPECT_EQ(host.cell(30), 0);
@@ -404,17 +332,6 @@ TEST(Misuse, AnalysingAgain) {
   EXPECT_EQ(host.call(11), -1);
   host.ia[0] = 1;
   EXPECT_EQ(host.call(23), 0);
-}
-
-TEST(Misuse, DefaultsOfABadType) {
-  std::array<void*, 64> pt;
-  std::array<std::int32_t, 64> iparm, expected;
-  pt.fill(&pt);
-  const std::int32_t bad = 14, general = 11;
-  sPARDISOINIT(pt.data(), &bad, iparm.data());
-  for (const void* word : pt) EXPECT_EQ(word, nullptr);
-  sPARDISOINIT(pt.data(), &general, expected.data());
-  EXPECT_EQ(iparm, expected);
 }
 
 }  // namespace

@@ -42,25 +42,30 @@ struct Touched {
   bool a, vectors;
 };
 
+// What a phase does not touch is such a page, or null.
 template <class T>
-void expect_solved_on_pages(const System& system, int base, Edge edge) {
+void expect_solved_on_pages(const System& system, int base, Edge edge, bool is_null) {
   Host<T> host(system.matrix, base);
-  std::transform(system.cases[0].b.begin(), system.cases[0].b.end(), host.b.begin(), from<T>);
   const Paged<void*> pt(std::vector<void*>(host.pt.begin(), host.pt.end()), edge);
   const Paged<std::int32_t> iparm({host.iparm.begin(), host.iparm.end()}, edge), ia(host.ia, edge), ja(host.ja, edge);
   const Paged<T> a(host.a, edge), b(host.b, edge), x(host.x, edge);
   const Paged<std::int32_t> nothing({0}, Edge::kBack);
-  const auto unused = [&nothing] { return static_cast<void*>(nothing.outside()); };
+  const auto unused = [&] { return is_null ? nullptr : static_cast<void*>(nothing.outside()); };
   const auto call = [&](std::int32_t phase, Touched touched) {
     const std::string what = system.name + ", phase " + std::to_string(phase);
     FaultReport::begin(what.c_str());
-    const bool reads_rows = phase > 0;
-    auto* const rows = static_cast<std::int32_t*>(unused());
+    const bool computes = phase > 0, reads_rows = computes && !(is_null && phase == 33);
+    auto* const none = static_cast<std::int32_t*>(unused());
+    // A phase may look at any number that there is.
+    const auto number = [&](const std::int32_t* given, bool is_needed) {
+      return is_needed || !is_null ? given : nullptr;
+    };
     std::int32_t error = 7;
-    PARDISO(pt.data(), &host.maxfct, &host.mnum, &host.mtype, &phase, &host.n, touched.a ? a.data() : unused(),
-            reads_rows ? ia.data() : rows, reads_rows ? ja.data() : rows, rows,
-            touched.vectors ? &host.nrhs : static_cast<std::int32_t*>(unused()), reads_rows ? iparm.data() : rows,
-            &host.msglvl, touched.vectors ? b.data() : unused(), touched.vectors ? x.data() : unused(), &error);
+    PARDISO(pt.data(), number(&host.maxfct, computes), number(&host.mnum, phase != -1), number(&host.mtype, computes),
+            &phase, number(&host.n, computes), touched.a ? a.data() : unused(), reads_rows ? ia.data() : none,
+            reads_rows ? ja.data() : none, none, touched.vectors ? &host.nrhs : none, computes ? iparm.data() : none,
+            number(&host.msglvl, false), touched.vectors ? b.data() : unused(), touched.vectors ? x.data() : unused(),
+            &error);
     EXPECT_EQ(error, 0) << what;
   };
   const bool is_matched = host.cell(13) != 0;
@@ -68,12 +73,7 @@ void expect_solved_on_pages(const System& system, int base, Edge edge) {
   call(22, {true, false});
   call(33, {false, true});
   EXPECT_EQ(b.values(), host.b) << system.name;
-  const std::vector<T> solution = x.values();
-  for (std::size_t i = 0; i < solution.size(); ++i) {
-    EXPECT_NEAR(std::abs(Complex(solution[i]) - system.cases[0].x[i]), 0.0,
-                100 * kEpsilon<T> * system.condition * (1 + std::abs(system.cases[0].x[i])))
-        << system.name;
-  }
+  EXPECT_LT(backward_error(system.matrix, host, host.b, x.values()), 1e3 * kEpsilon<T>) << system.name;
   for (const std::int32_t phase : {0, -1}) call(phase, {false, false});
   EXPECT_TRUE(pt.intact() && iparm.intact() && ia.intact() && ja.intact() && a.intact() && b.intact() && x.intact());
 }
@@ -81,8 +81,9 @@ void expect_solved_on_pages(const System& system, int base, Edge edge) {
 TEST(Pages, EachPhaseTouchesOnlyWhatIsItsOwn) {
   for (const System& system : systems()) {
     for (const Edge edge : {Edge::kFront, Edge::kBack}) {
-      for (const int base : {0, 1}) {
-        in_both_precisions(system.matrix.mtype, [&]<class T> { expect_solved_on_pages<T>(system, base, edge); });
+      for (const int variant : {0, 1, 2}) {
+        in_both_precisions(system.matrix.mtype,
+                           [&]<class T> { expect_solved_on_pages<T>(system, variant % 2, edge, variant == 2); });
       }
     }
   }

@@ -137,19 +137,6 @@ TEST(Substitutions, FromSeveralFactorizations) {
   EXPECT_EQ(host.call(33), 0);
 }
 
-// New values of the same pattern, with the analysis of the old ones.
-TEST(Substitutions, AfterARefactorization) {
-  Matrix A = matrix_of(quorin::test::convection_diffusion(12, 50.0), 11);
-  Host<double> host(A);
-  ASSERT_EQ(host.call(13), 0);
-  for (int round = 0; round < 3; ++round) {
-    for (std::size_t k = 0; k < host.a.size(); ++k)
-      host.a[k] *= 1.0 + 0.1 * std::cos(static_cast<double>(k + 7 * round));
-    ASSERT_EQ(host.call(23), 0);
-    EXPECT_LT(backward_error(A, host, host.b, host.x), 1e-14);
-  }
-}
-
 // Values of which the large ones stand elsewhere: rows are matched anew, where the old matching would leave tiny
 // pivots.
 TEST(Substitutions, AfterARefactorizationWithOtherLargeEntries) {

@@ -1,7 +1,5 @@
-// Graphs and matrices for the tests: grids, random ones, and those that come with the dependencies.
+// Graphs and matrices for the tests: grids, random ones and others.
 #pragma once
-
-#include <fstream>
 
 #include "sparse/sparse.hpp"
 #include "tests/support/sparse.hpp"
@@ -90,48 +88,6 @@ inline Matrix complete_bipartite(int a, int b) {
     for (int j = 0; j < b; ++j) edges.add(i, a + j);
   }
   return edges.matrix("bipartite");
-}
-
-// The pattern of a file of triplets, made square.
-inline Matrix read_triplets(const std::string& name, int base) {
-  quorin::test::SparseMatrix A = quorin::test::read_triplets(std::string(QUORIN_MATRICES_DIR) + "/" + name, base);
-  A.rows = A.columns = std::max(A.rows, A.columns);
-  return pattern_of(A, name);
-}
-
-// Compressed columns, as they stand in the file.
-inline Matrix read_columns(const std::string& name) {
-  std::ifstream file(std::string(QUORIN_MATRICES_DIR) + "/" + name);
-  std::string title;
-  std::getline(file, title);
-  int n = 0, jumbled = 0;
-  file >> n >> jumbled;
-  Matrix A{name, n, n, std::vector<int>(n + 1), {}};
-  for (int& start : A.starts) file >> start;
-  A.indices.resize(A.starts[n]);
-  for (int& index : A.indices) file >> index;
-  if (!file) throw std::runtime_error(name + " is not as expected");
-  return A;
-}
-
-inline std::vector<Matrix> real_matrices() {
-  std::vector<Matrix> all;
-  for (const char* name : {"bcsstk01", "bcsstk16", "fs_183_1", "west0067", "mhd1280b", "qc324", "young1c", "neumann",
-                           "mbeacxc", "ibm32a", "ibm32b", "t1"}) {
-    all.push_back(read_triplets(std::string("cxsparse/") + name, 0));
-  }
-  for (const char* name : {"GD99_cc", "w156", "impcol_a", "ctina", "arrow"}) {
-    all.push_back(read_triplets(std::string("klu/") + name + ".mtx", 1));
-  }
-  for (const char* name : {"bcsstk02.tri", "can___24.mtx", "n5"}) {
-    all.push_back(read_triplets(std::string("cholmod/") + name, 1));
-  }
-  for (int k = 1; k <= 30; ++k) {
-    all.push_back(read_columns("ldl/A" + std::to_string(100 + k).substr(1)));
-  }
-  // Some are wrong or empty on purpose.
-  std::erase_if(all, [](const Matrix& A) { return A.columns == 0 || !A.pattern().check(); });
-  return all;
 }
 
 inline Graph graph_of(const Matrix& A) {

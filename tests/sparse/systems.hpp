@@ -37,6 +37,40 @@ inline std::string text(const Kind& kind) { return "kind " + std::to_string(&kin
 constexpr Operation kOperations[] = {Operation::kPlain, Operation::kTransposed, Operation::kAdjoint,
                                      Operation::kConjugated};
 
+inline Matrix complete(int n) {
+  Edges edges(n);
+  for (int i = 0; i < n; ++i) {
+    for (int j = 0; j < i; ++j) edges.add(i, j);
+  }
+  return edges.matrix("complete");
+}
+
+inline std::vector<Matrix> patterns() {
+  Edges path(200), blocks(60), arrow(50);
+  for (int i = 0; i + 1 < 200; ++i) path.add(i, i + 1);
+  for (int i = 0; i < 60; ++i) {
+    for (int j = i / 7 * 7; j < i; ++j) blocks.add(i, j);
+  }
+  for (int i = 1; i < 50; ++i) arrow.add(i, 0);
+  return {Edges(0).matrix("none"),
+          Edges(1).matrix("one"),
+          Edges(2).add(0, 1).matrix("two"),
+          Edges(30).matrix("diagonal"),
+          complete(9),
+          complete(40),
+          complete(150),
+          path.matrix("path"),
+          blocks.matrix("blocks"),
+          arrow.matrix("arrow"),
+          grid(17, 13, 1, false),
+          grid(7, 7, 7, false),
+          random_matrix(90, 60, 1),
+          random_matrix(90, 200, 2),
+          random_matrix(90, 700, 3),
+          random_forest(80, 5, 3, 2),
+          complete_bipartite(12, 30)};
+}
+
 template <Scalar T>
 struct System {
   struct Entry {
@@ -136,6 +170,28 @@ System<T> dominant_system(const Matrix& pattern, Symmetry symmetry, bool is_defi
   return A;
 }
 
+// The solution for b, both in A's order; through the stages one by one if so said.
+template <Scalar T>
+std::vector<T> solution(const Plan& plan, const Factor<T>& factor, Operation operation, const std::vector<T>& b,
+                        int nrhs, int threads = 1, bool in_stages = false) {
+  const int n = plan.size(), ldx = n + 3;
+  std::vector<T> x(b.size()), work(static_cast<std::size_t>(ldx) * nrhs, T{7});
+  for (int r = 0; r < nrhs; ++r)
+    permute(n, plan.permutation(), b.data() + std::ptrdiff_t{r} * n, &work[std::size_t(r) * ldx]);
+  std::vector<Stage> stages = {Stage::kAll};
+  if (in_stages) stages = {Stage::kForward, Stage::kDiagonal, Stage::kBackward};
+  for (const Stage stage : stages) {
+    if (solve(factor, operation, stage, nrhs, work.data(), ldx, threads) != FactorOutcome::kDone) return {};
+  }
+  for (int r = 0; r < nrhs; ++r) {
+    permute_back(n, plan.permutation(), &work[std::size_t(r) * ldx], x.data() + std::ptrdiff_t{r} * n);
+    for (int i = n; i < ldx; ++i) {
+      if (work[std::size_t(r) * ldx + std::size_t(i)] != T{7}) return {};
+    }
+  }
+  return x;
+}
+
 // A, its plan and its factor. The pattern is in compressed columns.
 template <Scalar T>
 struct Solved {
@@ -174,25 +230,9 @@ struct Solved {
     return factor.compute(plan, assembly(panel_kind(options.factorization)), {values.data()}, options);
   }
 
-  // The solution for b, both in A's order; through the stages one by one if so said.
   std::vector<T> solution(Operation operation, const std::vector<T>& b, int nrhs, int threads = 1,
                           bool in_stages = false) const {
-    const int n = plan.size(), ldx = n + 3;
-    std::vector<T> x(b.size()), work(static_cast<std::size_t>(ldx) * nrhs, T{7});
-    for (int r = 0; r < nrhs; ++r)
-      permute(n, plan.permutation(), b.data() + std::ptrdiff_t{r} * n, &work[std::size_t(r) * ldx]);
-    std::vector<Stage> stages = {Stage::kAll};
-    if (in_stages) stages = {Stage::kForward, Stage::kDiagonal, Stage::kBackward};
-    for (const Stage stage : stages) {
-      if (solve(factor, operation, stage, nrhs, work.data(), ldx, threads) != FactorOutcome::kDone) return {};
-    }
-    for (int r = 0; r < nrhs; ++r) {
-      permute_back(n, plan.permutation(), &work[std::size_t(r) * ldx], x.data() + std::ptrdiff_t{r} * n);
-      for (int i = n; i < ldx; ++i) {
-        if (work[std::size_t(r) * ldx + std::size_t(i)] != T{7}) return {};
-      }
-    }
-    return x;
+    return test::solution(plan, factor, operation, b, nrhs, threads, in_stages);
   }
 
   // The largest backward error of solutions for `nrhs` random right-hand sides.

@@ -1,4 +1,4 @@
-// Files that are whole or refused: cut short, damaged, foreign, forged, on disks that fail, and in use by others.
+// Files that are whole or refused: cut short, damaged, foreign, forged, and in use by others.
 #include "sparse/numeric/checked_file.hpp"
 #include "tests/sparse/files.hpp"
 #include "tests/support/test.hpp"
@@ -66,30 +66,6 @@ TEST(CheckedFile, GivesBackWhatWasPut) {
   EXPECT_EQ(values, numbers(5));
 }
 
-TEST(BlockFile, IsReadAsFarAsItGoes) {
-  const Folder folder;
-  const std::string name = folder.file("a");
-  platform::BlockFile file;
-  EXPECT_FALSE(file.open(name.c_str()));
-  ASSERT_TRUE(file.create(name.c_str()));
-  EXPECT_TRUE(file.write(4, "abcdef", 6));
-  EXPECT_TRUE(file.write(2, "xy", 2));
-  EXPECT_EQ(file.size(), 10U);
-  char text[10] = {};
-  EXPECT_TRUE(file.read(2, text, 8));
-  EXPECT_EQ(std::string(text, 8), "xyabcdef");
-  for (const std::uint64_t place : {3, 10, 11}) EXPECT_FALSE(file.read(place, text, 8)) << place;
-  platform::BlockFile moved(std::move(file));
-  EXPECT_FALSE(file);  // NOLINT(bugprone-use-after-move)
-  EXPECT_TRUE(moved && moved.flush());
-  moved.close();
-  platform::BlockFile first, second;
-  EXPECT_TRUE(first.open(name.c_str()) && second.open(name.c_str()));
-  EXPECT_FALSE(file.create(name.c_str()));
-  EXPECT_FALSE(first.write(0, "z", 1));
-  EXPECT_EQ(second.size(), 10U);
-}
-
 TEST(CheckedFile, ThatIsNotWholeIsRefused) {
   const Folder folder;
   const std::string name = folder.file("a");
@@ -144,53 +120,6 @@ TEST(CheckedFile, WithHostileLengthsIsRefused) {
     EXPECT_EQ(values.size(), 0U);
     EXPECT_EQ(reader.get<double>(), 0);
     EXPECT_EQ(reader.complete(), FactorOutcome::kWrongFormat);
-  }
-}
-
-// The old file lasts until the new one takes its place, or is lost at once.
-TEST(CheckedFile, OnAFailingDiskLeavesNothingThatLooksWhole) {
-  const std::vector<double> old = numbers(3), large = numbers(20'000);
-  for (const Replacing replacing : {Replacing::kAtTheEnd, Replacing::kInPlace}) {
-    for (const bool broken : {false, true}) {
-      bool failed = true;
-      for (int k = 1; failed; ++k) {
-        SCOPED_TRACE("operation " + std::to_string(k));
-        const Folder folder;
-        const std::string name = folder.file("a");
-        ASSERT_EQ(write_file(name, old), FactorOutcome::kDone);
-        FactorOutcome outcome{};
-        {
-          const FailingDisk disk(k, broken);
-          outcome = write_file(name, large, replacing);
-          failed = FailingDisk::has_failed();
-        }
-        ASSERT_LT(k, 20);
-        if (failed) {
-          EXPECT_EQ(outcome, k == 1 ? FactorOutcome::kCannotOpen : FactorOutcome::kFileFailed);
-        } else {
-          EXPECT_EQ(outcome, FactorOutcome::kDone);
-        }
-        std::vector<double> values;
-        if (failed && replacing == Replacing::kInPlace && k > 1) {
-          EXPECT_EQ(folder.files(), 0);
-        } else {
-          EXPECT_EQ(folder.files(), 1);
-          EXPECT_EQ(read_file(name, values), FactorOutcome::kDone);
-          EXPECT_EQ(values, failed ? old : large);
-        }
-      }
-    }
-  }
-  const Folder folder;
-  ASSERT_EQ(write_file(folder.file("a"), large), FactorOutcome::kDone);
-  bool failed = true;
-  for (int k = 1; failed; ++k) {
-    std::vector<double> values;
-    const FailingDisk disk(k, false);
-    const FactorOutcome outcome = read_file(folder.file("a"), values);
-    failed = FailingDisk::has_failed();
-    const FactorOutcome expected = FailingDisk::was_opening() ? FactorOutcome::kCannotOpen : FactorOutcome::kFileFailed;
-    EXPECT_EQ(outcome, failed ? expected : FactorOutcome::kDone);
   }
 }
 

@@ -8,15 +8,6 @@ namespace {
 
 constexpr int kChosen[] = {0, 1, 3, 6, 8, 11};  // kinds: one of each factorization and pivot search
 
-std::vector<Matrix> patterns() {
-  Edges path(200), arrow(50);
-  for (int i = 0; i + 1 < 200; ++i) path.add(i, i + 1);
-  for (int i = 1; i < 50; ++i) arrow.add(i, 0);
-  return {Edges(0).matrix("none"),  Edges(1).matrix("one"),     Edges(30).matrix("diagonal"), path.matrix("path"),
-          arrow.matrix("arrow"),    complete_bipartite(12, 30), grid(40, 23, 1, false),       grid(9, 8, 7, false),
-          random_matrix(90, 60, 1), random_matrix(90, 700, 3),  random_forest(80, 5, 3, 2)};
-}
-
 // What stands in the panels and means something: of a symmetric one the lower triangle.
 template <Scalar T>
 std::vector<T> elements(const Factor<T>& factor) {
@@ -71,42 +62,32 @@ TYPED_TEST(Multifrontal, MakesTheSameFactors) {
   }
 }
 
-TYPED_TEST(Multifrontal, HasTheSameBitsOnAnyNumberOfThreads) {
+// Both methods, and solves with one right-hand side and with many.
+TYPED_TEST(Multifrontal, AndLeftLookingHaveTheSameBitsOnAnyNumberOfThreads) {
   using T = TypeParam;
   for (const Matrix& pattern : {grid(60, 55, 1, false), grid(13, 12, 11, false)}) {
     for (const int number : kChosen) {
       const Kind& kind = kKinds[number];
+      SCOPED_TRACE(text(kind));
       const System<T> A = dominant_system<T>(pattern, kind.symmetry, kind.is_definite(), 1.1, 9);
       Solved<T> solved(A);
-      std::vector<T> first;
-      for (const int threads : {1, 2, 3, 8}) {
-        ASSERT_EQ(solved.compute(kind.options(Method::kMultifrontal, threads)), FactorOutcome::kDone);
-        const std::vector<T> all = elements(solved.factor);
-        if (threads == 1) first = all;
-        EXPECT_EQ(std::memcmp(all.data(), first.data(), all.size() * sizeof(T)), 0) << threads;
+      const std::vector<T> b(static_cast<std::size_t>(A.n) * 40, T{3});
+      for (const Method method : {Method::kLeftLooking, Method::kMultifrontal}) {
+        std::vector<T> first;
+        for (const int threads : {1, 2, 3, 8}) {
+          ASSERT_EQ(solved.compute(kind.options(method, threads)), FactorOutcome::kDone);
+          std::vector<T> all = elements(solved.factor);
+          for (const int nrhs : {1, 40}) {
+            const std::vector<T> x =
+                solved.solution(Operation::kPlain, {b.begin(), b.begin() + std::ptrdiff_t{nrhs} * A.n}, nrhs, threads);
+            all.insert(all.end(), x.begin(), x.end());
+          }
+          if (threads == 1) first = all;
+          EXPECT_EQ(std::memcmp(all.data(), first.data(), all.size() * sizeof(T)), 0) << threads;
+        }
+        EXPECT_LE(solved.error(Operation::kTransposed, 2, 3), tolerance<T>(A.n));
       }
-      EXPECT_LE(solved.error(Operation::kPlain, 1), tolerance<T>(A.n));
     }
-  }
-}
-
-// Pivots that are not diagonal, whose number of each sign does not depend on the method.
-TYPED_TEST(Multifrontal, CountsTheSameSigns) {
-  using T = TypeParam;
-  for (const Matrix& pattern : {grid(12, 11, 1, false), random_matrix(90, 300, 4)}) {
-    System<T> A = dominant_system<T>(pattern, Symmetry::kHermitian, false, 0.3, 5);
-    for (std::size_t k = 0; k < A.entries.size(); ++k) {
-      if (A.entries[k].row == A.entries[k].column && k % 2 == 0) A.entries[k].value *= RealOf<T>{0.01F};
-    }
-    Solved<T> solved(A);
-    FactorOptions options{.factorization = Factorization::kLDLH, .pivoting = Pivoting::kBunchKaufman};
-    ASSERT_EQ(solved.compute(options), FactorOutcome::kDone);
-    const PivotCounts counts = solved.factor.report().pivots;
-    EXPECT_GT(counts.negative, 0);
-    options.method = Method::kMultifrontal;
-    ASSERT_EQ(solved.compute(options), FactorOutcome::kDone);
-    EXPECT_EQ(solved.factor.report().pivots.positive, counts.positive);
-    EXPECT_EQ(solved.factor.report().pivots.negative, counts.negative);
   }
 }
 

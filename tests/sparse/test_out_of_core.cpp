@@ -29,17 +29,6 @@ bool are_same_bits(const std::vector<T>& a, const std::vector<T>& b) {
   return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(T)) == 0;
 }
 
-// Solutions with a factor that was opened, for another plan than the one that it was made with.
-template <Scalar T>
-std::vector<T> solution(const Plan& plan, const Factor<T>& factor, std::vector<T> b, int nrhs) {
-  const int n = plan.size();
-  std::vector<T> x(b.size());
-  for (int r = 0; r < nrhs; ++r) permute(n, plan.permutation(), &b[std::size_t(r) * n], &x[std::size_t(r) * n]);
-  if (solve(factor, Operation::kPlain, Stage::kAll, nrhs, x.data(), n) != FactorOutcome::kDone) return {};
-  for (int r = 0; r < nrhs; ++r) permute_back(n, plan.permutation(), &x[std::size_t(r) * n], &b[std::size_t(r) * n]);
-  return b;
-}
-
 // What callers learn of a factor, and of its plan.
 template <Scalar T>
 std::vector<std::int64_t> what_is_told(const Plan& plan, const Factor<T>& factor) {
@@ -159,7 +148,7 @@ TYPED_TEST(OutOfCore, OpensAgainWithTheSameBits) {
       PanelFiles files;
       Factor<T> factor;
       ASSERT_EQ(Archive::open(name.c_str(), budget, files, plan, factor), FactorOutcome::kDone);
-      EXPECT_TRUE(are_same_bits(solution(plan, factor, b, 2), expected));
+      EXPECT_TRUE(are_same_bits(solution(plan, factor, Operation::kPlain, b, 2), expected));
       EXPECT_EQ(what_is_told(plan, factor), told);
       // A copy into one file, from the set and from memory.
       for (const bool from_memory : {false, true}) {
@@ -170,7 +159,7 @@ TYPED_TEST(OutOfCore, OpensAgainWithTheSameBits) {
           ASSERT_EQ(Archive::get(reader, plan), FactorOutcome::kDone);
           ASSERT_EQ(Archive::get(reader, plan, copy), FactorOutcome::kDone);
           ASSERT_EQ(reader.complete(), FactorOutcome::kDone);
-          EXPECT_TRUE(are_same_bits(solution(plan, copy, b, 2), expected));
+          EXPECT_TRUE(are_same_bits(solution(plan, copy, Operation::kPlain, b, 2), expected));
           EXPECT_EQ(what_is_told(plan, copy), told);
           reader.close();
         }
@@ -234,8 +223,8 @@ TEST(Archives, WithForgedNumbersAreRefusedOrSafe) {
   }
   int refused = 0;
   for (std::size_t place = 0; place + 4 <= body.size(); place += place < 1200 ? 4 : 100) {
-    for (const std::int32_t value : {-1, 0, 1, 2, 19, 20, 21, 1000, std::numeric_limits<std::int32_t>::max(),
-                                     std::numeric_limits<std::int32_t>::min()}) {
+    for (const std::int32_t value :
+         {-1, 0, 20, 21, std::numeric_limits<std::int32_t>::max(), std::numeric_limits<std::int32_t>::min()}) {
       refused += is_refused(place, value) ? 1 : 0;
     }
   }

@@ -1,4 +1,4 @@
-// Panels in files: budgets, sets that are whole or not at all, disks that fail, sets in use by others.
+// Panels in files: budgets, sets that are whole or not at all, sets in use by others.
 #include "sparse/numeric/panel_files.hpp"
 #include "tests/sparse/files.hpp"
 #include "tests/sparse/matrices.hpp"
@@ -248,48 +248,6 @@ TEST_F(PanelFilesTest, OfHostileSizesAreRefused) {
     write_contents(folder_.file("set.0"), "12345678");
     PanelFiles files;
     EXPECT_NE(files.open(folder_.file("set").c_str(), kPlenty), FactorOutcome::kDone) << &c - cases;
-  }
-}
-
-// Every operation on a file fails once, or that one and all that follow.
-TEST_F(PanelFilesTest, OnAFailingDiskLeaveNothingBehind) {
-  const std::uint64_t budget = bytes() / 4, part_bytes = 20'000;
-  const auto expected = [] {
-    if (!FailingDisk::has_failed()) return FactorOutcome::kDone;
-    return FailingDisk::was_opening() ? FactorOutcome::kCannotOpen : FactorOutcome::kFileFailed;
-  };
-  for (const bool broken : {false, true}) {
-    bool failed = true;
-    int harmless = 0;
-    for (int k = 1; failed; ++k) {
-      SCOPED_TRACE("operation " + std::to_string(k));
-      ASSERT_LT(k, 1000);
-      const Folder folder;
-      FactorOutcome outcome{};
-      {
-        const FailingDisk disk(k, broken);
-        outcome = make_set(folder.file("set"), budget, part_bytes);
-      }
-      failed = FailingDisk::has_failed();
-      if (failed && outcome == FactorOutcome::kDone) {
-        ++harmless;
-        EXPECT_EQ(read_set(folder.file("set")), FactorOutcome::kDone);
-        continue;
-      }
-      EXPECT_EQ(outcome, expected());
-      EXPECT_EQ(folder.files() == 0, failed);
-    }
-    EXPECT_EQ(harmless, broken ? 1 : 2) << "a look at what there was, and the lock of what is whole";
-    ASSERT_EQ(make_set(folder_.file("set"), budget, part_bytes), FactorOutcome::kDone);
-    failed = true;
-    for (int k = 1; failed; ++k) {
-      SCOPED_TRACE("operation " + std::to_string(k));
-      ASSERT_LT(k, 1000);
-      const FailingDisk disk(k, broken);
-      const FactorOutcome outcome = read_set(folder_.file("set"), budget);
-      EXPECT_EQ(outcome, expected());
-      failed = FailingDisk::has_failed();
-    }
   }
 }
 

@@ -1,4 +1,4 @@
-// Plans beside dense symbolic elimination, and assembled panels beside the dense matrix.
+// Plans beside dense symbolic elimination.
 #include "tests/sparse/systems.hpp"
 #include "tests/support/test.hpp"
 
@@ -7,8 +7,8 @@ namespace {
 
 using Dense = std::vector<std::vector<int>>;
 
-// Row lists of L by eliminating the dense pattern in the plan's order; the last `schur_size` steps are a clique.
-Dense dense_factor(const Graph& graph, const int* permutation, int schur_size) {
+// Row lists of L by eliminating the dense pattern in that order.
+Dense dense_factor(const Graph& graph, const int* permutation) {
   const int n = graph.size();
   Dense has(n, std::vector<int>(n, 0));
   std::vector<int> step(n);
@@ -18,7 +18,6 @@ Dense dense_factor(const Graph& graph, const int* permutation, int schur_size) {
   }
   for (int k = 0; k < n; ++k) {
     for (int i = k + 1; i < n; ++i) {
-      if (k >= n - schur_size) has[i][k] = 1;
       for (int j = k + 1; has[i][k] != 0 && j < n; ++j) has[i][j] |= has[j][k];
     }
   }
@@ -82,8 +81,8 @@ double entries_of(const Dense& L) {
 // places, stand in the panels; what stands there beside them are the zeros of merged supernodes.
 void check_rows(const Plan& plan, const Graph& graph, const int* given, double most_zeros) {
   const int n = plan.size();
-  const Dense L = dense_factor(graph, plan.permutation(), plan.schur_size());
-  const double entries = entries_of(dense_factor(graph, given, plan.schur_size()));
+  const Dense L = dense_factor(graph, plan.permutation());
+  const double entries = entries_of(dense_factor(graph, given));
   EXPECT_EQ(static_cast<double>(plan.entries()), entries);
   double stored = 0;
   for (int k = 0; k < n; ++k) {
@@ -152,16 +151,11 @@ TEST(Plan, LeavesASchurComplementAtTheEnd) {
     order_random(n, 5, given.ordering());
     for (const int schur_size : {1, 3, n / 2, n}) {
       if (schur_size > n || schur_size == 0) continue;
-      const Plan plan = plan_of(A, given.ordering(), {.schur_size = schur_size});
-      EXPECT_EQ(plan.eliminated(), plan.supernodes() - 1);
-      EXPECT_EQ(plan.columns(plan.eliminated()), schur_size);
-      EXPECT_EQ(plan.below_count(plan.eliminated()), 0);
-      for (int k = n - schur_size; k < n; ++k) EXPECT_EQ(plan.permutation()[k], given.permutation[k]);
-      check_rows(plan, graph_of(A), given.permutation.data(), 3.5);
-      check_tree(plan);
       const Plan cut = plan_of(A, given.ordering(), {.schur_size = schur_size, .most_elements = 1});
+      EXPECT_EQ(cut.eliminated(), cut.supernodes() - 1);
       EXPECT_EQ(cut.columns(cut.eliminated()), schur_size);
-      check_rows(cut, graph_of(A), given.permutation.data(), 3.5);
+      EXPECT_EQ(cut.below_count(cut.eliminated()), 0);
+      for (int k = n - schur_size; k < n; ++k) EXPECT_EQ(cut.permutation()[k], given.permutation[k]);
       check_tree(cut, true);
     }
   }
@@ -249,134 +243,6 @@ TEST(Plan, PutsTheChildrenInTheOrderOfTheSmallestStack) {
   const Plan plan = plan_of(A, given.ordering());
   ASSERT_EQ(plan.supernodes(), kBranches + 3);
   EXPECT_EQ(plan.stack_elements(), kLarge * kLarge + kShared * kShared);
-}
-
-// The dense matrix that the panels hold.
-template <Scalar T>
-std::vector<T> assembled(const Plan& plan, const Assembly& assembly, const Values<T>& values) {
-  const int n = plan.size();
-  std::vector<T> dense(static_cast<std::size_t>(n) * n);
-  const bool is_symmetric = assembly.panels() == PanelKind::kSymmetric;
-  for (int s = 0; s < plan.supernodes(); ++s) {
-    const int height = plan.height(assembly.panels(), s), rows = plan.rows(s), columns = plan.columns(s);
-    std::vector<T> panel(static_cast<std::size_t>(height) * columns, T{77});
-    assemble(plan, assembly, values, s, panel.data());
-    for (int c = 0; c < columns; ++c) {
-      for (int r = 0; r < height; ++r) {
-        const int k = plan.first(s) + c;
-        const int i = r < columns ? plan.first(s) + r : plan.below(s)[r < rows ? r - columns : r - rows];
-        const T value = panel[static_cast<std::size_t>(c) * height + r];
-        dense[static_cast<std::size_t>(r < rows ? k * n + i : i * n + k)] += value;
-        if (!is_symmetric || i == k) continue;
-        dense[static_cast<std::size_t>(i * n + k)] +=
-            assembly.symmetry() == Symmetry::kHermitian ? conjugate(value) : value;
-      }
-    }
-  }
-  return dense;
-}
-
-template <class T>
-class AssembledMatrix : public testing::Test {};
-TYPED_TEST_SUITE(AssembledMatrix, Scalars);
-
-TYPED_TEST(AssembledMatrix, IsThePermutedOneInAllForms) {
-  using T = TypeParam;
-  using Real = RealOf<T>;
-  std::mt19937 numbers(4);
-  for (const Matrix& graph_matrix : small_matrices()) {
-    SCOPED_TRACE(graph_matrix.name);
-    const int n = graph_matrix.columns;
-    const Graph graph = graph_of(graph_matrix);
-    Arrays given(n);
-    order_random(n, 3, given.ordering());
-    const Plan plan = plan_of(graph_matrix, given.ordering());
-    std::vector<int> row_position(n);
-    std::vector<Real> row_scale(n), column_scale(n);
-    for (int i = 0; i < n; ++i) {
-      row_position[i] = i;
-      row_scale[i] = static_cast<Real>(1 << (numbers() % 4));
-      column_scale[i] = static_cast<Real>(1 << (numbers() % 4));
-    }
-    std::shuffle(row_position.begin(), row_position.end(), numbers);
-    std::vector<int> row_at(n);
-    for (int i = 0; i < n; ++i) row_at[row_position[i]] = i;
-
-    for (int variant = 0; variant < 48; ++variant) {
-      const bool is_unsymmetric = variant % 2 == 1, by_rows = variant / 2 % 2 == 1, is_scaled = variant / 24 == 1;
-      const auto symmetry = static_cast<Symmetry>(variant / 4 % 3);
-      const auto read = static_cast<Triangle>(variant / 4 / 3 % 2 == 0 ? 0 : 1);
-      const bool is_permuted = symmetry == Symmetry::kGeneral && is_unsymmetric && read == Triangle::kAll;
-      if (!is_unsymmetric && symmetry == Symmetry::kGeneral) continue;
-      // Entries on the graph, some of them twice; with mirror images, of either triangle.
-      Edges edges(0);
-      std::vector<std::vector<int>> lists(n);
-      for (int v = 0; v < n; ++v) {
-        lists[v].push_back(is_permuted && !by_rows ? row_at[v] : v);
-        for (const int w : graph.neighbours(v)) {
-          if (numbers() % 2 == 0) lists[v].push_back(is_permuted && !by_rows ? row_at[w] : w);
-          if (numbers() % 8 == 0) lists[v].push_back(lists[v].back());
-        }
-      }
-      if (is_permuted && by_rows) {
-        std::vector<std::vector<int>> permuted(n);
-        for (int v = 0; v < n; ++v) permuted[row_at[v]] = lists[v];
-        lists = permuted;
-      }
-      const Matrix A = from_columns("entries", n, lists);
-      std::vector<T> values(A.indices.size());
-      for (T& value : values) value = random_value<T>(numbers);
-
-      std::vector<T> expected(static_cast<std::size_t>(n) * n);
-      std::vector<Real> sums(n);
-      const auto& scale_right = symmetry == Symmetry::kGeneral ? column_scale : row_scale;
-      for (int list = 0; list < n; ++list) {
-        for (int k = A.starts[list]; k < A.starts[list + 1]; ++k) {
-          const int i = by_rows ? list : A.indices[k], j = by_rows ? A.indices[k] : list;
-          if (read == Triangle::kLower && i < j) continue;
-          const T value = is_scaled ? values[k] * (row_scale[i] * scale_right[j]) : values[k];
-          const int row = plan.inverse()[is_permuted ? row_position[i] : i], column = plan.inverse()[j];
-          expected[static_cast<std::size_t>(column * n + row)] += value;
-          if (symmetry == Symmetry::kGeneral || row == column) continue;
-          expected[static_cast<std::size_t>(row * n + column)] +=
-              symmetry == Symmetry::kHermitian ? conjugate(value) : value;
-        }
-      }
-      Assembly assembly;
-      ASSERT_EQ(assembly.build(plan, A.pattern(),
-                               {.panels = is_unsymmetric ? PanelKind::kUnsymmetric : PanelKind::kSymmetric,
-                                .by_rows = by_rows,
-                                .read = read,
-                                .symmetry = symmetry,
-                                .row_position = is_permuted ? row_position.data() : nullptr}),
-                Outcome::kDone);
-      const Values<T> scaled{values.data(), is_scaled ? row_scale.data() : nullptr,
-                             is_scaled ? scale_right.data() : nullptr};
-      std::vector<T> dense = assembled(plan, assembly, scaled);
-      if (symmetry == Symmetry::kHermitian && !is_unsymmetric) {
-        for (int i = 0; i < n; ++i) dense[i * n + i] = expected[i * n + i];  // whose imaginary part is nobody's
-      }
-      EXPECT_EQ(dense, expected) << variant;
-
-      std::vector<Real> scratch(n);
-      EXPECT_GT(largest_row_sum(plan, assembly, scaled, scratch.data()), n == 0 ? -1 : 0);
-      if (n == 0) continue;
-      values[0] = std::numeric_limits<Real>::quiet_NaN();
-      if (A.starts[1] > 0 && read == Triangle::kAll) {
-        EXPECT_EQ(largest_row_sum(plan, assembly, scaled, scratch.data()), -1);
-      }
-    }
-  }
-}
-
-TEST(Assembly, RefusesEntriesOutsideOfThePlan) {
-  Arrays given(3);
-  order_identity(3, given.ordering());
-  const Plan plan = plan_of(Edges(3).add(0, 1).matrix("planned"), given.ordering());
-  Assembly assembly;
-  EXPECT_EQ(assembly.build(plan, Edges(3).add(0, 2).matrix("other").pattern(), {}), Outcome::kBadPattern);
-  EXPECT_EQ(assembly.build(plan, Edges(2).matrix("smaller").pattern(), {}), Outcome::kBadPattern);
-  EXPECT_EQ(assembly.build(plan, Edges(3).add(0, 1).matrix("planned").pattern(), {}), Outcome::kDone);
 }
 
 }  // namespace

@@ -89,27 +89,6 @@ TEST(Preprocess, MakesDiagonalsOfOnesInGeneralMatrices) {
   }
 }
 
-// Nothing but rows 0 to 6 and columns 0 to 6 may be matched with each other, though none of them has a diagonal entry.
-TEST(Preprocess, MatchesInsideTheBlockThatASchurComplementLeaves) {
-  SparseMatrix A{"block", 10, 10, {}};
-  const int rows[][3] = {{4, 7, 8}, {0, 5, 7}, {1, 6, 8}, {0, 2, 7}, {1, 2, 8}, {2, 3, 4}};
-  const double values[][3] = {{-1, 1, 1}, {1, 1, 5.5}, {1, 1, 4}, {1, -1, -2}, {1, -1, -4}, {1, -1, -6}};
-  for (int i = 0; i < 6; ++i) {
-    for (int k = 0; k < 3; ++k) A.add(i, rows[i][k], values[i][k]);
-  }
-  A.add(6, 3), A.add(7, 5), A.add(8, 6), A.add(9, 4);
-  const int last[] = {7, 8, 9};
-  const TypedMatrix<double> stored(transposed(A));
-  const PreprocessOptions options{
-      .by_rows = true, .scales = true, .matches = true, .last = last, .last_are_schur = true};
-  Preprocessing<double> result;
-  ASSERT_EQ(preprocess(stored.matrix(), options, result), MatchingOutcome::kDone);
-  EXPECT_EQ(result.rank, 7);
-  int diagonal = 0;
-  for (const auto& [i, j, value] : A.entries) diagonal += i < 7 && result.row_position[i] == j ? 1 : 0;
-  EXPECT_EQ(diagonal, 7);
-}
-
 TEST(Preprocess, PairsUnknownsOfSymmetricMatrices) {
   constexpr int n = 80;
   for (unsigned seed = 0; seed < 16; ++seed) {
@@ -151,45 +130,6 @@ TEST(Preprocess, PairsUnknownsOfSymmetricMatrices) {
       const bool is_apart = is_schur && (result.inverse[i] >= n - 3 || result.inverse[j] >= n - 3);
       EXPECT_LE(is_apart ? 0 : std::abs(value) * result.row_scale[i] * result.row_scale[j], 1 + 1e-12);
     }
-  }
-}
-
-TEST(Preprocess, TakesAGivenOrderAndRefusesWhatIsNone) {
-  const int n = 9;
-  const TypedMatrix<double> matrix(random_square(n, 3, false, 1));
-  std::vector<int> order = {8, 1, 6, 3, 4, 5, 2, 7, 0};
-  const int last[] = {6};
-  PreprocessOptions options{.ordering = OrderingMethod::kGiven, .permutation = order.data()};
-  Preprocessing<double> result;
-  ASSERT_EQ(preprocess(matrix.matrix(), options, result), MatchingOutcome::kDone);
-  EXPECT_EQ(std::vector<int>(result.permutation.data(), result.permutation.data() + n), order);
-  EXPECT_TRUE(is_order(result, n));
-  EXPECT_EQ(result.row_scale.data(), nullptr);
-  EXPECT_EQ(result.row_position.data(), nullptr);
-  options.last = last;
-  ASSERT_EQ(preprocess(matrix.matrix(), options, result), MatchingOutcome::kDone);
-  EXPECT_EQ(std::vector<int>(result.permutation.data(), result.permutation.data() + n),
-            (std::vector<int>{8, 1, 3, 4, 5, 2, 7, 0, 6}));
-  for (const int bad : {-1, n, 1}) {
-    order[0] = bad;
-    EXPECT_EQ(preprocess(matrix.matrix(), options, result), MatchingOutcome::kBadPattern);
-  }
-  EXPECT_EQ(result.permutation[0], 8) << "what was there remains";
-}
-
-// A column of zeros: no row can be put on its diagonal, but what there is can be scaled.
-TEST(Preprocess, ScalesSingularMatricesAndPermutesThemNot) {
-  SparseMatrix A = random_square(20, 3, false, 3);
-  for (auto& entry : A.entries) entry.value *= entry.column == 4 ? 0.0 : 1.0;
-  const TypedMatrix<double> matrix(A);
-  Preprocessing<double> result;
-  EXPECT_EQ(preprocess(matrix.matrix(), {.scales = true, .matches = true}, result),
-            MatchingOutcome::kStructurallySingular);
-  EXPECT_EQ(result.rank, 19);
-  ASSERT_EQ(preprocess(matrix.matrix(), {.scales = true}, result), MatchingOutcome::kDone);
-  EXPECT_EQ(result.rank, 19);
-  for (const auto& [i, j, value] : A.entries) {
-    EXPECT_LE(std::abs(value) * result.row_scale[i] * result.column_scale[j], 1 + 1e-12);
   }
 }
 

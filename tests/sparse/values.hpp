@@ -30,20 +30,4 @@ struct TypedMatrix {
   std::vector<T> values;
 };
 
-#if defined(QUORIN_MATRICES_DIR)
-// Real matrices of applications that come with the dependencies.
-inline std::vector<quorin::test::SparseMatrix> matrices_with_values() {
-  std::vector<quorin::test::SparseMatrix> all;
-  for (const char* name : {"bcsstk01", "bcsstk16", "fs_183_1", "west0067", "mhd1280b", "mbeacxc", "ibm32a", "t1"}) {
-    all.push_back(quorin::test::read_triplets(std::string(QUORIN_MATRICES_DIR) + "/cxsparse/" + name, 0));
-    all.back().name = name;
-  }
-  for (const char* name : {"GD99_cc", "w156", "impcol_a", "ctina", "arrow"}) {
-    all.push_back(quorin::test::read_triplets(std::string(QUORIN_MATRICES_DIR) + "/klu/" + name + ".mtx", 1));
-    all.back().name = name;
-  }
-  return all;
-}
-#endif
-
 }  // namespace quorin::sparse::test

@@ -1,5 +1,6 @@
 #include "tests/support/sparse.hpp"
 
+#include <filesystem>
 #include <fstream>
 
 #include "tests/support/standard.hpp"
@@ -41,7 +42,7 @@ std::ifstream opened(const std::string& path) {
 // `count` fields of the width that a Fortran format like (16I5) or (1P3D24.15) gives.
 std::vector<std::string> read_fields(std::istream& file, const std::string& format, std::size_t count) {
   // The letter of the last edit descriptor, past a scale factor like 1P.
-  const std::size_t letter = format.find_first_of("IDE"), scale = format.find('P');
+  const std::size_t letter = format.find_first_of("IDEide"), scale = format.find('P');
   const std::size_t first = scale == std::string::npos ? format.find('(') + 1 : scale + 1;
   const std::size_t per_line = std::stoul(format.substr(first)), width = std::stoul(format.substr(letter + 1));
   std::vector<std::string> fields;
@@ -54,6 +55,33 @@ std::vector<std::string> read_fields(std::istream& file, const std::string& form
 double to_double(std::string field) {
   std::replace(field.begin(), field.end(), 'D', 'E');
   return std::stod(field);
+}
+
+// The full matrix of the upper triangle in a file of columns: a line of text; the size and a number; starts, rows,
+// values. Entries may repeat. Empty for files that are wrong on purpose.
+SparseMatrix read_upper_columns(const std::string& path) {
+  std::ifstream file = opened(path);
+  std::string line;
+  std::getline(file, line);
+  if (line.find("invalid") != std::string::npos) return {};
+  int n = 0, ignored = 0;
+  file >> n >> ignored;
+  std::vector<std::size_t> starts(static_cast<std::size_t>(n) + 1);
+  for (auto& start : starts) file >> start;
+  std::vector<int> rows(starts.back());
+  for (int& row : rows) file >> row;
+  SparseMatrix A;
+  A.rows = A.columns = n;
+  A.name = path.substr(path.find_last_of('/') + 1);
+  for (std::size_t j = 0, k = 0; j < static_cast<std::size_t>(n); ++j) {
+    for (; k < starts[j + 1]; ++k) {
+      double value = 0.0;
+      file >> value;
+      if (rows[k] <= static_cast<int>(j)) A.add(rows[k], static_cast<int>(j), value);
+    }
+  }
+  A.mirror();
+  return A;
 }
 
 }  // namespace
@@ -200,6 +228,27 @@ SparseMatrix read_harwell_boeing(const std::string& path, std::string* type) {
   if (A.rows != stored_rows) throw std::runtime_error("an entry outside of the matrix " + path);
   if (type != nullptr) *type = letters;
   return A;
+}
+
+std::vector<SparseMatrix> from_applications(const std::string& directory) {
+  std::vector<SparseMatrix> all;
+  for (const std::string folder : {"cholmod", "cxsparse", "klu", "ldl", "umfpack"}) {
+    for (const auto& file : std::filesystem::directory_iterator(directory + "/" + folder)) {
+      const std::string path = file.path().string();
+      if (folder == "cholmod" && file.path().extension() != ".rsa") continue;
+      std::string type = "RUA";
+      SparseMatrix A = folder == "ldl"                              ? read_upper_columns(path)
+                       : folder == "umfpack" || folder == "cholmod" ? read_harwell_boeing(path, &type)
+                                                                    : read_triplets(path, folder == "klu" ? 1 : 0);
+      if (type[0] == 'P') {
+        for (auto& e : A.entries) e.value = e.row == e.column ? 9.5 : 1.0 / (1 + e.row + 2 * e.column);
+      }
+      if (type[1] == 'S') A.mirror();
+      A.name = folder + "/" + A.name;
+      if (A.rows == A.columns && A.rows > 1) all.push_back(std::move(A));
+    }
+  }
+  return all;
 }
 
 double factor_entries(int n, const int* starts, const int* rows, const int* permutation) {

@@ -59,6 +59,9 @@ SparseMatrix read_triplets(const std::string& path, int base = 0);
 // triangle, of a pattern ones.
 SparseMatrix read_harwell_boeing(const std::string& path, std::string* type = nullptr);
 
+// The square matrices that come with the dependencies, with values that are made up where a file has none.
+std::vector<SparseMatrix> from_applications(const std::string& directory);
+
 // --- Measured --------------------------------------------------------------------------------------------------------
 
 // Entries of the Cholesky factor, diagonal included, of a symmetric n x n matrix whose lower triangle's columns are
