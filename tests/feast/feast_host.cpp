@@ -1,6 +1,7 @@
 #include "tests/feast/feast_host.hpp"
 
 #include "quorin/feast.h"
+#include "tests/support/index_form.hpp"
 #include "tests/support/standard.hpp"
 
 extern "C" {
@@ -48,7 +49,10 @@ double sum_of_terms(const SparseMatrix& M, const std::vector<Wide>& x) {
   return sum;
 }
 
-quorin_complex* as_c(Complex* x) { return reinterpret_cast<quorin_complex*>(x); }
+struct ComplexArray {
+  std::vector<Complex>& values;
+  quorin_complex* data() const { return reinterpret_cast<quorin_complex*>(values.data()); }
+};
 
 }  // namespace
 
@@ -133,17 +137,19 @@ void solve(const Problem& problem, Call& call, bool as_complex) {
   call.res.assign(to_size(call.m0), -7);
   call.x.assign(room, -7);
   std::copy_n(call.guess.begin(), std::min(room, call.guess.size()), call.x.begin());
+  using quorin::test::call_index_form;
   if (as_complex) {
-    const Csr<Complex> A = csr<Complex>(problem.A, call.uplo), B = csr<Complex>(problem.B, call.uplo);
-    const auto values = [](const Csr<Complex>& M) { return reinterpret_cast<const quorin_complex*>(M.values.data()); };
+    Csr<Complex> A = csr<Complex>(problem.A, call.uplo), B = csr<Complex>(problem.B, call.uplo);
     if (problem.is_generalized()) {
-      cfeast_hcsrgv(&call.uplo, &n, values(A), A.starts.data(), A.columns.data(), values(B), B.starts.data(),
-                    B.columns.data(), call.fpm.data(), &call.epsout, &call.loop, &call.emin, &call.emax, &call.m0,
-                    call.e.data(), as_c(call.x.data()), &call.m, call.res.data(), &call.info);
+      const quorin_complex* const a = ComplexArray{A.values}.data();
+      constexpr int kIgnored = -1000000;
+      call_index_form(cfeast_hcsrgv_Idx, &call.uplo, &n, a, kIgnored, A.starts, A.columns, ComplexArray{B.values},
+                      B.starts, B.columns, call.fpm, &call.epsout, &call.loop, &call.emin, &call.emax, &call.m0, call.e,
+                      ComplexArray{call.x}, &call.m, call.res, &call.info);
     } else {
-      cfeast_hcsrev(&call.uplo, &n, values(A), A.starts.data(), A.columns.data(), call.fpm.data(), &call.epsout,
-                    &call.loop, &call.emin, &call.emax, &call.m0, call.e.data(), as_c(call.x.data()), &call.m,
-                    call.res.data(), &call.info);
+      call_index_form(cfeast_hcsrev_Idx, &call.uplo, &n, ComplexArray{A.values}, A.starts, A.columns, call.fpm,
+                      &call.epsout, &call.loop, &call.emin, &call.emax, &call.m0, call.e, ComplexArray{call.x}, &call.m,
+                      call.res, &call.info);
     }
     return;
   }
@@ -151,13 +157,12 @@ void solve(const Problem& problem, Call& call, bool as_complex) {
   std::vector<float> x;
   for (const Complex value : call.x) x.push_back(value.real());
   if (problem.is_generalized()) {
-    sfeast_scsrgv(&call.uplo, &n, A.values.data(), A.starts.data(), A.columns.data(), B.values.data(), B.starts.data(),
-                  B.columns.data(), call.fpm.data(), &call.epsout, &call.loop, &call.emin, &call.emax, &call.m0,
-                  call.e.data(), x.data(), &call.m, call.res.data(), &call.info);
+    call_index_form(sfeast_scsrgv_Idx, &call.uplo, &n, A.values, A.starts, A.columns, B.values, B.starts, B.columns,
+                    call.fpm, &call.epsout, &call.loop, &call.emin, &call.emax, &call.m0, call.e, x, &call.m, call.res,
+                    &call.info);
   } else {
-    sfeast_scsrev(&call.uplo, &n, A.values.data(), A.starts.data(), A.columns.data(), call.fpm.data(), &call.epsout,
-                  &call.loop, &call.emin, &call.emax, &call.m0, call.e.data(), x.data(), &call.m, call.res.data(),
-                  &call.info);
+    call_index_form(sfeast_scsrev_Idx, &call.uplo, &n, A.values, A.starts, A.columns, call.fpm, &call.epsout,
+                    &call.loop, &call.emin, &call.emax, &call.m0, call.e, x, &call.m, call.res, &call.info);
   }
   std::copy(x.begin(), x.end(), call.x.begin());
 }

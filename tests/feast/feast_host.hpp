@@ -58,7 +58,7 @@ struct Call {
   std::vector<Complex> guess;
 };
 
-// Calls the routine for the problem's kind; a real problem may also be solved as a complex one.
+// Calls the index form for the problem's kind; a real problem may also be solved as a complex one.
 void solve(const Problem& problem, Call& call, bool as_complex);
 inline void solve(const Problem& problem, Call& call) { solve(problem, call, problem.is_complex()); }
 

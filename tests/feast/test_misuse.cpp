@@ -41,48 +41,24 @@ struct Spoiled {
   int position(int of_standard) const { return of_standard + (is_generalized && of_standard > 5 ? 3 : 0); }
 
   int run() {
-    int place = 0;
-    const auto next = [&]<class T>(T* argument) {
-      ++place;
-      return place == missing ? nullptr : argument;
-    };
-    const auto as_complex = [](float* values_) { return reinterpret_cast<quorin_complex*>(values_); };
-    auto* const uplo_ = next(&uplo);
-    auto* const n_ = next(&n);
-    auto* const a_ = next(a.data());
-    auto* const ia_ = next(ia.data());
-    auto* const ja_ = next(ja.data());
-    float* b_ = nullptr;
-    std::int32_t *ib_ = nullptr, *jb_ = nullptr;
-    if (is_generalized) {
-      b_ = next(b.data());
-      ib_ = next(ib.data());
-      jb_ = next(jb.data());
-    }
-    auto* const fpm_ = next(fpm.data());
-    auto* const epsout_ = next(&epsout);
-    auto* const loop_ = next(&loop);
-    auto* const emin_ = next(&emin);
-    auto* const emax_ = next(&emax);
-    auto* const m0_ = next(&m0);
-    auto* const e_ = next(e.data());
-    auto* const x_ = next(x.data());
-    auto* const m_ = next(&m);
-    auto* const res_ = next(res.data());
-    auto* const info_ = next(&info);
-    if (is_complex && is_generalized) {
-      cfeast_hcsrgv(uplo_, n_, as_complex(a_), ia_, ja_, as_complex(b_), ib_, jb_, fpm_, epsout_, loop_, emin_, emax_,
-                    m0_, e_, as_complex(x_), m_, res_, info_);
-    } else if (is_complex) {
-      cfeast_hcsrev(uplo_, n_, as_complex(a_), ia_, ja_, fpm_, epsout_, loop_, emin_, emax_, m0_, e_, as_complex(x_),
-                    m_, res_, info_);
-    } else if (is_generalized) {
-      sfeast_scsrgv(uplo_, n_, a_, ia_, ja_, b_, ib_, jb_, fpm_, epsout_, loop_, emin_, emax_, m0_, e_, x_, m_, res_,
-                    info_);
-    } else {
-      sfeast_scsrev(uplo_, n_, a_, ia_, ja_, fpm_, epsout_, loop_, emin_, emax_, m0_, e_, x_, m_, res_, info_);
-    }
+    is_complex ? run_as<quorin_complex>(cfeast_hcsrev, cfeast_hcsrgv) : run_as<float>(sfeast_scsrev, sfeast_scsrgv);
     return info;
+  }
+  template <class T, class Standard, class Generalized>
+  void run_as(Standard* standard, Generalized* generalized) {
+    const auto at = [this](int place, auto* argument) { return place == missing ? nullptr : argument; };
+    const auto numbers = [](std::vector<float>& parts) { return reinterpret_cast<T*>(parts.data()); };
+    const std::tuple matrix(at(1, &uplo), at(2, &n), at(3, numbers(a)), at(4, ia.data()), at(5, ja.data()));
+    const std::tuple rest(at(position(6), fpm.data()), at(position(7), &epsout), at(position(8), &loop),
+                          at(position(9), &emin), at(position(10), &emax), at(position(11), &m0),
+                          at(position(12), e.data()), at(position(13), numbers(x)), at(position(14), &m),
+                          at(position(15), res.data()), at(position(16), &info));
+    if (is_generalized) {
+      const std::tuple second(at(6, numbers(b)), at(7, ib.data()), at(8, jb.data()));
+      std::apply(generalized, std::tuple_cat(matrix, second, rest));
+    } else {
+      std::apply(standard, std::tuple_cat(matrix, rest));
+    }
   }
 
   // The status, and that nothing but m and loop is written.
@@ -120,12 +96,22 @@ void expect_for_each(int status, const std::function<void(Spoiled&)>& spoil) {
   });
 }
 
+// The plain forms compute what the index forms do.
 TEST(Misuse, TheUnspoiledCallSucceeds) {
   for (const bool is_complex : {false, true}) {
     for (const bool is_generalized : {false, true}) {
       Spoiled call(is_complex, is_generalized);
       EXPECT_EQ(call.run(), 0);
       EXPECT_GE(call.m, 2);
+      Call expected(call.emin, call.emax, 5);
+      solve(make_problem("", second_difference(5), is_generalized ? diagonal({1, 2, 1, 2, 1}) : SparseMatrix()),
+            expected, is_complex);
+      EXPECT_EQ(call.m, expected.m);
+      EXPECT_EQ(call.e, expected.e);
+      EXPECT_EQ(call.res, expected.res);
+      for (std::size_t i = 0; i < 5 * static_cast<std::size_t>(call.m); ++i) {
+        EXPECT_EQ(call.x[is_complex ? 2 * i : i], expected.x[i].real());
+      }
     }
   }
 }
