@@ -14,8 +14,9 @@ void* __wrap_calloc(std::size_t count, std::size_t bytes) {
 }
 void* __wrap_realloc(void* block, std::size_t bytes) {
   if (heap.refuses()) return nullptr;
+  const bool is_counted = block == nullptr || heap.forget(block);
   void* const moved = __real_realloc(block, bytes);
-  return block == nullptr ? heap.count(moved, bytes) : moved;
+  return is_counted ? heap.count(moved, bytes) : moved;
 }
 void __wrap_free(void* block) {
   heap.forget(block);

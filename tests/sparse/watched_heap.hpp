@@ -34,15 +34,16 @@ struct Heap {
     return block;
   }
   // What was there before is not counted: a worker may give back then what it was started with.
-  void forget(void* block) {
-    if (!watches || block == nullptr) return;
+  bool forget(void* block) {
+    if (!watches || block == nullptr) return false;
     for (Block& entry : blocks) {
       if (entry.address != block) continue;
       bytes -= entry.bytes;
       entry = {};
       --live;
-      break;
+      return true;
     }
+    return false;
   }
 };
 extern Heap heap;
