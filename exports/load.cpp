@@ -6,6 +6,7 @@
 #include "families/umfpack_single/umfpack_single.hpp"
 #include "platform/floating_point.hpp"
 #include "platform/load_hooks.hpp"
+#include "sparse/orderings/dissection.hpp"
 
 // Frees what the C++ runtime keeps for exceptions, which it holds until the process ends otherwise; a library that is
 // loaded again and again must not leave it behind.
@@ -37,6 +38,7 @@ void on_unload() noexcept {
   base::stop_parallel();
   give_back_buffers();
   dense::stop();
+  sparse::stop_orderings();
   stop_floating_point();
   __gnu_cxx::__freeres();
 }

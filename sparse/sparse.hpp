@@ -10,6 +10,7 @@
 #include "sparse/numeric/refinement.hpp"
 #include "sparse/numeric/schur.hpp"
 #include "sparse/numeric/solve.hpp"
+#include "sparse/orderings/dissection.hpp"
 #include "sparse/orderings/minimum_degree.hpp"
 #include "sparse/orderings/orderings.hpp"
 #include "sparse/pattern/compressed.hpp"

@@ -82,7 +82,7 @@ sparse::Outcome DirectSolver<T>::order(const sparse::Graph& graph, OrderingMetho
                                        const sparse::Ordering& ordering) {
   using sparse::Outcome;
   if (method == OrderingMethod::kMinimumDegree) return sparse::order_minimum_degree(graph, ordering);
-  if (method == OrderingMethod::kNestedDissection || is_mesh(graph)) return sparse::order_metis(graph, ordering);
+  if (method == OrderingMethod::kNestedDissection || is_mesh(graph)) return sparse::order_dissection(graph, ordering);
   const int n = graph.size();
   base::Workspace<int> memory(2 * static_cast<std::size_t>(n));
   if (!memory) return Outcome::kOutOfMemory;
@@ -92,7 +92,7 @@ sparse::Outcome DirectSolver<T>::order(const sparse::Graph& graph, OrderingMetho
     if (which == 0) {
       outcome = sparse::order_minimum_degree(graph, ordering);
     } else {
-      of_other = sparse::order_metis(graph, other);
+      of_other = sparse::order_dissection(graph, other);
     }
   });
   if (outcome != Outcome::kDone || of_other != Outcome::kDone) return outcome != Outcome::kDone ? outcome : of_other;

@@ -5,6 +5,7 @@
 #include <numeric>
 #include <utility>
 
+#include "sparse/orderings/dissection.hpp"
 #include "sparse/orderings/minimum_degree.hpp"
 #include "sparse/orderings/orderings.hpp"
 
@@ -255,7 +256,7 @@ class Preprocessor {
 
   Outcome order_graph(const Graph& graph, const Ordering& ordering) const noexcept {
     const bool is_dissected = options_.ordering == OrderingMethod::kNestedDissection;
-    return is_dissected ? order_metis(graph, ordering) : order_minimum_degree(graph, ordering);
+    return is_dissected ? order_dissection(graph, ordering) : order_minimum_degree(graph, ordering);
   }
 
   const ColumnMatrix<T>& A_;

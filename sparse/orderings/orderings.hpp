@@ -10,7 +10,7 @@
 namespace quorin::sparse {
 
 // Nested dissection by METIS with its default options, as METIS_NodeND does it; the identity for a graph without edges.
-// Of several calls at a time, one works and the others wait. kOutOfMemory; kFailed for any other error of METIS.
+// kOutOfMemory; kFailed for any other error of METIS.
 Outcome order_metis(const Graph& graph, const Ordering& ordering) noexcept;
 
 // Approximate minimum degree by AMD with its default settings, on the graph of A + A^T for a square pattern.

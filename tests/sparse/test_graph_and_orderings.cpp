@@ -1,6 +1,8 @@
 // Graphs beside sets of neighbours. Orderings: permutations they must be, and fill beside AMD's.
 #include <amd.h>
 
+#include "base/thread_settings.hpp"
+#include "sparse/orderings/dissection.hpp"
 #include "tests/sparse/matrices.hpp"
 #include "tests/support/test.hpp"
 
@@ -178,6 +180,25 @@ TEST(MinimumDegree, OrdersGraphsOfAllKinds) {
     EXPECT_TRUE(arrays.is_valid()) << A.name;
     if (A.columns < 1000) continue;
     EXPECT_LE(entries(graph, arrays), kMostFill * amd_entries(A, graph)) << A.name;
+  }
+}
+
+// Large graphs in parts: METIS's random numbers are others then, so that the fill is, a little.
+TEST(Dissection, IsTheSameOnAnyThreadsAndAsGoodAsMetis) {
+  constexpr double kMostOfWhole = 1.1;
+  for (const Matrix& A : {grid(100, 100, 1, false), grid(31, 30, 32, false), grid(20, 21, 20, true),
+                          Edges(10'000).add(3, 700).matrix("an edge"), Edges(9000).matrix("no edges")}) {
+    const Graph graph = graph_of(A);
+    Arrays one(A.columns), three(A.columns), whole(A.columns);
+    base::set_thread_count(base::Domain::kAll, 1);
+    ASSERT_EQ(order_dissection(graph, one.ordering()), Outcome::kDone);
+    base::set_thread_count(base::Domain::kAll, 3);
+    ASSERT_EQ(order_dissection(graph, three.ordering()), Outcome::kDone);
+    base::set_thread_count(base::Domain::kAll, 0);
+    EXPECT_TRUE(one.is_valid()) << A.name;
+    EXPECT_EQ(one.permutation, three.permutation) << A.name;
+    ASSERT_EQ(order_metis(graph, whole.ordering()), Outcome::kDone);
+    EXPECT_LE(entries(graph, one), kMostOfWhole * entries(graph, whole)) << A.name;
   }
 }
 

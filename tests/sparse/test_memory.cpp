@@ -6,6 +6,7 @@
 #include "dense/dense.hpp"
 #include "platform/platform.hpp"
 #include "sparse/numeric/archive.hpp"
+#include "sparse/orderings/dissection.hpp"
 #include "tests/sparse/files.hpp"
 #include "tests/sparse/systems.hpp"
 #include "tests/sparse/watched_heap.hpp"
@@ -99,13 +100,21 @@ TEST(Memory, OfMetisRunsOutWithoutASignal) {
   caught = 0;
   const auto handler = [](int) { caught = 1; };
   const auto before = std::signal(SIGABRT, handler);
-  const Graph graph = graph_of(grid(15, 15, 2, false));
-  Arrays arrays(graph.size());
-  heap = {};
-  heap.watches = true;
-  heap.fail_at = 20;
-  EXPECT_EQ(order_metis(graph, arrays.ordering()), Outcome::kOutOfMemory);
-  heap.watches = false;
+  base::set_thread_count(base::Domain::kAll, 1);
+  for (const Matrix& A : {grid(15, 15, 2, false), grid(95, 90, 1, false)}) {
+    const Graph graph = graph_of(A);
+    Arrays arrays(graph.size());
+    for (const int k : {2, 20, 60, 500, 2000}) {
+      heap = {};
+      heap.watches = true;
+      heap.fail_at = k;
+      const Outcome outcome = order_dissection(graph, arrays.ordering());
+      heap.watches = false;
+      EXPECT_EQ(outcome, heap.asked >= k ? Outcome::kOutOfMemory : Outcome::kDone) << k;
+      EXPECT_EQ(heap.live, 0) << k;
+    }
+  }
+  base::set_thread_count(base::Domain::kAll, 0);
   EXPECT_EQ(caught, 0);
   EXPECT_EQ(std::signal(SIGABRT, before), static_cast<void (*)(int)>(handler));
 }
