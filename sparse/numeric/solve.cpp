@@ -4,6 +4,7 @@
 #include <array>
 #include <atomic>
 #include <complex>
+#include <optional>
 #include <span>
 
 #include "base/parallel.hpp"
@@ -106,39 +107,48 @@ Pointer row(Pointer z, int k, int w) noexcept {
   return z + std::ptrdiff_t{k} * w;
 }
 
+// Threads for a product of so many multiplications; a region for less is not worth it.
+int threads_for(std::int64_t multiplications, int threads) noexcept {
+  constexpr std::int64_t kFewMultiplications = 100'000;
+  return multiplications < kFewMultiplications ? 1 : threads;
+}
+
 // X_i <- X_i - P X_k: row_of(i) is the i-th of the m rows X_i in Z, and X_k are n rows that follow each other.
-// `buffer`: min(m, kRowsAtOnce) w.
+// `buffer`: m w.
 template <Scalar T, class RowOf>
-void subtract_product(int m, int n, const T* P, int ldp, const T* zk, int w, T* buffer, const RowOf& row_of) noexcept {
+void subtract_product(int m, int n, const T* P, int ldp, const T* zk, int w, T* buffer, int threads,
+                      const RowOf& row_of) noexcept {
   constexpr int kRowsAtOnce = 256;
-  for (int first = 0; first < m; first += kRowsAtOnce) {
-    const int count = std::min(kRowsAtOnce, m - first);
-    dense::blocked::gemm('N', 'T', count, w, n, T{-1}, P + first, ldp, zk, w, T{}, buffer, count);
+  threads = threads_for(std::int64_t{m} * n * w, threads);
+  base::parallel_for((m + kRowsAtOnce - 1) / kRowsAtOnce, threads, [&](int part) {
+    const int first = part * kRowsAtOnce, count = std::min(kRowsAtOnce, m - first);
+    T* const own = threads == 1 ? buffer : row(buffer, first, w);
+    dense::blocked::gemm('N', 'T', count, w, n, T{-1}, P + first, ldp, zk, w, T{}, own, count);
     for (int i = 0; i < count; ++i) {
       T* const zi = row_of(first + i);
-      for (int r = 0; r < w; ++r) zi[r] += buffer[i + std::ptrdiff_t{r} * count];
+      for (int r = 0; r < w; ++r) zi[r] += own[i + std::ptrdiff_t{r} * count];
     }
-  }
+  });
 }
 
 // X_i <- X_i - P^T X_k, where P is m x n, X_k are m rows and X_i n rows.
 template <Scalar T>
-void subtract_transposed_product(int m, int n, const T* P, int ldp, const T* zk, int w, T* zi) noexcept {
+void subtract_transposed_product(int m, int n, const T* P, int ldp, const T* zk, int w, T* zi, int threads) noexcept {
   constexpr int kTerms = 256, kColumns = 42;
-  for (int j = 0; j < n; j += kColumns) {
-    const int columns = std::min(kColumns, n - j);
+  base::parallel_for((n + kColumns - 1) / kColumns, threads_for(std::int64_t{m} * n * w, threads), [&](int part) {
+    const int j = part * kColumns, columns = std::min(kColumns, n - j);
     for (int l = 0; l < m; l += kTerms) {
       const int terms = std::min(kTerms, m - l);
       dense::blocked::gemm('N', 'N', w, columns, terms, T{-1}, row(zk, l, w), w, P + l + std::ptrdiff_t{j} * ldp, ldp,
                            T{1}, row(zi, j, w), w);
     }
-  }
+  });
 }
 
 // X <- op(L)^-1 X or op(U)^-1 X, where op is transposition if so said. `buffer` as above.
 template <Scalar T>
 void solve_together(Triangle triangle, bool is_transposed, int n, const T* block, std::ptrdiff_t ld, T* z, int w,
-                    T* buffer) noexcept {
+                    T* buffer, int threads) noexcept {
   const bool is_ascending = triangle.is_upper == is_transposed;
   if (n < kManyColumns) {
     T factors[kManyColumns];
@@ -161,15 +171,15 @@ void solve_together(Triangle triangle, bool is_transposed, int n, const T* block
     const int columns = end - first;
     T* const zb = row(z, first, w);
     if (is_transposed && is_ascending) {
-      subtract_transposed_product(first, columns, a(0, first), height, z, w, zb);
+      subtract_transposed_product(first, columns, a(0, first), height, z, w, zb, threads);
     } else if (is_transposed) {
-      subtract_transposed_product(n - end, columns, a(end, first), height, row(z, end, w), w, zb);
+      subtract_transposed_product(n - end, columns, a(end, first), height, row(z, end, w), w, zb, threads);
     }
     dense::blocked::trsm('R', triangle.is_upper ? 'U' : 'L', is_transposed ? 'N' : 'T',
                          triangle.has_unit_diagonal ? 'U' : 'N', w, columns, T{1}, a(first, first), height, zb, w);
     if (is_transposed) continue;
     const int other = is_ascending ? end : 0, count = is_ascending ? n - end : first;
-    subtract_product(count, columns, a(other, first), height, zb, w, buffer,
+    subtract_product(count, columns, a(other, first), height, zb, w, buffer, threads,
                      [&](int i) { return row(z, other + i, w); });
   }
 }
@@ -260,33 +270,36 @@ class Solver {
   // ---- w vectors, the elements of a row side by side: Z = X^T, w x n
   // --------------------------------------------------
 
-  bool forward_together(int s, T* z, int w, T* buffer) const noexcept {
+  // row_above(k) is row k, which is not one of s's own: in Z, or of the sums that are added to it later.
+  template <class RowAbove>
+  bool forward_together(int s, T* z, int w, T* buffer, int threads, const RowAbove& row_above) const noexcept {
     const PinnedPanel<T> panel(panels_, s);
     if (panel.data() == nullptr) return false;
     const Shape shape = shape_of(s, down_);
     const int* const rows = plan_.below(s).data();
     T* const zs = row(z, plan_.first(s), w);
     take_order(s, w, zs, buffer);
-    solve_together(down_, down_.is_upper, shape.columns, panel.data(), shape.height, zs, w, buffer);
+    solve_together(down_, down_.is_upper, shape.columns, panel.data(), shape.height, zs, w, buffer, threads);
     const T* const b = panel.data() + shape.offset;
     if (is_large(shape)) {
-      subtract_product(shape.below, shape.columns, b, shape.height, zs, w, buffer,
-                       [&](int i) { return row(z, rows[i], w); });
+      subtract_product(shape.below, shape.columns, b, shape.height, zs, w, buffer, threads,
+                       [&](int i) { return row_above(rows[i]); });
       return true;
     }
     constexpr int kAtOnce = 32;
     T factors[kAtOnce];
     for (int i = 0; i < shape.below; ++i) {
+      T* const zi = row_above(rows[i]);
       for (int first = 0; first < shape.columns; first += kAtOnce) {
         const int count = std::min(kAtOnce, shape.columns - first);
         for (int k = 0; k < count; ++k) factors[k] = b[i + std::ptrdiff_t{first + k} * shape.height];
-        subtract_multiples(w, count, factors, row(zs, first, w), w, row(z, rows[i], w));
+        subtract_multiples(w, count, factors, row(zs, first, w), w, zi);
       }
     }
     return true;
   }
 
-  bool backward_together(int s, T* z, int w, T* buffer) const noexcept {
+  bool backward_together(int s, T* z, int w, T* buffer, int threads) const noexcept {
     const PinnedPanel<T> panel(panels_, s);
     if (panel.data() == nullptr) return false;
     const Shape shape = shape_of(s, up_);
@@ -295,13 +308,13 @@ class Solver {
     for (int i = 0; i < shape.below; ++i) std::copy_n(row(z, rows[i], w), w, row(buffer, i, w));
     const T* const b = panel.data() + shape.offset;
     if (is_large(shape)) {
-      subtract_transposed_product(shape.below, shape.columns, b, shape.height, buffer, w, zs);
+      subtract_transposed_product(shape.below, shape.columns, b, shape.height, buffer, w, zs, threads);
     } else {
       for (int k = 0; k < shape.columns; ++k) {
         subtract_multiples(w, shape.below, b + std::ptrdiff_t{k} * shape.height, buffer, w, row(zs, k, w));
       }
     }
-    solve_together(up_, !up_.is_upper, shape.columns, panel.data(), shape.height, zs, w, buffer);
+    solve_together(up_, !up_.is_upper, shape.columns, panel.data(), shape.height, zs, w, buffer, threads);
     give_order(s, w, zs, buffer);
     return true;
   }
@@ -394,29 +407,94 @@ bool run_stages(const Solver<T>& solver, Stages stages, std::size_t count, T* z,
   return is_sound;
 }
 
-// ---- One vector at a time, subtrees to threads
-// ------------------------------------------------------------------------
+// ---- Subtrees for threads -------------------------------------------------------------------------------------------
 
-// The subtrees are the same for any number of threads, and what each of them adds to the unknowns above is summed on
-// its own and added in a fixed order.
+// The same for any number of threads, as what each of them adds to the unknowns above is summed on its own and added in
+// a fixed order. Of a small factor there are none.
+class Subtrees {
+ public:
+  explicit Subtrees(const Plan& plan) noexcept : plan_(plan) {
+    if (plan.panel_elements(PanelKind::kSymmetric) > kFewElements) {
+      count_ = plan.cut_by_elements(kParts, ranges_.data());
+    }
+    for (int r = 0; r < count_; ++r) {
+      sums_start_[to_size(r)] = sums_;
+      for_each_row_above(r, [this](int) { ++sums_; });
+    }
+  }
+
+  int count() const noexcept { return count_; }
+  SupernodeRange range(int r) const noexcept { return ranges_[to_size(r)]; }
+  // The first row above subtree r.
+  int outside(int r) const noexcept { return plan_.first(range(r).end); }
+  // Sums of all subtrees, and where those of subtree r begin.
+  std::size_t sums() const noexcept { return sums_; }
+  std::size_t sums_start(int r) const noexcept { return sums_start_[to_size(r)]; }
+
+  // Rows below the roots of subtree r, once for each root: what has its sum in the last of its places has zeros in the
+  // others.
+  template <class Take>
+  void for_each_row_above(int r, const Take& take) const noexcept {
+    for (int s = range(r).first; s < range(r).end; ++s) {
+      const int p = plan_.parent(s);
+      if (p == kNone || p < range(r).end) continue;
+      for (const int k : plan_.below(s)) take(k);
+    }
+  }
+  // place[k] becomes the place of row k above subtree r among its sums. Returns their number.
+  int place_rows_above(int r, int* place) const noexcept {
+    int next = 0;
+    for_each_row_above(r, [&](int k) { place[k] = next++; });
+    return next;
+  }
+
+  // Supernodes in no subtree, while body(s) says that it went well.
+  template <class Body>
+  bool ascend(const Body& body) const noexcept {
+    int next = 0;
+    for (int s = 0; s < plan_.eliminated();) {
+      if (next < count_ && s == range(next).first) {
+        s = range(next++).end;
+      } else if (!body(s++)) {
+        return false;
+      }
+    }
+    return true;
+  }
+  template <class Body>
+  bool descend(const Body& body) const noexcept {
+    int next = count_ - 1;
+    for (int s = plan_.eliminated() - 1; s >= 0;) {
+      if (next >= 0 && s == range(next).end - 1) {
+        s = range(next--).first - 1;
+      } else if (!body(s--)) {
+        return false;
+      }
+    }
+    return true;
+  }
+
+ private:
+  const Plan& plan_;
+  int count_ = 0;
+  std::size_t sums_ = 0;
+  std::array<SupernodeRange, kRangesPerPart * kParts> ranges_;
+  std::array<std::size_t, kRangesPerPart * kParts> sums_start_{};
+};
+
+// ---- One vector at a time, subtrees to threads ----------------------------------------------------------------------
+
 template <Scalar T>
 class VectorSolve {
  public:
-  explicit VectorSolve(const Solver<T>& solver) noexcept : solver_(solver), plan_(solver.plan()) {}
+  explicit VectorSolve(const Solver<T>& solver) noexcept
+      : solver_(solver), plan_(solver.plan()), subtrees_(solver.plan()) {}
 
   bool create(int threads) noexcept {
-    if (plan_.panel_elements(PanelKind::kSymmetric) > kFewElements) {
-      ranges_count_ = plan_.cut_by_elements(kParts, ranges_.data());
-    }
-    threads_ = std::clamp(threads, 1, std::max(1, ranges_count_));
-    std::size_t sums = 0;
-    for (int r = 0; r < ranges_count_; ++r) {
-      sums_start_[to_size(r)] = sums;
-      for_each_row_above(ranges_[to_size(r)], [&](int) { ++sums; });
-    }
-    sums_ = Workspace<T>(sums);
+    threads_ = std::clamp(threads, 1, std::max(1, subtrees_.count()));
+    sums_ = Workspace<T>(subtrees_.sums());
     buffers_ = Workspace<T>(solver_.buffer_size(1) * to_size(threads_));
-    places_ = Workspace<int>(ranges_count_ == 0 ? 0 : to_size(plan_.size()) * to_size(threads_));
+    places_ = Workspace<int>(subtrees_.count() == 0 ? 0 : to_size(plan_.size()) * to_size(threads_));
     return sums_ && buffers_ && places_;
   }
 
@@ -434,121 +512,104 @@ class VectorSolve {
   }
 
  private:
-  // Rows below the roots of the subtrees, once for each root.
-  template <class Take>
-  void for_each_row_above(SupernodeRange range, const Take& take) const noexcept {
-    for (int s = range.first; s < range.end; ++s) {
-      const int p = plan_.parent(s);
-      if (p == kNone || p < range.end) continue;
-      for (const int k : plan_.below(s)) take(k);
-    }
-  }
-
   bool forward(T* x) noexcept {
-    base::parallel_for(ranges_count_, threads_, [&](int r) {
-      const SupernodeRange range = ranges_[to_size(r)];
+    base::parallel_for(subtrees_.count(), threads_, [&](int r) {
+      const SupernodeRange range = subtrees_.range(r);
       const ThreadSlots::Slot slot(slots_, threads_);
       int* const place = places_.data() + slot.number() * to_size(plan_.size());
-      int next = 0;
-      for_each_row_above(range, [&](int k) { place[k] = next++; });
-      T* const sums = sums_.data() + sums_start_[to_size(r)];
-      std::fill_n(sums, next, T{});
-      const int outside = plan_.first(range.end);
+      T* const sums = sums_.data() + subtrees_.sums_start(r);
+      std::fill_n(sums, subtrees_.place_rows_above(r, place), T{});
       for (int s = range.first; s < range.end && is_sound_.load(std::memory_order_relaxed); ++s) {
-        if (!solver_.forward(s, x, outside, sums, place, buffer(slot.number()))) is_sound_ = false;
+        if (!solver_.forward(s, x, subtrees_.outside(r), sums, place, buffer(slot.number()))) is_sound_ = false;
       }
     });
-    for (int r = 0; r < ranges_count_; ++r) {
-      // A row below several roots has its sum in the last of its places, zeros in the others.
-      const T* sum = sums_.data() + sums_start_[to_size(r)];
-      for_each_row_above(ranges_[to_size(r)], [&](int k) { x[k] += *sum++; });
-    }
-    for_each_above([&](int s) { return solver_.forward(s, x, plan_.size(), nullptr, nullptr, buffer(0)); });
-    return is_sound_;
+    const T* sum = sums_.data();
+    for (int r = 0; r < subtrees_.count(); ++r) subtrees_.for_each_row_above(r, [&](int k) { x[k] += *sum++; });
+    return is_sound_ &&
+           subtrees_.ascend([&](int s) { return solver_.forward(s, x, plan_.size(), nullptr, nullptr, buffer(0)); });
   }
 
   bool backward(T* x) noexcept {
-    int next_range = ranges_count_ - 1;
-    for (int s = plan_.eliminated() - 1; s >= 0 && is_sound_;) {
-      if (next_range >= 0 && s == ranges_[to_size(next_range)].end - 1) {
-        s = ranges_[to_size(next_range--)].first - 1;
-      } else if (!solver_.backward(s--, x, buffer(0))) {
-        is_sound_ = false;
-      }
-    }
-    base::parallel_for(ranges_count_, threads_, [&](int r) {
+    is_sound_ = subtrees_.descend([&](int s) { return solver_.backward(s, x, buffer(0)); });
+    base::parallel_for(subtrees_.count(), threads_, [&](int r) {
+      const SupernodeRange range = subtrees_.range(r);
       const ThreadSlots::Slot slot(slots_, threads_);
-      for (int s = ranges_[to_size(r)].end - 1; s >= ranges_[to_size(r)].first; --s) {
-        if (!is_sound_.load(std::memory_order_relaxed)) break;
+      for (int s = range.end - 1; s >= range.first && is_sound_.load(std::memory_order_relaxed); --s) {
         if (!solver_.backward(s, x, buffer(slot.number()))) is_sound_ = false;
       }
     });
     return is_sound_;
   }
 
-  // Supernodes in no range, ascending.
-  template <class Body>
-  void for_each_above(const Body& body) noexcept {
-    int next_range = 0;
-    for (int s = 0; s < plan_.eliminated() && is_sound_;) {
-      if (next_range < ranges_count_ && s == ranges_[to_size(next_range)].first) {
-        s = ranges_[to_size(next_range++)].end;
-      } else if (!body(s++)) {
-        is_sound_ = false;
-      }
-    }
-  }
-
   T* buffer(std::size_t thread) noexcept { return buffers_.data() + solver_.buffer_size(1) * thread; }
 
   const Solver<T>& solver_;
   const Plan& plan_;
-  int threads_ = 1, ranges_count_ = 0;
-  std::array<SupernodeRange, kRangesPerPart * kParts> ranges_;
-  std::array<std::size_t, kRangesPerPart * kParts> sums_start_{};
+  const Subtrees subtrees_;
+  int threads_ = 1;
   ThreadSlots slots_;
   std::atomic<bool> is_sound_{true};
   Workspace<T> sums_, buffers_;
   Workspace<int> places_;
 };
 
-// ---- Vectors side by side, blocks of them to threads
-// ------------------------------------------------------------------
+// ---- Vectors side by side, blocks of them or subtrees to threads ----------------------------------------------------
 
+// Blocks of vectors, if there are enough for all threads. Otherwise one block after the other, of which subtrees, and
+// above these the rows of products, are for threads. Without subtrees there are narrower blocks.
 template <Scalar T>
 class BlockSolve {
  public:
   // `paths`: null for all of the factor.
   BlockSolve(const Solver<T>& solver, int nrhs, int threads, const SolvePaths* paths = nullptr) noexcept
-      : solver_(solver), plan_(solver.plan()), paths_(paths) {
-    const int blocks = std::max((nrhs + kMostTogether - 1) / kMostTogether, std::min(threads, nrhs));
+      : solver_(solver), plan_(solver.plan()), paths_(paths), nrhs_(nrhs) {
+    if (paths == nullptr) subtrees_.emplace(plan_);
+    const bool is_cut = subtrees_ && subtrees_->count() > 1;
+    const int full_blocks = (nrhs + kMostTogether - 1) / kMostTogether;
+    const int blocks = is_cut ? full_blocks : std::max(full_blocks, std::min(threads, nrhs));
     width_ = (nrhs + blocks - 1) / blocks;
     blocks_ = (nrhs + width_ - 1) / width_;
-    threads_ = std::min(threads, blocks_);
-    nrhs_ = nrhs;
+    inner_threads_ = is_cut && blocks_ < threads ? threads : 1;
+    threads_ = inner_threads_ > 1 ? 1 : std::min(threads, blocks_);
   }
 
   bool create() noexcept {
     memory_ = Workspace<T>(base::saturating_product(size_of_block(), to_size(threads_)));
-    return static_cast<bool>(memory_);
+    places_ = Workspace<int>(sums() == 0 ? 0 : to_size(plan_.size()) * to_size(threads_ * inner_threads_));
+    return memory_ && places_;
   }
 
   bool run(Stages stages, T* x, int ldx) noexcept {
     base::parallel_for(blocks_, threads_, [&](int block) {
       const ThreadSlots::Slot slot(slots_, threads_);
       const int first = block * width_, w = std::min(width_, nrhs_ - first);
-      T* const z = memory_.data() + size_of_block() * slot.number();
       T* const columns = x + std::ptrdiff_t{first} * ldx;
-      load(columns, ldx, w, z);
-      if (!run_block(stages, z, w)) is_sound_ = false;
-      store(z, w, columns, ldx);
+      Block own{memory_.data() + size_of_block() * slot.number(), w, nullptr, nullptr, nullptr, {}};
+      own.sums = own.z + to_size(plan_.size()) * to_size(w);
+      own.buffers = own.sums + sums() * to_size(w);
+      own.places = places_.data() + to_size(inner_threads_) * to_size(plan_.size()) * slot.number();
+      load(columns, ldx, w, own.z);
+      if (!run_block(stages, own)) is_sound_ = false;
+      store(own.z, w, columns, ldx);
     });
     return is_sound_;
   }
 
  private:
+  // w vectors, what subtrees add to rows above, and the memory of the threads that work on them.
+  struct Block {
+    T* z;
+    int w;
+    T* sums;
+    T* buffers;
+    int* places;
+    ThreadSlots slots;
+  };
+
+  std::size_t sums() const noexcept { return subtrees_ ? subtrees_->sums() : 0; }
   std::size_t size_of_block() const noexcept {
-    return base::saturating_product(to_size(plan_.size()), to_size(width_)) + solver_.buffer_size(width_);
+    return base::saturating_product(to_size(plan_.size()) + sums(), to_size(width_)) +
+           solver_.buffer_size(width_) * to_size(inner_threads_);
   }
 
   // Z <- X^T, or the given rows of it and zeros; and back, or the wanted rows.
@@ -589,39 +650,92 @@ class BlockSolve {
     }
   }
 
-  bool run_block(Stages stages, T* z, int w) const noexcept {
-    T* const buffer = z + to_size(plan_.size()) * to_size(w);
-    // Calls body for the supernodes of a list, or for all that are eliminated.
-    const auto ascending = [&](std::span<const int> list, const auto& body) {
-      if (paths_ != nullptr) return std::all_of(list.begin(), list.end(), body);
-      for (int s = 0; s < plan_.eliminated(); ++s) {
-        if (!body(s)) return false;
+  // Calls body(s, thread) for the supernodes of each subtree, ascending or descending, while it says that all is well.
+  template <class Body>
+  bool for_subtrees(Block& block, bool is_ascending, const Body& body) const noexcept {
+    std::atomic<bool> is_sound{true};
+    base::parallel_for(subtrees_->count(), inner_threads_, [&](int r) {
+      const ThreadSlots::Slot slot(block.slots, inner_threads_);
+      const SupernodeRange range = subtrees_->range(r);
+      const int count = range.end - range.first;
+      const auto go = body(r, slot.number());
+      for (int k = 0; k < count && is_sound.load(std::memory_order_relaxed); ++k) {
+        if (!go(is_ascending ? range.first + k : range.end - 1 - k)) is_sound = false;
       }
-      return true;
+    });
+    return is_sound;
+  }
+
+  bool forward(Block& block) const noexcept {
+    const int w = block.w;
+    T *const z = block.z, *const sums = block.sums;
+    const auto in_z = [=](int k) { return row(z, k, w); };
+    if (paths_ != nullptr) {
+      const auto list = paths_->forward();
+      return std::all_of(list.begin(), list.end(),
+                         [&](int s) { return solver_.forward_together(s, z, w, block.buffers, 1, in_z); });
+    }
+    const bool is_sound = for_subtrees(block, true, [&](int r, std::size_t thread) {
+      int* const place = block.places + to_size(plan_.size()) * thread;
+      T* const own = sums + subtrees_->sums_start(r) * to_size(w);
+      std::fill_n(own, to_size(subtrees_->place_rows_above(r, place)) * to_size(w), T{});
+      const auto row_above = [=, outside = subtrees_->outside(r)](int k) {
+        return k < outside ? row(z, k, w) : row(own, place[k], w);
+      };
+      return
+          [=, this, &block](int s) { return solver_.forward_together(s, z, w, buffer(block, thread), 1, row_above); };
+    });
+    const T* sum = sums;
+    for (int r = 0; r < subtrees_->count(); ++r) {
+      subtrees_->for_each_row_above(r, [&](int k) {
+        for (int i = 0; i < w; ++i) row(z, k, w)[i] += sum[i];
+        sum += w;
+      });
+    }
+    return is_sound && subtrees_->ascend([&](int s) {
+      return solver_.forward_together(s, z, w, block.buffers, inner_threads_, in_z);
+    });
+  }
+
+  bool divide_by_diagonal(Block& block) const noexcept {
+    const auto divide = [this, &block](int s) { return solver_.divide_by_diagonal(s, block.z, block.w); };
+    if (paths_ != nullptr) return std::all_of(paths_->forward().begin(), paths_->forward().end(), divide);
+    return for_subtrees(block, true, [&](int, std::size_t) { return divide; }) && subtrees_->ascend(divide);
+  }
+
+  bool backward(Block& block) const noexcept {
+    const auto solve = [this, &block](int s, std::size_t thread, int threads) {
+      return solver_.backward_together(s, block.z, block.w, buffer(block, thread), threads);
     };
-    const auto descending = [&](std::span<const int> list, const auto& body) {
-      if (paths_ != nullptr) return std::all_of(list.rbegin(), list.rend(), body);
-      for (int s = plan_.eliminated() - 1; s >= 0; --s) {
-        if (!body(s)) return false;
-      }
-      return true;
-    };
-    const std::span<const int> forward = paths_ == nullptr ? std::span<const int>() : paths_->forward();
-    const std::span<const int> backward = paths_ == nullptr ? std::span<const int>() : paths_->backward();
+    if (paths_ != nullptr) {
+      const auto list = paths_->backward();
+      return std::all_of(list.rbegin(), list.rend(), [&](int s) { return solve(s, 0, 1); });
+    }
+    return subtrees_->descend([&](int s) { return solve(s, 0, inner_threads_); }) &&
+           for_subtrees(block, false,
+                        [&](int, std::size_t thread) { return [=](int s) { return solve(s, thread, 1); }; });
+  }
+
+  bool run_block(Stages stages, Block& block) const noexcept {
     return run_stages(
-        solver_, stages, to_size(plan_.size()) * to_size(w), z,
-        [&] { return ascending(forward, [&](int s) { return solver_.forward_together(s, z, w, buffer); }); },
-        [&] { return ascending(forward, [&](int s) { return solver_.divide_by_diagonal(s, z, w); }); },
-        [&] { return descending(backward, [&](int s) { return solver_.backward_together(s, z, w, buffer); }); });
+        solver_, stages, to_size(plan_.size()) * to_size(block.w), block.z, [&] { return forward(block); },
+        [&] { return divide_by_diagonal(block); }, [&] { return backward(block); });
+  }
+
+  T* buffer(const Block& block, std::size_t thread) const noexcept {
+    return block.buffers + solver_.buffer_size(block.w) * thread;
   }
 
   const Solver<T>& solver_;
   const Plan& plan_;
   const SolvePaths* paths_;
-  int nrhs_, blocks_, width_, threads_;
+  std::optional<Subtrees> subtrees_;  // without paths
+  int nrhs_, blocks_ = 1, width_ = 1;
+  int threads_ = 1, inner_threads_ = 1;  // for blocks, and inside of one
   ThreadSlots slots_;
   std::atomic<bool> is_sound_{true};
   Workspace<T> memory_;
+  Workspace<int> places_;
 };
 
 }  // namespace
