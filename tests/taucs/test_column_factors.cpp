@@ -1,7 +1,4 @@
-// Factors as matrices: L L^H, L D L^H against A entry by entry, what incomplete ones keep, and the limit of the depth.
-#include <limits>
-
-#include "tests/taucs/log.hpp"
+// Factors as matrices: L L^H, L D L^H against A entry by entry, and what incomplete ones keep.
 #include "tests/taucs/systems.hpp"
 
 namespace taucs_test {
@@ -85,52 +82,6 @@ TYPED_TEST(ColumnFactors, MultiplyToA) {
       EXPECT_LE(backward_error(*Q, y.data(), b.data()), 10 * (n + 1) * kRoundoff);
     }
   }
-}
-
-TYPED_TEST(ColumnFactors, RefuseWhatTheyCannotFactor) {
-  using T = TypeParam;
-  const Matrix A = record<T>(random_triangle(9, 0.5, 1.1, this->kComplex, this->random_), kLowerOf<T>);
-  const auto expect_refused = [&](const char* why) {
-    EXPECT_EQ(taucs_ccs_factor_llt(A.get(), 0, 0), nullptr) << why;
-    EXPECT_EQ(taucs_ccs_factor_ldlt(A.get()), nullptr) << why;
-  };
-  for (const int flags : {0 + TAUCS_LOWER, 0 + TAUCS_SYMMETRIC, TAUCS_SYMMETRIC | TAUCS_UPPER}) {
-    A->flags = kType<T> | flags;
-    expect_refused("structure");
-  }
-  A->flags = kLowerOf<T> | TAUCS_SINGLE;
-  expect_refused("type");
-  A->flags = kLowerOf<T> | kType<T>;
-  for (const double value : {kInfinity, std::numeric_limits<double>::quiet_NaN()}) {
-    const T good = std::exchange(values<T>(*A)[3], value);
-    expect_refused("not finite");
-    values<T>(*A)[3] = good;
-  }
-  const int row = std::exchange(A->rowind[0], 9);
-  expect_refused("row outside");
-  A->rowind[0] = row;
-  EXPECT_EQ(taucs_ccs_factor_llt(nullptr, 0, 0), nullptr);
-  EXPECT_EQ(taucs_ccs_factor_ldlt(nullptr), nullptr);
-  EXPECT_NE(Matrix(taucs_ccs_factor_llt(A.get(), 0, 0)), nullptr);
-
-  T x{};
-  EXPECT_EQ(taucs_ccs_solve_llt(nullptr, &x, &x), TAUCS_ERROR_BADARGS);
-  EXPECT_EQ(taucs_ccs_solve_llt(A.get(), &x, &x), TAUCS_ERROR_BADARGS) << "no triangular matrix";
-}
-
-// A path in its order has the deepest tree that there is.
-TEST(ColumnFactorDepth, IsLimited) {
-  SparseMatrix path = laplacian(7, 1, 1, 1);
-  const Matrix A = record<double>(path, kSymmetricLower);
-  const std::string depth = "\t\tElimination tree depth is 7\n";
-  for (const int limit : {0, 7, 8}) {
-    EXPECT_EQ(logged([&] { EXPECT_NE(Matrix(taucs_ccs_factor_llt_maxdepth(A.get(), 0, 0, limit)), nullptr); }), depth);
-    EXPECT_EQ(logged([&] { EXPECT_NE(Matrix(taucs_ccs_factor_ldlt_maxdepth(A.get(), limit)), nullptr); }), depth);
-  }
-  EXPECT_EQ(logged([&] { EXPECT_EQ(taucs_ccs_factor_llt_maxdepth(A.get(), 0, 0, 6), nullptr); }),
-            depth + "taucs_ccs_symbolic_elimination: etree depth 7, maximum allowed is 6\n");
-  EXPECT_EQ(logged([&] { EXPECT_EQ(taucs_ccs_factor_ldlt_maxdepth(A.get(), 6), nullptr); }),
-            depth + "taucs_ccs_ldlt_symbolic_elimination: etree depth 7, maximum allowed is 6\n");
 }
 
 // Incomplete factors of A = L L^H - E: E is zero where L has entries, and with compensation its rows sum to zero.

@@ -88,27 +88,6 @@ TEST(Ijv, TakesAnEnormousIndexForASlip) {
   EXPECT_NE(read(taucs_ccs_read_ijv, text, TAUCS_DOUBLE), nullptr);
 }
 
-TEST(Ijv, ComplexValuesAreTwoNumbers) {
-  expect_record(read(taucs_ccs_read_ijv, "1 1 2 0\n2 1 3 -4\n1 2 3 4\n2 2 5", TAUCS_DCOMPLEX | TAUCS_HERMITIAN),
-                {1, 2, TAUCS_DCOMPLEX | kHermitianLower, {0, 2, 2}, {0, 1}, {2, 0, 3, -4}});
-}
-
-TEST(Ijv, GrowsBeyondTheFirstArrays) {
-  std::string text;
-  constexpr int kCount = 30011;  // four growth steps
-  for (int k = 0; k < kCount; ++k)
-    text += std::to_string(k % 97 + 1) + " " + std::to_string(k + 1) + " " + std::to_string(k) + ".25\n";
-  const Matrix A = read(taucs_ccs_read_ijv, text, TAUCS_DOUBLE);
-  ASSERT_NE(A, nullptr);
-  EXPECT_EQ(A->n, 97);
-  EXPECT_EQ(A->m, kCount);
-  for (int k = 0; k < kCount; ++k) {
-    ASSERT_EQ(A->colptr[k], k);
-    ASSERT_EQ(A->rowind[k], k % 97);
-    ASSERT_EQ(A->values.d[k], k + 0.25);
-  }
-}
-
 TEST(Mtx, MakesTheMatrixOfAGraph) {
   const std::string text = "9 9 9\n2 1 7.5\n1 2 3\n2 2 7.5\n3 2 0\n";
   expect_record(read(taucs_ccs_read_mtx, text, TAUCS_DOUBLE | TAUCS_SYMMETRIC),
@@ -197,15 +176,6 @@ TEST(HarwellBoeing, TypesAndStructures) {
         "  1  3  3\n  1  2  2\n  1.0E+0  -2.D+1    3.+2\n", "  1  3  4\n  1  2  2\n  1.0E+0          3.+2\n",
         "  1  3  4\n  0  2  2\n  1.0E+0  -2.D+1    3.+2\n", "-2147483648  4\n"}) {
     EXPECT_EQ(hb("RUA", body, TAUCS_DOUBLE), nullptr) << body;
-  }
-  // The same numbers in any form.
-  for (const char* const format :
-       {"(2(E8.2))", "(1P,2(E8.2))", "(2(1P,E8.2))", "(E8.2,E8.2,F8.0)", "(3ES8.2)", "(2(1X,E7.2))"}) {
-    const std::string any = "(2(I3),I3)      (3(1X,I2))      " + std::string(format);
-    const std::string body =
-        std::strchr(format, 'F') || format[1] == '3' ? real : pattern + "  1.0E+0  -2.D+1\n    3.+2\n";
-    expect_record(read(taucs_ccs_read_hb, harwell_boeing("RUA", sizes, any, body), TAUCS_DOUBLE),
-                  record(TAUCS_DOUBLE, {1, -20, 300}));
   }
   // Lines that end in two characters; a fifth line of the header tells of right-hand sides.
   std::string lines = harwell_boeing("RSA", sizes, formats, real);

@@ -125,39 +125,5 @@ TYPED_TEST(Iterations, TellHowTheyEnded) {
   EXPECT_EQ(taucs_conjugate_gradients(Q.get(), nullptr, nullptr, x.data(), b.data(), 400, 1e-12), TAUCS_BREAKDOWN);
 }
 
-TYPED_TEST(Iterations, RefuseWhatTheyAreNotFor) {
-  using T = TypeParam;
-  const Matrix A = this->random_record(4, -1);
-  const auto b = this->right_hand_side(4);
-  std::vector<T> x(b.size(), 5.0);
-  for (const Method method : {&taucs_conjugate_gradients, &taucs_minres}) {
-    const auto refused = [&] {
-      return method(A.get(), nullptr, nullptr, x.data(), b.data(), 9, 1e-6) == TAUCS_ERROR_BADARGS;
-    };
-    EXPECT_FALSE(refused());
-    x.assign(b.size(), 5.0);
-    const int flags = A->flags;
-    for (const int wrong : {TAUCS_LOWER | kType<T>, TAUCS_SYMMETRIC | kType<T>, kLowerOf<T> | TAUCS_SINGLE}) {
-      A->flags = wrong;
-      EXPECT_TRUE(refused());
-    }
-    A->flags = kSymmetricLower | TAUCS_DCOMPLEX;
-    if (this->kComplex) {
-      EXPECT_TRUE(refused());
-    }
-    A->flags = flags;
-    A->m = 5;
-    EXPECT_TRUE(refused());
-    A->m = 4;
-    const int row = std::exchange(A->rowind[1], 4);
-    EXPECT_TRUE(refused());
-    A->rowind[1] = row;
-    EXPECT_EQ(method(nullptr, nullptr, nullptr, x.data(), b.data(), 9, 1e-6), TAUCS_ERROR_BADARGS);
-    EXPECT_EQ(method(A.get(), nullptr, nullptr, nullptr, b.data(), 9, 1e-6), TAUCS_ERROR_BADARGS);
-    EXPECT_EQ(method(A.get(), nullptr, nullptr, x.data(), nullptr, 9, 1e-6), TAUCS_ERROR_BADARGS);
-    EXPECT_EQ(x, std::vector<T>(b.size(), 5.0));
-  }
-}
-
 }  // namespace
 }  // namespace taucs_test

@@ -112,28 +112,6 @@ TYPED_TEST(LuFactors, RefuseSingularAndDamagedMatrices) {
   EXPECT_FALSE(factored(A, perm)) << "not square";
 }
 
-// Real and complex matrices from practice, in COLAMD's order.
-TEST(LuFactorsOfPractice, HaveSmallResiduals) {
-  std::mt19937 random(8);
-  const auto solve = [&]<class T>(const char* name) {
-    SCOPED_TRACE(name);
-    const Matrix A = record<T>(quorin::test::read_triplets(std::string(QUORIN_MATRICES_DIR) + "/cxsparse/" + name), 0);
-    int *perm = nullptr, *inverse = nullptr;
-    taucs_ccs_order(A.get(), &perm, &inverse, "colamd");
-    ASSERT_NE(perm, nullptr);
-    const Factor factor(taucs_ccs_factor_lu(A.get(), perm, 1.0));
-    std::free(perm);
-    std::free(inverse);
-    ASSERT_NE(factor, nullptr);
-    const auto b = random_vector<T>(static_cast<std::size_t>(A->n), random);
-    std::vector<T> x(b.size());
-    EXPECT_EQ(taucs_multilu_solve_many(factor.get(), 1, x.data(), A->n, b.data(), A->n), TAUCS_SUCCESS);
-    EXPECT_LE(backward_error(*A, x.data(), b.data()), 1e-12);
-  };
-  for (const char* const name : {"west0067", "fs_183_1", "mhd1280b"}) solve.template operator()<double>(name);
-  for (const char* const name : {"c_west0067", "young1c", "qc324"}) solve.template operator()<Complex>(name);
-}
-
 TEST(LuFactorHandles, AreToldFromAnythingElse) {
   const Matrix A = record<double>(quorin::test::convection_diffusion(2, 0), 0);
   const int perm[] = {0, 1, 2, 3};

@@ -1,7 +1,5 @@
 // Numbers in files, against the C library's scanf, which is the definition of what a file says; and the formats that
 // tell where they stand.
-#include <clocale>
-
 #include "families/taucs/files/fortran_format.hpp"
 #include "families/taucs/files/number_parser.hpp"
 #include "tests/support/temporary_file.hpp"
@@ -110,14 +108,6 @@ TEST(NumberParser, ReadsIntegersAsScanfDoes) {
   }
   EXPECT_FALSE(parsed<int>("2147483648").is_number);
   EXPECT_FALSE(parsed<int>("99999999999999999999").is_number);
-}
-
-TEST(NumberParser, KnowsNoLocale) {
-  const std::string before = std::setlocale(LC_ALL, nullptr);
-  for (const char* const name : {"de_DE.UTF-8", "German_Germany.1252", "fr_FR.UTF-8"}) std::setlocale(LC_ALL, name);
-  EXPECT_EQ(parsed<double>("1.5"), (Reading{true, bits_of(1.5), 3}));
-  EXPECT_EQ(parsed<double>("1.2345678901234567891e40").bits, bits_of(1.2345678901234567891e40));
-  std::setlocale(LC_ALL, before.c_str());
 }
 
 // Fortran's formatted input. The expected numbers are those that programs of GNU Fortran 12 read from the same lines.

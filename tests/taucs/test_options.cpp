@@ -19,25 +19,6 @@ class OptionStrings : public testing::Test {
   std::string said;
 };
 
-TEST_F(OptionStrings, DefaultsStandWithoutAny) {
-  for (const Options& o : {parse_options(nullptr, nullptr), parse({})}) {
-    EXPECT_TRUE(o.factor && o.symbolic && o.numeric);
-    EXPECT_FALSE(o.llt || o.lu || o.indefinite || o.mf || o.ll || o.ooc || o.cg || o.minres);
-    EXPECT_FALSE(o.amwb || o.approximate_sg);
-    EXPECT_EQ(o.cilk_context, nullptr);
-    EXPECT_EQ(o.cilk_nproc, -1);
-    EXPECT_EQ(o.amwb_randomseed, 170566);
-    EXPECT_EQ(o.amwb_subgraphs, 1);
-    EXPECT_EQ(o.ordering, nullptr);
-    EXPECT_EQ(o.maxdepth, 0);
-    EXPECT_EQ(o.ooc_basename, nullptr);
-    EXPECT_EQ(o.ooc_iohandle, nullptr);
-    EXPECT_EQ(o.ooc_memory, -1);
-    EXPECT_EQ(o.maxits, 300);
-    EXPECT_EQ(o.convergetol, 1e-6);
-  }
-}
-
 TEST_F(OptionStrings, EachKeySetsItsOwn) {
   const struct {
     const char* key;

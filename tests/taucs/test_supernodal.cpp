@@ -1,7 +1,5 @@
 // Factors in panels, through their own entry points: residuals, inertia by eigenvalues, numbers that come and go, and
 // whatever a host may pass for a handle.
-#include <limits>
-
 #include "tests/taucs/log.hpp"
 #include "tests/taucs/systems.hpp"
 
@@ -74,20 +72,6 @@ TYPED_TEST(Supernodal, FactorsOfEitherMethodSolve) {
         EXPECT_EQ(inertia(L.get()), expected);
       }
     }
-  }
-}
-
-// No diagonal entry is a pivot: pairs are. What lies across dominates.
-TYPED_TEST(Supernodal, ZeroDiagonalsAreNoObstacle) {
-  using T = TypeParam;
-  for (const int pairs : {1, 2, 20, 50}) {
-    SparseMatrix A = random_triangle(2 * pairs, 2.0 / pairs, 0, this->kComplex, this->random_);
-    for (int i = 0; i < pairs; ++i) A.add(2 * pairs - 1 - i, i, {4.0 * pairs, this->kComplex ? 1.0 : 0});
-    const Matrix Q = record<T>(A, kLowerOf<T>);
-    const Factor L(taucs_ccs_factor_ldlt_ll(Q.get()));
-    ASSERT_NE(L, nullptr);
-    EXPECT_EQ(inertia(L.get()), (std::vector{0, pairs, pairs}));
-    expect_solved<T>(*Q, L.get(), true, this->random_, kTolerance);
   }
 }
 
@@ -174,33 +158,6 @@ TYPED_TEST(Supernodal, HandlesAreToldFromAnythingElse) {
   EXPECT_EQ(x, std::vector<T>(5, 1));
 }
 
-TYPED_TEST(Supernodal, RefuseOtherStructures) {
-  using T = TypeParam;
-  const Matrix A = this->random_record(9, 0.5);
-  const auto refused = [&] {
-    int count = 0;
-    for (const auto factor : {&taucs_ccs_factor_llt_ll, &taucs_ccs_factor_llt_mf, &taucs_ccs_factor_llt_symbolic,
-                              &taucs_ccs_factor_ldlt_ll, &taucs_ccs_factor_ldlt_mf, &taucs_ccs_factor_ldlt_symbolic}) {
-      count += Factor(factor(A.get())) == nullptr ? 1 : 0;
-    }
-    return count;
-  };
-  EXPECT_EQ(refused(), 0);
-  const int good = A->flags;
-  for (const int flags : {kType<T> | TAUCS_LOWER, kType<T> | TAUCS_SYMMETRIC, kLowerOf<T> | TAUCS_SINGLE}) {
-    A->flags = flags;
-    EXPECT_EQ(refused(), 6);
-  }
-  A->flags = good;
-  const int row = std::exchange(A->rowind[0], 9);
-  EXPECT_EQ(refused(), 6) << "row outside";
-  A->rowind[0] = row;
-  const T value = std::exchange(values<T>(*A)[2], std::numeric_limits<double>::quiet_NaN());
-  EXPECT_EQ(refused(), 4) << "the analyses do not look at values";
-  values<T>(*A)[2] = value;
-  EXPECT_EQ(taucs_ccs_factor_llt_ll(nullptr), nullptr);
-}
-
 TEST(SupernodalComplexSymmetric, IsForLdltAlone) {
   std::mt19937 random(8);
   const Matrix A = record<Complex>(random_triangle(40, 0.2, 1.1, true, random, 15), TAUCS_SYMMETRIC | TAUCS_LOWER);
@@ -212,38 +169,33 @@ TEST(SupernodalComplexSymmetric, IsForLdltAlone) {
   EXPECT_EQ(taucs_inertia_calc(L.get(), count), TAUCS_ERROR_BADARGS) << "no signs";
 }
 
-TEST(SupernodalDepth, IsLimited) {
-  const Matrix A = record<double>(laplacian(9, 1, 1, 1), kSymmetricLower);
+// A path in its order has the deepest tree that there is.
+TEST(Depth, IsLimited) {
+  const Matrix path = record<double>(laplacian(9, 1, 1, 1), kSymmetricLower);
+  const taucs_ccs_matrix* const A = path.get();
   const std::string depth = "\t\tElimination tree depth is 9\n";
-  for (const auto factor : {&taucs_ccs_factor_llt_ll_maxdepth, &taucs_ccs_factor_llt_mf_maxdepth,
-                            &taucs_ccs_factor_llt_symbolic_maxdepth}) {
-    for (const int limit : {0, 9}) {
-      EXPECT_EQ(logged([&] { EXPECT_NE(Factor(factor(A.get(), limit)), nullptr); }), depth);
+  const struct {
+    const char* prefix;
+    std::function<bool(int)> is_made;
+  } factors[] = {
+      {"", [A](int limit) { return Matrix(taucs_ccs_factor_llt_maxdepth(A, 0, 0, limit)) != nullptr; }},
+      {"ldlt_", [A](int limit) { return Matrix(taucs_ccs_factor_ldlt_maxdepth(A, limit)) != nullptr; }},
+      {"", [A](int limit) { return Factor(taucs_ccs_factor_llt_ll_maxdepth(A, limit)) != nullptr; }},
+      {"", [A](int limit) { return Factor(taucs_ccs_factor_llt_mf_maxdepth(A, limit)) != nullptr; }},
+      {"", [A](int limit) { return Factor(taucs_ccs_factor_llt_symbolic_maxdepth(A, limit)) != nullptr; }},
+      {"ldlt_", [A](int limit) { return Factor(taucs_ccs_factor_ldlt_ll_maxdepth(A, limit)) != nullptr; }},
+      {"ldlt_", [A](int limit) { return Factor(taucs_ccs_factor_ldlt_mf_maxdepth(A, limit)) != nullptr; }},
+      {"ldlt_", [A](int limit) { return Factor(taucs_ccs_factor_ldlt_symbolic_maxdepth(A, limit)) != nullptr; }},
+  };
+  for (const auto& factor : factors) {
+    SCOPED_TRACE(&factor - factors);
+    for (const int limit : {0, 9, 10}) {
+      EXPECT_EQ(logged([&] { EXPECT_TRUE(factor.is_made(limit)); }), depth);
     }
-    EXPECT_EQ(logged([&] { EXPECT_EQ(factor(A.get(), 8), nullptr); }),
-              depth + "taucs_ccs_symbolic_elimination: etree depth 9, maximum allowed is 8\n");
+    EXPECT_EQ(logged([&] { EXPECT_FALSE(factor.is_made(8)); }), depth + "taucs_ccs_" + factor.prefix +
+                                                                    "symbolic_elimination: etree depth 9, maximum "
+                                                                    "allowed is 8\n");
   }
-  for (const auto factor : {&taucs_ccs_factor_ldlt_ll_maxdepth, &taucs_ccs_factor_ldlt_mf_maxdepth,
-                            &taucs_ccs_factor_ldlt_symbolic_maxdepth}) {
-    EXPECT_EQ(logged([&] { EXPECT_NE(Factor(factor(A.get(), 9)), nullptr); }), depth);
-    EXPECT_EQ(logged([&] { EXPECT_EQ(factor(A.get(), 8), nullptr); }),
-              depth + "taucs_ccs_ldlt_symbolic_elimination: etree depth 9, maximum allowed is 8\n");
-  }
-}
-
-TEST(SupernodalStructure, HasAResidualOfRounding) {
-  SparseMatrix structure = quorin::test::read_triplets(std::string(QUORIN_MATRICES_DIR) + "/cxsparse/bcsstk16");
-  std::erase_if(structure.entries, [](const auto& e) { return e.row < e.column; });
-  const Matrix A = record<double>(structure, kSymmetricLower);
-  std::mt19937 random(5);
-  for (const auto factor : {&taucs_ccs_factor_llt_ll, &taucs_ccs_factor_llt_mf}) {
-    const Factor L(factor(A.get()));
-    ASSERT_NE(L, nullptr);
-    expect_solved<double>(*A, L.get(), false, random, kTolerance);
-  }
-  const Factor D(taucs_ccs_factor_ldlt_ll(A.get()));
-  ASSERT_NE(D, nullptr);
-  EXPECT_EQ(inertia(D.get()), (std::vector{0, A->n, 0}));
 }
 
 }  // namespace
