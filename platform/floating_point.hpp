@@ -54,7 +54,7 @@ class OwnSettings {
  public:
   OwnSettings() noexcept {
     (host_.*kRead)();
-    if (!host_.is_own()) host_.set_own();  // NOLINT(*-UninitializedObject)
+    if (!host_.is_own()) host_.set_own();  // NOLINT(*UninitializedObject)
   }
   ~OwnSettings() {
     if (!host_.is_own()) host_.restore();
