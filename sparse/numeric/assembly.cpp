@@ -18,18 +18,23 @@ struct Step {
 };
 
 // Calls take(entry, step, is_conjugated) for each element that an entry of the pattern adds to: in the lower triangle
-// for symmetric panels, anywhere for others.
+// for symmetric panels, anywhere for others. lists[k] is the pattern's list for step k: in this order elements that are
+// near each other come soon after one another.
 template <class Take>
-void for_each_element(const Plan& plan, const Pattern& pattern, const AssemblyOptions& options, const Take& take) {
+void for_each_element(const Plan& plan, const Pattern& pattern, const AssemblyOptions& options, const int* lists,
+                      const Take& take) {
   const int* const inverse = plan.inverse();
   const bool is_mirrored = options.symmetry != Symmetry::kGeneral;
   const bool is_hermitian = options.symmetry == Symmetry::kHermitian;
-  for (int list = 0; list < pattern.columns; ++list) {
-    for (int k = pattern.starts[list]; k < pattern.starts[list + 1]; ++k) {
+  for (int own = 0; own < pattern.columns; ++own) {
+    const int list = lists[own];
+    for (int k = pattern.starts[list], end = pattern.starts[list + 1]; k < end; ++k) {
       const int index = pattern.indices[k];
       const int i = options.by_rows ? list : index, j = options.by_rows ? index : list;
       if ((options.read == Triangle::kLower && i < j) || (options.read == Triangle::kUpper && i > j)) continue;
-      const Step step{inverse[options.row_position == nullptr ? i : options.row_position[i]], inverse[j]};
+      const bool is_moved = options.row_position != nullptr && !options.by_rows;
+      const int other = inverse[is_moved ? options.row_position[i] : index];
+      const Step step = options.by_rows ? Step{own, other} : Step{other, own};
       const Step mirrored{step.column, step.row};
       if (options.panels == PanelKind::kUnsymmetric) {
         take(k, step, false);
@@ -59,7 +64,8 @@ Outcome Assembly::build(const Plan& plan, const Pattern& pattern, const Assembly
   built.panels_ = options.panels;
   built.symmetry_ = options.symmetry;
   built.starts_ = Workspace<int>(to_size(n) + 1);
-  Workspace<int> next(to_size(n)), position(to_size(n));
+  Workspace<int> next(to_size(n));
+  Workspace<unsigned> position(to_size(n));
   if (!built.starts_ || !next || !position) return Outcome::kOutOfMemory;
   if (options.row_position != nullptr) {
     built.rows_ = Workspace<int>(to_size(n));
@@ -70,7 +76,8 @@ Outcome Assembly::build(const Plan& plan, const Pattern& pattern, const Assembly
   // Count, cumulate, scatter. Places hold steps at first; those right of the diagonal block are complemented.
   std::fill(next.begin(), next.end(), 0);
   std::int64_t count = 0;
-  for_each_element(plan, pattern, options, [&](int, Step step, bool) {
+  const int* const lists = options.by_rows && built.rows_ ? built.rows() : plan.permutation();
+  for_each_element(plan, pattern, options, lists, [&](int, Step step, bool) {
     ++next[to_size(panel_column(plan, step))];
     ++count;
   });
@@ -78,29 +85,31 @@ Outcome Assembly::build(const Plan& plan, const Pattern& pattern, const Assembly
   cumulate(n, next.data(), built.starts_.data());
   built.places_ = Workspace<Place>(static_cast<std::size_t>(count));
   if (!built.places_) return Outcome::kOutOfMemory;
-  for_each_element(plan, pattern, options, [&](int entry, Step step, bool is_conjugated) {
+  for_each_element(plan, pattern, options, lists, [&](int entry, Step step, bool is_conjugated) {
     const int column = panel_column(plan, step);
     const int row = column == step.column ? step.row : ~step.column;
     built.places_[to_size(next[to_size(column)]++)] = {is_conjugated ? ~entry : entry, row};
   });
 
-  // From steps to the rows of panels: position[k] for the rows k of the panel at hand, which all others lack.
-  std::fill(position.begin(), position.end(), kNone);
+  // From steps to the rows of panels, all panels' rows having been numbered: position[k] is the number of step k in the
+  // panel at hand, of a step that is none of its rows a smaller one.
+  std::fill(position.begin(), position.end(), 0U);
   bool is_sound = true;
+  unsigned begin = 1;
   for (int s = 0; s < plan.supernodes(); ++s) {
     const int first = plan.first(s), columns = plan.columns(s);
     const auto below = plan.below(s);
-    for (int i = 0; i < columns; ++i) position[to_size(first + i)] = i;
-    for (std::size_t i = 0; i < below.size(); ++i) position[to_size(below[i])] = columns + static_cast<int>(i);
+    unsigned number = begin;
+    for (int i = 0; i < columns; ++i) position[to_size(first + i)] = number++;
+    for (const int k : below) position[to_size(k)] = number++;
     for (int k = built.starts_[to_size(first)]; k < built.starts_[to_size(first + columns)]; ++k) {
       int& row = built.places_[to_size(k)].row;
       const bool is_right_of_block = row < 0;
-      const int place = position[to_size(is_right_of_block ? ~row : row)];
-      is_sound = is_sound && place != kNone;
-      row = is_right_of_block ? place + plan.below_count(s) : place;
+      const unsigned place = position[to_size(is_right_of_block ? ~row : row)];
+      is_sound = is_sound && place >= begin;
+      row = static_cast<int>(place - begin) + (is_right_of_block ? plan.below_count(s) : 0);
     }
-    for (int i = 0; i < columns; ++i) position[to_size(first + i)] = kNone;
-    for (const int row : below) position[to_size(row)] = kNone;
+    begin = number;
   }
   if (!is_sound) return Outcome::kBadPattern;
   *this = std::move(built);

@@ -1,6 +1,8 @@
 #include "sparse/symbolic/column_order.hpp"
 
 #include <algorithm>
+#include <bit>
+#include <limits>
 #include <numeric>
 #include <utility>
 
@@ -13,24 +15,17 @@ class Partition {
  public:
   bool create(const SupernodeRows& supernodes, int n) noexcept {
     const auto size = static_cast<std::size_t>(n);
-    memory_ = base::Workspace<int>(base::saturating_product(size, 9));
-    if (!memory_) return false;
+    memory_ = base::Workspace<int>(base::saturating_product(size, 4));
+    classes_ = base::Workspace<Class>(size);
+    if (!memory_ || !classes_) return false;
     order_ = memory_.data();
     place_ = order_ + n;
     class_of_ = place_ + n;
-    begin_ = class_of_ + n;
-    end_ = begin_ + n;
-    taken_ = end_ + n;
-    moved_ = taken_ + n;
-    goes_right_ = moved_ + n;
-    touched_ = goes_right_ + n;
+    touched_ = class_of_ + n;
     std::iota(order_, order_ + n, 0);
     std::iota(place_, place_ + n, 0);
     std::copy_n(supernodes.supernode_of, n, class_of_);
-    count_ = supernodes.supernodes;
-    std::copy_n(supernodes.first, count_, begin_);
-    std::copy_n(supernodes.first + 1, count_, end_);
-    std::fill_n(taken_, n, 0);
+    for (int s = 0; s < supernodes.supernodes; ++s) add_class(supernodes.first[s], supernodes.first[s + 1]);
     return true;
   }
 
@@ -42,35 +37,49 @@ class Partition {
     int touched = 0;
     for (int i = 0; i < size; ++i) {
       const int c = class_of_[set[i]];
-      if (taken_[c]++ == 0) touched_[touched++] = c;
+      if (class_at(c).taken++ == 0) touched_[touched++] = c;
     }
     bool is_split = false;
     for (int t = 0; t < touched; ++t) {
-      const int c = touched_[t];
-      moved_[c] = 0;
-      is_split = is_split || taken_[c] < end_[c] - begin_[c];
-      goes_right_[c] = end_[c] < end && taken_[class_of_[order_[end_[c]]]] > 0;
+      Class& c = class_at(touched_[t]);
+      c.moved = 0;
+      c.goes_right = c.end < end && class_at(class_of_[order_[c.end]]).taken > 0;
+      is_split = is_split || c.is_cut();
     }
     if (is_split) {
       for (int i = 0; i < size; ++i) {
-        const int c = class_of_[set[i]];
-        if (taken_[c] == end_[c] - begin_[c]) continue;
-        exchange(place_[set[i]], goes_right_[c] != 0 ? end_[c] - 1 - moved_[c] : begin_[c] + moved_[c]);
-        ++moved_[c];
+        Class& c = class_at(class_of_[set[i]]);
+        if (!c.is_cut()) continue;
+        exchange(place_[set[i]], c.goes_right ? c.end - 1 - c.moved : c.begin + c.moved);
+        ++c.moved;
       }
     }
     for (int t = 0; t < touched; ++t) {
-      const int c = touched_[t], moved = std::exchange(taken_[c], 0);
-      if (moved == end_[c] - begin_[c]) continue;
-      const int fresh = count_++;
-      begin_[fresh] = goes_right_[c] != 0 ? end_[c] - moved : begin_[c];
-      end_[fresh] = begin_[fresh] + moved;
-      (goes_right_[c] != 0 ? end_[c] : begin_[c]) += goes_right_[c] != 0 ? -moved : moved;
-      for (int k = begin_[fresh]; k < end_[fresh]; ++k) class_of_[order_[k]] = fresh;
+      Class& c = class_at(touched_[t]);
+      const bool is_cut = c.is_cut();
+      const int moved = std::exchange(c.taken, 0);
+      if (!is_cut) continue;
+      const int begin = c.goes_right ? c.end - moved : c.begin, fresh = add_class(begin, begin + moved);
+      (c.goes_right ? c.end : c.begin) += c.goes_right ? -moved : moved;
+      for (int k = begin; k < begin + moved; ++k) class_of_[order_[k]] = fresh;
     }
   }
 
  private:
+  struct Class {
+    int begin, end;  // its places
+    int taken = 0;   // how many of its steps are in the set
+    int moved = 0;   // how many of these have been moved, and whither
+    bool goes_right = false;
+
+    bool is_cut() const noexcept { return taken < end - begin; }
+  };
+
+  Class& class_at(int c) noexcept { return classes_[static_cast<std::size_t>(c)]; }
+  int add_class(int begin, int end) noexcept {
+    class_at(count_) = {begin, end};
+    return count_++;
+  }
   void exchange(int p, int q) noexcept {
     std::swap(order_[p], order_[q]);
     place_[order_[p]] = p;
@@ -78,12 +87,10 @@ class Partition {
   }
 
   base::Workspace<int> memory_;
+  base::Workspace<Class> classes_;
   int *order_ = nullptr, *place_ = nullptr;  // of each place the step, and its inverse
-  int* class_of_ = nullptr;
+  int *class_of_ = nullptr, *touched_ = nullptr;
   int count_ = 0;
-  // Of each class: its places, how many of its steps are in the set and how many have been moved, and whither.
-  int *begin_ = nullptr, *end_ = nullptr, *taken_ = nullptr, *moved_ = nullptr, *goes_right_ = nullptr;
-  int* touched_ = nullptr;
 };
 
 // Calls body(rows, count, p) for the rows of supernode s that stand in one supernode p.
@@ -99,15 +106,37 @@ void for_each_block(const SupernodeRows& all, int s, const Body& body) noexcept 
   }
 }
 
+// A set of numbers, as bits.
+using Mark = std::size_t;
+constexpr int kMarkBits = std::numeric_limits<Mark>::digits;
+
+std::size_t mark_words(int range) noexcept { return static_cast<std::size_t>(range / kMarkBits) + 1; }
+
+// Sorts different numbers first, ..., first + range - 1. `marks`: mark_words(range).
+void sort_in_range(int* numbers, int count, int first, int range, Mark* marks) noexcept {
+  std::fill_n(marks, mark_words(range), Mark{0});
+  for (int i = 0; i < count; ++i) {
+    const int number = numbers[i] - first;
+    marks[number / kMarkBits] |= Mark{1} << number % kMarkBits;
+  }
+  for (int base = first; count > 0; base += kMarkBits) {
+    for (Mark word = *marks++; word != 0; word &= word - 1) {
+      *numbers++ = base + std::countr_zero(word);
+      --count;
+    }
+  }
+}
+
 }  // namespace
 
 bool order_columns(const SupernodeRows& supernodes, int movable, int n, const Ordering& ordering) noexcept {
   Partition partition;
   base::Workspace<int> vertices(static_cast<std::size_t>(n));
-  if (!vertices || !partition.create(supernodes, n)) return false;
+  base::Workspace<Mark> marks(mark_words(n));
+  if (!vertices || !marks || !partition.create(supernodes, n)) return false;
   // Supernodes that come last have the largest updates: their rows are put together first. Those of few columns have
   // little to add, and of a narrow panel little is scattered.
-  constexpr int kFewAdded = 8, kFewColumns = 16;
+  constexpr int kFewAdded = 16, kFewColumns = 32;
   for (int d = supernodes.supernodes - 1; d >= 0; --d) {
     if (supernodes.first[d + 1] - supernodes.first[d] <= kFewAdded) continue;
     for_each_block(supernodes, d, [&](const int* rows, int count, int s) {
@@ -115,24 +144,20 @@ bool order_columns(const SupernodeRows& supernodes, int movable, int n, const Or
       if (count > 1 && count < columns && columns > kFewColumns && s < movable) partition.refine(rows, count, end);
     });
   }
+  int* const rows = supernodes.rows;
+  const int row_count = supernodes.row_starts[supernodes.supernodes];
+  for (int k = 0; k < row_count; ++k) rows[k] = partition.place(rows[k]);
+  // Rows stay in their supernodes' places.
   for (int d = 0; d < supernodes.supernodes; ++d) {
-    bool is_ascending = true;
-    int before = 0;
-    for (int k = supernodes.row_starts[d]; k < supernodes.row_starts[d + 1]; ++k) {
-      supernodes.rows[k] = partition.place(supernodes.rows[k]);
-      is_ascending = is_ascending && supernodes.rows[k] >= before;
-      before = supernodes.rows[k];
+    const int begin = supernodes.row_starts[d], end = supernodes.row_starts[d + 1];
+    for (int k = begin + 1; k < end; ++k) {
+      if (rows[k - 1] < rows[k]) continue;
+      const int s = supernodes.supernode_of[rows[k]], first = supernodes.first[s], last = supernodes.first[s + 1] - 1;
+      int block = k - 1;
+      while (block > begin && rows[block - 1] >= first) --block;
+      while (k < end && rows[k] <= last) ++k;
+      sort_in_range(rows + block, k - block, first, last - first + 1, marks.data());
     }
-    // Rows stay in their supernodes' places.
-    if (is_ascending) continue;
-    for_each_block(supernodes, d, [&](int* rows, int count, int) {
-      const auto [least, most] = std::minmax_element(rows, rows + count);
-      if (*most - *least == count - 1) {
-        std::iota(rows, rows + count, int{*least});
-      } else {
-        std::sort(rows, rows + count);
-      }
-    });
   }
   std::copy_n(ordering.permutation, n, vertices.begin());
   for (int k = 0; k < n; ++k) ordering.place(vertices[static_cast<std::size_t>(k)], partition.place(k));

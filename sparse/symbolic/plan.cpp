@@ -93,25 +93,29 @@ double least_stack(const Supernodes& supernodes, int s, Arrangement& arranged) n
 
 void arrange(const Supernodes& supernodes, const int* parent, const int* merged_into, Arrangement& arranged) noexcept {
   const int count = supernodes.count;
-  const auto remains = [&](int s) { return merged_into[s] == s; };
-  int* const next = arranged.place;
-  std::fill_n(next, count, 0);
+  // Those that remain, ascending. They make way for the order: at a root at most all up to it have their places.
+  int *const remaining = arranged.order, *const next = arranged.place;
+  int remaining_count = 0;
   for (int s = 0; s < count; ++s) {
-    if (remains(s) && parent[s] != kNone) ++next[parent[s]];
+    remaining[remaining_count] = s;
+    remaining_count += merged_into[s] == s ? 1 : 0;
+  }
+  std::fill_n(next, count, 0);
+  for (int i = 0; i < remaining_count; ++i) {
+    if (const int p = parent[remaining[i]]; p != kNone) ++next[p];
   }
   cumulate(count, next, arranged.child_starts);
-  for (int s = 0; s < count; ++s) {
-    if (remains(s) && parent[s] != kNone) arranged.children[next[parent[s]]++] = s;
+  for (int i = 0; i < remaining_count; ++i) {
+    if (const int p = parent[remaining[i]]; p != kNone) arranged.children[next[p]++] = remaining[i];
   }
-  for (int s = 0; s < count; ++s) {
-    if (!remains(s)) continue;
-    arranged.peak[to_size(s)] = least_stack(supernodes, s, arranged);
+  for (int i = 0; i < remaining_count; ++i) {
+    arranged.peak[to_size(remaining[i])] = least_stack(supernodes, remaining[i], arranged);
   }
   // Postorder: down to the next child that has not been visited, else up.
   std::copy_n(arranged.child_starts, count, next);
-  for (int root = 0; root < count; ++root) {
-    if (!remains(root) || parent[root] != kNone) continue;
-    for (int s = root; s != kNone;) {
+  for (int i = 0; i < remaining_count; ++i) {
+    if (parent[remaining[i]] != kNone) continue;
+    for (int s = remaining[i]; s != kNone;) {
       if (next[s] < arranged.child_starts[s + 1]) {
         s = arranged.children[next[s]++];
       } else {
@@ -123,9 +127,14 @@ void arrange(const Supernodes& supernodes, const int* parent, const int* merged_
   for (int k = 0; k < arranged.count; ++k) arranged.place[arranged.order[k]] = k;
 }
 
-// Operations on a column with r rows below it: its pivot, r divisions, and its multiples are subtracted from r columns
-// of 1, ..., r rows.
-double column_operations(double r) noexcept { return 1 + r + r * (r + 1); }
+// 1^2 + ... + m^2
+double sum_of_squares(double m) noexcept { return m * (m + 1) * (2 * m + 1) / 6; }
+
+// Operations on columns with length + width - 1, ..., length rows below them. With r rows: the pivot, r divisions, and
+// multiples are subtracted from r columns of 1, ..., r rows; (r + 1)^2 together.
+double column_operations(double width, double length) noexcept {
+  return sum_of_squares(length + width) - sum_of_squares(length);
+}
 
 // `before` is ascending, from 0 to the sum.
 template <class Before>
@@ -240,22 +249,29 @@ Outcome Plan::build(const Graph& graph, const Ordering& ordering, const PlanOpti
   // Row k of the factor: each entry a_ki, i < k, makes entries in all supernodes on the way from i's up to k's.
   plan.rows_ = Workspace<int>(to_size(static_cast<int>(row_count)));
   if (!plan.rows_) return Outcome::kOutOfMemory;
-  int* const visited = tree.scratch + 3 * n;
-  std::fill_n(visited, count, kNone);
-  std::copy_n(plan.row_starts_.data(), count, next);
+  struct List {  // of a supernode: the last row that has been seen, the place of the next, the parent's list
+    int last, next;
+    List* parent;
+  };
+  Workspace<List> lists(to_size(count));
+  if (!lists) return Outcome::kOutOfMemory;
+  for (int s = 0; s < count; ++s) {
+    const int p = plan.parent(s);
+    lists[to_size(s)] = {kNone, plan.row_starts_[to_size(s)], p == kNone ? nullptr : lists.data() + p};
+  }
   for (int k = 0; k < n; ++k) {
-    visited[plan.supernode_of(k)] = k;
+    lists[to_size(plan.supernode_of(k))].last = k;
     for (const int i : neighbours.earlier(given_step[k])) {
-      for (int s = supernode_of_given[i]; visited[s] != k; s = plan.parent(s)) {
-        visited[s] = k;
-        plan.rows_[to_size(next[s]++)] = k;
+      for (List* list = &lists[to_size(supernode_of_given[i])]; list->last != k; list = list->parent) {
+        list->last = k;
+        plan.rows_[to_size(list->next++)] = k;
       }
     }
   }
 
-  const SupernodeRows lists{count, plan.first_.data(), plan.supernode_of_.data(), plan.row_starts_.data(),
-                            plan.rows_.data()};
-  if (!order_columns(lists, plan.eliminated(), n, steps)) return Outcome::kOutOfMemory;
+  const SupernodeRows rows{count, plan.first_.data(), plan.supernode_of_.data(), plan.row_starts_.data(),
+                           plan.rows_.data()};
+  if (!order_columns(rows, plan.eliminated(), n, steps)) return Outcome::kOutOfMemory;
   if (options.most_elements > 0) {
     const Outcome outcome = plan.cut_supernodes(options.panels, options.most_elements);
     if (outcome != Outcome::kDone) return outcome;
@@ -337,9 +353,7 @@ void Plan::measure() noexcept {
     const std::size_t i = to_size(s);
     const int p = parent(s), width = columns(s), length = below_count(s);
     if (p != kNone) first_descendant_[to_size(p)] = std::min(first_descendant(p), first_descendant(s));
-    double operations = 0;
-    for (int r = length; r < length + width; ++r) operations += column_operations(r);
-    work_[i + 1] = work_[i] + (s < eliminated() ? operations : 0);
+    work_[i + 1] = work_[i] + (s < eliminated() ? column_operations(width, length) : 0);
     elements_[i + 1] = elements_[i] + static_cast<double>(width) * rows(s);
     most_columns_ = std::max(most_columns_, width);
     most_below_ = std::max(most_below_, length);

@@ -30,10 +30,8 @@ double trapezoid(double columns, double below) { return columns * (columns + 1) 
 // Up to how many columns which part of the entries may be zeros.
 bool is_worth_merging(int columns, int below, double zeros) noexcept {
   if (zeros == 0) return true;
-  const double share = zeros / trapezoid(columns, below);
-  if (columns <= 4) return share < 0.8;
-  if (columns <= 16) return share < 0.4;
-  return share < (columns <= 48 ? 0.1 : 0.05);
+  const double share = columns <= 4 ? 0.8 : columns <= 16 ? 0.4 : columns <= 48 ? 0.1 : 0.05;
+  return zeros < share * trapezoid(columns, below);
 }
 
 }  // namespace

@@ -187,10 +187,10 @@ TEST(Plan, NeverCutsPairsApart) {
   check_rows(plan, graph, given.permutation.data(), 3);
 }
 
-// Cliques of twelve that hang on parts of one large clique, each part within the next or beside it: in any numbering of
+// Cliques of twenty that hang on parts of one large clique, each part within the next or beside it: in any numbering of
 // the large clique's vertices each part's rows become neighbours.
 TEST(Plan, PutsTheRowsOfDescendantsTogether) {
-  constexpr int kParts = 7, kWidth = 12, kCommon = 40, n = kParts * kWidth + kCommon;
+  constexpr int kParts = 7, kWidth = 20, kCommon = 40, n = kParts * kWidth + kCommon;
   const int parts[kParts][2] = {{3, 6}, {0, 8}, {22, 24}, {20, 28}, {28, 33}, {0, 12}, {20, 40}};
   std::vector<int> shuffled(kCommon);
   std::iota(shuffled.begin(), shuffled.end(), kParts * kWidth);
