@@ -84,6 +84,14 @@ struct Representation {
   }
 };
 
+// The halvings that bring an interval of that length to the least one. Of lengths that are not finite, what would do
+// for any float.
+int halvings_to(float least, float length) {
+  constexpr int kAny = 300;
+  const float halvings = (std::log(length) - std::log(least)) / std::log(2.0F);
+  return halvings >= 0 && halvings < kAny ? static_cast<int>(halvings) : kAny;
+}
+
 // An interval around eigenvalue `number`, counted from 1.
 struct Interval {
   float left, right;
@@ -114,7 +122,7 @@ void slarrb_(const std::int32_t* order, const float* d, const float* lld, const 
   const bool is_twisted = 1 <= *twist && *twist <= *order;
   const Representation representation{*order, d, lld, is_twisted ? *twist : *order};
   const int count = *last - *first + 1, base = *first - *offset - 1;  // element base of w is the first eigenvalue's
-  const int most_halvings = static_cast<int>((std::log(*spdiam + *pivmin) - std::log(*pivmin)) / std::log(2.0F)) + 2;
+  const int most_halvings = halvings_to(*pivmin, *spdiam + *pivmin) + 2;
   const auto interval = [work](int i) -> Interval& { return reinterpret_cast<Interval*>(work)[i]; };
   const auto has_converged = [&](int i, float half_width, float left_gap) {
     const Interval& x = interval(i);
