@@ -129,30 +129,27 @@ bool solve_wide(const T* row, const T* column, const T* b, T* x, ptrdiff_t m, Wi
   return true;
 }
 
-}  // namespace
-
+// The same without memory of its own: the vectors stay in x, work1 and work2. False, with x unusable, at a singular
+// minor.
 template <class T>
-bool solve_toeplitz_in_place(const T* row, const T* column, const T* b, T* x, T* work1, T* work2, int m) {
+bool solve_in_place(const T* row, const T* column, const T* b, T* x, T* work1, T* work2, int m) {
   return run_recursion(row, std::make_reverse_iterator(column + (m - 1)), b, x, work1, work2, m);
 }
+
+}  // namespace
 
 template <class T>
 void solve_toeplitz(const T* row, const T* column, const T* b, T* x, T* work1, T* work2, int m) noexcept {
   if (m <= 0) return;
   constexpr std::size_t kVectors = 5;
   base::Workspace<Wide<T>> memory(base::saturating_product(kVectors, static_cast<std::size_t>(m)));
-  const bool solved = memory ? solve_wide(row, column, b, x, m, memory.data())
-                             : solve_toeplitz_in_place(row, column, b, x, work1, work2, m);
+  const bool solved =
+      memory ? solve_wide(row, column, b, x, m, memory.data()) : solve_in_place(row, column, b, x, work1, work2, m);
   if (!solved) std::fill_n(x, m, T(std::numeric_limits<float>::quiet_NaN()));
 }
 
 template void solve_toeplitz(const float*, const float*, const float*, float*, float*, float*, int) noexcept;
 template void solve_toeplitz(const std::complex<float>*, const std::complex<float>*, const std::complex<float>*,
                              std::complex<float>*, std::complex<float>*, std::complex<float>*, int) noexcept;
-
-template bool solve_toeplitz_in_place(const float*, const float*, const float*, float*, float*, float*, int);
-template bool solve_toeplitz_in_place(const std::complex<float>*, const std::complex<float>*,
-                                      const std::complex<float>*, std::complex<float>*, std::complex<float>*,
-                                      std::complex<float>*, int);
 
 }  // namespace quorin::signal

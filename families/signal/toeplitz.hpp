@@ -22,18 +22,8 @@ namespace quorin::signal {
 template <class T>
 void solve_toeplitz(const T* row, const T* column, const T* b, T* x, T* work1, T* work2, int m) noexcept;
 
-// The same without memory of its own: the vectors stay in x, work1 and work2. False, with x unusable, at a singular
-// minor.
-template <class T>
-[[nodiscard]] bool solve_toeplitz_in_place(const T* row, const T* column, const T* b, T* x, T* work1, T* work2, int m);
-
 extern template void solve_toeplitz(const float*, const float*, const float*, float*, float*, float*, int) noexcept;
 extern template void solve_toeplitz(const std::complex<float>*, const std::complex<float>*, const std::complex<float>*,
                                     std::complex<float>*, std::complex<float>*, std::complex<float>*, int) noexcept;
-
-extern template bool solve_toeplitz_in_place(const float*, const float*, const float*, float*, float*, float*, int);
-extern template bool solve_toeplitz_in_place(const std::complex<float>*, const std::complex<float>*,
-                                             const std::complex<float>*, std::complex<float>*, std::complex<float>*,
-                                             std::complex<float>*, int);
 
 }  // namespace quorin::signal
