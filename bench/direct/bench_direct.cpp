@@ -13,7 +13,6 @@
 #include <cstring>
 #include <functional>
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -33,11 +32,6 @@ namespace {
 using namespace sparse;
 
 constexpr int kRightHandSides = 32;
-
-template <class Result>
-void require(Result result) {
-  if (result != Result::kDone) throw std::runtime_error("outcome " + std::to_string(static_cast<int>(result)));
-}
 
 template <Scalar T>
 double gemm_rate(int threads) {

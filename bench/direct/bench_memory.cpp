@@ -1,8 +1,7 @@
 // The memory that a factorization is said to take at its peak, and what it takes of the C library's allocator, for the
 // left-looking and the multifrontal method. Prints a table. Linked with --wrap for malloc and its like.
+#include <algorithm>
 #include <cstdio>
-#include <stdexcept>
-#include <string>
 #include <vector>
 
 #include "base/parallel.hpp"
@@ -17,11 +16,6 @@ namespace {
 using namespace sparse;
 
 constexpr double kMega = 1e6;
-
-template <class Result>
-void require(Result result) {
-  if (result != Result::kDone) throw std::runtime_error("outcome " + std::to_string(static_cast<int>(result)));
-}
 
 void measure(const char* name, const char* label, test::SparseMatrix A, const FactorOptions& kind) {
   const bool is_lu = kind.factorization == Factorization::kLU;

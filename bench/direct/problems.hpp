@@ -4,11 +4,19 @@
 #include <algorithm>
 #include <cmath>
 #include <random>
+#include <stdexcept>
+#include <string>
 #include <vector>
 
 #include "tests/support/sparse.hpp"
 
 namespace quorin::bench {
+
+// For the engine's outcomes.
+template <class Result>
+void require(Result result) {
+  if (result != Result::kDone) throw std::runtime_error("outcome " + std::to_string(static_cast<int>(result)));
+}
 
 // Of a symmetric matrix the lower triangle.
 inline test::SparseMatrix laplace(int a, int b, int c, bool corners) {
