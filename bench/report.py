@@ -77,7 +77,7 @@ SECTIONS = {
     "umfpack": (
         "Sparse LU with float entries",
         "One thread. Analysis, factorization, solution with refinement, and freeing of matrices of order n, against UMFPACK's"
-        " own calls with doubles, the same code over the same BLAS. Grid: five-point differences.",
+        " own calls with the same numbers as doubles, the same code over the same BLAS. Grid: five-point differences.",
     ),
     "pack": (
         "Packing and unpacking",
