@@ -86,8 +86,8 @@ TEST(EveryRoutine, FindsAnyWrongArgumentAndTouchesNothing) {
       const auto after = call.contents();
       for (std::size_t i = 0; i + 1 < routine.arguments.size(); ++i) {
         const std::string name = routine.arguments[i].name;
-        // These are written first: sstein clears the one, strevc counts the others, lengths are computed in the last.
-        if (name == "ifail" || name == "m" || name == "select" || name.ends_with("work")) continue;
+        // These are written first: sstein clears ifail, strevc counts m and select, and lengths are told in the others.
+        if (name == "ifail" || name == "m" || name == "select" || name == "rwork" || name == "iwork") continue;
         EXPECT_TRUE(after[i] == before[i]) << name;
       }
     }
