@@ -23,8 +23,8 @@ struct Region {
   int parts;
   std::atomic<int> next{0};
   // Guarded by the pool's mutex.
-  int wanted = 0;   // workers that may still join
-  int working = 0;  // workers that have joined and not left
+  int wanted = 0;               // workers that may still join
+  std::atomic<int> working{0};  // workers that have joined and not left
   Region* following = nullptr;
   platform::ConditionVariable left;
 
@@ -77,7 +77,7 @@ class Pool {
     region.wanted = helpers;
     region.following = regions_;
     regions_ = &region;
-    open_regions_.fetch_add(1, std::memory_order_relaxed);
+    opened_.fetch_add(1, std::memory_order_relaxed);
     // Workers still on their way count as idle, so that simultaneous regions do not start too many.
     const int missing = std::clamp(helpers - idle_, 0, kMostThreads - 1 - workers_);
     workers_ += missing;
@@ -94,15 +94,16 @@ class Pool {
 
   // No worker joins any more; waits for those that have.
   void close(Region& region) {
-    const std::lock_guard lock(mutex_);
+    mutex_.lock();
     for (Region** link = &regions_; *link != nullptr; link = &(*link)->following) {
       if (*link == &region) {
         *link = region.following;
         break;
       }
     }
-    open_regions_.fetch_sub(1, std::memory_order_relaxed);
+    spin_while([&region] { return region.working.load(std::memory_order_relaxed) > 0; });
     while (region.working > 0) region.left.wait(mutex_);
+    mutex_.unlock();
   }
 
   Region* joinable() {
@@ -135,7 +136,11 @@ class Pool {
   // The next region to join, or null after the block time. Called and left with the mutex held.
   Region* wait_for_region() {
     Region* region = joinable();
-    if (region == nullptr && block_time() > 0) region = spin_for_region();
+    if (region == nullptr && block_time() > 0) {
+      const unsigned before = opened_.load(std::memory_order_relaxed);
+      spin_while([&] { return opened_.load(std::memory_order_relaxed) == before; });
+      region = joinable();
+    }
     while (region == nullptr) {
       // A wake-up may be for a region that others have finished; the wait then starts afresh, which only errs on the
       // side of patience. It may also be because the block time has changed, or because all is over.
@@ -147,13 +152,15 @@ class Pool {
     return region;
   }
 
-  // Loops of small regions follow each other faster than a sleeping thread wakes up.
-  Region* spin_for_region() {
-    constexpr int kSpins = 2000;
+  // A sleeping thread takes longer to wake up than most regions and what is between them take. Called and left with the
+  // mutex held, which others may have in between.
+  template <class Condition>
+  void spin_while(const Condition& holds) {
+    constexpr int kSpins = 20'000;  // half a millisecond, or twice that
+    if (!holds()) return;
     mutex_.unlock();
-    for (int i = 0; i < kSpins && open_regions_.load(std::memory_order_relaxed) == 0; ++i) platform::spin_pause();
+    for (int i = 0; i < kSpins && holds(); ++i) platform::spin_pause();
     mutex_.lock();
-    return joinable();
   }
 
   platform::Mutex mutex_;
@@ -163,7 +170,7 @@ class Pool {
   int idle_ = 0;
   bool has_ended_ = false;
   void (*idle_action_)() noexcept = nullptr;
-  std::atomic<int> open_regions_{0};
+  std::atomic<unsigned> opened_{0};  // regions so far
 };
 
 constinit Pool pool;
