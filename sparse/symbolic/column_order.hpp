@@ -17,7 +17,7 @@ struct SupernodeRows {
 // Rearranges the steps within each of the supernodes 0, ..., movable - 1 so that the rows which a descendant has there
 // follow each other, as far as can be: what is added to a panel then goes to few runs of rows and columns. Steps,
 // permutation and rows change together; the panels' sizes do not. False without memory, and nothing is changed.
-// Time: O(n + rows), but for the sorting of what remains scattered.
+// Time: O(n + rows).
 //
 // M. Jacquelin, E. G. Ng, B. W. Peyton, Fast and effective reordering of columns within supernodes using partition
 // refinement, SIAM Workshop on Combinatorial Scientific Computing (2018) 76-86; R. Paige, R. E. Tarjan, Three partition

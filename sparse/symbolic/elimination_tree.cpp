@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 namespace quorin::sparse {
 
@@ -47,9 +48,10 @@ void elimination_tree(const StepNeighbours& neighbours, int* parent, int* scratc
   }
 }
 
-void postorder(int n, const int* parent, int* order, int* scratch) noexcept {
+void postorder(int n, const int* parent, int* order, int* order_parent, int* scratch) noexcept {
   int* const first_child = scratch;
   int* const next_sibling = scratch + n;
+  int* const place = first_child;  // of nodes that have theirs: all their children have been visited
   std::fill_n(first_child, n, kNone);
   for (int k = n - 1; k >= 0; --k) {
     if (parent[k] == kNone) continue;
@@ -65,93 +67,73 @@ void postorder(int n, const int* parent, int* order, int* scratch) noexcept {
         first_child[node] = next_sibling[child];
         node = child;
       } else {
+        place[node] = count;
         order[count++] = node;
         node = parent[node];
       }
     }
   }
+  for (int k = 0; k < n; ++k) order_parent[k] = parent[order[k]] == kNone ? kNone : place[parent[order[k]]];
 }
 
 namespace {
 
-// The nodes of the tree in which row i of the factor has a leaf: row subtrees, taken in postorder.
-class RowSubtrees {
- public:
-  RowSubtrees(int n, int* scratch) noexcept
-      : deepest_first_(scratch), previous_leaf_(scratch + n), ancestor_(scratch + 2 * n) {
-    std::fill_n(deepest_first_, n, kNone);
-    std::fill_n(previous_leaf_, n, kNone);
-    std::iota(ancestor_, ancestor_ + n, 0);
-  }
-
-  // Whether node j, whose first descendant is `first` in postorder, is a leaf of row i's subtree. Then `overlap` is the
-  // least common ancestor of it and the leaf before, or kNone.
-  bool is_leaf(int i, int j, int first, int& overlap) noexcept {
-    if (first <= deepest_first_[i]) return false;
-    deepest_first_[i] = first;
-    overlap = previous_leaf_[i];
-    previous_leaf_[i] = j;
-    if (overlap != kNone) overlap = root_of(overlap);
-    return true;
-  }
-  void link(int j, int parent) noexcept { ancestor_[j] = parent; }
-
- private:
-  int root_of(int node) noexcept {
-    int root = node;
-    while (root != ancestor_[root]) root = ancestor_[root];
-    while (node != root) node = std::exchange(ancestor_[node], root);
-    return root;
-  }
-
-  int* deepest_first_;
-  int* previous_leaf_;
-  int* ancestor_;
-};
+// The root of a node's tree in a forest whose roots are their own ancestors; the path is shortened.
+int root_of(int node, int* ancestor) noexcept {
+  int root = node;
+  while (root != ancestor[root]) root = ancestor[root];
+  while (node != root) node = std::exchange(ancestor[node], root);
+  return root;
+}
 
 }  // namespace
 
-void column_counts(const StepNeighbours& neighbours, const int* parent, const int* order, int* counts,
+void column_counts(const StepNeighbours& neighbours, const int* order, const int* parent, int* counts,
                    int* scratch) noexcept {
   const int n = neighbours.size();
-  int* const first_descendant = scratch;
-  std::fill_n(first_descendant, n, kNone);
+  // Row i of the factor has a subtree of the tree. Its leaves come in postorder: a neighbour of i is one if the leaf
+  // before it is not among its descendants.
+  int *const first_descendant = scratch, *const previous_leaf = scratch + n, *const ancestor = scratch + 2 * n;
+  std::iota(first_descendant, first_descendant + n, 0);
+  std::iota(ancestor, ancestor + n, 0);
+  std::fill_n(previous_leaf, n, kNone);
   // A node without children begins with the diagonal; the others with what their children bring.
   for (int k = 0; k < n; ++k) {
-    counts[order[k]] = first_descendant[order[k]] == kNone ? 1 : 0;
-    for (int j = order[k]; j != kNone && first_descendant[j] == kNone; j = parent[j]) first_descendant[j] = k;
+    const int first = first_descendant[k], p = parent[k];
+    counts[k] = first == k ? 1 : 0;
+    if (p != kNone) first_descendant[p] = std::min(first_descendant[p], first);
   }
-  RowSubtrees rows(n, scratch + n);
   for (int k = 0; k < n; ++k) {
-    const int j = order[k];
-    if (parent[j] != kNone) --counts[parent[j]];
-    for (const int i : neighbours.later(j)) {
-      int overlap = kNone;
-      if (rows.is_leaf(i, j, first_descendant[j], overlap)) {
-        ++counts[j];
-        if (overlap != kNone) --counts[overlap];
-      }
+    const int first = first_descendant[k];
+    int leaves = 0;
+    for (const int i : neighbours.later(order[k])) {
+      const int leaf_before = previous_leaf[i];
+      if (first <= leaf_before) continue;
+      previous_leaf[i] = k;
+      ++leaves;
+      // Both leaves' paths have the row from their least common ancestor on.
+      if (leaf_before != kNone) --counts[root_of(leaf_before, ancestor)];
     }
-    if (parent[j] != kNone) rows.link(j, parent[j]);
+    counts[k] += leaves;
+    if (parent[k] == kNone) continue;
+    --counts[parent[k]];
+    ancestor[k] = parent[k];
   }
-  // Parents have higher numbers than their children.
-  for (int j = 0; j < n; ++j) {
-    if (parent[j] != kNone) counts[parent[j]] += counts[j];
+  for (int k = 0; k < n; ++k) {
+    if (parent[k] != kNone) counts[parent[k]] += counts[k];
   }
 }
 
 std::int64_t factor_entries(const Graph& graph, const Ordering& ordering) noexcept {
   const int n = graph.size();
-  base::Workspace<int> work(base::saturating_product(static_cast<std::size_t>(n), 7));
+  base::Workspace<int> work(base::saturating_product(static_cast<std::size_t>(n), 6));
   StepNeighbours neighbours;
   if (!work || !neighbours.build(graph, ordering)) return -1;
-  int* const parent = work.data();
-  int* const order = parent + n;
-  int* const counts = order + n;
-  int* const scratch = counts + n;
-  elimination_tree(neighbours, parent, scratch);
-  postorder(n, parent, order, scratch);
-  column_counts(neighbours, parent, order, counts, scratch);
+  int *const tree = work.data(), *const order = tree + n, *const parent = order + n, *const scratch = parent + n;
+  int* const counts = tree;  // one after the other
+  elimination_tree(neighbours, tree, scratch);
+  postorder(n, tree, order, parent, scratch);
+  column_counts(neighbours, order, parent, counts, scratch);
   return std::accumulate(counts, counts + n, std::int64_t{0});
 }
 

@@ -33,13 +33,15 @@ class StepNeighbours {
 // (1986).
 void elimination_tree(const StepNeighbours& neighbours, int* parent, int* scratch) noexcept;
 
-// Nodes in an order in which children come before their parents and every subtree is contiguous: order[k] is the k-th.
-// `scratch`: 2 n. No recursion: trees may be as deep as they have nodes.
-void postorder(int n, const int* parent, int* order, int* scratch) noexcept;
+// Nodes in an order in which children come before their parents and every subtree is contiguous: order[k] is the k-th,
+// and order_parent[k] the place of its parent in this order, kNone at a root. `scratch`: 2 n. No recursion: trees may
+// be as deep as they have nodes.
+void postorder(int n, const int* parent, int* order, int* order_parent, int* scratch) noexcept;
 
-// The entries of each column of the factor, diagonal included. `order` is a postorder of the tree; `scratch`: 4 n.
-// Time: as the tree's. Gilbert, Ng & Peyton, SIAM J. Matrix Anal. Appl. 15 (1994).
-void column_counts(const StepNeighbours& neighbours, const int* parent, const int* order, int* counts,
+// The entries of the factor's columns, diagonal included: counts[k] is that of node order[k]. `order` and `parent` are
+// as postorder() makes them; `scratch`: 3 n. Time: as the tree's. Gilbert, Ng & Peyton, SIAM J. Matrix Anal. Appl. 15
+// (1994).
+void column_counts(const StepNeighbours& neighbours, const int* order, const int* parent, int* counts,
                    int* scratch) noexcept;
 
 // The entries of the factor, diagonal included, or -1 if there is no memory.

@@ -33,23 +33,15 @@ struct OrderedTree {
 
 // Rearranges the ordering into a postorder of its tree, and counts the entries of the factor's columns. The last
 // `schur_size` steps are taken for a clique, so that they remain the last: each is the parent of the one before, and
-// comes after all of its other children. False without memory.
-bool order_tree_by_depth(const StepNeighbours& neighbours, int schur_size, OrderedTree& tree) noexcept {
+// comes after all of its other children.
+void order_tree_by_depth(const StepNeighbours& neighbours, int schur_size, OrderedTree& tree) noexcept {
   const int n = neighbours.size();
-  Workspace<int> given(base::saturating_product(to_size(n), 2));
-  if (!given) return false;
-  int *const parent = given.data(), *const counts = parent + n, *const place = counts;  // one after the other
-  elimination_tree(neighbours, parent, tree.scratch);
-  for (int k = n - schur_size; k < n; ++k) parent[k] = k + 1 < n ? k + 1 : kNone;
-  postorder(n, parent, tree.given, tree.scratch);
-  for (int k = 0; k < n; ++k) place[tree.given[k]] = k;
-  for (int k = 0; k < n; ++k) {
-    const int above = parent[tree.given[k]];
-    tree.parent[k] = above == kNone ? kNone : place[above];
-  }
-  column_counts(neighbours, parent, tree.given, counts, tree.scratch);
-  for (int k = 0; k < n; ++k) tree.counts[k] = k < n - schur_size ? counts[tree.given[k]] : n - k;
-  return true;
+  int* const given_parent = tree.counts;  // one after the other
+  elimination_tree(neighbours, given_parent, tree.scratch);
+  for (int k = n - schur_size; k < n; ++k) given_parent[k] = k + 1 < n ? k + 1 : kNone;
+  postorder(n, given_parent, tree.given, tree.parent, tree.scratch);
+  column_counts(neighbours, tree.given, tree.parent, tree.counts, tree.scratch);
+  for (int k = n - schur_size; k < n; ++k) tree.counts[k] = n - k;
 }
 
 // The remaining supernodes in postorder, the children of each arranged so that a stack of update matrices is smallest.
@@ -183,9 +175,10 @@ Outcome Plan::build(const Graph& graph, const Ordering& ordering, const PlanOpti
   Supernodes supernodes(n);
   StepNeighbours neighbours;
   if (!plan.permutation_ || !plan.inverse_ || !plan.supernode_of_ || !tree.memory || !supernodes.memory ||
-      !neighbours.build(graph, ordering) || !order_tree_by_depth(neighbours, options.schur_size, tree)) {
+      !neighbours.build(graph, ordering)) {
     return Outcome::kOutOfMemory;
   }
+  order_tree_by_depth(neighbours, options.schur_size, tree);
   plan.entries_ = std::accumulate(tree.counts, tree.counts + n, std::int64_t{0});
   int* const height = tree.scratch;
   std::fill_n(height, n, 1);
