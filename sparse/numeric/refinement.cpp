@@ -124,6 +124,31 @@ class Residual {
     return quotient(b, x, r);
   }
 
+  // The factor of a step d that took residuals from `before` to `after` with which its change A d of the residual is as
+  // large as what was there, both in the 2-norm and each row in the size of op(A)'s. A d is taken to be no smaller than
+  // rounding errors. `size`: the maximum norm of d.
+  T balanced_length(const T* before, const T* after, double size) const noexcept {
+    const double* const row_sums = sizes_.data();
+    std::complex<double> projection = 0;
+    double first = 0, change = kEpsilon<T> * size * kEpsilon<T> * size;
+    for (int i = 0; i < n_; ++i) {
+      if (row_sums[i] == 0) continue;
+      const std::complex<double> from = std::complex<double>(before[i]) / row_sums[i];
+      const std::complex<double> by = from - std::complex<double>(after[i]) / row_sums[i];
+      projection += std::conj(by) * from;
+      first += std::norm(from);
+      change += std::norm(by);
+    }
+    const std::complex<double> sign = projection == 0.0 ? 1.0 : projection / std::abs(projection);
+    const std::complex<double> length = sign * std::sqrt(first / change);
+    if (!std::isfinite(std::norm(length)) || length == 0.0) return T{1};
+    if constexpr (kIsComplex<T>) {
+      return static_cast<T>(length);
+    } else {
+      return static_cast<T>(length.real());
+    }
+  }
+
  private:
   // Calls subtract(i, a_ij, x_j) for all entries, and sums up |a_ij| |x_j| beside it.
   template <class Subtract>
@@ -176,8 +201,12 @@ template <Scalar T>
 struct Column {
   const T* b = nullptr;
   T* x = nullptr;
-  int steps = 0;
   double backward_error = kInfinity, error = kInfinity, change = kInfinity;
+  // x and its residual before the last step, or before the first one that was stretched.
+  T *x_before = nullptr, *residual_before = nullptr;
+  double error_before = kInfinity;
+  int steps = 0;
+  bool is_stretched = false;
 };
 
 template <Scalar T>
@@ -188,18 +217,27 @@ class Refinement {
         options_(options),
         residual_(system, options.extended),
         corrections_(base::saturating_product(n_, static_cast<std::size_t>(width))),
-        before_(corrections_.size()) {}
-  explicit operator bool() const noexcept { return residual_ && corrections_ && before_; }
+        before_(corrections_.size()),
+        residuals_before_(corrections_.size()) {}
+  explicit operator bool() const noexcept { return residual_ && corrections_ && before_ && residuals_before_; }
 
   // `columns`: those to be refined, at most `width` of the constructor. Their order is lost.
   FactorOutcome run(Column<T>* columns, int count, detail::CorrectionSolve<T> solve,
                     RefinementReport& report) noexcept {
+    for (int k = 0; k < count; ++k) {
+      columns[k].x_before = slot(before_, k);
+      columns[k].residual_before = slot(residuals_before_, k);
+    }
     for (;;) {
       int left = 0;
       for (int k = 0; k < count; ++k) {
         Column<T>& column = columns[k];
-        const double error = residual_.compute(column.b, column.x, slot(corrections_, left));
-        if (needs_step(column, error, slot(before_, k), report)) columns[left++] = column;
+        T* const residual = slot(corrections_, left);
+        double error = residual_.compute(column.b, column.x, residual);
+        if (is_slow(column, error)) error = stretch(column, error, residual);
+        if (!needs_step(column, error, report)) continue;
+        keep(column, residual);
+        columns[left++] = column;
       }
       count = left;
       if (count == 0) return FactorOutcome::kDone;
@@ -208,7 +246,7 @@ class Refinement {
         if (outcome != FactorOutcome::kDone) {
           finish(columns[k], RefinementEnd::kStopped, report);
         } else {
-          step(columns[k], slot(corrections_, k), slot(before_, k));
+          step(columns[k], slot(corrections_, k));
         }
       }
       if (outcome != FactorOutcome::kDone) return outcome;
@@ -220,10 +258,32 @@ class Refinement {
 
   T* slot(Workspace<T>& memory, int k) const noexcept { return memory.data() + n_ * static_cast<std::size_t>(k); }
 
-  // `before`: what x was before the last step.
-  bool needs_step(Column<T>& column, double backward_error, const T* before, RefinementReport& report) const noexcept {
+  // Whether the last step left more than rounding errors, and not much less than there was.
+  static bool is_slow(const Column<T>& column, double error) noexcept {
+    return column.steps > 0 && error > std::max(2 * kEnough, column.backward_error / 4) && error != kInfinity;
+  }
+
+  // Gives what was added last, d, another length if that is better; returns the error. With a perturbed pivot a solve
+  // gives a fraction of what is wanted in one direction, and the residual falls by as much: the rest of d ends it.
+  // Where A is singular, A d is rounding errors, and more of d, up to their size, makes x the solution of a nearer
+  // system; the next step takes such errors from d, which can then be stretched again.
+  double stretch(Column<T>& column, double error, T* residual) noexcept {
+    double size = 0;
+    for (std::size_t i = 0; i < n_; ++i) size = std::max(size, magnitude(column.x[i] - column.x_before[i]));
+    const T length = residual_.balanced_length(column.residual_before, residual, size);
+    const auto scale_step = [&](T factor) {
+      move(column, column.x_before, [&](std::size_t i) { return product(factor, column.x[i] - column.x_before[i]); });
+      return residual_.compute(column.b, column.x, residual);
+    };
+    const double stretched = scale_step(length);
+    column.is_stretched = column.is_stretched || stretched < error;
+    return stretched < error ? stretched : scale_step(T{1} / length);
+  }
+
+  bool needs_step(Column<T>& column, double backward_error, RefinementReport& report) const noexcept {
     if (column.steps > 0 && backward_error > std::max(column.backward_error, kEnough)) {
-      std::copy_n(before, n_, column.x);
+      std::copy_n(column.x_before, n_, column.x);
+      column.backward_error = column.error_before;
       const bool was_large = column.backward_error > std::sqrt(kEpsilon<T>);
       return finish(column, was_large ? RefinementEnd::kDiverged : RefinementEnd::kStopped, report);
     }
@@ -237,16 +297,29 @@ class Refinement {
     return true;
   }
 
-  void step(Column<T>& column, const T* correction, T* before) const noexcept {
-    std::copy_n(column.x, n_, before);
+  void keep(Column<T>& column, const T* residual) const noexcept {
+    if (column.is_stretched) return;
+    std::copy_n(column.x, n_, column.x_before);
+    std::copy_n(residual, n_, column.residual_before);
+    column.error_before = column.backward_error;
+  }
+
+  void step(Column<T>& column, const T* correction) const noexcept {
+    move(column, column.x, [correction](std::size_t i) { return correction[i]; });
+    ++column.steps;
+  }
+
+  // x <- from + change(i) in every place i.
+  template <class Change>
+  void move(Column<T>& column, const T* from, const Change& change) const noexcept {
     double most = 0, most_changed = 0;
     for (std::size_t i = 0; i < n_; ++i) {
-      column.x[i] += correction[i];
+      const T by = change(i);
+      column.x[i] = from[i] + by;
       most = std::max(most, magnitude(column.x[i]));
-      most_changed = std::max(most_changed, magnitude(correction[i]));
+      most_changed = std::max(most_changed, magnitude(by));
     }
     column.change = most_changed == 0 ? 0 : most_changed / most;
-    ++column.steps;
   }
 
   static bool finish(const Column<T>& column, RefinementEnd end, RefinementReport& report) noexcept {
@@ -259,7 +332,7 @@ class Refinement {
   const std::size_t n_;
   const RefinementOptions& options_;
   Residual<T> residual_;
-  Workspace<T> corrections_, before_;
+  Workspace<T> corrections_, before_, residuals_before_;
 };
 
 }  // namespace

@@ -2,7 +2,9 @@
 // once more.
 //
 // M. Arioli, J. W. Demmel, I. S. Duff, Solving sparse linear systems with sparse backward error, SIAM J. Matrix Anal.
-// Appl. 10 (1989) 165-190.
+// Appl. 10 (1989) 165-190. A step that leaves much of the error gets another length, as it does in GMRES, which copes
+// with perturbed pivots: M. Arioli, I. S. Duff, S. Gratton, S. Pralet, A note on GMRES preconditioned by a perturbed L
+// D L^T decomposition with static pivoting, SIAM J. Sci. Comput. 29 (2007) 2024-2044.
 #pragma once
 
 #include <memory>
@@ -78,7 +80,7 @@ FactorOutcome refine(const LinearSystem<T>& system, const RefinementOptions& opt
 // solutions for them; it must not throw. What it returns ends the work unless it is kDone; x is then a mixture of more
 // and less refined columns. kOutOfMemory leaves x as it was. The report is written in either case.
 //
-// Memory: up to 16 columns, and up to 6 doubles a row. Time: for each step a solve, and O(entries).
+// Memory: up to 24 columns, and up to 6 doubles a row. Time: for each step a solve, and O(entries).
 template <Scalar T, class Solve>
 FactorOutcome refine(const LinearSystem<T>& system, const RefinementOptions& options, int nrhs, const T* b, int ldb,
                      T* x, int ldx, Solve&& solve, RefinementReport& report) noexcept {

@@ -183,9 +183,10 @@ TEST(Refinement, TakesBackWhatMakesThingsWorse) {
     std::vector<double> y = x;
     y[3] *= 1 + error;
     const std::vector<double> before = y;
+    // Changes the residual across itself, so that no length of the step makes it smaller.
     const auto worse = [&](int, double* column) {
+      for (int i = 0; i < n; i += 2) column[i] = -5 * std::exchange(column[i + 1], 5 * column[i]);
       solve_dense(s.dense, column);
-      for (int i = 0; i < n; ++i) column[i] *= -5;
       return FactorOutcome::kDone;
     };
     RefinementReport report;
@@ -194,6 +195,29 @@ TEST(Refinement, TakesBackWhatMakesThingsWorse) {
     EXPECT_EQ(report.steps, 1);
     EXPECT_EQ(y, before);
     EXPECT_EQ(report.backward_error, backward_error(s.system, b.data(), y.data()));
+  }
+}
+
+// As with a pivot that was replaced by a larger one, of a regular matrix and of a singular one, whose systems have no
+// solution but that of a near system.
+TEST(Refinement, LengthensStepsThatFallShort) {
+  constexpr int n = 3;
+  const int starts[] = {0, 2, 4, 5}, indices[] = {0, 1, 0, 1, 2};
+  const double b[] = {1, -0.75, 1};
+  for (const double pivot : {3e-14, 1e-18}) {
+    const double values[] = {2, 1, 1, 0.5 + pivot, 1};
+    const LinearSystem<double> system{{{n, n, starts, indices}, values}};
+    const auto solve = [](int, double* column) {
+      column[1] = (column[1] - column[0] / 2) / 1e-13;
+      column[0] = (column[0] - column[1]) / 2;
+      return FactorOutcome::kDone;
+    };
+    std::vector<double> x(b, b + n);
+    static_cast<void>(solve(1, x.data()));
+    EXPECT_GT(backward_error(system, b, x.data()), 1e-14);
+    RefinementReport report;
+    ASSERT_EQ(refine(system, {.most_steps = 2}, 1, b, n, x.data(), n, solve, report), FactorOutcome::kDone);
+    EXPECT_LE(report.backward_error, 1e-15) << pivot;
   }
 }
 
