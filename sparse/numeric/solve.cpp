@@ -184,19 +184,25 @@ void solve_together(Triangle triangle, bool is_transposed, int n, const T* block
   }
 }
 
+struct Stages {
+  bool forward, diagonal, backward;
+};
+
 // A x = M N x or M D N x, where M consists of lower and N of upper triangles: `down_` is M's in a diagonal block, and
 // `up_` is N's, or its transpose. Below the block, panels hold L or U^T.
 template <Scalar T>
 class Solver {
  public:
-  Solver(const Factor<T>& factor, Operation operation) noexcept
+  Solver(const Factor<T>& factor, Operation operation, Stages stages) noexcept
       : factor_(factor), plan_(factor.plan()), panels_(factor.panels()), kind_(panels_.kind()) {
     const Factorization factorization = factor.factorization();
     const bool is_lu = factorization == Factorization::kLU, is_llt = factorization == Factorization::kLLT;
     const bool is_transposed = operation == Operation::kTransposed || operation == Operation::kAdjoint;
     const bool is_conjugated = operation == Operation::kConjugated || operation == Operation::kAdjoint;
     is_hermitian_ = kIsComplex<T> && (is_llt || factorization == Factorization::kLDLH);
-    has_diagonal_ = !is_lu && !is_llt;
+    const bool divides = !is_lu && !is_llt && stages.diagonal;
+    divides_forward_ = divides && stages.forward;
+    divides_alone_ = divides && !stages.forward;
     // L U, or for the transposed matrix U^T L^T; else L and L^T. A symmetric matrix is its own transpose, and the
     // conjugate of a Hermitian one is.
     const Triangle l{false, !is_llt}, u{true, false};
@@ -210,7 +216,9 @@ class Solver {
   }
 
   const Plan& plan() const noexcept { return plan_; }
-  bool has_diagonal() const noexcept { return has_diagonal_; }
+  // Whether the division by D is a stage of its own. It belongs to forward() where that is a stage, too, as a panel is at
+  // hand then.
+  bool divides_alone() const noexcept { return divides_alone_; }
   // Whether M and D, or N, are solved with for the conjugate of x: L^H x = b is L^T conj(x) = conj(b).
   bool conjugates_down() const noexcept { return conjugates_down_; }
   bool conjugates_up() const noexcept { return conjugates_down_ != is_hermitian_; }
@@ -239,14 +247,15 @@ class Solver {
     const bool is_inside = m == 0 || below.back() < outside;
     if (is_inside && shape.columns <= kColumnsAtOnce<T>) {
       scatter_multiples(m, shape.columns, xs, b, shape.height, rows, x);
-      return true;
+    } else {
+      std::fill_n(buffer, m, T{});
+      subtract_multiples(m, shape.columns, xs, b, shape.height, buffer);
+      const int inside =
+          is_inside ? m : static_cast<int>(std::lower_bound(below.begin(), below.end(), outside) - below.begin());
+      for (int i = 0; i < inside; ++i) x[rows[i]] += buffer[i];
+      for (int i = inside; i < m; ++i) sums[place[rows[i]]] += buffer[i];
     }
-    std::fill_n(buffer, m, T{});
-    subtract_multiples(m, shape.columns, xs, b, shape.height, buffer);
-    const int inside =
-        is_inside ? m : static_cast<int>(std::lower_bound(below.begin(), below.end(), outside) - below.begin());
-    for (int i = 0; i < inside; ++i) x[rows[i]] += buffer[i];
-    for (int i = inside; i < m; ++i) sums[place[rows[i]]] += buffer[i];
+    if (divides_forward_) divide(s, panel.data(), xs, 1);
     return true;
   }
 
@@ -284,18 +293,19 @@ class Solver {
     if (is_large(shape)) {
       subtract_product(shape.below, shape.columns, b, shape.height, zs, w, buffer, threads,
                        [&](int i) { return row_above(rows[i]); });
-      return true;
-    }
-    constexpr int kAtOnce = 32;
-    T factors[kAtOnce];
-    for (int i = 0; i < shape.below; ++i) {
-      T* const zi = row_above(rows[i]);
-      for (int first = 0; first < shape.columns; first += kAtOnce) {
-        const int count = std::min(kAtOnce, shape.columns - first);
-        for (int k = 0; k < count; ++k) factors[k] = b[i + std::ptrdiff_t{first + k} * shape.height];
-        subtract_multiples(w, count, factors, row(zs, first, w), w, zi);
+    } else {
+      constexpr int kAtOnce = 32;
+      T factors[kAtOnce];
+      for (int i = 0; i < shape.below; ++i) {
+        T* const zi = row_above(rows[i]);
+        for (int first = 0; first < shape.columns; first += kAtOnce) {
+          const int count = std::min(kAtOnce, shape.columns - first);
+          for (int k = 0; k < count; ++k) factors[k] = b[i + std::ptrdiff_t{first + k} * shape.height];
+          subtract_multiples(w, count, factors, row(zs, first, w), w, zi);
+        }
       }
     }
+    if (divides_forward_) divide(s, panel.data(), zs, w);
     return true;
   }
 
@@ -323,19 +333,7 @@ class Solver {
   bool divide_by_diagonal(int s, T* z, int w) const noexcept {
     const PinnedPanel<T> panel(panels_, s);
     if (panel.data() == nullptr) return false;
-    const int first = plan_.first(s);
-    const std::ptrdiff_t height = plan_.height(kind_, s);
-    const auto d = [&](int i, int j) { return panel.data()[i + j * height]; };
-    for (int k = 0; k < plan_.columns(s); ++k) {
-      T* const z1 = row(z, first + k, w);
-      if (pairs_ != nullptr && pairs_[first + k] < 0) {
-        const TwoByTwo<T> pivot(d(k, k), d(k, k + 1), d(k + 1, k + 1), is_hermitian_);
-        for (int r = 0; r < w; ++r) pivot.divide_column(z1[r], z1[w + r]);
-        ++k;
-      } else {
-        for (int r = 0; r < w; ++r) z1[r] = d(k, k) == T{} ? T{} : z1[r] / d(k, k);
-      }
-    }
+    divide(s, panel.data(), row(z, plan_.first(s), w), w);
     return true;
   }
 
@@ -350,6 +348,23 @@ class Solver {
   }
   static bool is_large(const Shape& shape) noexcept {
     return shape.columns >= kFewestColumns && shape.columns * std::int64_t{shape.below} >= kManyProducts;
+  }
+
+  // Rows of Z of supernode s.
+  void divide(int s, const T* panel, T* zs, int w) const noexcept {
+    const int* const pivots = pairs_ == nullptr ? nullptr : pairs_ + plan_.first(s);
+    const std::ptrdiff_t height = plan_.height(kind_, s);
+    const auto d = [&](int i, int j) { return panel[i + j * height]; };
+    for (int k = 0; k < plan_.columns(s); ++k) {
+      T* const z1 = row(zs, k, w);
+      if (pivots != nullptr && pivots[k] < 0) {
+        const TwoByTwo<T> pivot(d(k, k), d(k, k + 1), d(k + 1, k + 1), is_hermitian_);
+        for (int r = 0; r < w; ++r) pivot.divide_column(z1[r], z1[w + r]);
+        ++k;
+      } else {
+        for (int r = 0; r < w; ++r) z1[r] = d(k, k) == T{} ? T{} : z1[r] / d(k, k);
+      }
+    }
   }
 
   // The unknowns of supernode s in the order of its pivots, and back.
@@ -371,13 +386,9 @@ class Solver {
   const Plan& plan_;
   const Panels<T>& panels_;
   const PanelKind kind_;
-  bool is_hermitian_ = false, has_diagonal_ = false, conjugates_down_ = false;
+  bool is_hermitian_ = false, divides_forward_ = false, divides_alone_ = false, conjugates_down_ = false;
   Triangle down_{}, up_{};
   const int *order_down_ = nullptr, *order_up_ = nullptr, *pairs_ = nullptr;
-};
-
-struct Stages {
-  bool forward, diagonal, backward;
 };
 
 template <Scalar T>
@@ -398,7 +409,7 @@ bool run_stages(const Solver<T>& solver, Stages stages, std::size_t count, T* z,
   };
   if (stages.forward || stages.diagonal) make(solver.conjugates_down());
   if (stages.forward) is_sound = forward();
-  if (stages.diagonal && solver.has_diagonal()) is_sound = is_sound && diagonal();
+  if (solver.divides_alone()) is_sound = is_sound && diagonal();
   if (stages.backward) {
     make(solver.conjugates_up());
     is_sound = is_sound && backward();
@@ -752,7 +763,7 @@ FactorOutcome solve(const Factor<T>& factor, Operation operation, Stage stage, i
   const bool is_all = stage == Stage::kAll;
   const Stages stages{is_all || stage == Stage::kForward, is_all || stage == Stage::kDiagonal,
                       is_all || stage == Stage::kBackward};
-  const Solver<T> solver(factor, operation);
+  const Solver<T> solver(factor, operation, stages);
   bool is_sound = true;
   if (nrhs >= kFewestTogether) {
     BlockSolve<T> block(solver, nrhs, granted);
@@ -772,10 +783,11 @@ FactorOutcome solve_partly(const Factor<T>& factor, Operation operation, const S
   if (nrhs <= 0 || factor.plan().size() == 0) return FactorOutcome::kDone;
   const dense::KernelBuffer buffers(std::clamp(threads, 1, base::kMostThreads));
   if (buffers.granted() == 0) return FactorOutcome::kOutOfMemory;
-  const Solver<T> solver(factor, operation);
+  constexpr Stages kStages{true, true, true};
+  const Solver<T> solver(factor, operation, kStages);
   BlockSolve<T> block(solver, nrhs, std::clamp(threads, 1, buffers.granted()), &paths);
   if (!block.create()) return FactorOutcome::kOutOfMemory;
-  return block.run({true, true, true}, x, ldx) ? FactorOutcome::kDone : solver.outcome();
+  return block.run(kStages, x, ldx) ? FactorOutcome::kDone : solver.outcome();
 }
 
 template FactorOutcome solve<float>(const Factor<float>&, Operation, Stage, int, float*, int, int) noexcept;
