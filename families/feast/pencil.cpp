@@ -4,7 +4,6 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
-#include <tuple>
 
 namespace quorin::feast {
 
@@ -44,40 +43,52 @@ Status Pencil<T>::assign(int n, Storage storage, const HostMatrix<Host>& A, cons
   return merge(entries.begin(), next) ? Status::kDone : Status::kNoMemory;
 }
 
-// Entries of the same place become one.
+// By columns, rows ascending; entries of the same place become one.
 template <Scalar T>
-bool Pencil<T>::merge(Entry* first, Entry* last) {
-  const auto place = [](const Entry& entry) { return std::tuple(entry.column, entry.row); };
-  std::sort(first, last, [place](const Entry& x, const Entry& y) { return place(x) < place(y); });
-  Entry* end = first;  // of those that are merged
-  for (const Entry* entry = first; entry != last; ++entry) {
-    if (end != first && place(end[-1]) == place(*entry)) {
-      end[-1].a += entry->a;
-      end[-1].b += entry->b;
-    } else {
-      *end++ = *entry;
-    }
-  }
-  const auto count = static_cast<std::size_t>(end - first), n = static_cast<std::size_t>(n_);
+bool Pencil<T>::merge(const Entry* first, const Entry* last) {
+  const auto n = static_cast<std::size_t>(n_);
+  base::Workspace<Entry> sorted(static_cast<std::size_t>(last - first));
+  base::Workspace<int> ends(n);
+  base::Workspace<double> sums(n);
   starts_ = base::Workspace<int>(n + 1);
+  if (!sorted || !ends || !sums || !starts_) return false;
+  std::fill_n(ends.data(), n, 0);
+  for (const Entry* entry = first; entry != last; ++entry) ++ends.data()[entry->column];
+  sparse::cumulate(n_, ends.data(), starts_.data());
+  for (const Entry* entry = first; entry != last; ++entry) sorted.data()[ends.data()[entry->column]++] = *entry;
+
+  const auto is_above = [](const Entry& x, const Entry& y) { return x.row < y.row; };
+  Entry* end = sorted.data();  // of those that are merged
+  for (int j = 0; j < n_; ++j) {
+    Entry *const from = sorted.data() + starts_.data()[j], *const to = sorted.data() + ends.data()[j];
+    if (!std::is_sorted(from, to, is_above)) std::sort(from, to, is_above);
+    const Entry* const column = end;
+    for (const Entry* entry = from; entry != to; ++entry) {
+      if (end != column && end[-1].row == entry->row) {
+        end[-1].a += entry->a;
+        end[-1].b += entry->b;
+      } else {
+        *end++ = *entry;
+      }
+    }
+    starts_.data()[j] = static_cast<int>(column - sorted.data());
+  }
+  const auto count = static_cast<std::size_t>(end - sorted.data());
+  starts_.data()[n_] = static_cast<int>(count);
+
   rows_ = base::Workspace<int>(count);
   a_ = base::Workspace<T>(count);
   b_ = base::Workspace<T>(count);
-  base::Workspace<double> sums(n);
-  if (!starts_ || !rows_ || !a_ || !b_ || !sums) return false;
-  std::fill_n(starts_.data(), n, 0);
-  for (std::size_t k = 0; k < count; ++k) {
-    ++starts_[static_cast<std::size_t>(first[k].column)];
-    rows_[k] = first[k].row;
-    a_[k] = first[k].a;
-    b_[k] = first[k].b;
-  }
-  sparse::cumulate(n_, starts_.data(), starts_.data());
+  if (!rows_ || !a_ || !b_) return false;
   std::fill_n(sums.data(), n, 0.0);
   for (std::size_t k = 0; k < count; ++k) {
-    const double magnitude = std::abs(first[k].a);
-    sums[static_cast<std::size_t>(first[k].column)] += magnitude;
-    if (first[k].row != first[k].column) sums[static_cast<std::size_t>(first[k].row)] += magnitude;
+    const Entry& entry = sorted[k];
+    rows_[k] = entry.row;
+    a_[k] = entry.a;
+    b_[k] = entry.b;
+    const double magnitude = std::abs(entry.a);
+    sums[static_cast<std::size_t>(entry.column)] += magnitude;
+    if (entry.row != entry.column) sums[static_cast<std::size_t>(entry.row)] += magnitude;
   }
   norm_of_a_ = *std::max_element(sums.begin(), sums.end());
   return true;

@@ -30,7 +30,7 @@ class Pencil {
  public:
   // From checked arrays; an identity is the B without values. Entries of a triangle that is not read are ignored, those
   // of the same place added up, imaginary parts of the diagonal taken as zero. kNoMemory, kSolverFailed where an entry
-  // is not finite. Time: O(entries log entries).
+  // is not finite. Time: O(n + entries) if the rows are ascending, else entries are sorted.
   template <Scalar Host>
   [[nodiscard]] Status assign(int n, Storage storage, const HostMatrix<Host>& A, const HostMatrix<Host>& B);
 
@@ -57,7 +57,7 @@ class Pencil {
 
   template <Scalar Host>
   static bool collect(int n, Storage storage, const HostMatrix<Host>& M, T Entry::*value, Entry*& next);
-  bool merge(Entry* first, Entry* last);
+  bool merge(const Entry* first, const Entry* last);
   void multiply(const sparse::ColumnMatrix<T>& M, int columns, const T* X, T* Y) const;
 
   int n_ = 0;

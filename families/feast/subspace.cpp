@@ -8,13 +8,13 @@ template <Scalar T>
 bool Subspace<T>::reserve(int n, int capacity, int threads) {
   n_ = n;
   capacity_ = capacity;
-  threads_ = std::min(threads, (capacity + kBlock - 1) / kBlock);
+  threads_ = threads;
   const auto elements = [n](int columns) {
     return base::saturating_product(static_cast<std::size_t>(n), static_cast<std::size_t>(columns));
   };
   X_ = base::Workspace<T>(elements(capacity));
   other_ = base::Workspace<T>(elements(capacity));
-  blocks_ = base::Workspace<T>(elements(2 * threads_ * block_columns()));
+  blocks_ = base::Workspace<T>(elements(2 * std::min(threads, block_count(capacity)) * block_width(capacity)));
   return X_ && other_ && blocks_;
 }
 

@@ -14,8 +14,8 @@
 
 namespace quorin::feast {
 
-// A basis X of n-vectors, column by column. What is done with it is cut into blocks of columns, a fixed number in each,
-// so that any number of threads gives the same bits. The calling thread holds packing buffers for all threads.
+// A basis X of n-vectors, column by column. What is done with it is cut into blocks of columns, of a width that depends
+// on their number alone, so that any number of threads gives the same bits. The calling thread holds packing buffers for all threads.
 // T is double or std::complex<double>.
 template <Scalar T>
 class Subspace {
@@ -35,8 +35,9 @@ class Subspace {
   // Room for as many vectors, which combine() and select() overwrite. exchange() makes what is there the basis.
   T* other(int j) { return other_.data() + offset(j); }
   void exchange() { X_.swap(other_); }
-  // Room for a block of columns, two for each thread.
-  T* block_of(int thread, int which) { return blocks_.data() + offset(block_columns() * (2 * thread + which)); }
+  // Room for a block of columns, two for each thread, one behind the other; all have room for kBlock columns, or for
+  // all there may be.
+  T* block_of(int thread, int which) { return blocks_.data() + offset(block_width(capacity_) * (2 * thread + which)); }
 
   // Column j and those behind it become random, with entries from (-1, 1): other ones each time, the same in each run.
   // Those of row i are divided by sqrt(n * diagonal(i)): for the diagonal of B, which may be badly scaled, that makes
@@ -58,11 +59,11 @@ class Subspace {
   // body(thread, first, count) for each block of columns first, ..., first + count - 1.
   template <class Body>
   void for_each_block(const Body& body) {
-    const int blocks = (size_ + kBlock - 1) / kBlock, parts = std::min(blocks, threads_);
+    const int width = block_width(size_), blocks = block_count(size_), parts = std::min(blocks, threads_);
     base::parallel_for(parts, parts, [&](int thread) {
       for (int block = thread; block < blocks; block += parts) {
-        const int first = block * kBlock;
-        body(thread, first, std::min(kBlock, size_ - first));
+        const int first = block * width;
+        body(thread, first, std::min(width, size_ - first));
       }
     });
   }
@@ -80,7 +81,9 @@ class Subspace {
 
  private:
   void randomize(int j);
-  int block_columns() const { return std::min(kBlock, capacity_); }
+  // Of a few columns there are two blocks, so that two threads have work.
+  static int block_width(int columns) { return std::clamp((columns + 1) / 2, 1, kBlock); }
+  static int block_count(int columns) { return (columns + block_width(columns) - 1) / block_width(columns); }
   std::ptrdiff_t offset(int j) const { return static_cast<std::ptrdiff_t>(j) * n_; }
 
   int n_ = 0, capacity_ = 0, size_ = 0, threads_ = 1;
