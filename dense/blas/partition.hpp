@@ -30,8 +30,9 @@ constexpr int threads_for(double work, double work_per_thread, int most) {
   return static_cast<int>(std::clamp(work / work_per_thread, 1.0, static_cast<double>(most)));
 }
 
-// A thread should have this many multiplications of reals, some twenty microseconds, to be worth waking.
-inline constexpr double kMultiplicationsPerThread = 1 << 21;
+// A thread should have this many multiplications of reals, some ten microseconds: those that still spin (base/parallel)
+// come within one.
+inline constexpr double kMultiplicationsPerThread = 1 << 18;
 
 // The number of threads, at most `most`, that an operation of level 3 pays for.
 template <Scalar T>
