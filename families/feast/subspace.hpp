@@ -15,8 +15,8 @@
 namespace quorin::feast {
 
 // A basis X of n-vectors, column by column. What is done with it is cut into blocks of columns, of a width that depends
-// on their number alone, so that any number of threads gives the same bits. The calling thread holds packing buffers for all threads.
-// T is double or std::complex<double>.
+// on their number alone, so that any number of threads gives the same bits. The calling thread holds packing buffers
+// for all threads. T is double or std::complex<double>.
 template <Scalar T>
 class Subspace {
  public:

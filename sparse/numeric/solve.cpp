@@ -216,8 +216,8 @@ class Solver {
   }
 
   const Plan& plan() const noexcept { return plan_; }
-  // Whether the division by D is a stage of its own. It belongs to forward() where that is a stage, too, as a panel is at
-  // hand then.
+  // Whether the division by D is a stage of its own. It belongs to forward() where that is a stage, too, as a panel is
+  // at hand then.
   bool divides_alone() const noexcept { return divides_alone_; }
   // Whether M and D, or N, are solved with for the conjugate of x: L^H x = b is L^T conj(x) = conj(b).
   bool conjugates_down() const noexcept { return conjugates_down_; }
