@@ -24,7 +24,11 @@ template <class Compute>
     compute();
   } else {
     auto result = compute();
-    asm volatile("" : "+m"(result));
+    if constexpr (std::is_same_v<decltype(result), float>) {
+      asm volatile("" : "+x"(result));  // by way of memory it would come twice: 32-bit code returns it in the x87
+    } else {
+      asm volatile("" : "+m"(result));
+    }
     return result;
   }
 }
@@ -90,21 +94,13 @@ void swap(int n, T* x, int incx, T* y, int incy) {
   for_each_pair(n, x, incx, y, incy, [](T& xi, T& yi) { std::swap(xi, yi); });
 }
 
-template <Scalar T>
-T in_sse::dotu(int n, const T* x, int incx, const T* y, int incy) {
+template <bool kConjugate, Scalar T>
+T in_sse::dot(int n, const T* x, int incx, const T* y, int incy) {
   return with_own_settings([=] {
-    if (are_contiguous(incx, incy) && !is_short(n)) return kernels::dot<false>(n, x, y);
+    if (are_contiguous(incx, incy) && !is_short(n)) return kernels::dot<kConjugate>(n, x, y);
     T sum{};
-    for_each_pair(n, x, incx, y, incy, [&sum](T xi, T yi) { sum += product(xi, yi); });
-    return sum;
-  });
-}
-
-Complex dotc(int n, const Complex* x, int incx, const Complex* y, int incy) {
-  return with_own_settings([=] {
-    if (are_contiguous(incx, incy) && !is_short(n)) return kernels::dot<true>(n, x, y);
-    Complex sum{};
-    for_each_pair(n, x, incx, y, incy, [&sum](Complex xi, Complex yi) { sum += product(std::conj(xi), yi); });
+    for_each_pair(n, x, incx, y, incy,
+                  [&sum](T xi, T yi) { sum += product(kernels::maybe_conjugate<kConjugate>(xi), yi); });
     return sum;
   });
 }
@@ -353,7 +349,7 @@ template void scal(int, float, Complex*, int);
 template void in_sse::axpy(int, float, const float*, int, float*, int);
 template void copy(int, const float*, int, float*, int);
 template void swap(int, float*, int, float*, int);
-template float in_sse::dotu(int, const float*, int, const float*, int);
+template float in_sse::dot<false>(int, const float*, int, const float*, int);
 template float in_sse::nrm2(int, const float*, int);
 template float in_sse::asum(int, const float*, int);
 template void rot(int, float*, int, float*, int, float, float);
@@ -367,7 +363,8 @@ template void sctr(int, const float*, const int*, float*);
 template void in_sse::axpy(int, Complex, const Complex*, int, Complex*, int);
 template void copy(int, const Complex*, int, Complex*, int);
 template void swap(int, Complex*, int, Complex*, int);
-template Complex in_sse::dotu(int, const Complex*, int, const Complex*, int);
+template Complex in_sse::dot<false>(int, const Complex*, int, const Complex*, int);
+template Complex in_sse::dot<true>(int, const Complex*, int, const Complex*, int);
 template float in_sse::nrm2(int, const Complex*, int);
 template float in_sse::asum(int, const Complex*, int);
 template void rot(int, Complex*, int, Complex*, int, float, float);

@@ -19,8 +19,8 @@ namespace quorin::dense {
 namespace in_sse {
 template <Scalar T>
 void axpy(int n, T a, const T* x, int incx, T* y, int incy);
-template <Scalar T>
-T dotu(int n, const T* x, int incx, const T* y, int incy);
+template <bool kConjugate, Scalar T>
+T dot(int n, const T* x, int incx, const T* y, int incy);
 template <Scalar T>
 RealOf<T> nrm2(int n, const T* x, int incx);
 template <Scalar T>
@@ -42,11 +42,13 @@ void swap(int n, T* x, int incx, T* y, int incy);
 template <Scalar T>
 T dotu(int n, const T* x, int incx, const T* y, int incy) {
   if constexpr (!kIsComplex<T>) {
-    if (n < kernels::kFewFloats && incx == 1 && incy == 1) return kernels::dot_few(n, x, y);
+    if (n < kernels::kFewForDot && incx == 1 && incy == 1) return kernels::dot_few(n, x, y);
   }
-  return in_sse::dotu(n, x, incx, y, incy);
+  return in_sse::dot<false>(n, x, incx, y, incy);
 }
-std::complex<float> dotc(int n, const std::complex<float>* x, int incx, const std::complex<float>* y, int incy);
+inline std::complex<float> dotc(int n, const std::complex<float>* x, int incx, const std::complex<float>* y, int incy) {
+  return in_sse::dot<true>(n, x, incx, y, incy);
+}
 // Euclidean norm without overflow or underflow on the way.
 template <Scalar T>
 RealOf<T> nrm2(int n, const T* x, int incx) {

@@ -10,7 +10,7 @@
 namespace quorin::dense::kernels {
 
 // For as many, SSE's registers are faster.
-inline constexpr int kFewFloats = 16, kFewForNorm = 24;
+inline constexpr int kFewFloats = 16, kFewForDot = 20, kFewForNorm = 24;
 
 // The sum of term(0), ..., term(n - 1), or its square root, in sums that do not wait for each other.
 template <bool kRoot, class Term>
@@ -25,7 +25,7 @@ template <bool kRoot, class Term>
     sum3 += term(i + 3);
   }
   for (; i < n; ++i) sum0 += term(i);
-  long double total = (sum0 + sum1) + (sum2 + sum3);
+  long double total = n < 4 ? sum0 : (sum0 + sum1) + (sum2 + sum3);
   if constexpr (kRoot) asm("fsqrt" : "+t"(total));  // without a call of the C library's for a NaN
   float result = static_cast<float>(total);
   asm volatile("" : "+m"(result));
