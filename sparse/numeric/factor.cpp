@@ -75,7 +75,8 @@ FactorOutcome Factor<T>::compute(const Plan& plan, const Assembly& assembly, con
     return refuse(FactorOutcome::kTooLarge);
   }
   PivotRule<T> rule{options.factorization, options.pivoting, 0};
-  {
+  // What is not finite ends at a pivot of L L^H, if all columns are eliminated.
+  if (options.factorization != Factorization::kLLT || plan.eliminated() < plan.supernodes()) {
     base::Workspace<Real> sums(static_cast<std::size_t>(plan.size()));
     if (!sums) return refuse(FactorOutcome::kOutOfMemory);
     const Real norm = largest_row_sum(plan, assembly, A, sums.data());

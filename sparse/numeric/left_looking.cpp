@@ -72,7 +72,7 @@ class LeftLooking {
   explicit LeftLooking(FactorTask<T>& task) noexcept : task_(task), plan_(task.plan), kind_(task.panels.kind()) {}
 
   static std::int64_t bytes(const Plan& plan, Factorization factorization, int threads) noexcept {
-    return static_cast<std::int64_t>(4 * to_size(plan.supernodes()) * sizeof(int) +
+    return static_cast<std::int64_t>(5 * to_size(plan.supernodes()) * sizeof(int) +
                                      to_size(threads) * Worker<T>::bytes(plan, panel_kind(factorization), threads));
   }
 
@@ -134,13 +134,14 @@ class LeftLooking {
 
   bool create() noexcept {
     const std::size_t count = to_size(plan_.supernodes());
-    lists_ = Workspace<int>(4 * count);
+    lists_ = Workspace<int>(5 * count);
     ranges_ = Workspace<SupernodeRange>(to_size(kRangesPerPart * kMostPartsPerThread * task_.threads));
     if (!lists_ || !ranges_) return false;
     head_ = lists_.data();
     next_ = head_ + count;
     done_ = next_ + count;
-    gathered_ = done_ + count;
+    reached_ = done_ + count;
+    gathered_ = reached_ + count;
     std::fill_n(head_, count, kNone);
     for (int i = 0; i < task_.threads; ++i) {
       if (!workers_[to_size(i)].create(plan_, kind_, task_.threads)) return false;
@@ -168,9 +169,10 @@ class LeftLooking {
     for (int d = head_[s]; d != kNone; d = next_[d]) *end++ = d;
     if (end != descendants) {
       std::sort(descendants, end);
+      for (const int* d = descendants; d != end; ++d) reached_[*d] = first_row_from(*d, done_[*d], plan_.first(s + 1));
       gather_updates(s, panel, descendants, end, worker, threads);
       for (const int* d = descendants; d != end; ++d) {
-        done_[*d] = first_row_from(*d, done_[*d], plan_.first(s + 1));
+        done_[*d] = reached_[*d];
         link(*d, range);
       }
     }
@@ -182,10 +184,14 @@ class LeftLooking {
     task_.panels.unpin(s, true);
   }
 
-  // The first of the rows below d's block, from `begin` on, that is not above `row`.
+  // The first of the rows below d's block, from `begin` on, that is not above `row`: mostly not far away.
   int first_row_from(int d, int begin, int row) const noexcept {
-    const auto rows = plan_.below(d);
-    return static_cast<int>(std::lower_bound(rows.begin() + begin, rows.end(), row) - rows.begin());
+    const auto rows = plan_.below(d).subspan(to_size(begin));
+    std::size_t reach = 1;
+    while (reach < rows.size() && rows[reach - 1] < row) reach *= 2;
+    const auto end = rows.begin() + static_cast<std::ptrdiff_t>(std::min(reach, rows.size()));
+    return begin + static_cast<int>(std::lower_bound(rows.begin() + static_cast<std::ptrdiff_t>(reach / 2), end, row) -
+                                    rows.begin());
   }
 
   void gather_updates(int s, T* panel, const int* begin, const int* end, Worker<T>& worker, int threads) noexcept {
@@ -222,10 +228,9 @@ class LeftLooking {
   // Subtracts from columns first, ..., end - 1 what descendant d contributes, whose panel is `source`.
   void update(int d, const T* source, const Target<T>& target, int first, int end, Worker<T>& worker) noexcept {
     const auto rows = plan_.below(d);
-    Span span{done_[d], 0, 0, 0, static_cast<int>(rows.size())};
-    span.p = first_row_from(d, span.first, first);
-    span.q = first_row_from(d, span.p, end);
-    span.last = first_row_from(d, span.q, plan_.first(target.s + 1));
+    Span span{done_[d], reached_[d], done_[d], reached_[d], static_cast<int>(rows.size())};
+    if (first > plan_.first(target.s)) span.p = first_row_from(d, span.first, first);
+    if (end < plan_.first(target.s + 1)) span.q = first_row_from(d, span.p, end);
     if (span.p == span.q) return;
     int* const places = worker.places.data();
     for (int i = span.first; i < span.m; ++i) places[i] = target.position[rows[to_size(i)]];
@@ -295,10 +300,10 @@ class LeftLooking {
   const Plan& plan_;
   const PanelKind kind_;
 
-  // For each supernode the list of those that update it next, by links; and how many rows of a supernode's have been
-  // dealt with.
+  // For each supernode the list of those that update it next, by links; how many rows of a supernode's have been dealt
+  // with, and how many will be when the panel at hand is made.
   Workspace<int> lists_;
-  int *head_ = nullptr, *next_ = nullptr, *done_ = nullptr, *gathered_ = nullptr;
+  int *head_ = nullptr, *next_ = nullptr, *done_ = nullptr, *reached_ = nullptr, *gathered_ = nullptr;
   Workspace<SupernodeRange> ranges_;
   ThreadSlots slots_;
   std::array<Worker<T>, base::kMostThreads> workers_;

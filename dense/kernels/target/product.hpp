@@ -88,6 +88,102 @@ Panel<Isa, T> wanted_vectors(const Product<T>& p, Panel<Isa, T> panel, int colum
   return panel;
 }
 
+// Where the rows of a panel stand in a column of C, if they do not follow each other: windows, each as long as a
+// vector, that have all of them, and which lane of the panel's vector goes to which lane of a window. Lanes that no row
+// goes to get -0, with which every number stays as it is. Only sets with instructions that permute lanes have a use for
+// it.
+template <class Isa, Scalar T>
+class Windows {
+ public:
+  using Real = RealOf<T>;
+
+  // Of p's rows. Nothing is found where rows are so far from each other that there would be too many windows, or where
+  // a window would not fit between the first row of C and the last one of p.
+  void find(const Product<T>& p, const Panel<Isa, T>& panel) noexcept {
+    count_ = 0;
+    if constexpr (!Isa::kFusesProducts) return;
+    const int last = p.row_place[p.first_row + p.rows - 1] + 1 - kRows;
+    if (last < 0) return;
+    const int* const places = p.row_place + panel.first_row;
+    for (int row = 0; row < panel.rows; ++count_) {
+      if (count_ == kMost) {
+        count_ = 0;
+        return;
+      }
+      const int vector = row / kRows, end = std::min(panel.rows, (vector + 1) * kRows);
+      const int start = std::min(places[row], last);
+      Window& window = windows_[count_];
+      window.from = vector * kWidth;
+      window.to = std::ptrdiff_t{kParts} * start;
+      window.words = Words{} - 1;
+      for (; row < end && places[row] < start + kRows; ++row) {
+        const int to = kRowWords * (places[row] - start), from = kRowWords * (row % kRows);
+        for (int k = 0; k < kRowWords; ++k) window.words[to + k] = from + k;
+      }
+    }
+  }
+  bool are_found() const noexcept { return count_ > 0; }
+
+  void fetch(const Real* column) const noexcept {
+    for (int i = 0; i < count_; ++i) __builtin_prefetch(column + windows_[i].to, 1);
+  }
+  // Adds the rows of one column of a tile to a column of C.
+  void add(const Real* rows, Real* column) const noexcept {
+    for (int i = 0; i < count_; ++i) {
+      const Window& window = windows_[i];
+      const auto sums = reinterpret_cast<Words>(load<Isa>(rows + window.from));
+      const auto nothing = reinterpret_cast<Words>(-Vector<Isa, Real>{});
+      const Words words = window.words < 0 ? nothing : permuted(sums, window.words);
+      Real* const to = column + window.to;
+      store<Isa, Real>(to, load<Isa>(to) + reinterpret_cast<Vector<Isa, Real>>(words));
+    }
+  }
+
+ private:
+  static constexpr int kParts = Tiles<Isa, T>::kParts, kWidth = Tiles<Isa, T>::kWidth, kRows = kWidth / kParts;
+  // With more of them, windows that overlap would wait for each other.
+  static constexpr int kMost = Isa::kTileVectors == 1 ? kWidth / 2 + 1 : Isa::kTileVectors * 3 / 2;
+  using Words = Vector<Isa, std::int32_t>;
+  static constexpr int kRowWords = static_cast<int>(sizeof(T) / sizeof(std::int32_t));
+
+  // from: the vector's first real in the panel; to: the window's in a column of C; words: -1 for none.
+  struct Window {
+    int from;
+    std::ptrdiff_t to;
+    Words words;
+  };
+
+  static Words permuted(Words x, Words order) noexcept {
+#if defined(__clang__)  // which reads this file for analysis alone
+    Words result = x;
+    for (int i = 0; i < kLanes<Isa, std::int32_t>; ++i) result[i] = x[order[i] & (kLanes<Isa, std::int32_t> - 1)];
+    return result;
+#else
+    return __builtin_shuffle(x, order);
+#endif
+  }
+
+  int count_ = 0;
+  Window windows_[kMost];
+};
+
+// A tile of wanted rows whose places have been found, and whose columns may stand anywhere.
+template <class Isa, Scalar T>
+void add_tile_in_windows(const Product<T>& p, const Panel<Isa, T>& panel, const Windows<Isa, T>& windows,
+                         const TileRow<RealOf<T>>& row, int column, int columns) noexcept {
+  using Real = RealOf<T>;
+  alignas(64) Real copy[Tiles<Isa, T>::kMostTile];
+  const int height = panel.vectors * kLanes<Isa, Real>;
+  const auto c = [&](int j) { return reinterpret_cast<Real*>(p.c + p.column_place[column + j] * p.ldc); };
+  for (int j = 0; j < columns; ++j) windows.fetch(c(j));
+  tile_kernel<Isa, Real>(panel.vectors, columns)({row.k, panel.a, row.a_step, row.b, row.b_step, row.b_column, 0,
+                                                  row.alpha, false, copy, height, kLanes<Isa, Real>},
+                                                 1);
+  for (int j = 0; j < columns; ++j) {
+    windows.add(copy + j * height, c(j));
+  }
+}
+
 // A tile of which only some rows of each column are wanted, by way of a copy.
 template <class Isa, Scalar T>
 void make_part_of_tile(const Product<T>& p, const Panel<Isa, T>& whole, const TileRow<RealOf<T>>& row, int column,
@@ -137,6 +233,11 @@ void make_tiles(const Product<T>& p, const Panel<Isa, T>& panel, const BlockOfB<
                     nullptr,
                     kParts * p.ldc,
                     kParts * panel.rows - (panel.vectors - 1) * Tiles<Isa, T>::kWidth};
+  Windows<Isa, T> windows;
+  if (p.row_place != nullptr && adds &&
+      (!is_adjacent || !are_adjacent<Isa>(p.column_place, block.first_column, block.columns))) {
+    windows.find(p, panel);
+  }
   for (int j = 0, count = 0; j < block.columns; j += count) {
     count = std::min(most, block.columns - j);
     const int column = block.first_column + j;
@@ -164,6 +265,8 @@ void make_tiles(const Product<T>& p, const Panel<Isa, T>& panel, const BlockOfB<
       row.c = reinterpret_cast<Real*>(place<Isa>(p, panel.first_row, column));
       kernel(row, tiles);
       count *= tiles;
+    } else if (is_inside && windows.are_found()) {
+      add_tile_in_windows<Isa>(p, panel, windows, row, column, count);
     } else {
       make_part_of_tile<Isa>(p, panel, row, column, count);
     }
