@@ -1,6 +1,7 @@
 #include "dense/lapack/factorizations.hpp"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstddef>
 #include <limits>
@@ -8,6 +9,8 @@
 
 #include "dense/blas/argument_check.hpp"
 #include "dense/blas/level3.hpp"
+#include "dense/kernels/column_kernels.hpp"
+#include "dense/kernels/vector_kernels.hpp"
 #include "dense/lapack/call_guard.hpp"
 #include "dense/matrix.hpp"
 
@@ -39,12 +42,26 @@ int first_half(int n) { return n < 32 ? n / 2 : n / 2 / 16 * 16; }
 
 // ---- LU -----------------------------------------------------------------------------------------------------------
 
+// Rows first, ..., last - 1 with those that ipiv names, one pair after the other.
 template <Scalar T>
 void exchange_rows(Matrix<T> a, int columns, const std::int32_t* ipiv, int first, int last) {
-  for (int j = 0; j < columns; ++j) {
-    T* const x = a.column(j);
-    for (int i = first; i < last; ++i) {
-      if (ipiv[i] != i + 1) std::swap(x[i], x[ipiv[i] - 1]);
+  constexpr int kPairs = 512, kColumns = 8;  // at a time, so that columns stay in the cache
+  std::array<std::array<int, 2>, kPairs> pairs;
+  for (int j = 0; j < columns; j += kColumns) {
+    for (int i = first; i < last;) {
+      std::size_t count = 0;
+      for (; i < last && count < kPairs; ++i) {
+        if (ipiv[i] != i + 1) pairs[count++] = {i, ipiv[i] - 1};
+      }
+      for (int k = j; k < std::min(columns, j + kColumns); ++k) {
+        T* const x = a.column(k);
+        T* const next = a.column(std::min(columns - 1, k + 1));
+        for (std::size_t pair = 0; pair < count; ++pair) {
+          const auto [upper, lower] = pairs[pair];
+          __builtin_prefetch(next + lower, 1);
+          std::swap(x[upper], x[lower]);
+        }
+      }
     }
   }
 }
@@ -52,8 +69,7 @@ void exchange_rows(Matrix<T> a, int columns, const std::int32_t* ipiv, int first
 template <Scalar T>
 void divide(T* x, int count, T pivot) {
   if (magnitude(pivot) >= std::numeric_limits<RealOf<T>>::min()) {
-    const T reciprocal = T{1} / pivot;
-    for (int i = 0; i < count; ++i) x[i] = product(x[i], reciprocal);
+    scale_column(count, T{1} / pivot, x);
   } else {
     for (int i = 0; i < count; ++i) x[i] /= pivot;
   }
@@ -65,10 +81,7 @@ int factor_panel(int m, int n, Matrix<T> a, std::int32_t* ipiv) {
   int first_zero = 0;
   for (int j = 0; j < std::min(m, n); ++j) {
     T* const x = a.column(j);
-    int pivot = j;
-    for (int i = j + 1; i < m; ++i) {
-      if (magnitude(x[i]) > magnitude(x[pivot])) pivot = i;
-    }
+    const int pivot = j + static_cast<int>(kernels::first_extreme<true>(m - j, x + j)), below = m - j - 1;
     ipiv[j] = pivot + 1;
     if (x[pivot] == T{}) {
       if (first_zero == 0) first_zero = j + 1;
@@ -76,9 +89,14 @@ int factor_panel(int m, int n, Matrix<T> a, std::int32_t* ipiv) {
       if (pivot != j) {
         for (int k = 0; k < n; ++k) std::swap(a(j, k), a(pivot, k));
       }
-      divide(x + j + 1, m - j - 1, x[j]);
+      divide(x + j + 1, below, x[j]);
     }
-    for (int k = j + 1; k < n; ++k) subtract_multiple(a(j, k), x, a.column(k), j + 1, m);
+    const Matrix<T> rest = a.from(j, j + 1);
+    for_column_groups<T>(n - j - 1, [&](auto count, int k) {
+      std::array<T, count> factors;
+      for (int i = 0; i < count; ++i) factors[i] = rest(0, k + i);
+      subtract_multiples<count>(below, x + j + 1, factors, rest.from(1, k));
+    });
   }
   return first_zero;
 }
