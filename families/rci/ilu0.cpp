@@ -50,19 +50,23 @@ Ilu0Status check_pattern(int n, const int* ia, const int* ja) {
   }
 }
 
-// Row i of the factors from rows above it. `place`, all zero between calls, maps a column to 1 + its place in row i.
-void eliminate_row(RowRange row, int pivot_place, const int* ia, const int* ja, const int* diagonal, int* place,
+// Row i of the factors from that of A and from the rows above it, whose diagonal entries stand at `diagonal`; its own
+// is added there. `place` maps a column to 1 + the place of its last entry: in row i where that is above row.begin.
+void eliminate_row(int i, RowRange row, const double* a, const int* ia, const int* ja, int* diagonal, int* place,
                    double* b) {
-  for (int k = row.begin; k < row.end; ++k) place[ja[k] - 1] = k + 1;
+  for (int k = row.begin; k < row.end; ++k) {
+    place[ja[k] - 1] = k + 1;
+    b[k] = a[k];
+  }
+  const int pivot_place = diagonal[i] = place[i] - 1;
   for (int k = row.begin; k < pivot_place; ++k) {
     const int above = ja[k] - 1;
     const double multiplier = b[k] / b[diagonal[above]];
     b[k] = multiplier;
     for (int u = diagonal[above] + 1; u < ia[above + 1] - 1; ++u) {
-      if (const int target = place[ja[u] - 1]; target != 0) b[target - 1] -= multiplier * b[u];
+      if (const int target = place[ja[u] - 1]; target > row.begin) b[target - 1] -= multiplier * b[u];
     }
   }
-  for (int k = row.begin; k < row.end; ++k) place[ja[k] - 1] = 0;
 }
 
 Ilu0Status factorize(int n, const double* a, const int* ia, const int* ja, PivotRule rule, double* b) {
@@ -73,11 +77,8 @@ Ilu0Status factorize(int n, const double* a, const int* ia, const int* ja, Pivot
   if (const Ilu0Status error = check_pattern(n, ia, ja); error != kDone) return error;
   for (int i = 0; i < n; ++i) {
     const RowRange row = row_of(ia, i);
-    const auto pivot_place = static_cast<int>(std::lower_bound(ja + row.begin, ja + row.end, i + 1) - ja);
-    diagonal[i] = pivot_place;
-    if (a != b) std::copy(a + row.begin, a + row.end, b + row.begin);
-    eliminate_row(row, pivot_place, ia, ja, diagonal.data(), place.data(), b);
-    if (const Ilu0Status error = rule.apply(b[pivot_place]); error != kDone) return error;
+    eliminate_row(i, row, a, ia, ja, diagonal.data(), place.data(), b);
+    if (const Ilu0Status error = rule.apply(b[diagonal[i]]); error != kDone) return error;
   }
   return kDone;
 }

@@ -17,19 +17,33 @@ bool are_inside(const int* indices, int count, int base, int m) {
   return signs >> 31U == 0;
 }
 
-PatternCheck check_list(int j, int m, int begin, int end, const int* indices, const PatternRules& rules) {
-  bool has_diagonal = false;
+// Whether list j keeps all rules: signs of differences as above, a handful of operations an entry and no branch.
+bool is_sound_list(int j, int m, int begin, int end, const int* indices, const PatternRules& rules) {
+  const auto last = static_cast<std::uint32_t>(m) - 1;
+  const std::uint32_t if_ascends = rules.ascends ? ~0U : 0U, if_lower = rules.is_lower ? ~0U : 0U;
+  std::uint32_t signs = 0, next = 0;
+  bool has_diagonal = !rules.has_diagonal;
+  for (int k = begin; k < end; ++k) {
+    const std::uint32_t i = static_cast<std::uint32_t>(indices[k]) - static_cast<std::uint32_t>(rules.base);
+    const std::uint32_t below = i - static_cast<std::uint32_t>(j);
+    signs |= i | (last - i) | ((i - next) & if_ascends) | (below & if_lower);
+    has_diagonal |= below == 0;
+    next = i + 1;
+  }
+  return has_diagonal && signs >> 31U == 0;
+}
+
+// The first rule that list j breaks.
+PatternCheck fault_of_list(int j, int m, int begin, int end, const int* indices, const PatternRules& rules) {
   int previous = -1;
   for (int k = begin; k < end; ++k) {
     if (indices[k] < rules.base || indices[k] - rules.base >= m) return {PatternFault::kOutside, j, k};
     const int i = indices[k] - rules.base;
     if (rules.ascends && i <= previous) return {PatternFault::kNotAscending, j, k};
     if (rules.is_lower && i < j) return {PatternFault::kAboveDiagonal, j, k};
-    has_diagonal = has_diagonal || i == j;
     previous = i;
   }
-  if (rules.has_diagonal && !has_diagonal) return {PatternFault::kNoDiagonal, j};
-  return {};
+  return {PatternFault::kNoDiagonal, j};
 }
 
 }  // namespace
@@ -55,8 +69,8 @@ PatternCheck check_compressed(int n, int m, const int* starts, const int* indice
   const bool is_range_all = !rules.ascends && !rules.is_lower && !rules.has_diagonal;
   if (is_range_all && are_inside(indices + first, entries, rules.base, m)) return {};
   for (int j = 0; j < n; ++j) {
-    const PatternCheck check = check_list(j, m, starts[j] - rules.base, starts[j + 1] - rules.base, indices, rules);
-    if (!check) return check;
+    const int begin = starts[j] - rules.base, end = starts[j + 1] - rules.base;
+    if (!is_sound_list(j, m, begin, end, indices, rules)) return fault_of_list(j, m, begin, end, indices, rules);
   }
   return {};
 }
