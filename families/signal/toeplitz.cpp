@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <concepts>
 #include <cstddef>
 #include <iterator>
 #include <limits>
 #include <type_traits>
 
+#include "base/lanes.hpp"
 #include "base/scalar.hpp"
 #include "base/workspace.hpp"
 
@@ -34,35 +36,55 @@ struct Misses {
   W forward{}, backward{}, solution{};
 };
 
-// Sums over i < n of c(i) f(i), r(i) g(i) and c(i) x(i), each in several partial sums: for speed and for accuracy.
+// Sums over i < n of c(i) f(i), r(i) g(i) and c(i) x(i). Those of wide numbers are made in registers, each in several
+// partial sums: for speed and for accuracy.
 template <class Row, class Column, class Work>
 auto sum_products(ptrdiff_t n, Row r, Column c, const Work* f, const Work* g, const Work* x) {
-  using W = Wide<Work>;
-  constexpr ptrdiff_t kLanes = 4;
-  W forward[kLanes]{}, backward[kLanes]{}, solution[kLanes]{};
+  Misses<Wide<Work>> sums;
   ptrdiff_t i = 0;
-  for (; i + kLanes <= n; i += kLanes) {
-    for (ptrdiff_t l = 0; l < kLanes; ++l) {
-      const W column = widen(c[i + l]);
-      forward[l] += product(column, widen(f[i + l]));
-      backward[l] += product(widen(r[i + l]), widen(g[i + l]));
-      solution[l] += product(column, widen(x[i + l]));
+  if constexpr (std::same_as<Work, Wide<Work>>) {
+    // As many as eight registers have room for.
+    constexpr int kSums = kIsComplex<Work> ? 1 : 2, kStep = kElements<Work>;
+    ProductSum<Work> forward[kSums], backward[kSums], solution[kSums];
+    for (; i + kSums * kStep <= n; i += kSums * kStep) {
+      for (int l = 0; l < kSums; ++l) {
+        const ptrdiff_t k = i + l * kStep;
+        const auto column = load(c + k);
+        forward[l].add(column, load(f + k));
+        backward[l].add(load(r + k), load(g + k));
+        solution[l].add(column, load(x + k));
+      }
+    }
+    for (int l = 0; l < kSums; ++l) {
+      sums.forward += forward[l].template value<false>();
+      sums.backward += backward[l].template value<false>();
+      sums.solution += solution[l].template value<false>();
     }
   }
   for (; i < n; ++i) {
-    const W column = widen(c[i]);
-    forward[0] += product(column, widen(f[i]));
-    backward[0] += product(widen(r[i]), widen(g[i]));
-    solution[0] += product(column, widen(x[i]));
+    const auto column = widen(c[i]);
+    sums.forward += product(column, widen(f[i]));
+    sums.backward += product(widen(r[i]), widen(g[i]));
+    sums.solution += product(column, widen(x[i]));
   }
-  const auto total = [](const W* lane) { return (lane[0] + lane[1]) + (lane[2] + lane[3]); };
-  return Misses<W>{total(forward), total(backward), total(solution)};
+  return sums;
 }
 
 // f <- f - p g, g <- g - q f, x <- x + s g (with the new g), element by element.
 template <class Work>
 void update(ptrdiff_t n, Wide<Work> p, Wide<Work> q, Wide<Work> s, Work* f, Work* g, Work* x) {
-  for (ptrdiff_t i = 0; i < n; ++i) {
+  ptrdiff_t i = 0;
+  if constexpr (std::same_as<Work, Wide<Work>>) {
+    const Factor<Work> by_p(p), by_q(q), by_s(s);
+    for (constexpr int kStep = kElements<Work>; i + kStep <= n; i += kStep) {
+      const auto fi = load(f + i), gi = load(g + i);
+      const auto next = gi - by_q(fi);
+      store(f + i, fi - by_p(gi));
+      store(g + i, next);
+      store(x + i, load(x + i) + by_s(next));
+    }
+  }
+  for (; i < n; ++i) {
     const auto fi = widen(f[i]);
     const auto gi = widen(g[i]);
     const auto next = gi - product(q, fi);
