@@ -4,7 +4,6 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
-#include <type_traits>
 
 #include "base/column_groups.hpp"
 #include "base/lanes.hpp"
@@ -26,24 +25,10 @@ RealOf<T> magnitude(T x) {
   return std::fabs(real_part(x)) + std::fabs(imaginary_part(x));
 }
 
-// The same as for_column_groups, but what is left of a group is one of its own.
-template <Scalar T, class Body>
-void for_all_columns(int columns, const Body& body) {
-  int k = 0;
-  for (; k + kColumnsAtOnce<T> <= columns; k += kColumnsAtOnce<T>) {
-    body(std::integral_constant<int, kColumnsAtOnce<T>>{}, k);
-  }
-  if constexpr (kColumnsAtOnce < T >> 2) {
-    if (columns - k == 3) return body(std::integral_constant<int, 3>{}, k);
-    if (columns - k == 2) return body(std::integral_constant<int, 2>{}, k);
-  }
-  if (columns - k == 1) body(std::integral_constant<int, 1>{}, k);
-}
-
 // y <- y - X f, X being n x count with leading dimension ldx.
 template <Scalar T>
 void subtract_multiples(int n, int count, const T* f, const T* x, std::ptrdiff_t ldx, T* y) {
-  for_all_columns<T>(count, [&](auto group, int k) {
+  for_column_groups<T>(count, [&](auto group, int k) {
     constexpr int kCount = group;
     std::array<quorin::Factor<T>, kCount> factors;
     const T* const columns = x + k * ldx;
@@ -65,7 +50,7 @@ void subtract_multiples(int n, int count, const T* f, const T* x, std::ptrdiff_t
 // y[place[i]] <- y[place[i]] - (X f)_i
 template <Scalar T>
 void scatter_multiples(int n, int count, const T* f, const T* x, std::ptrdiff_t ldx, const int* place, T* y) {
-  for_all_columns<T>(count, [&](auto group, int k) {
+  for_column_groups<T>(count, [&](auto group, int k) {
     constexpr int kCount = group;
     const T* const columns = x + k * ldx;
     std::array<T, kCount> factors;
