@@ -224,7 +224,23 @@ struct Triangular {
     return (order / 2 + kOrder - 1) / kOrder * kOrder;
   }
 
+  // Columns of B by strips, which stay in the second cache while small triangles and the products between them pass;
+  // rows of B lie together anyway. Calls work(strip) for each, or returns false where there is nothing to be cut.
+  template <class Work>
+  bool in_strips(int order, const Work& work) const noexcept {
+    constexpr int kMostOrder = 256, kColumns = 128;
+    if (!is_left || order <= kernels::kTriangleOrder || order > kMostOrder || whole.count <= kColumns) return false;
+    for (int j = 0; j < whole.count; j += kColumns) {
+      Triangular strip = *this;
+      strip.whole.x += j * whole.vector_step;
+      strip.whole.count = std::min(kColumns, whole.count - j);
+      work(strip);
+    }
+    return true;
+  }
+
   void solve(int first, int order) const noexcept {
+    if (in_strips(order, [=](const Triangular& strip) { strip.solve(first, order); })) return;
     if (order == whole.order && order <= kernels::kTriangleOrder) return workshop.solve_triangle(whole);
     if (order <= kernels::kTriangleOrder) return workshop.solve_triangle(diagonal_block(first, order));
     const int h = first_half(order);
@@ -234,6 +250,7 @@ struct Triangular {
   }
 
   void apply(int first, int order) const noexcept {
+    if (in_strips(order, [=](const Triangular& strip) { strip.apply(first, order); })) return;
     if (order == whole.order && order <= kernels::kTriangleOrder) return workshop.multiply_triangle(whole);
     if (order <= kernels::kTriangleOrder) return workshop.multiply_triangle(diagonal_block(first, order));
     const int h = first_half(order);
