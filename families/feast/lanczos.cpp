@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 #include <complex>
+#include <cstdint>
+#include <functional>
 
 #include "base/parallel.hpp"
 #include "dense/dense.hpp"
@@ -67,13 +69,13 @@ bool Lanczos<T>::reserve(int n, int capacity, int threads) {
   projected_ = base::Workspace<T>(base::saturating_product(k, k));
   S_ = base::Workspace<T>(base::saturating_product(k, k));
   coupling_ = base::Workspace<T>(kWidth * (k + kWidth));
-  coefficients_ = base::Workspace<T>(base::saturating_product(k + kWidth, kWidth));
+  products_ = base::Workspace<T>(base::saturating_product(kMostParts * kWidth, k + kWidth));
   rows_ = base::Workspace<T>(base::saturating_product(static_cast<std::size_t>(threads) * kRows, k));
   theta_ = base::Workspace<double>(k);
   residuals_ = base::Workspace<double>(k);
   lengths_ = base::Workspace<double>(kWidth);
-  return V_ && Y_ && Z_ && projected_ && S_ && coupling_ && coefficients_ && rows_ && theta_ && residuals_ &&
-         lengths_ && eigensolver_.reserve(capacity);
+  return V_ && Y_ && Z_ && projected_ && S_ && coupling_ && products_ && rows_ && theta_ && residuals_ && lengths_ &&
+         eigensolver_.reserve(capacity);
 }
 
 template <Scalar T>
@@ -181,7 +183,7 @@ bool Lanczos<T>::contract(bool keeps_converged_only) {
   }
   const int kept = below + above, carried = keeps_converged_only ? 0 : next_;
   if (kept + carried > size_ || kept + kLeastRoom > capacity_) return false;
-  T *const S = S_.data(), *const coupling = coefficients_.data();
+  T *const S = S_.data(), *const coupling = products_.data();
   for (int j = 0; j < kept; ++j) {
     const int k = j < below ? j : size_ - kept + j;
     for (int i = 0; i < carried; ++i) coupling[i + j * kBlock] = next_component(i, static_cast<std::size_t>(k));
@@ -200,11 +202,11 @@ bool Lanczos<T>::contract(bool keeps_converged_only) {
 // V <- V C, where C has `count` columns, some rows of V after the other.
 template <Scalar T>
 void Lanczos<T>::combine(const T* C, int count) {
-  const int parts = (n_ + kRows - 1) / kRows, together = std::min(threads_, parts);
+  const int together = std::min(threads_, row_blocks());
   base::parallel_for(together, together, [&](int thread) {
     T* const product = rows_.data() + static_cast<std::ptrdiff_t>(thread) * kRows * capacity_;
-    for (int part = thread; part < parts; part += together) {
-      const int first = part * kRows, rows = std::min(kRows, n_ - first);
+    for (int block = thread; block < row_blocks(); block += together) {
+      const int first = block * kRows, rows = rows_of(block);
       T* const V = V_.data() + first;
       dense::blocked::gemm('N', 'N', rows, count, size_, T{1}, V, n_, C, size_, T{}, product, kRows);
       for (int j = 0; j < count; ++j)
@@ -226,11 +228,9 @@ Status Lanczos<T>::expand() {
   if (status != Status::kDone) return status;
   const T* const bw = times_b(W, count);
   measure(W, bw, count);
-  project_out(first - before, before + count, W, bw, count);
+  const T* const products = project_out(first - before, before + count, W, bw, count) + before * count;
   for (int j = 0; j < count; ++j) {
-    for (int i = j; i < count; ++i) {
-      projected(first + i, first + j) = coefficients_.data()[j * (before + count) + before + i];
-    }
+    for (int i = j; i < count; ++i) projected(first + i, first + j) = conjugate(products[j + i * count]);
   }
   size_ += count;
   width_ = count;
@@ -251,12 +251,55 @@ void Lanczos<T>::measure(const T* W, const T* bw, int width) {
   });
 }
 
-// W <- W - V V^H B W for columns first, ..., first + count - 1 of V. The coefficients are kept, count x width.
+// Y^H X, width x count: sums of parts of the rows, which are the same for any number of threads. Such a product with
+// all of the basis takes little longer than reading that, as pieces of X stay in a cache and need not be packed.
 template <Scalar T>
-void Lanczos<T>::project_out(int first, int count, T* W, const T* bw, int width) {
-  T* const C = coefficients_.data();
-  dense::blocked::gemm('C', 'N', count, width, n_, T{1}, column(first), n_, bw, n_, T{}, C, count, threads_);
-  dense::blocked::gemm('N', 'N', n_, width, count, T{-1}, column(first), n_, C, count, T{1}, W, n_, threads_);
+const T* Lanczos<T>::multiply(int width, const T* Y, int count, const T* X) {
+  const int blocks = row_blocks(), parts = std::min(blocks, kMostParts), size = width * count;
+  const auto cut = [=](int part) { return static_cast<int>(std::int64_t{blocks} * part / parts); };
+  const auto sum_of = [=, this](int part) { return products_.data() + static_cast<std::ptrdiff_t>(part) * size; };
+  base::parallel_for(parts, threads_, [&](int part) {
+    T* const sum = sum_of(part);
+    for (int block = cut(part); block < cut(part + 1); ++block) {
+      const int i = block * kRows;
+      const T kept{block == cut(part) ? 0.0 : 1.0};
+      for (int j = 0; j < count; j += kColumns) {
+        dense::blocked::gemm('C', 'N', width, std::min(kColumns, count - j), rows_of(block), T{1}, Y + i, n_,
+                             X + i + offset(j), n_, kept, sum + static_cast<std::ptrdiff_t>(j) * width, width);
+      }
+    }
+  });
+  T* const total = sum_of(0);
+  for (int part = 1; part < parts; ++part) std::transform(total, total + size, sum_of(part), total, std::plus<>());
+  return total;
+}
+
+// W <- W - V V^H B W for columns first, ..., first + count - 1 of V. Returns (B W)^H V, width x count. The rows of W
+// are transposed for the time being: the pieces of V are read where they are, then, and just once.
+template <Scalar T>
+const T* Lanczos<T>::project_out(int first, int count, T* W, const T* bw, int width) {
+  constexpr int kLine = 64 / static_cast<int>(sizeof(T));
+  const T* const products = multiply(width, bw, count, column(first));
+  base::parallel_for(row_blocks(), threads_, [&](int block) {
+    const int begin = block * kRows, rows = rows_of(block);
+    T *const w = W + begin, *const z = Z_.data() + static_cast<std::ptrdiff_t>(begin) * width;
+    for (int i = 0; i < rows; ++i) {
+      for (int j = 0; j < width; ++j) z[i * width + j] = conjugate(w[i + offset(j)]);
+    }
+    for (int j = 0; j < count; j += kColumns) {
+      const int columns = std::min(kColumns, count - j);
+      const T* const V = column(first + j) + begin;
+      for (int k = 0; k < columns; ++k) {
+        for (int i = 0; i < rows; i += kLine) __builtin_prefetch(V + offset(k) + i);
+      }
+      dense::blocked::gemm('N', 'C', width, rows, columns, T{-1}, products + static_cast<std::ptrdiff_t>(j) * width,
+                           width, V, n_, T{1}, z, width);
+    }
+    for (int i = 0; i < rows; ++i) {
+      for (int j = 0; j < width; ++j) w[i + offset(j)] = conjugate(z[i * width + j]);
+    }
+  });
+  return products;
 }
 
 // W, behind the basis, becomes orthonormal in the inner product of B, `wanted` columns or fewer: W = W' R, of which the
@@ -264,7 +307,8 @@ void Lanczos<T>::project_out(int first, int count, T* W, const T* bw, int width)
 // become 1. If it is good, W has all its digits, and will not gain by being orthonormalized again.
 template <Scalar T>
 int Lanczos<T>::orthonormalize(T* W, int width, int wanted, T* R, bool& is_good) {
-  dense::blocked::gemm('C', 'N', width, width, n_, T{1}, W, n_, times_b(W, width), n_, T{}, R, kBlock, threads_);
+  const T* const gram = multiply(width, times_b(W, width), width, W);
+  for (int j = 0; j < width; ++j) std::copy_n(gram + j * width, width, R + j * kBlock);
   bool is_independent = width == wanted;
   for (int j = 0; j < width; ++j) {
     const double least = kDependent * lengths_.data()[j];

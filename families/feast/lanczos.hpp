@@ -1,6 +1,7 @@
 // Block Lanczos for the inverse of a shifted pencil: the eigenpairs nearest to a point.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <optional>
@@ -61,12 +62,15 @@ class Lanczos {
   [[nodiscard]] bool vectors(Side side, int count, T* X) const;
 
  private:
-  static constexpr int kRows = 256;  // of the basis that are changed together
+  // Rows of the basis that are worked on together, and columns where these are not changed; parts of a sum over rows.
+  static constexpr int kRows = 256, kColumns = 21, kMostParts = 64;
 
   T* column(int j) { return V_.data() + offset(j); }
   std::ptrdiff_t offset(int j) const { return static_cast<std::ptrdiff_t>(j) * n_; }
   T& projected(int i, int j) { return projected_.data()[i + static_cast<std::ptrdiff_t>(j) * capacity_]; }
   T* coupling(int j) { return coupling_.data() + static_cast<std::ptrdiff_t>(j) * kBlock; }
+  int row_blocks() const { return (n_ + kRows - 1) / kRows; }
+  int rows_of(int block) const { return std::min(kRows, n_ - block * kRows); }
   static constexpr std::size_t index(Side side) { return side == Side::kBelow ? 0 : 1; }
   // Where a pair stands: theta ascends, from that of the nearest eigenvalue below the shift to that of the nearest
   // above.
@@ -85,7 +89,8 @@ class Lanczos {
   bool contract(bool keeps_converged_only);
   void combine(const T* C, int count);
   void measure(const T* W, const T* bw, int width);
-  void project_out(int first, int count, T* W, const T* bw, int width);
+  const T* multiply(int width, const T* Y, int count, const T* X);
+  const T* project_out(int first, int count, T* W, const T* bw, int width);
   int orthonormalize(T* W, int width, int wanted, T* R, bool& is_good);
   int mend(T* W, int width, int wanted, T* R);
   bool examine();
@@ -101,7 +106,7 @@ class Lanczos {
   // M V, lower triangle, and the coupling of these last with the next, next_ x width_.
   int size_ = 0, width_ = 0, next_ = 0;
   std::array<int, 2> converged_{};
-  base::Workspace<T> V_, projected_, coupling_, Y_, Z_, coefficients_, S_, rows_;
+  base::Workspace<T> V_, projected_, coupling_, Y_, Z_, products_, S_, rows_;
   base::Workspace<double> theta_, residuals_, lengths_;
   HermitianEigensolver<T> eigensolver_;
   std::mt19937_64 random_;
