@@ -1,10 +1,7 @@
 // What floats cost: UMFPACK's float interface beside the double one that it stands on.
-#include <algorithm>
 #include <array>
 #include <complex>
 #include <cstddef>
-#include <fstream>
-#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <utility>
