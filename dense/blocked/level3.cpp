@@ -88,7 +88,10 @@ void multiply(const Product<T>& product, int most_threads) noexcept {
 // Calls body for the column ranges of an n-by-n triangle, cut so that all have nearly the same area.
 template <class Body>
 void split_triangle(bool is_upper, int n, int threads, const Body& body) noexcept {
-  const int parts = std::clamp((n + kColumnTile - 1) / kColumnTile, 1, threads == 1 ? 1 : 2 * threads);
+  // More parts than threads even out what one of them is late by, but each of them packs for itself.
+  constexpr int kWideEnough = 128;
+  const int most = threads == 1 ? 1 : std::clamp(n / kWideEnough, threads, 2 * threads);
+  const int parts = std::clamp((n + kColumnTile - 1) / kColumnTile, 1, most);
   const auto boundary = [&](int i) {
     if (i == 0 || i == parts) return i == 0 ? 0 : n;
     const double share = static_cast<double>(i) / parts;
