@@ -1,6 +1,7 @@
 // Loops over columns, for blocks so small that a call of the dense kernels would take longer than the work.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
@@ -23,6 +24,32 @@ T conjugate_if(bool is_conjugated, T x) {
 template <Scalar T>
 RealOf<T> magnitude(T x) {
   return std::fabs(real_part(x)) + std::fabs(imaginary_part(x));
+}
+
+// The largest magnitude among n elements, without those that are NaN; zero if there are no others.
+template <Scalar T>
+RealOf<T> largest_magnitude(int n, const T* x) {
+  using Vector = Lanes<RealOf<T>>;
+  const auto larger = [](Vector a, Vector b) { return b > a ? b : a; };
+  const auto magnitudes = [&](const T* from) {
+    const Vector values = load(from), parts = larger(values, -values);
+    if constexpr (kIsComplex<T>) {
+      return parts + exchanged(parts);
+    } else {
+      return parts;
+    }
+  };
+  Vector even{}, odd{};
+  int i = 0;
+  for (; i + 2 * kElements<T> <= n; i += 2 * kElements<T>) {
+    even = larger(even, magnitudes(x + i));
+    odd = larger(odd, magnitudes(x + i + kElements<T>));
+  }
+  const Vector both = larger(even, odd);
+  RealOf<T> largest = both[0];
+  for (std::size_t k = 1; k < sizeof(Vector) / sizeof(largest); ++k) largest = std::max(largest, both[k]);
+  for (; i < n; ++i) largest = std::max(largest, magnitude(x[i]));
+  return largest;
 }
 
 // y <- y - X f, X being n x count with leading dimension ldx.

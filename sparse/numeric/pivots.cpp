@@ -373,21 +373,22 @@ class UnsymmetricElimination {
 
   // Complete pivoting in blocks on the diagonal.
   void factor_by_blocks() noexcept {
+    RealOf<T> largest[kCompleteBlock];  // of the rows of each column that are left
     for (int first = 0; first < n_ && is_going_on(); first += kCompleteBlock) {
       const int end = std::min(first + kCompleteBlock, n_), count = end - first, rest = n_ - end;
+      for (int j = first; j < end; ++j) largest[j - first] = largest_magnitude(count, &a_(first, j));
       for (int k = first; k < end && is_going_on(); ++k) {
-        int row = k, column = k;
-        for (int j = k; j < end; ++j) {
-          for (int i = k; i < end; ++i) {
-            if (magnitude(a_(i, j)) > magnitude(a_(row, column))) row = i, column = j;
-          }
-        }
-        exchange_rows(k, row);
+        const RealOf<T>* const pivot = std::max_element(largest + (k - first), largest + count);
+        const int column = first + static_cast<int>(pivot - largest);
+        int row = k;
+        while (row < end && magnitude(a_(row, column)) != *pivot) ++row;
+        exchange_rows(k, row < end ? row : k);  // all may be NaN
         exchange_columns(k, column);
         if (!accept_pivot(k)) return;
         divide(end - k - 1, a_(k, k), a_.column(k) + k + 1);
         for (int j = k + 1; j < end; ++j) {
           subtract_multiples(end - k - 1, 1, &a_(k, j), a_.column(k) + k + 1, 0, a_.column(j) + k + 1);
+          largest[j - first] = largest_magnitude(end - k - 1, a_.column(j) + k + 1);
         }
       }
       if (rest == 0 || !is_going_on()) continue;
