@@ -1,4 +1,5 @@
 // Factors and solves, by residuals and by what must fail.
+#include "sparse/numeric/loops.hpp"
 #include "tests/sparse/systems.hpp"
 #include "tests/support/test.hpp"
 
@@ -54,6 +55,16 @@ TYPED_TEST(Factors, ExchangeInsideADiagonalBlock) {
       for (const Operation operation : kOperations) {
         EXPECT_LE(solved.error(operation, 1), 10 * tolerance<T>(n));
         EXPECT_LE(solved.error(operation, 7), 10 * tolerance<T>(n));
+      }
+      // A complete search leaves nothing larger than the pivot in its row, nor, up to rounding, in its column.
+      if (kind.pivoting != Pivoting::kComplete || n > 64) continue;
+      const T* const lu = solved.factor.panels().pin(0);
+      for (int k = 0; k < n; ++k) {
+        const T pivot = lu[k * (n + 1)];
+        for (int j = k + 1; j < n; ++j) {
+          ASSERT_LE(magnitude(lu[k + j * n]), magnitude(pivot)) << k << ", " << j;
+          ASSERT_LE(magnitude(lu[j + k * n] * pivot), RealOf<T>{1.001F} * magnitude(pivot)) << j << ", " << k;
+        }
       }
     }
   }
