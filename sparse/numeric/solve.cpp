@@ -118,15 +118,21 @@ int threads_for(std::int64_t multiplications, int threads) noexcept {
 template <Scalar T, class RowOf>
 void subtract_product(int m, int n, const T* P, int ldp, const T* zk, int w, T* buffer, int threads,
                       const RowOf& row_of) noexcept {
-  constexpr int kRowsAtOnce = 256;
+  // Rows of a tile of the kernels follow each other in memory, but not its columns: a processor does not foresee those.
+  constexpr int kElements = 1 << 14, kFewestRows = 42, kMostRows = 252, kLine = 64 / static_cast<int>(sizeof(T));
+  const int rows = std::clamp(kElements / n / kFewestRows * kFewestRows, kFewestRows, kMostRows);
   threads = threads_for(std::int64_t{m} * n * w, threads);
-  base::parallel_for((m + kRowsAtOnce - 1) / kRowsAtOnce, threads, [&](int part) {
-    const int first = part * kRowsAtOnce, count = std::min(kRowsAtOnce, m - first);
-    T* const own = threads == 1 ? buffer : row(buffer, first, w);
-    dense::blocked::gemm('N', 'T', count, w, n, T{-1}, P + first, ldp, zk, w, T{}, own, count);
+  base::parallel_for((m + rows - 1) / rows, threads, [&](int part) {
+    const int first = part * rows, count = std::min(rows, m - first);
+    const T* const piece = P + first;
+    for (int k = 0; k < n; ++k) {
+      for (int i = 0; i < count; i += kLine) __builtin_prefetch(piece + i + std::ptrdiff_t{k} * ldp);
+    }
+    T* const own = row(buffer, first, w);
+    dense::blocked::gemm('N', 'T', w, count, n, T{-1}, zk, w, piece, ldp, T{}, own, w);
     for (int i = 0; i < count; ++i) {
-      T* const zi = row_of(first + i);
-      for (int r = 0; r < w; ++r) zi[r] += own[i + std::ptrdiff_t{r} * count];
+      T *const zi = row_of(first + i), *const sum = row(own, i, w);
+      for (int r = 0; r < w; ++r) zi[r] += sum[r];
     }
   });
 }
