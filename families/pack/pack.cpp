@@ -100,7 +100,13 @@ void pack_increment(const int* n, const float* a, const int* inca, float* y) noe
 void pack_index(const int* n, const float* a, const int* ia, float* y) noexcept {
   if (!has_work("VSPACKV", n, {a, ia, y}, kNoIncrement)) return;
   const auto length = static_cast<std::size_t>(*n);
-  for (std::size_t j = 0; j < length; ++j) copy(a + offset(ia[j]), y + j);
+  // Eight at a time, in order: a loop this short depends on where the linker puts it.
+  constexpr std::size_t kTogether = 8;
+  std::size_t j = 0;
+  for (; j + kTogether <= length; j += kTogether) {
+    for (std::size_t k = j; k < j + kTogether; ++k) copy(a + offset(ia[k]), y + k);
+  }
+  for (; j < length; ++j) copy(a + offset(ia[j]), y + j);
 }
 
 void pack_mask(const int* n, const float* a, const int* ma, float* y) noexcept {
